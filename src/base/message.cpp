@@ -1,0 +1,37 @@
+#include "base/message.h"
+
+#include <utility>
+
+#include "base/front_end.h"
+
+namespace tessarel {
+
+MessageState Message;
+
+int32_t DefaultAnswer(int32_t flags) {
+  if ((flags & msg::YesNo) == msg::YesNo) {
+    return (flags & msg::DefaultSecond) != 0 ? AnswerNo : AnswerYes;
+  }
+  return (flags & msg::DefaultSecond) != 0 ? 1 : 0;
+}
+
+void ShowMessage() {
+  Message.MsgResult = DefaultAnswer(Message.MsgFlags);
+  FrontEnd.ShowMessage();
+}
+
+int32_t ShowMessage(std::string text, std::string title, int32_t flags) {
+  Message.MsgText = std::move(text);
+  Message.MsgTitle = std::move(title);
+  Message.MsgFlags = flags;
+  Message.MsgWidth = Message.MsgHelpId = Message.MsgTimeout = 0;
+  ShowMessage();
+  return Message.MsgResult;
+}
+
+bool AskForText(std::string text, std::string title, std::string offered) {
+  Message.MsgInput = std::move(offered);
+  return ShowMessage(std::move(text), std::move(title), msg::OkInput) != AnswerCancel;
+}
+
+}  // namespace tessarel

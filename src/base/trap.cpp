@@ -1,0 +1,16 @@
+#include "base/trap.h"
+
+#include "base/message.h"
+
+namespace tessarel {
+
+std::string FaultText(const Fault& fault, std::string_view place) {
+  return fault.Description + ", Error #" + std::to_string(fault.Number) +
+         " occurred at: " + std::string(place);
+}
+
+void ReportFault(const Fault& fault, std::string_view place) {
+  ShowMessage(FaultText(fault, place), Message.ErrorTitle, msg::OkAlert);
+}
+
+}  // namespace tessarel

@@ -1,0 +1,25 @@
+// Where the program's files lie. All paths use '/' and end in one; AppFolder is the program's
+// folder, from which the others start.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessarel {
+
+struct FoldersState {
+  std::string AppFolder;
+  std::string GameFolder, EventsLogFolder, BetFolder, ProbabilityFolder, SessionsLogFolder,
+      TextFolder;
+};
+
+extern FoldersState Folders;
+
+// Makes `folder` the program's folder and the start of all others. '\' reads as '/'; a missing
+// final '/' is added.
+void SetAppFolder(std::string folder);
+
+// A file name as a path: absolute names stand, others are taken from `folder`.
+std::string InFolder(const std::string& folder, std::string_view name);
+
+}  // namespace tessarel

@@ -1,0 +1,27 @@
+// The general text table: every user-visible text that modules share, by number, in six languages.
+// A language without a variant of its own shows the English one.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tessarel {
+
+enum LanguageNumber : int32_t { English, Spanish, German, French, Turkish, Italian };
+inline constexpr int LanguageCount = 6;
+
+// The text `id` in `language` (outside 0 to 5: English); empty for an unknown id. A text with
+// variable parts holds "%1", "%2" where they go; see FillIn.
+std::string_view GetText(int32_t language, int id);
+
+// The same in the language in force.
+std::string_view GetText(int id);
+
+// `text` with "%1" and "%2" replaced.
+std::string FillIn(std::string_view text, std::string_view first, std::string_view second = {});
+
+// Puts a language in force (outside 0 to 5: English) together with the title of fault reports.
+void SetLanguage(int32_t language);
+
+}  // namespace tessarel

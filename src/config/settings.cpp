@@ -1,0 +1,7 @@
+#include "config/settings.h"
+
+namespace tessarel {
+
+SettingsState Settings;
+
+}  // namespace tessarel

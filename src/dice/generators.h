@@ -1,0 +1,97 @@
+// The eight generators, how they are selected and seeded, and how a roll's two faces are made from
+// them. The sequences are part of the system: for one generator and one seed they are the same on
+// every machine.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+
+#include "base/money.h"
+
+namespace tessarel {
+
+inline constexpr int GeneratorCount = 8;
+
+// Bits of SupportFilesMissing.
+enum SupportFile : int32_t { FirstTwister = 1, SecondTwister = 2 };
+
+// The state of Ran1: three congruences, whole numbers kept as 32-bit floats, and the shuffle table.
+struct Ran1State {
+  float ix1 = 0, ix2 = 0, ix3 = 0;
+  std::array<float, 98> table{};  // 1 to 97
+  bool initialised = false;
+  int32_t j = 0;
+};
+
+struct Ran2State {
+  int32_t idum = 0, iy = 0, j = 0;
+  std::array<int32_t, 98> table{};  // 1 to 97
+  bool initialised = false;
+};
+
+struct DiceState {
+  int32_t CurrentRNG = 1;
+  int32_t CurrentSeed = 1;  // the seed last applied; with RNG #3 the running state
+  int32_t LastSeed = 0;     // the seed last applied
+  Money SeedRequest;        // what SeedRNG is asked for; 0: a seed from the clock
+  int32_t AskForSeed = 0;
+  int32_t ReseedEachSession = 0;
+  int32_t SupportFilesMissing = 0;  // bits of SupportFile
+  std::mt19937 Twister1, Twister2;
+  Ran1State Ran1;
+  Ran2State Ran2;
+};
+
+extern DiceState Dice;
+
+// Two faces as a generator yields them. The formulas of RNG #5 and #6 can yield a 7.
+struct Faces {
+  int32_t die1, die2;
+};
+
+// Makes a roll's faces with CurrentRNG. `rollCount` is the table's count of rolls before this one;
+// generators 6 and 7 alternate by it. Faces {0, 0} when CurrentRNG is 0. Applies the fallback rule
+// of ReplaceMissingGenerator first.
+Faces MakeDice(int32_t rollCount);
+
+// With a support file missing, moves CurrentRNG to a generator that works.
+void ReplaceMissingGenerator();
+
+// Seeds the current generator. Mode -1 applies SeedRequest as it stands; mode 0 prompts for a seed
+// if AskForSeed is set, else takes one from the clock. Returns false after a Cancel or a refused
+// value (SeedRequest is then 0). Overflow fault for seeds a generator's arithmetic cannot take.
+bool SeedRNG(int mode);
+
+// The largest seed the generator takes: 999,999 for RNG #3, else 2,147,483,647.
+int32_t SeedLimit(int32_t generator);
+
+// Results of SelectRNG.
+enum SelectResult : int { Selected = 0, Unavailable = -1, OutOfLimits = -2 };
+// Makes a generator (0 to 8) current; nothing is reseeded.
+SelectResult SelectRNG(int32_t number);
+
+// Selects and seeds each generator with a clock seed of its own, in the order of start-up.
+void SeedAllGenerators();
+
+// The message for the support files that are missing; empty when none is.
+std::string MissingSupportText();
+
+// The single generators. Ran1 and Ran2 return a 32-bit float in 0 to 1; a negative argument
+// initialises them. QuickRan returns 1 to n.
+float Ran1(int32_t& idum);
+float Ran2(int32_t& idum);
+int32_t QuickRan(int32_t n);
+// The two twisters' reals in 0 inclusive to 1 exclusive, and their seeding.
+double TwisterReal1();
+double TwisterReal2();
+void SeedTwister1(uint32_t seed);
+void SeedTwister2(uint32_t seed);
+
+// A whole number from 0 to n - 1 for choices outside the dice (keypad, sounds). Never shares state
+// with the generators above.
+int32_t PlatformRandom(int32_t n);
+
+}  // namespace tessarel

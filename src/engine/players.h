@@ -1,0 +1,27 @@
+// The rail: who joins and with what, where the dice go, and what stops the game at the limits of a
+// bankroll.
+#pragma once
+
+#include <string>
+
+#include "base/money.h"
+
+namespace tessarel {
+
+// Why the dice are passed.
+enum PassReason : int { HandEnded = 0, PlayerAsked = 1, PlayerLeft = 2 };
+
+// Seats a player at an open place with a bankroll: the statistics of the place are cleared, his
+// working table is the house standard, and he shoots if nobody does.
+void SeatPlayer(int place, const std::string& name, Money bankroll);
+
+// Sets a place's bankroll, with its beginning, high and low, in the counted scopes.
+void SetBankroll(int place, Money amount);
+
+// Hands the dice to the next player who wants them and may have them.
+void PassDice(PassReason reason);
+
+// The bankroll of the place is beyond its limit: says so and bars further rolls of the session.
+void BankrollLimitStop(int place);
+
+}  // namespace tessarel

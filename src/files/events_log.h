@@ -1,0 +1,56 @@
+// The events log: a running text record of the game, one line an event, with an index file that
+// finds each line. Callers ask Logs(...) before they build any text, so that a log that is switched
+// off costs one test.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tessarel {
+
+struct EventsLogState {
+  int32_t LogOn = 0;  // the master switch
+  int32_t LogRolls = -1, LogBets = -1, LogCheckStacks = -1, LogShooters = -1, LogWins = -1,
+          LogLosses = -1, LogDecisions = -1, LogBankroll = -1;
+  int32_t KeepLatestRollOnTop = 0;
+  int32_t LatestRollLine = 0;  // number of the latest line that starts with "Roll", blanks aside
+  std::string EventLogName;    // full name of the text; the index lies in the program's folder
+  std::string SectionHeading;  // the heading under which the lines of the roll now stand
+};
+
+extern EventsLogState EventsLog;
+
+// Whether events of a kind are to be written.
+inline bool Logs(int32_t EventsLogState::*kind) {
+  return EventsLog.LogOn != 0 && EventsLog.*kind != 0;
+}
+
+// Appends one line (without its line end) to the log and its position to the index. Both files are
+// closed again when it returns. A file that cannot be written raises the file fault.
+void WriteEvent(std::string_view line);
+
+// Writes `heading` unless it is the one in force, and puts it in force.
+void WriteSection(std::string_view heading);
+
+// Ends the section in force, so that the next WriteSection writes its heading again.
+void EndSections();
+
+// Sets or clears the eight kinds.
+void SelectAllEvents(bool on);
+
+// Deletes the log and its index.
+void ClearEventsLog();
+
+// "Events Log.ref" in the program's folder.
+std::string EventsIndexName();
+
+// Reads the log through once and writes its index anew.
+void RebuildEventsIndex();
+
+// The number of lines the index knows, and one line (from 1) without its line end; empty when the
+// line does not exist.
+int32_t EventLineCount();
+std::string EventLine(int32_t number);
+
+}  // namespace tessarel
