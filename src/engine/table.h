@@ -109,7 +109,8 @@ struct TableState {
   int32_t TableDirty = 0;
   int32_t BetChangedThisRoll = 0;
   int32_t HyperDriveOn = 0, AutoRollOn = 0;
-  std::string StopReason;
+  std::string StopReason;      // why an unattended run stops
+  std::string LastStopReason;  // why the last call of the roll driver ended; empty: it just did
 
   // The bankrolls after each roll, a ring from 1 to GraphLength.
   int32_t GraphIndex = 0;

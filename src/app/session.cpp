@@ -1,0 +1,199 @@
+#include "app/session.h"
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/number_format.h"
+#include "base/trap.h"
+#include "config/folders.h"
+#include "config/language.h"
+#include "config/payoffs.h"
+#include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
+#include "engine/bet_limits.h"
+#include "engine/bets.h"
+#include "engine/players.h"
+#include "engine/roll_driver.h"
+#include "engine/settlement.h"
+#include "engine/table.h"
+#include "files/event_lines.h"
+#include "files/events_log.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+void LoseAbandoned(int number) {
+  for (int visit = 1; visit <= LastPlace; ++visit)
+    ResolveBet(visit, Lose, number);
+}
+
+// The bets that cannot be taken back are lost with the session.
+void LoseAbandonedBets() {
+  if (Settings.ReturnAbandonedBets != 0) return;
+  if (Table.Point != 0) {
+    LoseAbandoned(bet::PassLine);
+    LoseAbandoned(bet::SevenPoint7);
+  }
+  for (int number = bet::Come4; number <= bet::Come10; ++number)
+    LoseAbandoned(number);
+}
+
+void CloseStatistics(bool keepSessions) {
+  if (RollsInHand() > 0) EndHand();
+  if (!keepSessions) ClearAllSessions();
+  StartSessionStatistics();
+}
+
+void ClearSpecialBets() {
+  Table.FourRollCount = Table.MarkedNumbers = 0;
+  Table.SharpShooterPoints = Table.RideTheLinePasses = 0;
+  Table.FirePointsMask = Table.FirePoints = 0;
+}
+
+void ClearBets(int place) {
+  for (int number = 0; number <= LastBet; ++number) {
+    SetBetAmount(place, number, Money());
+    At(At(Table.BetAmountBefore, place), number) = Money();
+    At(At(Table.BetAmountAfterRoll, place), number) = Money();
+    SetBetContract(place, number, Money());
+  }
+  At(Table.ComeOriginal, place) = {};
+  At(Table.LayVig, place) = At(Table.BuyVig, place) = {};
+  At(Table.MoneyOnTable, place) = Money();
+}
+
+void ClearStacks(int place) {
+  for (int number = FirstStack; number < FirstStack + StackCount; ++number) {
+    SetBetAmount(place, number, Money());
+    At(At(Table.BetAmountBefore, place), number) = Money();
+    At(At(Table.BetAmountAfterRoll, place), number) = Money();
+  }
+  At(Table.CheckStackName, place) = {};
+}
+
+void ClearLayout(bool keepStacks) {
+  for (int place = 1; place <= LastPlace; ++place) {
+    ClearBets(place);
+    if (!keepStacks) ClearStacks(place);
+    At(Table.BetWorking, place) = At(Table.BetWorkingBefore, place) =
+        At(Table.BetWorkingDefault, place);
+    At(Table.ChangedAfter, place).Clear();
+  }
+}
+
+// Asks for a beginning bankroll until the answer is one; a Cancel leaves the amount offered.
+Money AskBankroll(int place) {
+  const Money offered = At(Table.BankrollInitAmount, place);
+  const std::string question = "Enter " + At(Table.PlayerName, place) + "'s beginning bankroll:";
+  std::string text = question;
+  while (AskForText(text, "Beginning Bankroll", PlainText(offered))) {
+    const std::optional<Money> answer = ParseMoney(Message.MsgInput);
+    if (answer && Abs(*answer) <= BankrollLimit) return *answer;
+    const bool negative = answer && *answer < Money();
+    text = std::string(GetText(negative ? 11 : 10)) + (negative ? "-$" : "$") +
+           FormatMoney(BankrollLimit) + "\r\r" + question;
+  }
+  return offered;
+}
+
+void StartBankroll(int place, bool keepSessions) {
+  Money amount = At(Table.BankrollInitAmount, place);
+  if (At(Table.BankrollInitType, place) == 1 && Table.HyperDriveOn == 0) {
+    amount = At(Table.BankrollInitAmount, place) = AskBankroll(place);
+  } else if (At(Table.BankrollInitType, place) == 2) {
+    amount = BankrollOf(place);
+  }
+  if (!keepSessions) {
+    for (const auto slots :
+         {&TableState::BankrollBegin, &TableState::BankrollHigh, &TableState::BankrollLow}) {
+      At(Table.*slots, place + AllSessions) = amount;
+    }
+  }
+  SetBankroll(place, amount);
+}
+
+void ApplyRollFileAction(int32_t action) {
+  if (action == RewindRollFile) {
+    RewindForPlayback();
+  } else if (action != ContinueRollFile) {
+    CloseRollFile();
+  }
+}
+
+void StartNewSession(const SessionOptions& options) {
+  LoseAbandonedBets();
+  CloseStatistics(options.keepSessions != 0);
+  ClearSpecialBets();
+  ClearLayout(options.keepStacks != 0);
+  ForEachPlayer([&](int place) { StartBankroll(place, options.keepSessions != 0); });
+  Table.GraphIndex = 0;
+  Table.StopReason.clear();
+  if (Settings.ClearEventsLogOnNew != 0) ClearEventsLog();
+  Table.LastShooter = Table.Shooter;
+  Table.Point = Table.LastPoint = Table.PointBeforeLast = Table.LastDecidedPoint = 0;
+  ApplyRollFileAction(options.rollFileAction);
+  LogNewSession();
+  if (Dice.ReseedEachSession != 0) SeedRNG(0);
+  LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : "");
+  Table.BankrollStopPlace = 0;
+  FrontEnd.RefreshViews();
+  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+}
+
+void ResetModules() {
+  CloseRollFile();
+  Settings = SettingsState{};
+  Payoffs = PayoffState{};
+  Table = TableState{};
+  Stats = StatsState{};
+  Dice = DiceState{};
+  RollFile = RollFileState{};
+  Roll = RollState{};
+  EventsLog = EventsLogState{};
+  Message = MessageState{};
+}
+
+void SetTableDefaults() {
+  for (int number = 1; number <= LastBet; ++number) {
+    At(Table.BetWorkingDefault[0], number) = OriginalHouseWorking(number);
+  }
+  for (int place = 1; place <= LastPlace; ++place) {
+    At(Table.BetWorkingDefault, place) = Table.BetWorkingDefault[0];
+    for (int stack = 1; stack <= 4; ++stack) {
+      At(At(Table.VisibleStack, place), stack) = FirstStack + stack - 1;
+    }
+  }
+}
+
+void WarnOfMissingFiles() {
+  const std::string text = MissingSupportText();
+  if (!text.empty()) ShowMessage(text, "Missing Support File", msg::Ok);
+}
+
+}  // namespace
+
+void NewSession(const SessionOptions& options) {
+  Trapped("NewSession", [&options] { StartNewSession(options); });
+}
+
+void StartUp(const std::string& appFolder) {
+  ResetModules();
+  Trapped("StartUp", [&appFolder] {
+    SetAppFolder(appFolder);
+    SetLanguage(English);
+    DefaultPayoffs();
+    FigurePayoffUnits();
+    SetTableDefaults();
+    SeedAllGenerators();
+    NewSession({});
+    WarnOfMissingFiles();
+  });
+}
+
+void ShutDown() {
+  Trapped("ShutDown", [] { CloseRollFile(); });
+}
+
+}  // namespace tessarel

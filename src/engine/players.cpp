@@ -1,0 +1,183 @@
+#include "engine/players.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/single_byte_text.h"
+#include "config/folders.h"
+#include "config/settings.h"
+#include "engine/bets.h"
+#include "engine/table.h"
+#include "engine/unattended.h"
+#include "files/event_lines.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr std::string_view PassTitle = "Pass the Dice";
+constexpr std::string_view LimitText = "9,999,999";
+
+const std::string& NameOf(int place) {
+  return At(Table.PlayerName, place);
+}
+
+// The next place in the direction the dice travel.
+constexpr int NextShooterPlace(int place) {
+  return place > 1 ? place - 1 : LastPlace;
+}
+
+void TellPassing(PassReason reason, std::string text) {
+  if (reason != PlayerAsked || Table.HyperDriveOn != 0) return;
+  ShowMessage(std::move(text), std::string(PassTitle), msg::OkAlert);
+}
+
+// The first place after the shooter's that `qualifies` accepts; 0 when none does.
+template <class Qualifies>
+int FindShooter(Qualifies&& qualifies) {
+  int place = Table.Shooter;
+  for (int step = 1; step < LastPlace; ++step) {
+    place = NextShooterPlace(place);
+    if (IsTaken(Table, place) && qualifies(place)) return place;
+  }
+  return 0;
+}
+
+bool HasLineBet(int place) {
+  return Bet(place, bet::PassLine) > Money() || Bet(place, bet::DontPass) > Money();
+}
+
+// Whether a player could shoot now: with the point on he may need a line bet he cannot make.
+bool MayShoot(int place) {
+  return Settings.AllowPutBets != 0 || Settings.BetNeededToShoot != 1 || Table.Point == 0 ||
+         HasLineBet(place);
+}
+
+void GiveDice(int place) {
+  Table.Shooter = place;
+  if (RollsInHand() == 0) Table.LastShooter = place;
+}
+
+void PassAmongNone(PassReason reason) {
+  Table.Shooter = Table.LastShooter = 0;
+  TellPassing(reason, "There are no players at the table.\r\rUnable to pass the dice.");
+}
+
+void PassWithOnePlayer(PassReason reason) {
+  TellPassing(reason, "There are no other players at the table.\r\rUnable to pass the dice.");
+  if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
+}
+
+std::string NobodyShootsText(int blocked) {
+  std::string text = "Unable to pass the dice at this time.\r\r";
+  if (blocked == 0) {
+    const bool oneOther = Table.PlayerCount == 2 && Table.Shooter != 0;
+    const int other = oneOther ? FindShooter([](int) { return true; }) : 0;
+    return text + (other != 0 ? NameOf(other) + " doesn't want to shoot."
+                              : "None of the other players want to shoot.");
+  }
+  text += blocked == 1
+              ? "There's one other player who wants to shoot "
+              : "There are " + std::to_string(blocked) + " other players who want to shoot ";
+  return text +
+         "but can't because a line bet is required and Put bets are not allowed.\r\r"
+         "Please wait for a come-out roll or check the 'Allow Put bets' option on the 'Bets tab' "
+         "of the configuration screen.";
+}
+
+void PassToNobody(PassReason reason, int blocked) {
+  TellPassing(reason, NobodyShootsText(blocked));
+  if (reason == PlayerLeft) {
+    GiveDice(FindShooter([](int) { return true; }));
+  }
+}
+
+// The dice go on in the middle of a hand, which stays credited to who started it.
+void TellOfPassedHand(PassReason reason, int from, int to) {
+  if (RollsInHand() == 0) return;
+  TellPassing(reason, to == Table.LastShooter
+                          ? NameOf(from) + " is passing the dice back to " + NameOf(to) +
+                                " who originally started this hand."
+                          : NameOf(from) + " is passing the dice to " + NameOf(to) +
+                                " who may finish the current hand and then roll his/her own "
+                                "hand.");
+}
+
+}  // namespace
+
+void SetBankroll(int place, Money amount) {
+  SetBankrollSlots(place, amount);
+  for (const Scope scope : {CurrentHand, CurrentSession}) {
+    At(Table.BankrollBegin, place + scope) = amount;
+    At(Table.BankrollHigh, place + scope) = amount;
+    At(Table.BankrollLow, place + scope) = amount;
+  }
+  Money& high = At(Table.BankrollHigh, place + AllSessions);
+  Money& low = At(Table.BankrollLow, place + AllSessions);
+  high = std::max(high, amount);
+  low = std::min(low, amount);
+  At(Table.InvestedBankroll, place) = amount;
+  At(Table.BankrollAtRoll, place) = At(Table.BankrollAfterRoll, place) = amount;
+}
+
+void SeatPlayer(int place, const std::string& name, Money bankroll) {
+  SetPlayerName(place, name);
+  ClearPlayerStats(place);
+  for (const auto slots :
+       {&TableState::BankrollBegin, &TableState::BankrollHigh, &TableState::BankrollLow}) {
+    At(Table.*slots, place + AllSessions) = bankroll;
+  }
+  SetBankroll(place, bankroll);
+  At(Table.BankrollInitAmount, place) = bankroll;
+  At(Table.SessionLogName, place) = Folders.SessionsLogFolder + LowerCase(name) + ".slg";
+  At(Table.BetWorkingDefault, place) = Table.BetWorkingDefault[0];
+  for (int number = 1; number <= LastBet; ++number)
+    ResetBetWorking(place, number);
+  if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
+  LogPlayerJoined(place, bankroll);
+}
+
+void PassDice(PassReason reason) {
+  if (Table.PlayerCount == 0) return PassAmongNone(reason);
+  if (Table.PlayerCount == 1) return PassWithOnePlayer(reason);
+  int blocked = 0;
+  const int next = FindShooter([&blocked](int place) {
+    if (At(Table.DeclinesDice, place) != 0) return false;
+    if (!MayShoot(place)) ++blocked;
+    return MayShoot(place);
+  });
+  if (next == 0) return PassToNobody(reason, blocked);
+  const int from = Table.Shooter;
+  if (reason == PlayerAsked) LogDicePassed(next);
+  Table.Shooter = next;
+  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  TellOfPassedHand(reason, from, next);
+  if (RollsInHand() == 0) Table.LastShooter = next;
+}
+
+void BankrollLimitStop(int place) {
+  const std::string rest =
+      std::string(LimitText) + "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
+  const bool negative = BankrollOf(place) <= Money();
+  if (Table.HyperDriveOn != 0) {
+    Table.StopReason = (negative ? "Stopped by exceeding the negative bankroll limit of -$"
+                                 : "Stopped by breaking the max bankroll limit of $") +
+                       rest;
+  } else if (negative) {
+    ShowMessage(
+        "Sorry ... " + NameOf(place) + " has exceeded the negative bankroll limit of -$" + rest, "",
+        msg::OkAlert);
+  } else {
+    if (Table.BankrollStopPlace == 0) FrontEnd.PlaySound(Sound::LimitBroken);
+    ShowMessage(
+        "Congratulations!\r\r" + NameOf(place) + " broke the max bankroll limit of $" + rest, "",
+        msg::Ok);
+  }
+  StopUnattended();
+  Table.BankrollStopPlace = place;
+}
+
+}  // namespace tessarel

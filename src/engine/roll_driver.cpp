@@ -1,0 +1,355 @@
+#include "engine/roll_driver.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/trap.h"
+#include "config/language.h"
+#include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
+#include "engine/bet_limits.h"
+#include "engine/bets.h"
+#include "engine/players.h"
+#include "engine/settlement.h"
+#include "engine/special_bets.h"
+#include "engine/table.h"
+#include "engine/unattended.h"
+#include "files/event_lines.h"
+#include "files/events_log.h"
+#include "stats/books.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+RollState Roll;
+
+namespace {
+
+// A roll that cannot be made: the message outside the Hyper-Drive, and the reason that a run ends.
+bool Refuse(std::string text, std::string title, std::string reason) {
+  if (Table.HyperDriveOn == 0) ShowMessage(std::move(text), std::move(title), msg::OkAlert);
+  Table.StopReason = std::move(reason);
+  return false;
+}
+
+std::string BetRequiredNote() {
+  return "\r\rNote: This requirement can be changed on the 'Bets tab' of the configuration "
+         "screen.";
+}
+
+bool HasAnyBet(int place) {
+  return !At(Table.Standing, place).Empty();
+}
+
+bool HasLineBet(int place) {
+  return Bet(place, bet::PassLine) > Money() || Bet(place, bet::DontPass) > Money();
+}
+
+bool RefuseWithoutLineBet() {
+  std::string text = "A line bet is required to shoot.\r\r" + At(Table.PlayerName, Table.Shooter);
+  if (Table.PlayerCount == 1) {
+    text += " must make a Pass Line bet or a Don't Pass bet.";
+  } else if (Table.Point != 0) {
+    text += " must make a Pass Line bet or pass the dice.";
+  } else {
+    text += " must make a Pass Line bet, a Don't Pass bet, or pass the dice.";
+  }
+  return Refuse(text + BetRequiredNote(), "Line Bet Required", "Shooter has no line bet.");
+}
+
+bool RequiredBetStands() {
+  if (Settings.BetNeededToShoot <= 0) return true;
+  if (Table.PlayerCount == 0) {
+    return Refuse(std::string(GetText(110)), std::string(GetText(111)),
+                  "No players are available to bet.");
+  }
+  if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
+  if (HasAnyBet(Table.Shooter)) return true;
+  return Refuse("A bet is required to shoot.\r\r" + At(Table.PlayerName, Table.Shooter) +
+                    " must make any bet or pass the dice." + BetRequiredNote(),
+                "Any Bet Required", "Shooter has no bet.");
+}
+
+bool BelowMaximumRolls() {
+  if (RollsInSession() < MaxRolls) return true;
+  const std::string reset = "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
+  return Refuse("Sorry ... the maximum limit of 2,000,000,000 rolls has been reached." + reset,
+                "Reached Maximum Roll Limit",
+                "Stopped due to reaching the maximum limit of 2,000,000,000 rolls." + reset);
+}
+
+void FigureAvailableBankrolls() {
+  ForEachPlayer([](int place) {
+    At(Table.AvailableBankroll, place) = BankrollOf(place) - At(Table.MoneyOnTable, place);
+  });
+}
+
+// Where a roll's dice come from.
+enum class DiceSource { None, ManualPad, RollFile, Generator };
+
+// The dice of the next roll from the first source that has them. Nothing of the table has changed
+// yet, so a source that stops the roll leaves no trace. A face that no die has raises the index
+// fault.
+DiceSource TakeDice(Faces& faces) {
+  if (Roll.ManualRollPending != 0) {
+    Roll.ManualRollPending = 0;
+    faces = {Roll.ManualDie1, Roll.ManualDie2};
+    return DiceSource::ManualPad;
+  }
+  if (RollFile.RollFileMode == RollFilePlay) {
+    const std::optional<Faces> played = PlayBackRoll();
+    if (!played) return DiceSource::None;
+    faces = *played;
+    return DiceSource::RollFile;
+  }
+  faces = MakeDice(RollsInSession());
+  if (faces.die1 == 0) {
+    Table.StopReason = "No dice: random number generator #0 is selected.";
+    return DiceSource::None;
+  }
+  const bool cubes = faces.die1 <= 6 && faces.die2 <= 6;
+  if (!cubes) RaiseIndexOutOfRange();
+  return DiceSource::Generator;
+}
+
+void SnapshotBeforeRoll() {
+  ForEachPlayer([](int place) {
+    At(Table.BankrollAtRoll, place) = BankrollOf(place);
+    NumberSet& changed = At(Table.ChangedForRoll, place);
+    changed.ForEach([place](int number) {
+      const Money amount = Bet(place, number);
+      At(At(Table.BetAmountBefore, place), number) = amount;
+      if (number > LastBet) return;
+      At(At(Table.BetContract, place), number) = amount;
+      At(At(Table.BetStreakBefore, place), number) = At(At(Table.BetStreak, place), number);
+    });
+    changed.Clear();
+  });
+  Table.PointBeforeLast = std::exchange(Table.LastPoint, Table.Point);
+}
+
+void LogRollLine(DiceSource source) {
+  if (!Logs(&EventsLogState::LogRolls)) return;
+  const std::string from = source == DiceSource::ManualPad ? " from manual roll pad"
+                           : source == DiceSource::RollFile
+                               ? " from roll file"
+                               : " from RNG #" + std::to_string(Dice.CurrentRNG);
+  LogRoll(RollsInSession() + 1, Table.Die1, Table.Die2, from);
+}
+
+void SetDice(Faces faces) {
+  Table.Die1 = faces.die1;
+  Table.Die2 = faces.die2;
+  Table.DiceTotal = faces.die1 + faces.die2;
+}
+
+void ShowDice() {
+  if (Table.HyperDriveOn != 0) return;
+  FrontEnd.AnimateDice();
+  if (Settings.DisableAllSound != 0) return;
+  FrontEnd.PlaySound(Sound::Total);
+  if (Table.Die1 == Table.Die2) FrontEnd.PlaySound(Sound::Doubles);
+}
+
+void DecidePoint(void (*record)(), const char* line) {
+  record();
+  if (Table.Point != 0) Table.LastDecidedPoint = std::exchange(Table.Point, 0);
+  LogDecision(line);
+}
+
+void MoveFromComeOut() {
+  switch (Table.DiceTotal) {
+    case 7:
+    case 11:
+      DecidePoint(RecordPass, "    Pass (natural)");
+      break;
+    case 2:
+    case 3:
+    case 12:
+      DecidePoint(RecordMiss, "    Miss (craps natural)");
+      break;
+    default:
+      Table.Point = Table.DiceTotal;
+      LogDecision("    Point established");
+  }
+  RecordComeoutRoll();
+}
+
+void MovePoint() {
+  if (Table.Point == 0) {
+    MoveFromComeOut();
+  } else if (Table.DiceTotal == Table.Point) {
+    DecidePoint(RecordPass, "    Pass (point rolled)");
+  } else if (Table.DiceTotal == 7) {
+    DecidePoint(RecordMiss, "    Miss (seven-out)");
+  }
+}
+
+// Ends the hand on a seven-out and hands the dice on. Returns whether a hand ended.
+bool EndHandOnSevenOut() {
+  if (Table.DiceTotal != 7 || Table.LastPoint == 0) return false;
+  EndHand();
+  Table.PreviousShooter = Table.LastShooter;
+  if (Table.Shooter != Table.LastShooter) {
+    Table.LastShooter = Table.Shooter;
+  } else {
+    PassDice(HandEnded);
+  }
+  return true;
+}
+
+void PlaceAutomaticOdds(int place) {
+  if (Bet(place, bet::PassLine) > Money()) {
+    if (At(Table.AutoTakeFullOdds, place) != 0) ReplaceBet(place, bet::PassLineOdds);
+    if (At(Table.AutoDownPlaceBets, place) != 0) {
+      RemoveBet(place, BetOn(PlaceFamily, Table.Point));
+      RemoveBet(place, BetOn(BuyFamily, Table.Point));
+    }
+  }
+  if (Bet(place, bet::DontPass) > Money() && At(Table.AutoLayFullOdds, place) != 0) {
+    if (Table.HyperDriveOn == 0) FrontEnd.DrawBet(place, bet::DontPass);
+    ReplaceBet(place, bet::DontPassOdds);
+  }
+}
+
+void FollowPoint() {
+  if (Table.Point == Table.LastPoint) return;
+  UpdateWorkingFlags();
+  if (Table.Point == 0) return;
+  SetOddsPayoffRows();
+  ForEachPlayer(PlaceAutomaticOdds);
+}
+
+void StoreGraphPoint() {
+  if (++Table.GraphIndex > GraphLength) Table.GraphIndex = 1;
+  auto& bankrolls = At(Table.GraphBankroll, Table.GraphIndex);
+  ForEachPlayer([&bankrolls](int place) { At(bankrolls, place) = BankrollOf(place); });
+}
+
+void SnapshotWorking() {
+  ForEachPlayer([](int place) {
+    if (std::exchange(At(Table.WorkingChanged, place), 0) == 0) return;
+    At(Table.BetWorkingBefore, place) = At(Table.BetWorking, place);
+  });
+}
+
+void SnapshotAfterRoll() {
+  ForEachPlayer([](int place) {
+    At(Table.BankrollAfterRoll, place) = BankrollOf(place);
+    NumberSet& changed = At(Table.ChangedAfter, place);
+    changed.ForEach([place](int number) {
+      At(At(Table.BetAmountAfterRoll, place), number) = Bet(place, number);
+    });
+    changed.Clear();
+  });
+}
+
+bool StoppedByBankroll() {
+  for (uint32_t rest = Table.TakenPlaces; rest != 0; rest &= rest - 1) {
+    const int place = std::countr_zero(rest);
+    if (Abs(BankrollOf(place)) <= BankrollLimit) continue;
+    BankrollLimitStop(place);
+    return true;
+  }
+  return false;
+}
+
+void StopAtCount() {
+  const int64_t every = Settings.AutoStopRolls.Floor();
+  if (every <= 0 || RollsInSession() == 0 || RollsInSession() % every != 0) return;
+  Table.StopReason = "Stopped by Auto-Stop.";
+}
+
+void CheckEverything() {
+#ifdef TESSAREL_CHECK_TABLE
+  for (const std::string& fault : {CheckTable(), CheckBooks()}) {
+    if (fault.empty()) continue;
+    std::fprintf(stderr, "After roll %d: %s\n", RollsInSession(), fault.c_str());
+    std::abort();
+  }
+#endif
+}
+
+void PlayRoll(Faces faces, DiceSource source) {
+  LogChangesSinceLastRoll();
+  SnapshotBeforeRoll();
+  SetDice(faces);
+  LogRollLine(source);
+  if (RollFile.RollFileMode == RollFileRecord) RecordToRollFile(faces);
+  ShowDice();
+  RecordRoll(faces.die1, faces.die2);
+  if (Settings.UseSpecialPropBets != 0) MarkRoll();
+  MovePoint();
+  SettleRoll();
+  RecordBankrolls();
+  const int shooterBefore = Table.LastShooter;
+  const bool handEnded = EndHandOnSevenOut();
+  FollowPoint();
+  LogBankrollsAfterRoll();
+  if (handEnded) LogNextHand(shooterBefore);
+  StoreGraphPoint();
+  SnapshotWorking();
+  SnapshotAfterRoll();
+  CheckEverything();
+}
+
+// One roll, from its refusals to its last snapshot. Returns false when no roll can be made.
+bool OneRoll() {
+  Table.TableDirty = -1;
+  Table.StopReason.clear();
+  Table.RollInProgress = -1;
+  if (!RequiredBetStands() || !BelowMaximumRolls()) return false;
+  Table.BetChangedThisRoll = 0;
+  FigureAvailableBankrolls();
+  Faces faces{};
+  const DiceSource source = TakeDice(faces);
+  if (source == DiceSource::None) return false;
+  PlayRoll(faces, source);
+  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+  return !StoppedByBankroll();
+}
+
+// Between two rolls of the Hyper-Drive. Returns whether it goes on.
+bool GoOnRolling() {
+  if (Table.HyperDriveOn == 0) return false;
+  FrontEnd.RunPendingEvents();
+  StopAtCount();
+  return Table.HyperDriveOn != 0 && Table.StopReason.empty();
+}
+
+// A fault ends the roll where it stands; under the Hyper-Drive the next one begins.
+void RollUntilStopped() {
+  bool rolled = true;
+  do {
+    Trapped("MakeRoll", [&rolled] { rolled = OneRoll(); });
+  } while (rolled && GoOnRolling());
+}
+
+void EndRolling() {
+  Table.LastStopReason = Table.StopReason;
+  StopUnattended();
+  Table.StopReason.clear();
+  if (Table.Point == 0 && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::ComeOut);
+  Table.RollInProgress = 0;
+  FrontEnd.DrawStatus();
+}
+
+}  // namespace
+
+void MakeRoll() {
+  if (Table.RollInProgress != 0) return;
+  ReplaceMissingGenerator();
+  if (Table.BankrollStopPlace != 0) {
+    BankrollLimitStop(Table.BankrollStopPlace);
+    return;
+  }
+  RollUntilStopped();
+  EndRolling();
+}
+
+}  // namespace tessarel

@@ -1,0 +1,19 @@
+#include "engine/unattended.h"
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+void StopUnattended() {
+  if (Table.AutoRollOn == 0 && Table.HyperDriveOn == 0) return;
+  Table.AutoRollOn = Table.HyperDriveOn = 0;
+  if (!Table.StopReason.empty()) {
+    ShowMessage(Table.StopReason, "Hyper-Drive Stopped", msg::OkAlert);
+  }
+  FrontEnd.DrawTable();
+  FrontEnd.RefreshViews();
+}
+
+}  // namespace tessarel

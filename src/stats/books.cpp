@@ -1,0 +1,23 @@
+#include "stats/books.h"
+
+#include "engine/table.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+std::string CheckBooks() {
+  std::string fault;
+  ForEachPlayer([&fault](int place) {
+    Money expected = At(Table.InvestedBankroll, place);
+    for (const BetRecord& record : At(Stats.Bets, place + CurrentSession)) {
+      expected += record.Won.Sum - record.Lost.Sum;
+    }
+    if (expected != BankrollOf(place)) {
+      fault = "place " + std::to_string(place) + ": bankroll " + PlainText(BankrollOf(place)) +
+              ", the books say " + PlainText(expected);
+    }
+  });
+  return fault;
+}
+
+}  // namespace tessarel
