@@ -1,0 +1,209 @@
+#include "app/sim/result.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "app/sim/console.h"
+#include "base/number_format.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
+#include "engine/table.h"
+#include "stats/store.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json Number(Money amount) {
+  if (amount.IsWhole()) return amount.Floor();
+  return amount.ToDouble();
+}
+
+Json TableJson() {
+  return {{"Point", Table.Point},
+          {"LastPoint", Table.LastPoint},
+          {"Shooter", Table.Shooter},
+          {"LastShooter", Table.LastShooter},
+          {"Die1", Table.Die1},
+          {"Die2", Table.Die2},
+          {"DiceTotal", Table.DiceTotal},
+          {"MarkedNumbers", Table.MarkedNumbers},
+          {"FourRollCount", Table.FourRollCount},
+          {"FirePointsMask", Table.FirePointsMask},
+          {"FirePoints", Table.FirePoints},
+          {"SharpShooterPoints", Table.SharpShooterPoints},
+          {"RideTheLinePasses", Table.RideTheLinePasses}};
+}
+
+Money VigOf(int place, int number) {
+  const auto index = static_cast<size_t>((number - 1) % FamilySize);
+  if (InFamily(number, LayFamily)) return At(Table.LayVig, place)[index];
+  if (InFamily(number, BuyFamily)) return At(Table.BuyVig, place)[index];
+  return Money();
+}
+
+Json BetsJson(int place) {
+  Json bets = Json::array();
+  At(Table.Standing, place).ForEach([&](int number) {
+    bets.push_back({{"bet", number},
+                    {"name", At(BetName, number)},
+                    {"amount", Number(Bet(place, number))},
+                    {"contract", Number(At(At(Table.BetContract, place), number))},
+                    {"working", At(At(Table.BetWorking, place), number)},
+                    {"vig", Number(VigOf(place, number))},
+                    {"streak", At(At(Table.BetStreak, place), number)}});
+  });
+  return bets;
+}
+
+Json StacksJson(int place) {
+  Json stacks = Json::array();
+  for (int stack = 0; stack < StackCount; ++stack) {
+    const Money amount = Bet(place, FirstStack + stack);
+    const std::string& name = At(At(Table.CheckStackName, place), stack);
+    if (amount == Money() && name.empty()) continue;
+    stacks.push_back({{"stack", stack}, {"name", name}, {"amount", Number(amount)}});
+  }
+  return stacks;
+}
+
+Json MeasuresJson(const BetMeasures& measures) {
+  return {{"count", Number(measures.Count)}, {"sum", Number(measures.Sum)},
+          {"high", Number(measures.High)},   {"low", Number(measures.Low)},
+          {"last_roll", Number(measures.LastRoll)}, {"last", Number(measures.Last)}};
+}
+
+Json ResultsJson(int place) {
+  Json results = Json::array();
+  for (int number = 1; number <= LastBet; ++number) {
+    const BetRecord& record = At(At(Stats.Bets, place + CurrentSession), number);
+    if (record.Tendered.Count == Money()) continue;
+    results.push_back({{"bet", number},
+                       {"name", At(BetName, number)},
+                       {"tendered", MeasuresJson(record.Tendered)},
+                       {"won", MeasuresJson(record.Won)},
+                       {"lost", MeasuresJson(record.Lost)}});
+  }
+  return results;
+}
+
+Json PlayerJson(int place) {
+  const int slot = place + CurrentSession;
+  return {{"place", place},
+          {"name", At(Table.PlayerName, place)},
+          {"Bankroll", Number(At(Table.Bankroll, slot))},
+          {"BankrollBegin", Number(At(Table.BankrollBegin, slot))},
+          {"BankrollHigh", Number(At(Table.BankrollHigh, slot))},
+          {"BankrollLow", Number(At(Table.BankrollLow, slot))},
+          {"InvestedBankroll", Number(At(Table.InvestedBankroll, place))},
+          {"MoneyOnTable", Number(At(Table.MoneyOnTable, place))},
+          {"bets", BetsJson(place)},
+          {"checkstacks", StacksJson(place)},
+          {"results", ResultsJson(place)}};
+}
+
+Json HandFiguresJson() {
+  const HandFigures& hands = At(Stats.Hands, CurrentSession);
+  return {{"HandCount", hands.HandCount},
+          {"RollTotal", hands.RollTotal},
+          {"MostRolls", hands.MostRolls},
+          {"MostComeoutRolls", hands.MostComeoutRolls},
+          {"MostPasses", hands.MostPasses},
+          {"MostMisses", hands.MostMisses}};
+}
+
+std::string Count(int64_t count) { return FormatNumber(count, "#,#;-#,#;0"); }
+
+std::string Cents(Money amount) { return FormatNumber(amount, "#,0.00;-#,0.00;0.00"); }
+
+std::string Signed(Money amount) {
+  return (amount > Money() ? "+" : "") + Cents(amount);
+}
+
+std::string Left(std::string text, size_t width) {
+  text.resize(std::max(width, text.size()), ' ');
+  return text;
+}
+
+std::string Right(const std::string& text, size_t width) {
+  return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
+}
+
+std::string DiceText() {
+  if (RollFile.RollFileMode == RollFilePlay) return "from " + RollFile.RollFileName;
+  return "from RNG #" + std::to_string(Dice.CurrentRNG) + ", seed " +
+         std::to_string(Dice.LastSeed);
+}
+
+std::string BetRows(int place) {
+  std::string rows;
+  for (int number = 1; number <= LastBet; ++number) {
+    const BetRecord& record = At(At(Stats.Bets, place + CurrentSession), number);
+    if (record.Tendered.Count == Money()) continue;
+    const Money net = record.Won.Sum - record.Lost.Sum;
+    const double percent = 100 * net.ToDouble() / record.Tendered.Sum.ToDouble();
+    rows += "  " + Left(std::string(At(BetName, number)), 18) +
+            Right(Count(record.Tendered.Count.Floor()), 12) +
+            Right(Count(record.Won.Count.Floor()), 12) +
+            Right(Count(record.Lost.Count.Floor()), 12) + Right(Cents(record.Tendered.Sum), 20) +
+            Right(Signed(net), 18) + Right(FormatNumber(percent, "0.000;-0.000;0.000") + "%", 11) +
+            "\n";
+  }
+  if (rows.empty()) return "";
+  return "  " + Left("Bet", 18) + Right("Resolved", 12) + Right("Won", 12) + Right("Lost", 12) +
+         Right("Amount $", 20) + Right("Net $", 18) + Right("Net %", 11) + "\n" + rows;
+}
+
+std::string PlayerSummary(int place) {
+  const int slot = place + CurrentSession;
+  const Money bankroll = At(Table.Bankroll, slot);
+  return "\n" + At(Table.PlayerName, place) + " (place " + std::to_string(place) + ")\n" +
+         "  Bankroll $" + Cents(bankroll) + "  (" +
+         Signed(bankroll - At(Table.InvestedBankroll, place)) + ")   high $" +
+         Cents(At(Table.BankrollHigh, slot)) + "   low $" + Cents(At(Table.BankrollLow, slot)) +
+         "   on the table $" + Cents(At(Table.MoneyOnTable, place)) + "\n" + BetRows(place);
+}
+
+}  // namespace
+
+std::string ResultJson(const RunFacts& facts) {
+  Json messages = Json::array();
+  for (const ShownMessage& shown : Console.messages) {
+    messages.push_back({{"title", shown.title}, {"text", shown.text}});
+  }
+  Json players = Json::array();
+  ForEachPlayer([&players](int place) { players.push_back(PlayerJson(place)); });
+  const Json result = {{"version", 1},
+                       {"rolls", facts.rolls},
+                       {"sessions", facts.sessions},
+                       {"hands", facts.hands},
+                       {"seconds", facts.seconds},
+                       {"rng", Dice.CurrentRNG},
+                       {"seed", Dice.LastSeed},
+                       {"stop_reason", Table.LastStopReason},
+                       {"messages", messages},
+                       {"table", TableJson()},
+                       {"players", players},
+                       {"roll_counts", At(Stats.RollCount, CurrentSession)},
+                       {"hand_figures", HandFiguresJson()}};
+  return result.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+std::string ResultSummary(const RunFacts& facts) {
+  std::string text = Count(facts.rolls) + " rolls, " + Count(facts.hands) + " hands, dice " +
+                     DiceText() + "\n";
+  if (!Table.LastStopReason.empty()) {
+    std::string reason = Table.LastStopReason;
+    std::replace(reason.begin(), reason.end(), '\r', ' ');
+    text += reason + "\n";
+  }
+  const double rate = facts.seconds > 0 ? static_cast<double>(facts.rolls) / facts.seconds : 0;
+  text += FormatNumber(facts.seconds, "0.00") + " seconds, " + Count(static_cast<int64_t>(rate)) +
+          " rolls a second\n";
+  ForEachPlayer([&text](int place) { text += PlayerSummary(place); });
+  return text;
+}
+
+}  // namespace tessarel::sim

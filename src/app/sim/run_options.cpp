@@ -1,0 +1,99 @@
+#include "app/sim/run_options.h"
+
+#include <charconv>
+
+#include "app/sim/failure.h"
+#include "base/single_byte_text.h"
+#include "engine/table.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+int ReadPlace(const std::string& text, const std::string& whole) {
+  int place = 0;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, place);
+  if (error != std::errc() || rest != end) {
+    throw Failure(WrongCommandLine, "\"" + text + "\" is not a place, in \"" + whole + "\".");
+  }
+  if (place < 1 || place > LastPlace) {
+    throw Failure(CannotBeDone, "Place " + text + " does not exist, in \"" + whole +
+                                    "\": places are 1 to 8.");
+  }
+  return place;
+}
+
+// Cuts "@PLACE" off the end of `text`; 0 when there is none.
+int CutPlace(std::string& text, const std::string& whole) {
+  const size_t at = text.rfind('@');
+  if (at == std::string::npos) return 0;
+  const int place = ReadPlace(text.substr(at + 1), whole);
+  text.erase(at);
+  return place;
+}
+
+bool LooksLikeNumber(const std::string& text) {
+  return !text.empty() && text.find_first_not_of("+-.0123456789") == std::string::npos;
+}
+
+Money ReadAmount(const std::string& text, const std::string& whole) {
+  const std::optional<Money> amount = ParseMoney(text);
+  if (amount) return *amount;
+  if (LooksLikeNumber(text)) {
+    throw Failure(CannotBeDone, "\"" + text + "\" is no amount of money, in \"" + whole +
+                                    "\": at most four decimals are kept.");
+  }
+  throw Failure(WrongCommandLine, "\"" + text + "\" is not an amount, in \"" + whole + "\".");
+}
+
+}  // namespace
+
+PlayerArgument ReadPlayer(const std::string& text) {
+  PlayerArgument player;
+  player.name = text;
+  const size_t equals = player.name.rfind('=');
+  if (equals != std::string::npos) {
+    player.bankroll = ReadAmount(player.name.substr(equals + 1), text);
+    player.name.erase(equals);
+  }
+  player.place = CutPlace(player.name, text);
+  player.name = TrimSpaces(player.name);
+  if (Abs(player.bankroll) > BankrollLimit) {
+    throw Failure(CannotBeDone, "The bankroll in \"" + text +
+                                    "\" is beyond the limits of -9,999,999 to 9,999,999.");
+  }
+  return player;
+}
+
+BetArgument ReadBet(const std::string& text) {
+  BetArgument bet;
+  std::string rest = text;
+  bet.place = CutPlace(rest, text);
+  const size_t equals = rest.rfind('=');
+  if (equals == std::string::npos) {
+    throw Failure(WrongCommandLine, "A bet reads NAME=AMOUNT[@PLACE], not \"" + text + "\".");
+  }
+  const std::string name = std::string(TrimSpaces(rest.substr(0, equals)));
+  bet.number = BetByName(name);
+  if (bet.number == 0) throw Failure(CannotBeDone, "There is no bet named \"" + name + "\".");
+  bet.amount = ReadAmount(rest.substr(equals + 1), text);
+  if (bet.amount < Money()) {
+    throw Failure(CannotBeDone, "A bet cannot be below zero: \"" + text + "\".");
+  }
+  return bet;
+}
+
+FieldArgument ReadField(const std::string& text) {
+  const size_t equals = text.find('=');
+  if (equals == std::string::npos) {
+    throw Failure(WrongCommandLine, "A setting reads FIELD[@PLACE]=VALUE, not \"" + text + "\".");
+  }
+  FieldArgument field;
+  field.field = text.substr(0, equals);
+  field.value = text.substr(equals + 1);
+  field.place = CutPlace(field.field, text);
+  return field;
+}
+
+}  // namespace tessarel::sim

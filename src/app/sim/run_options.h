@@ -1,0 +1,54 @@
+// What `tessarel-sim run` is asked to do, and the reading of its composite arguments. Reading only:
+// names, places and amounts are checked for their form here and against the table by the run.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/money.h"
+
+namespace tessarel::sim {
+
+struct PlayerArgument {
+  std::string name;
+  int place = 0;  // 0: the lowest open one
+  Money bankroll = 1000;
+};
+
+struct BetArgument {
+  int number = 0;
+  Money amount;
+  int place = 0;  // 0: the first seated player
+};
+
+struct FieldArgument {
+  std::string field;
+  int place = 0;  // 0: every seated player
+  std::string value;
+};
+
+enum class Mode { Hyper, Table };
+
+struct RunOptions {
+  std::string home = ".";
+  std::vector<PlayerArgument> players;
+  std::vector<FieldArgument> settings;
+  std::vector<std::string> payoffs;
+  std::vector<BetArgument> bets;
+  std::optional<int64_t> rolls, hands;
+  int32_t generator = 1;
+  std::optional<int64_t> seed;
+  std::string dice, record, answers, eventsLog, json;
+  Mode mode = Mode::Hyper;
+  bool quiet = false;
+};
+
+// "NAME[@PLACE][=BANKROLL]", "NAME=AMOUNT[@PLACE]" and "FIELD[@PLACE]=VALUE". Failure when the form
+// is wrong or a name does not exist.
+PlayerArgument ReadPlayer(const std::string& text);
+BetArgument ReadBet(const std::string& text);
+FieldArgument ReadField(const std::string& text);
+
+}  // namespace tessarel::sim
