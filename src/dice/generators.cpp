@@ -10,6 +10,7 @@
 #include "base/clock.h"
 #include "base/fault.h"
 #include "base/message.h"
+#include "base/number_format.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -34,7 +35,6 @@ constexpr Congruence Single = {714025, 1366, 150889};
 constexpr double SingleReciprocal = 1.4005112e-6;
 
 constexpr int LargestQuickSeed = 999'999;
-constexpr std::string_view LargestQuickSeedText = "999,999", LargestSeedText = "2,147,483,647";
 
 constexpr std::string_view SeedTitle = "Random Number Generator";
 constexpr std::string_view SeedPromptHead = "Please enter a whole number between 1 and ";
@@ -146,9 +146,8 @@ int32_t FilesNeeded(int32_t generator) {
 
 // Asks for a seed until the answer is from 1 to the limit. False on Cancel.
 bool PromptForSeed(int32_t limit) {
-  const std::string_view limitText =
-      limit == LargestQuickSeed ? LargestQuickSeedText : LargestSeedText;
-  const std::string question = std::string(SeedPromptHead).append(limitText).append(SeedPromptTail);
+  const std::string question =
+      std::string(SeedPromptHead).append(FormatNumber(limit, "#,#")).append(SeedPromptTail);
   std::string text = question;
   int32_t offered = Dice.LastSeed;
   while (AskForText(text, std::string(SeedTitle), std::to_string(offered))) {

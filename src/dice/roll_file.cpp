@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/fault.h"
+#include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "config/folders.h"
@@ -47,10 +48,12 @@ constexpr std::string_view StoppedByEnd = "Stopped due to end of Dice Roll File 
   RaiseFileFault(std::move(what), path);
 }
 
-// Only plain files: a folder opens but cannot be read, a pipe cannot be rewound.
-void CheckIsPlainFile(const std::string& path) {
+// Only ordinary files: a folder opens but cannot be read, a pipe cannot be rewound, and a null byte
+// would cut the name to that of another file.
+void CheckFileName(const std::string& path) {
   std::error_code ignored;
-  if (std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored)) {
+  if (path.find('\0') != std::string::npos ||
+      (std::filesystem::exists(path, ignored) && !FileExists(path))) {
     throw Fault(FaultNumber::FileAccess, "Not a file that can hold dice rolls: " + path);
   }
 }
@@ -115,21 +118,17 @@ void StopAtInvalidRoll() {
 
 }  // namespace
 
-bool RollFileExists(const std::string& name) {
-  std::error_code ignored;
-  return std::filesystem::is_regular_file(InFolder(Folders.AppFolder, name), ignored);
-}
-
 void OpenRollFile(const std::string& name) {
   CloseRollFile();
   const std::string path = InFolder(Folders.AppFolder, name);
-  CheckIsPlainFile(path);
+  CheckFileName(path);
   const auto mode = std::ios::binary | std::ios::in;
-  if (!RollFileExists(path)) std::ofstream(path, std::ios::binary | std::ios::app);
+  if (!FileExists(path)) std::ofstream(path, std::ios::binary | std::ios::app);
   RollFile.File.rdbuf()->pubsetbuf(nullptr, 0);
   errno = 0;
   RollFile.File.open(path, mode | std::ios::out);
-  if (!RollFile.File.is_open()) RollFile.File.open(path, mode);
+  RollFile.ReadOnly = !RollFile.File.is_open();
+  if (RollFile.ReadOnly) RollFile.File.open(path, mode);
   if (!RollFile.File.is_open()) RaiseFileFault(UnableToOpen, path);
   RollFile.RollFileName = path;
   RollFile.Block.reserve(BlockLength);
@@ -188,6 +187,10 @@ void RecordToRollFile(Faces faces) {
     RollFile.RollFileMode = RollFileOff;
     RaiseOverflow();
   }
+  if (RollFile.ReadOnly) {
+    RollFile.RollFileMode = RollFileOff;
+    throw Fault(FaultNumber::FileAccess, "No rolls can be recorded to " + RollFile.RollFileName);
+  }
   const bool goesOn = RollFile.BlockIsRecorded && std::ssize(RollFile.Block) < BlockLength &&
                       RollFile.NextRoll == RollFile.BlockStart + std::ssize(RollFile.Block);
   if (!goesOn) {
@@ -203,7 +206,7 @@ void RecordToRollFile(Faces faces) {
 
 bool IsRollFile(const std::string& name) {
   const std::string path = InFolder(Folders.AppFolder, name);
-  CheckIsPlainFile(path);
+  CheckFileName(path);
   errno = 0;
   std::ifstream file(path, std::ios::binary);
   if (!file.is_open() && errno == ENOENT) {

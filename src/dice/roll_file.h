@@ -32,6 +32,7 @@ struct RollFileState {
 
   // The open file and the stretch of it that is held.
   std::fstream File;
+  bool ReadOnly = false;
   std::vector<uint8_t> Block;
   int32_t BlockStart = 1;        // the number of the block's first roll
   bool BlockIsRecorded = false;  // the block holds recorded rolls that are not on the disk yet
@@ -46,9 +47,6 @@ constexpr uint8_t RollByte(Faces faces) {
 constexpr Faces FacesOfByte(uint8_t byte) {
   return {(byte & 28) / 4, (byte & 224) / 32};
 }
-
-// Whether there is a file `name`; opening creates one.
-bool RollFileExists(const std::string& name);
 
 // Closes the open file, then opens `name`, creating it when it does not exist, with the recorder
 // off at roll 1. A relative name is taken from the program's folder. A file that may only be read
@@ -71,7 +69,8 @@ void RewindForPlayback();
 std::optional<Faces> PlayBackRoll();
 
 // Writes a roll at NextRoll, over what is there or at the end. Faces outside 1 to 6 are never
-// written. Overflow fault behind MaxRollsInFile; the recorder is then off.
+// written. Overflow fault behind MaxRollsInFile and file fault when the file may only be read; the
+// recorder is then off.
 void RecordToRollFile(Faces faces);
 
 // The roll file test: no byte has bit 0 or 1 set. File faults when it cannot be read.

@@ -6,8 +6,10 @@
 #include <iterator>
 
 #include "base/fault.h"
+#include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
+#include "base/temporary_folder.h"
 #include "config/folders.h"
 #include "engine/table.h"
 
@@ -22,11 +24,7 @@ int MessagesShown = 0;
 class RollFiles : public ::testing::Test {
  protected:
   void SetUp() override {
-    folder_ = ::testing::TempDir() + "rolls-" +
-              ::testing::UnitTest::GetInstance()->current_test_info()->name();
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_);
-    SetAppFolder(folder_);
+    SetAppFolder(folder_.Path());
     RollFile = {};
     Table.StopReason.clear();
     Table.AutoRollOn = Table.HyperDriveOn = 0;
@@ -36,14 +34,13 @@ class RollFiles : public ::testing::Test {
   }
   void TearDown() override {
     RollFile = {};
-    std::filesystem::remove_all(folder_);
     FrontEnd = {};
     Folders = {};
     Table.StopReason.clear();
     Table.AutoRollOn = Table.HyperDriveOn = 0;
   }
 
-  std::string Path(const std::string& name) const { return folder_ + "/" + name; }
+  std::string Path(const std::string& name) const { return folder_.Path() + name; }
 
   void Write(const std::string& name, const std::string& bytes) const {
     std::ofstream(Path(name), std::ios::binary) << bytes;
@@ -77,18 +74,8 @@ class RollFiles : public ::testing::Test {
   }
 
  private:
-  std::string folder_;
+  TemporaryFolder folder_;
 };
-
-template <class Body>
-int FaultNumberOf(Body&& body) {
-  try {
-    body();
-  } catch (const Fault& fault) {
-    return fault.Number;
-  }
-  return 0;
-}
 
 TEST_F(RollFiles, RollsAreBytesInTheFile) {
   StartRecording("new.rol");
@@ -248,10 +235,7 @@ TEST_F(RollFiles, FilesBeyondTheLimitStopAtIt) {
   EXPECT_EQ(RollFile.RollCountInFile, MaxRollsInFile);
   RollFile.NextRoll = MaxRollsInFile;
   RecordToRollFile({6, 6});
-  EXPECT_EQ(FaultNumberOf([] {
-              RecordToRollFile({6, 6});
-            }),
-            static_cast<int>(FaultNumber::Overflow));
+  EXPECT_EQ(FaultOf([] { RecordToRollFile({6, 6}); }), NumberOf(FaultNumber::Overflow));
   EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
   RollFile.NextRoll = MaxRollsInFile;
   EXPECT_EQ(PlayAll(), "66");
@@ -260,9 +244,9 @@ TEST_F(RollFiles, FilesBeyondTheLimitStopAtIt) {
 }
 
 TEST_F(RollFiles, OpeningCreatesTheFileInTheProgramsFolder) {
-  EXPECT_FALSE(RollFileExists("new.rol"));
+  EXPECT_FALSE(FileExists(Path("new.rol")));
   OpenRollFile("new.rol");
-  EXPECT_TRUE(RollFileExists("new.rol"));
+  EXPECT_TRUE(FileExists(Path("new.rol")));
   EXPECT_EQ(RollFile.RollFileName, Path("new.rol"));
   EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
   RewindForPlayback();
@@ -281,12 +265,12 @@ TEST_F(RollFiles, OpeningAnotherFileKeepsWhatWasRecorded) {
 
 TEST_F(RollFiles, WhatCannotBeOpenedOrReadIsAFault) {
   std::filesystem::create_directory(Path("folder.rol"));
-  const int access = static_cast<int>(FaultNumber::FileAccess);
-  EXPECT_EQ(FaultNumberOf([] { OpenRollFile("folder.rol"); }), access);
-  EXPECT_EQ(FaultNumberOf([] { OpenRollFile("nowhere/new.rol"); }), access);
-  EXPECT_EQ(FaultNumberOf([] { IsRollFile("folder.rol"); }), access);
-  EXPECT_EQ(FaultNumberOf([] { IsRollFile("none.rol"); }),
-            static_cast<int>(FaultNumber::FileNotFound));
+  const int access = NumberOf(FaultNumber::FileAccess);
+  EXPECT_EQ(FaultOf([] { OpenRollFile("folder.rol"); }), access);
+  EXPECT_EQ(FaultOf([] { OpenRollFile("nowhere/new.rol"); }), access);
+  EXPECT_EQ(FaultOf([] { OpenRollFile(std::string("new.rol\0x", 9)); }), access);
+  EXPECT_EQ(FaultOf([] { IsRollFile("folder.rol"); }), access);
+  EXPECT_EQ(FaultOf([] { IsRollFile("none.rol"); }), NumberOf(FaultNumber::FileNotFound));
   EXPECT_EQ(RollFile.RollFileName, "");
 }
 
@@ -296,9 +280,18 @@ TEST_F(RollFiles, FailedWriteClosesTheFile) {
   // A stream that may only read stands for a disk that takes no more.
   RollFile.File.close();
   RollFile.File.open(Path("new.rol"), std::ios::binary | std::ios::in);
-  EXPECT_EQ(FaultNumberOf([] { FlushRollFile(); }), static_cast<int>(FaultNumber::FileAccess));
+  EXPECT_EQ(FaultOf([] { FlushRollFile(); }), NumberOf(FaultNumber::FileAccess));
   EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
-  EXPECT_EQ(FaultNumberOf([] { CloseRollFile(); }), 0);
+  EXPECT_EQ(FaultOf([] { CloseRollFile(); }), 0);
+}
+
+TEST_F(RollFiles, ReadOnlyFileIsNotRecordedTo) {
+  Write("old.rol", "\x24");
+  StartRecording("old.rol");
+  RollFile.ReadOnly = true;
+  EXPECT_EQ(FaultOf([] { RecordToRollFile({6, 6}); }), NumberOf(FaultNumber::FileAccess));
+  EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
+  EXPECT_EQ(RollFile.NextRoll, 1);
 }
 
 TEST_F(RollFiles, RollFileTestLooksAtEveryByte) {
