@@ -6,7 +6,7 @@
 namespace tessarel {
 
 // The sounds the core asks for. A front end without sound leaves PlaySound alone.
-enum class Sound { Check, Dice, Total, Doubles, ComeOut, FirstComeOut, LimitBroken };
+enum class Sound { Check, DiceThrown, Total, Doubles, ComeOut, FirstComeOut, LimitBroken };
 
 struct FrontEndCallbacks {
   // Shows the message that stands in the call block (base/message.h) and waits for its answer.

@@ -5,11 +5,10 @@
 
 #include <array>
 #include <cstdint>
-#include <random>
 #include <string>
-#include <string_view>
 
 #include "base/money.h"
+#include "dice/twister.h"
 
 namespace tessarel {
 
@@ -18,17 +17,20 @@ inline constexpr int GeneratorCount = 8;
 // Bits of SupportFilesMissing.
 enum SupportFile : int32_t { FirstTwister = 1, SecondTwister = 2 };
 
-// The state of Ran1: three congruences, whole numbers kept as 32-bit floats, and the shuffle table.
+// The entries 1 to 97 of a shuffle table are used.
+inline constexpr int ShuffleEntries = 97;
+
+// The state of Ran1: three congruences and the shuffle table, whose entries are rounded to 32-bit
+// floats as they are stored.
 struct Ran1State {
-  float ix1 = 0, ix2 = 0, ix3 = 0;
-  std::array<float, 98> table{};  // 1 to 97
+  int32_t ix1 = 0, ix2 = 0, ix3 = 0, j = 0;
+  std::array<float, ShuffleEntries + 1> table{};
   bool initialised = false;
-  int32_t j = 0;
 };
 
 struct Ran2State {
   int32_t idum = 0, iy = 0, j = 0;
-  std::array<int32_t, 98> table{};  // 1 to 97
+  std::array<int32_t, ShuffleEntries + 1> table{};
   bool initialised = false;
 };
 
@@ -40,7 +42,8 @@ struct DiceState {
   int32_t AskForSeed = 0;
   int32_t ReseedEachSession = 0;
   int32_t SupportFilesMissing = 0;  // bits of SupportFile
-  std::mt19937 Twister1, Twister2;
+  Twister Twister1 = TwisterByRecurrence(Twister::DefaultSeed);
+  Twister Twister2 = TwisterByUpperHalves(Twister::DefaultSeed);
   Ran1State Ran1;
   Ran2State Ran2;
 };
@@ -61,8 +64,10 @@ Faces MakeDice(int32_t rollCount);
 void ReplaceMissingGenerator();
 
 // Seeds the current generator. Mode -1 applies SeedRequest as it stands; mode 0 prompts for a seed
-// if AskForSeed is set, else takes one from the clock. Returns false after a Cancel or a refused
-// value (SeedRequest is then 0). Overflow fault for seeds a generator's arithmetic cannot take.
+// if AskForSeed is set, else takes one from the clock, which never equals LastSeed. Returns false
+// after a Cancel, which changes nothing, or a refused value, which sets SeedRequest to 0. Overflow
+// fault for seeds a generator's arithmetic cannot take: CurrentSeed and LastSeed then hold them all
+// the same.
 bool SeedRNG(int mode);
 
 // The largest seed the generator takes: 999,999 for RNG #3, else 2,147,483,647.
@@ -79,10 +84,14 @@ void SeedAllGenerators();
 // The message for the support files that are missing; empty when none is.
 std::string MissingSupportText();
 
-// The single generators. Ran1 and Ran2 return a 32-bit float in 0 to 1; a negative argument
-// initialises them. QuickRan returns 1 to n.
+// The single generators. Ran1 is the published three-congruential shuffled generator, Ran2 the
+// one-congruential one; both return a 32-bit float of at least 0, Ran2 below 1, Ran1 at most 1 (its
+// last values round up). A negative argument initialises them, with minus the argument as the seed;
+// Ran1 then sets it to 1. Overflow fault for seeds above 2,147,428,874 (Ran1) and 2,147,332,758.
 float Ran1(int32_t& idum);
 float Ran2(int32_t& idum);
+// Moves CurrentSeed on and returns 1 to n. A CurrentSeed too large for the congruence is first cut
+// by factors of 100.
 int32_t QuickRan(int32_t n);
 // The two twisters' reals in 0 inclusive to 1 exclusive, and their seeding.
 double TwisterReal1();
@@ -90,8 +99,8 @@ double TwisterReal2();
 void SeedTwister1(uint32_t seed);
 void SeedTwister2(uint32_t seed);
 
-// A whole number from 0 to n - 1 for choices outside the dice (keypad, sounds). Never shares state
-// with the generators above.
+// A whole number from 0 to n - 1 for choices outside the dice (keypad, sounds); n is above 0. It
+// comes from the machine's own source and shares no state with the generators above.
 int32_t PlatformRandom(int32_t n);
 
 }  // namespace tessarel

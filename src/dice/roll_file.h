@@ -1,10 +1,14 @@
-// Dice roll files: rolls as bytes, played back and recorded. One file is open at a time; during
-// unattended play it is read and written through a buffer, so a roll costs no system call.
+// Dice roll files: rolls as bytes, played back and recorded. One file is open at a time; it is read
+// and written through a block of bytes, so a roll costs no system call. What is recorded reaches
+// the disk when the block is full and when it is asked for.
 #pragma once
 
 #include <cstdint>
+#include <fstream>
+#include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "dice/generators.h"
 
@@ -12,6 +16,10 @@ namespace tessarel {
 
 // The values of RollFileMode.
 enum RollFileUse : int32_t { RollFileOff = 0, RollFileRecord = 1, RollFilePlay = 2 };
+
+// The most rolls of a file that are played or recorded: NextRoll has to be able to stand behind the
+// last one.
+inline constexpr int32_t MaxRollsInFile = std::numeric_limits<int32_t>::max() - 1;
 
 struct RollFileState {
   std::string RollFileName;  // full name of the open file; empty if none
@@ -21,6 +29,13 @@ struct RollFileState {
   int32_t LastRoll = 0;     // number of the roll last read or written
   int32_t RollCountInFile = 0;
   bool EndReached = false;  // the last playback step met the end of the file
+
+  // The open file and the stretch of it that is held.
+  std::fstream File;
+  bool ReadOnly = false;
+  std::vector<uint8_t> Block;
+  int32_t BlockStart = 1;        // the number of the block's first roll
+  bool BlockIsRecorded = false;  // the block holds recorded rolls that are not on the disk yet
 };
 
 extern RollFileState RollFile;
@@ -33,14 +48,16 @@ constexpr Faces FacesOfByte(uint8_t byte) {
   return {(byte & 28) / 4, (byte & 224) / 32};
 }
 
-// Opens `name`, creating it when it does not exist, with the recorder off at roll 1. A relative
-// name is taken from the program's folder. File faults when it cannot be opened.
+// Closes the open file, then opens `name`, creating it when it does not exist, with the recorder
+// off at roll 1. A relative name is taken from the program's folder. A file that may only be read
+// opens for playback. File faults when it cannot be opened; no file is open then.
 void OpenRollFile(const std::string& name);
 
 // Writes out what is recorded and closes the file; the recorder is then off.
 void CloseRollFile();
 
-// Writes out what is recorded.
+// Writes out what is recorded. This and the routines below close the file when the disk fails, and
+// raise the file fault.
 void FlushRollFile();
 
 // Rewinds to roll 1 and plays back.
@@ -48,13 +65,15 @@ void RewindForPlayback();
 
 // Takes the next roll of the file. Empty at the end of the file and at an invalid byte; StopReason
 // then says which, an unattended run has been told to stop, and an invalid byte has been reported
-// and has switched the recorder off.
+// (not under the Hyper-Drive) and has switched the recorder off.
 std::optional<Faces> PlayBackRoll();
 
-// Writes a roll at NextRoll, over what is there or at the end.
+// Writes a roll at NextRoll, over what is there or at the end. Faces outside 1 to 6 are never
+// written. Overflow fault behind MaxRollsInFile and file fault when the file may only be read; the
+// recorder is then off.
 void RecordToRollFile(Faces faces);
 
-// The roll file test: no byte has bit 0 or 1 set.
+// The roll file test: no byte has bit 0 or 1 set. File faults when it cannot be read.
 bool IsRollFile(const std::string& name);
 
 }  // namespace tessarel

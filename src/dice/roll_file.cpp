@@ -1,0 +1,226 @@
+#include "dice/roll_file.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <string_view>
+#include <utility>
+
+#include "base/fault.h"
+#include "base/file_io.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "config/folders.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+RollFileState RollFile;
+
+namespace {
+
+constexpr int32_t BlockLength = 65'536;
+
+constexpr const char* UnableToOpen = "Unable to open the dice roll file ";
+constexpr const char* UnableToRead = "Unable to read the dice roll file ";
+constexpr const char* UnableToWrite = "Unable to write the dice roll file ";
+
+constexpr std::string_view ErrorTitle = "Dice Roll File Error";
+constexpr std::string_view InvalidRoll =
+    "A dice roll value has been found to be out of limits. \r\r"
+    "Playback of this Dice Roll File has stopped so that you can check the file or continue "
+    "without it.";
+constexpr std::string_view StoppedByInvalidRoll =
+    "Stopped due to Dice Roll File value out of limits.";
+constexpr std::string_view StoppedByEnd = "Stopped due to end of Dice Roll File reached.";
+
+[[noreturn]] void RaiseFileFault(std::string what, const std::string& path) {
+  const FaultNumber number = errno == ENOSPC ? FaultNumber::DeviceFull : FaultNumber::FileAccess;
+  throw Fault(number, std::move(what) + path);
+}
+
+// Gives the file up after a failure of the disk: what it holds is no longer known.
+[[noreturn]] void AbandonRollFile(std::string what) {
+  const int reason = errno;
+  const std::string path = RollFile.RollFileName;
+  RollFile = {};
+  errno = reason;
+  RaiseFileFault(std::move(what), path);
+}
+
+// Only ordinary files: a folder opens but cannot be read, a pipe cannot be rewound, and a null byte
+// would cut the name to that of another file.
+void CheckFileName(const std::string& path) {
+  std::error_code ignored;
+  if (path.find('\0') != std::string::npos ||
+      (std::filesystem::exists(path, ignored) && !FileExists(path))) {
+    throw Fault(FaultNumber::FileAccess, "Not a file that can hold dice rolls: " + path);
+  }
+}
+
+// Figures RollCountInFile from the file's present length, which other programs may change.
+void MeasureRollFile() {
+  RollFile.File.clear();
+  errno = 0;
+  const std::streamoff length = RollFile.File.seekg(0, std::ios::end).tellg();
+  if (length < 0) AbandonRollFile(UnableToRead);
+  RollFile.RollCountInFile = static_cast<int32_t>(std::min<std::streamoff>(length, MaxRollsInFile));
+}
+
+void DropBlock() {
+  RollFile.Block.clear();
+  RollFile.BlockIsRecorded = false;
+}
+
+bool BlockHolds(int32_t roll) {
+  const auto offset = static_cast<int64_t>(roll) - RollFile.BlockStart;
+  return offset >= 0 && offset < std::ssize(RollFile.Block);
+}
+
+// Reads the stretch that begins at `roll`; the block is empty when the file ends before it.
+void LoadBlock(int32_t roll) {
+  FlushRollFile();
+  DropBlock();
+  MeasureRollFile();
+  const int32_t length = std::min(BlockLength, RollFile.RollCountInFile - roll + 1);
+  if (length <= 0) return;
+  RollFile.Block.resize(static_cast<size_t>(length));
+  RollFile.BlockStart = roll;
+  errno = 0;
+  RollFile.File.seekg(roll - 1);
+  RollFile.File.read(reinterpret_cast<char*>(RollFile.Block.data()), length);
+  if (RollFile.File.bad()) AbandonRollFile(UnableToRead);
+  RollFile.Block.resize(static_cast<size_t>(RollFile.File.gcount()));
+}
+
+void MovePastRoll() {
+  RollFile.LastRoll = RollFile.NextRoll;
+  RollFile.DisplayRoll = ++RollFile.NextRoll;
+}
+
+bool IsFace(int32_t die) {
+  return die >= 1 && die <= 6;
+}
+
+void StopRun(std::string_view reason) {
+  Table.StopReason = reason;
+  Table.AutoRollOn = Table.HyperDriveOn = 0;
+}
+
+void StopAtInvalidRoll() {
+  RollFile.RollFileMode = RollFileOff;
+  if (Table.HyperDriveOn == 0) {
+    FrontEnd.RefreshViews();
+    ShowMessage(std::string(InvalidRoll), std::string(ErrorTitle), msg::OkAlert);
+  }
+  StopRun(StoppedByInvalidRoll);
+}
+
+}  // namespace
+
+void OpenRollFile(const std::string& name) {
+  CloseRollFile();
+  const std::string path = InFolder(Folders.AppFolder, name);
+  CheckFileName(path);
+  const auto mode = std::ios::binary | std::ios::in;
+  if (!FileExists(path)) std::ofstream(path, std::ios::binary | std::ios::app);
+  RollFile.File.rdbuf()->pubsetbuf(nullptr, 0);
+  errno = 0;
+  RollFile.File.open(path, mode | std::ios::out);
+  RollFile.ReadOnly = !RollFile.File.is_open();
+  if (RollFile.ReadOnly) RollFile.File.open(path, mode);
+  if (!RollFile.File.is_open()) RaiseFileFault(UnableToOpen, path);
+  RollFile.RollFileName = path;
+  RollFile.Block.reserve(BlockLength);
+  MeasureRollFile();
+}
+
+void CloseRollFile() {
+  FlushRollFile();
+  RollFile = {};
+}
+
+void FlushRollFile() {
+  if (!RollFile.BlockIsRecorded) return;
+  RollFile.File.clear();
+  errno = 0;
+  RollFile.File.seekp(RollFile.BlockStart - 1);
+  RollFile.File.write(reinterpret_cast<const char*>(RollFile.Block.data()),
+                      std::ssize(RollFile.Block));
+  RollFile.File.flush();
+  if (!RollFile.File) AbandonRollFile(UnableToWrite);
+  DropBlock();
+}
+
+void RewindForPlayback() {
+  FlushRollFile();
+  DropBlock();
+  RollFile.RollFileMode = RollFilePlay;
+  RollFile.NextRoll = RollFile.DisplayRoll = 1;
+  RollFile.EndReached = false;
+}
+
+std::optional<Faces> PlayBackRoll() {
+  RollFile.NextRoll = std::max(RollFile.NextRoll, 1);
+  RollFile.EndReached = false;
+  if (RollFile.BlockIsRecorded || !BlockHolds(RollFile.NextRoll)) {
+    if (RollFile.File.is_open()) LoadBlock(RollFile.NextRoll);
+    if (RollFile.Block.empty()) {
+      RollFile.EndReached = true;
+      StopRun(StoppedByEnd);
+      return std::nullopt;
+    }
+  }
+  const Faces faces = FacesOfByte(At(RollFile.Block, RollFile.NextRoll - RollFile.BlockStart));
+  if (!IsFace(faces.die1) || !IsFace(faces.die2)) {
+    StopAtInvalidRoll();
+    return std::nullopt;
+  }
+  MovePastRoll();
+  return faces;
+}
+
+void RecordToRollFile(Faces faces) {
+  if (!RollFile.File.is_open() || !IsFace(faces.die1) || !IsFace(faces.die2)) return;
+  RollFile.NextRoll = std::clamp(RollFile.NextRoll, 1, RollFile.RollCountInFile + 1);
+  if (RollFile.NextRoll > MaxRollsInFile) {
+    RollFile.RollFileMode = RollFileOff;
+    RaiseOverflow();
+  }
+  if (RollFile.ReadOnly) {
+    RollFile.RollFileMode = RollFileOff;
+    throw Fault(FaultNumber::FileAccess, "No rolls can be recorded to " + RollFile.RollFileName);
+  }
+  const bool goesOn = RollFile.BlockIsRecorded && std::ssize(RollFile.Block) < BlockLength &&
+                      RollFile.NextRoll == RollFile.BlockStart + std::ssize(RollFile.Block);
+  if (!goesOn) {
+    FlushRollFile();
+    DropBlock();
+    RollFile.BlockStart = RollFile.NextRoll;
+    RollFile.BlockIsRecorded = true;
+  }
+  RollFile.Block.push_back(RollByte(faces));
+  RollFile.RollCountInFile = std::max(RollFile.RollCountInFile, RollFile.NextRoll);
+  MovePastRoll();
+}
+
+bool IsRollFile(const std::string& name) {
+  const std::string path = InFolder(Folders.AppFolder, name);
+  CheckFileName(path);
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file.is_open() && errno == ENOENT) {
+    throw Fault(FaultNumber::FileNotFound, "File not found: " + path);
+  }
+  if (!file.is_open()) RaiseFileFault(UnableToRead, path);
+  std::vector<char> block(BlockLength);
+  do {
+    file.read(block.data(), BlockLength);
+    const auto end = block.begin() + file.gcount();
+    if (std::any_of(block.begin(), end, [](char byte) { return (byte & 3) != 0; })) return false;
+  } while (file);
+  if (file.bad()) RaiseFileFault(UnableToRead, path);
+  return true;
+}
+
+}  // namespace tessarel
