@@ -11,7 +11,9 @@
 #include "base/fault.h"
 #include "base/message.h"
 #include "base/number_format.h"
+#include "config/language.h"
 #include "engine/table.h"
+#include "files/event_lines.h"
 
 namespace tessarel {
 
@@ -35,11 +37,6 @@ constexpr Congruence Single = {714025, 1366, 150889};
 constexpr double SingleReciprocal = 1.4005112e-6;
 
 constexpr int LargestQuickSeed = 999'999;
-
-constexpr std::string_view SeedTitle = "Random Number Generator";
-constexpr std::string_view SeedPromptHead = "Please enter a whole number between 1 and ";
-constexpr std::string_view SeedPromptTail = " to seed the random number generator:";
-constexpr std::string_view SeedRefused = "Your seed value is out of limits.";
 
 constexpr std::string_view FirstTwisterMissing =
     "Unable to locate a support file called MT19937AR.DLL\r"
@@ -146,11 +143,11 @@ int32_t FilesNeeded(int32_t generator) {
 
 // Asks for a seed until the answer is from 1 to the limit. False on Cancel.
 bool PromptForSeed(int32_t limit) {
-  const std::string question =
-      std::string(SeedPromptHead).append(FormatNumber(limit, "#,#")).append(SeedPromptTail);
+  const std::string question = FillIn(GetText(39), FormatNumber(limit, "#,#"));
   std::string text = question;
   int32_t offered = Dice.LastSeed;
-  while (AskForText(text, std::string(SeedTitle), std::to_string(offered))) {
+  while (AskForText(text, std::string(GetTitle(TitleRandomNumberGenerator)),
+                    std::to_string(offered))) {
     std::string typed = Message.MsgInput;
     std::erase_if(typed, [](char c) { return c == ' ' || c == ','; });
     const Money value = ParseMoney(typed).value_or(Money());
@@ -158,7 +155,7 @@ bool PromptForSeed(int32_t limit) {
       Dice.SeedRequest = value;
       return true;
     }
-    text = std::string(SeedRefused).append("\r\r").append(question);
+    text = std::string(GetText(40)).append("\r\r").append(question);
     // Where nobody answers, the offered seed has to end the asking.
     offered = std::clamp(offered, 1, limit);
   }
@@ -322,6 +319,7 @@ bool SeedRNG(int mode) {
   // A request with a fraction rounds half to even.
   Dice.CurrentSeed = static_cast<int32_t>(std::nearbyint(Dice.SeedRequest.ToDouble()));
   Dice.LastSeed = Dice.CurrentSeed;
+  LogSeed(Dice.CurrentRNG, Dice.CurrentSeed);
   ApplySeed(Dice.CurrentRNG, Dice.CurrentSeed);
   return true;
 }

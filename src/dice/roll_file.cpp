@@ -102,18 +102,13 @@ bool IsFace(int32_t die) {
   return die >= 1 && die <= 6;
 }
 
-void StopRun(std::string_view reason) {
-  Table.StopReason = reason;
-  Table.AutoRollOn = Table.HyperDriveOn = 0;
-}
-
 void StopAtInvalidRoll() {
   RollFile.RollFileMode = RollFileOff;
   if (Table.HyperDriveOn == 0) {
     FrontEnd.RefreshViews();
     ShowMessage(std::string(InvalidRoll), std::string(ErrorTitle), msg::OkAlert);
   }
-  StopRun(StoppedByInvalidRoll);
+  Table.StopReason = StoppedByInvalidRoll;
 }
 
 }  // namespace
@@ -167,7 +162,7 @@ std::optional<Faces> PlayBackRoll() {
     if (RollFile.File.is_open()) LoadBlock(RollFile.NextRoll);
     if (RollFile.Block.empty()) {
       RollFile.EndReached = true;
-      StopRun(StoppedByEnd);
+      Table.StopReason = StoppedByEnd;
       return std::nullopt;
     }
   }

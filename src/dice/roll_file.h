@@ -64,8 +64,8 @@ void FlushRollFile();
 void RewindForPlayback();
 
 // Takes the next roll of the file. Empty at the end of the file and at an invalid byte; StopReason
-// then says which, an unattended run has been told to stop, and an invalid byte has been reported
-// (not under the Hyper-Drive) and has switched the recorder off.
+// then says which, and an invalid byte has been reported (not under the Hyper-Drive) and has
+// switched the recorder off.
 std::optional<Faces> PlayBackRoll();
 
 // Writes a roll at NextRoll, over what is there or at the end. Faces outside 1 to 6 are never

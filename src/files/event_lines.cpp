@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/clock.h"
+#include "config/language.h"
 #include "engine/table.h"
 #include "files/events_log.h"
 
@@ -190,8 +191,9 @@ void LogDicePassed(int to) {
 
 void LogPlayerJoined(int place, Money amount) {
   if (EventsLog.LogOn == 0) return;
-  WriteNote(place,
-            Join(" joined the game at stick ", StickPosition(place), " with $", PlainText(amount)));
+  const bool left = place <= 4;
+  const std::string spot = std::to_string(left ? 5 - place : place - 4);
+  WriteNote(place, FillIn(GetText(left ? 15 : 16), spot) + PlainText(amount));
 }
 
 void LogPlayerMoved(int place) {
@@ -201,19 +203,23 @@ void LogPlayerMoved(int place) {
 
 void LogPlayerRenamed(std::string_view before, std::string_view after) {
   if (EventsLog.LogOn == 0) return;
-  WriteEvent(Join("    ", before, "'s name changed to ", after));
+  WriteEvent(Join("    ", before, GetText(17), after));
 }
 
 void LogCashOut(int place, Money abandoned) {
   if (EventsLog.LogOn == 0) return;
   const Money bankroll = BankrollOf(place);
   const Money net = bankroll - At(Table.InvestedBankroll, place);
-  std::string outcome = "broke even";
+  std::string outcome(GetText(30));
   if (net != Money()) {
-    outcome = Join("$", PlainText(Abs(net)), net > Money() ? " win" : " loss");
+    outcome = Join("$", PlainText(Abs(net)), GetText(net > Money() ? 29 : 28));
   }
-  if (abandoned != Money()) outcome += Join(" after $", PlainText(abandoned), " abandoned");
-  WriteNote(place, Join(" cashed out with $", PlainText(bankroll), " (", outcome, ")"));
+  if (abandoned != Money()) {
+    outcome += Join(GetText(31), PlainText(abandoned), GetText(32));
+  } else {
+    outcome += ")";
+  }
+  WriteNote(place, Join(GetText(27), PlainText(bankroll), " (", outcome));
 }
 
 void LogSeed(int32_t generator, int32_t seed) {

@@ -101,11 +101,10 @@ TEST_F(RollFiles, FacesThatAreNoneAreNeverWritten) {
 
 TEST_F(RollFiles, PlaybackEndsBehindTheLastRoll) {
   Play("\x24\x44\xD8");
-  Table.AutoRollOn = Table.HyperDriveOn = 1;
+  Table.HyperDriveOn = 1;
   EXPECT_EQ(PlayAll(), "11 12 66");
   EXPECT_TRUE(RollFile.EndReached);
   EXPECT_EQ(Table.StopReason, EndReason);
-  EXPECT_EQ(Table.AutoRollOn + Table.HyperDriveOn, 0);
   EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
   EXPECT_EQ(RollFile.LastRoll, 3);
   EXPECT_EQ(RollFile.NextRoll, 4);
@@ -127,7 +126,6 @@ TEST_F(RollFiles, InvalidRollStopsAndSwitchesOff) {
     for (const int32_t hyper : {0, 1}) {
       SCOPED_TRACE(::testing::PrintToString(byte));
       Play("\x24" + byte + "\x24");
-      Table.AutoRollOn = 1;
       Table.HyperDriveOn = hyper;
       MessagesShown = 0;
       EXPECT_EQ(PlayAll(), "11");
@@ -135,8 +133,7 @@ TEST_F(RollFiles, InvalidRollStopsAndSwitchesOff) {
       EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
       EXPECT_EQ(RollFile.NextRoll, 2);
       EXPECT_EQ(Table.StopReason, InvalidReason);
-      EXPECT_EQ(Table.AutoRollOn + Table.HyperDriveOn, 0);
-      EXPECT_EQ(MessagesShown, hyper == 0 ? 1 : 0);
+          EXPECT_EQ(MessagesShown, hyper == 0 ? 1 : 0);
     }
   }
   EXPECT_EQ(Message.MsgTitle, "Dice Roll File Error");

@@ -39,7 +39,8 @@ std::string OnOneLine(const std::string& text) {
 
 // A message is a prompt when there is something to choose or to type.
 bool IsPrompt(int32_t flags) {
-  const bool severalButtons = (flags & (msg::Button1 | msg::Button2 | msg::Button3 | msg::Button4)) != 0;
+  const bool severalButtons =
+      (flags & (msg::Button1 | msg::Button2 | msg::Button3 | msg::Button4)) != 0;
   return severalButtons || (flags & (msg::Input | msg::List)) != 0;
 }
 
@@ -89,7 +90,9 @@ void OpenConsole() {
   sigaction(SIGINT, &action, nullptr);
 }
 
-bool Interrupted() { return StopAsked != 0; }
+bool Interrupted() {
+  return StopAsked != 0;
+}
 
 void LoadAnswers(const std::string& path) {
   std::istringstream lines(ReadWholeFile(path, LargestAnswersFile));
@@ -100,7 +103,9 @@ void LoadAnswers(const std::string& path) {
   }
 }
 
-void Notice(const std::string& text) { std::fprintf(stderr, "%s\n", text.c_str()); }
+void Notice(const std::string& text) {
+  std::fprintf(stderr, "%s\n", text.c_str());
+}
 
 ProgressBar::ProgressBar(bool wanted, int64_t total)
     : shown_(wanted && total > 0 && isatty(STDERR_FILENO) != 0),

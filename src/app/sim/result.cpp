@@ -70,8 +70,8 @@ Json StacksJson(int place) {
 }
 
 Json MeasuresJson(const BetMeasures& measures) {
-  return {{"count", Number(measures.Count)}, {"sum", Number(measures.Sum)},
-          {"high", Number(measures.High)},   {"low", Number(measures.Low)},
+  return {{"count", Number(measures.Count)},        {"sum", Number(measures.Sum)},
+          {"high", Number(measures.High)},          {"low", Number(measures.Low)},
           {"last_roll", Number(measures.LastRoll)}, {"last", Number(measures.Last)}};
 }
 
@@ -106,17 +106,18 @@ Json PlayerJson(int place) {
 
 Json HandFiguresJson() {
   const HandFigures& hands = At(Stats.Hands, CurrentSession);
-  return {{"HandCount", hands.HandCount},
-          {"RollTotal", hands.RollTotal},
-          {"MostRolls", hands.MostRolls},
-          {"MostComeoutRolls", hands.MostComeoutRolls},
-          {"MostPasses", hands.MostPasses},
-          {"MostMisses", hands.MostMisses}};
+  return {{"HandCount", hands.HandCount},   {"RollTotal", hands.RollTotal},
+          {"MostRolls", hands.MostRolls},   {"MostComeoutRolls", hands.MostComeoutRolls},
+          {"MostPasses", hands.MostPasses}, {"MostMisses", hands.MostMisses}};
 }
 
-std::string Count(int64_t count) { return FormatNumber(count, "#,#;-#,#;0"); }
+std::string Count(int64_t count) {
+  return FormatNumber(count, "#,#;-#,#;0");
+}
 
-std::string Cents(Money amount) { return FormatNumber(amount, "#,0.00;-#,0.00;0.00"); }
+std::string Cents(Money amount) {
+  return FormatNumber(amount, "#,0.00;-#,0.00;0.00");
+}
 
 std::string Signed(Money amount) {
   return (amount > Money() ? "+" : "") + Cents(amount);
@@ -133,8 +134,7 @@ std::string Right(const std::string& text, size_t width) {
 
 std::string DiceText() {
   if (RollFile.RollFileMode == RollFilePlay) return "from " + RollFile.RollFileName;
-  return "from RNG #" + std::to_string(Dice.CurrentRNG) + ", seed " +
-         std::to_string(Dice.LastSeed);
+  return "from RNG #" + std::to_string(Dice.CurrentRNG) + ", seed " + std::to_string(Dice.LastSeed);
 }
 
 std::string BetRows(int place) {
@@ -192,8 +192,8 @@ std::string ResultJson(const RunFacts& facts) {
 }
 
 std::string ResultSummary(const RunFacts& facts) {
-  std::string text = Count(facts.rolls) + " rolls, " + Count(facts.hands) + " hands, dice " +
-                     DiceText() + "\n";
+  std::string text =
+      Count(facts.rolls) + " rolls, " + Count(facts.hands) + " hands, dice " + DiceText() + "\n";
   if (!Table.LastStopReason.empty()) {
     std::string reason = Table.LastStopReason;
     std::replace(reason.begin(), reason.end(), '\r', ' ');

@@ -18,8 +18,8 @@ int ReadPlace(const std::string& text, const std::string& whole) {
     throw Failure(WrongCommandLine, "\"" + text + "\" is not a place, in \"" + whole + "\".");
   }
   if (place < 1 || place > LastPlace) {
-    throw Failure(CannotBeDone, "Place " + text + " does not exist, in \"" + whole +
-                                    "\": places are 1 to 8.");
+    throw Failure(CannotBeDone,
+                  "Place " + text + " does not exist, in \"" + whole + "\": places are 1 to 8.");
   }
   return place;
 }

@@ -1,0 +1,27 @@
+// The subcommands of tessarel-sim. Each does its work and writes its result on standard output;
+// what cannot be done is thrown as a Failure or a Fault.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "app/sim/run_options.h"
+
+namespace tessarel::sim {
+
+void RunCommand(const RunOptions& options);
+
+struct DiceOptions {
+  int32_t generator = 1;
+  int64_t seed = 0;
+  int64_t count = 0;
+  bool raw = false;
+};
+
+void DiceCommand(const DiceOptions& options);
+
+// Makes a generator current and applies a seed. Failure when either is outside its limits; the
+// overflow fault for seeds that the generator's arithmetic cannot take.
+void SelectAndSeed(int32_t generator, int64_t seed);
+
+}  // namespace tessarel::sim

@@ -1,0 +1,86 @@
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "app/session.h"
+#include "app/sim/commands.h"
+#include "app/sim/failure.h"
+#include "config/language.h"
+#include "dice/generators.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+constexpr size_t BufferSize = 1 << 16;
+
+// Collects output and writes it in blocks; a closed pipe ends the work.
+class Output {
+ public:
+  void Add(std::string_view text) {
+    buffer_ += text;
+    if (buffer_.size() >= BufferSize) Flush();
+  }
+
+  void Flush() {
+    const bool whole = std::fwrite(buffer_.data(), 1, buffer_.size(), stdout) == buffer_.size();
+    if (!whole || std::fflush(stdout) != 0) {
+      throw Failure(CannotBeDone, "Standard output cannot be written.");
+    }
+    buffer_.clear();
+  }
+
+ private:
+  std::string buffer_;
+};
+
+void WriteFaces(int64_t count, Output& output) {
+  for (int64_t roll = 0; roll < count; ++roll) {
+    const Faces faces = MakeDice(static_cast<int32_t>(roll));
+    output.Add(std::to_string(faces.die1) + " " + std::to_string(faces.die2) + "\n");
+  }
+}
+
+void WriteWords(int64_t count, Output& output) {
+  Twister& twister = Dice.CurrentRNG == 1 ? Dice.Twister1 : Dice.Twister2;
+  for (int64_t k = 0; k < count; ++k) {
+    const uint32_t word = NextWord(twister);
+    std::array<char, 4> bytes{};
+    for (size_t b = 0; b < bytes.size(); ++b)
+      bytes[b] = static_cast<char>(word >> (8 * b));
+    output.Add({bytes.data(), bytes.size()});
+  }
+}
+
+}  // namespace
+
+void SelectAndSeed(int32_t generator, int64_t seed) {
+  if (generator < 1 || SelectRNG(generator) != Selected) {
+    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8, not " +
+                                    std::to_string(generator) + ".");
+  }
+  if (seed < 1 || seed > SeedLimit(generator)) {
+    throw Failure(CannotBeDone, std::string(GetText(40)) + " RNG #" + std::to_string(generator) +
+                                    " takes whole numbers from 1 to " +
+                                    std::to_string(SeedLimit(generator)) + ".");
+  }
+  Dice.SeedRequest = Money::FromWhole(seed);
+  SeedRNG(-1);
+}
+
+void DiceCommand(const DiceOptions& options) {
+  StartUp(".");
+  if (options.raw && options.generator > 2) {
+    throw Failure(WrongCommandLine, "--raw is for generators 1 and 2 only.");
+  }
+  SelectAndSeed(options.generator, options.seed);
+  Output output;
+  if (options.raw) {
+    WriteWords(options.count, output);
+  } else {
+    WriteFaces(options.count, output);
+  }
+  output.Flush();
+}
+
+}  // namespace tessarel::sim
