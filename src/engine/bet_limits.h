@@ -21,8 +21,8 @@ bool OnLayout(int number);
 // The allowed multiple on a point number.
 Money OddsFactor(int point);
 
-// What odds may stand on `flat` that pay num to den, by OddsCalcMethod: before the cap of
-// MaxOddsBet and before the last rounding. `factor` is the allowed multiple.
+// What odds may stand on `flat` that pay num to den, by OddsCalcMethod and at most MaxOddsBet,
+// before the last rounding. `factor` is the allowed multiple.
 Money FigureOddsMax(Money factor, Money flat, Money num, Money den);
 
 // The vig on `amount` of a Buy bet (37 to 42) or Lay bet (1 to 6); 0 for other bets.
