@@ -1,5 +1,6 @@
 // The general text table: every user-visible text that modules share, by number, in six languages.
-// A language without a variant of its own shows the English one.
+// A language without a variant of its own shows the English one. Texts are UTF-8 and hold only
+// characters that Windows-1252 has; "&" marks the shortcut letter of a caption.
 #pragma once
 
 #include <cstdint>
@@ -17,6 +18,14 @@ std::string_view GetText(int32_t language, int id);
 
 // The same in the language in force.
 std::string_view GetText(int id);
+
+// Titles of the questions that texts 39 and 155 ask.
+enum TextTitle : int { TitleRandomNumberGenerator, TitleAutoRollDelay };
+inline constexpr int TitleCount = 2;
+
+// The title in `language` (outside 0 to 5: English), or in the language in force.
+std::string_view GetTitle(int32_t language, TextTitle title);
+std::string_view GetTitle(TextTitle title);
 
 // `text` with "%1" and "%2" replaced.
 std::string FillIn(std::string_view text, std::string_view first, std::string_view second = {});
