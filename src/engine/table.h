@@ -121,6 +121,7 @@ struct TableState {
   uint32_t TakenPlaces = 0;            // bit p: place p has a player
   PerPlace<NumberSet> ChangedForRoll;  // changed since the snapshot before the last roll
   PerPlace<NumberSet> ChangedAfter;    // changed since the snapshot after the last roll
+  PerPlace<int32_t> WorkingChanged{};  // some BetWorking changed since then
 };
 
 // The kinds of message that bet rules may show; automatic callers clear them to keep silent.
@@ -162,6 +163,7 @@ inline void SetBetContract(int place, int number, Money amount) {
 
 inline void SetBetWorking(int place, int number, int32_t state) {
   At(At(Table.BetWorking, place), number) = state;
+  At(Table.WorkingChanged, place) = -1;
   MarkChanged(place, number);
 }
 

@@ -36,9 +36,17 @@ void LogNextHand(int before);
 
 void LogDicePassed(int to);
 void LogPlayerJoined(int place, Money amount);
+// The player now stands at `place`.
+void LogPlayerMoved(int place);
+void LogPlayerRenamed(std::string_view before, std::string_view after);
+// A player leaves with his bankroll, in which the bets he abandoned (their sum) are already lost.
+void LogCashOut(int place, Money abandoned);
 void LogSeed(int32_t generator, int32_t seed);
 
-// The opening lines of a session. `playedFile` is the roll file that is playing, empty for none.
-void LogNewSession(std::string_view playedFile);
+// The opening lines of a session in two parts, between which the dice may be seeded: the heading
+// with the players, then what the first hand starts with. `playedFile` is the roll file that is
+// playing, empty for none.
+void LogNewSession();
+void LogFirstHand(std::string_view playedFile);
 
 }  // namespace tessarel

@@ -15,7 +15,7 @@ struct EventsLogState {
           LogLosses = -1, LogDecisions = -1, LogBankroll = -1;
   int32_t KeepLatestRollOnTop = 0;
   int32_t LatestRollLine = 0;  // number of the latest line that starts with "Roll", blanks aside
-  std::string EventLogName;    // full name of the text; the index lies in the program's folder
+  std::string EventLogName;    // full name of the text, empty for the default; see EventsIndexName
   std::string SectionHeading;  // the heading under which the lines of the roll now stand
 };
 
@@ -27,7 +27,8 @@ inline bool Logs(int32_t EventsLogState::*kind) {
 }
 
 // Appends one line (without its line end) to the log and its position to the index. Both files are
-// closed again when it returns. A file that cannot be written raises the file fault.
+// closed again when it returns. A file that cannot be written raises the file fault; a log too long
+// for a 32-bit position raises the overflow fault and stays as it is.
 void WriteEvent(std::string_view line);
 
 // Writes `heading` unless it is the one in force, and puts it in force.
@@ -42,14 +43,22 @@ void SelectAllEvents(bool on);
 // Deletes the log and its index.
 void ClearEventsLog();
 
-// "Events Log.ref" in the program's folder.
+// "Events Log.txt" in the program's folder: the log while EventLogName is empty.
+std::string DefaultEventLogName();
+
+// "Events Log.ref" in the program's folder, whatever the log is called: for each line 4 bytes, its
+// position in the log from 1, lowest byte first.
 std::string EventsIndexName();
 
-// Reads the log through once and writes its index anew.
+// Whether there is a log on the disk, empty or not.
+bool EventsLogExists();
+
+// Reads the log through once, writes its index anew and finds LatestRollLine. On a fault (no log, a
+// disk that is full, a line behind the last 32-bit position) the old index stays.
 void RebuildEventsIndex();
 
 // The number of lines the index knows, and one line (from 1) without its line end; empty when the
-// line does not exist.
+// line does not exist. A line is shown up to 65,536 bytes. Both files may hold anything.
 int32_t EventLineCount();
 std::string EventLine(int32_t number);
 

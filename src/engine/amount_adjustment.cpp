@@ -1,0 +1,49 @@
+#include "engine/amount_adjustment.h"
+
+#include <cstdint>
+
+#include "engine/bet_limits.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+namespace {
+
+enum Bias : int32_t { Decrease = 0, Increase = 1, Nearest = 2 };
+
+bool IsOdds(int number) {
+  return number == bet::PassLineOdds || number == bet::DontPassOdds ||
+         InFamily(number, ComeOddsFamily) || InFamily(number, DontComeOddsFamily);
+}
+
+bool HasUnit(int number) {
+  return IsOdds(number) || InFamily(number, PlaceFamily) || InFamily(number, BuyFamily) ||
+         InFamily(number, LayFamily);
+}
+
+int32_t BiasOf(int place, int number) {
+  if (InFamily(number, LayFamily)) return At(Table.LayBias, place);
+  if (number == bet::DontPassOdds || InFamily(number, DontComeOddsFamily)) {
+    return At(Table.DontBias, place);
+  }
+  if (IsOdds(number)) return At(Table.DoBias, place);
+  return At(Table.PlaceBias, place);
+}
+
+}  // namespace
+
+Adjustment AdjustForOddsPayoff(int place, int number, Money total) {
+  const Money unit = HasUnit(number) ? PayoffRowOf(number).PayUnit : Money();
+  if (unit == Money() || IsMultiple(total, unit)) return {true, total};
+  const Money limit = Table.BetLimit;
+  const Money minimum = CeilingToMultiple(BetMinimum(number), unit);
+  const Money below = FloorToMultiple(total, unit);
+  const Money above = below + unit;
+  const bool atLimit = IsOdds(number) && total == limit;
+  const int32_t bias = atLimit ? static_cast<int32_t>(Decrease) : BiasOf(place, number);
+  const bool up = bias == Increase || (bias == Nearest && above - total < total - below);
+  if (up) return above <= limit ? Adjustment{true, above} : Adjustment{false, below, true};
+  return below >= minimum ? Adjustment{true, below} : Adjustment{false, minimum, false};
+}
+
+}  // namespace tessarel

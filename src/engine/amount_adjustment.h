@@ -1,0 +1,19 @@
+// Bringing a bet to an amount that its payoff pays in whole checks, by the player's own bias.
+#pragma once
+
+#include "base/money.h"
+
+namespace tessarel {
+
+struct Adjustment {
+  bool possible = false;
+  Money total;                  // the adjusted bet, or the limit to be told when not possible
+  bool limitIsMaximum = false;  // which limit stood in the way
+};
+
+// The total that the place's bet may be brought to from `total`. Only Place, Buy, Lay and odds bets
+// have a unit; for all others, and for rows without one, the total stands. Reads Table.BetLimit,
+// the bet's limit as just figured.
+Adjustment AdjustForOddsPayoff(int place, int number, Money total);
+
+}  // namespace tessarel

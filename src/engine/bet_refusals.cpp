@@ -1,0 +1,176 @@
+#include "engine/bet_refusals.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "config/settings.h"
+#include "engine/special_bets.h"
+#include "engine/table.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+// A refused increase still fills up what was taken off since the last roll.
+Verdict Refused(int place, int number, RefusalKind refusal) {
+  const Money contract = At(At(Table.BetContract, place), number);
+  return {std::max(contract - Bet(place, number), Money()), refusal};
+}
+
+Verdict JudgeDecrease(int place, int number, Money delta) {
+  const Money contract = HeldContract(place, number);
+  const Money amount = Bet(place, number);
+  if (contract == Money() || amount + delta >= contract) return {delta};
+  if (amount > contract) return {contract - amount};
+  if (number == bet::PassLine) return {Money(), RefusalKind::DecreasePassLine};
+  if (number == bet::SevenPoint7) return {Money(), RefusalKind::DecreaseEstablished};
+  return {Money(), RefusalKind::DecreaseCome};
+}
+
+// "Same Bet": a contract bet that stands below its contract is brought back to it.
+Verdict JudgeNoChange(int place, int number) {
+  const Money missing = HeldContract(place, number) - Bet(place, number);
+  if (missing <= Money()) return {Money()};
+  if (number == bet::PassLine) return {missing, RefusalKind::KeepPassLine};
+  if (number == bet::SevenPoint7) return {missing, RefusalKind::DecreaseEstablished};
+  return {missing, RefusalKind::DecreaseCome};
+}
+
+// The refusal that an increase to `total` meets, None when it is allowed.
+RefusalKind IncreaseRefusal(int place, int number, Money total) {
+  using enum RefusalKind;
+  const bool point = Table.Point != 0;
+  const bool aboveContract = total > At(At(Table.BetContract, place), number);
+  const bool handStarted = RollsInHand() > 0;
+  if (InFamily(number, ComeFamily)) {
+    const bool put = aboveContract && !Table.BetMoving && Settings.AllowPutBets == 0;
+    return put ? PutCome : None;
+  }
+  if (InFamily(number, DontComeFamily)) {
+    return aboveContract && !Table.BetMoving ? DontComeOnNumber : None;
+  }
+  if (InFamily(number, ComeOddsFamily) || InFamily(number, DontComeOddsFamily)) {
+    return Bet(place, number - FamilySize) > Money() ? None : OddsWithoutFlat;
+  }
+  switch (number) {
+    case bet::PassLine:
+      return point && aboveContract && Settings.AllowPutBets == 0 ? PutPassLine : None;
+    case bet::PassLineOdds:
+      return point && Bet(place, bet::PassLine) > Money() ? None : OddsWithoutPassLine;
+    case bet::Come:
+      return point ? None : ComeWithoutPoint;
+    case bet::DontPass:
+      return point && aboveContract ? DontPassDuringPoint : None;
+    case bet::DontPassOdds:
+      return point && Bet(place, bet::DontPass) > Money() ? None : OddsWithoutDontPass;
+    case bet::DontCome:
+      return point ? None : DontComeWithoutPoint;
+    case bet::AllSmall:
+    case bet::AllTall:
+    case bet::MakeAll:
+      return (Table.MarkedNumbers & MarksOf(number)) != 0 ? NumbersMarked : None;
+    case bet::FourRollsNo7:
+      return Table.FourRollCount > 0 ? CountInProgress : None;
+    case bet::Point7:
+    case bet::SevenPoint7:
+      return point && aboveContract ? NotOnComeOut : None;
+    case bet::SharpShooter:
+    case bet::RideTheLine:
+    case bet::Fire:
+      return handStarted && aboveContract ? HandStarted : None;
+    default:
+      return None;
+  }
+}
+
+Verdict JudgeIncrease(int place, int number, Money delta) {
+  const Money amount = Bet(place, number);
+  const Money contract = HeldContract(place, number);
+  if (amount + delta < contract && !Table.BetMoving) {
+    if (number == bet::PassLine) return {contract - amount, RefusalKind::DecreasePassLine};
+    if (number == bet::SevenPoint7) return {contract - amount, RefusalKind::DecreaseDuringPoint};
+    return {contract - amount, RefusalKind::DecreaseCome};
+  }
+  const RefusalKind refusal = IncreaseRefusal(place, number, amount + delta);
+  return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, refusal);
+}
+
+std::string PutNote() {
+  return "\r\r(Unless you check \"Allow Put Bets\" on the Configuration screen.)";
+}
+
+std::string_view MarkedWord(int number) {
+  return number == bet::AllSmall ? "small " : number == bet::AllTall ? "tall " : "";
+}
+
+}  // namespace
+
+Money HeldContract(int place, int number) {
+  const bool byPoint = number == bet::PassLine || number == bet::SevenPoint7;
+  const bool held = InFamily(number, ComeFamily) || (byPoint && Table.Point != 0);
+  return held ? At(At(Table.BetContract, place), number) : Money();
+}
+
+Verdict JudgeChange(int place, int number, Money delta) {
+  if (delta < Money()) return JudgeDecrease(place, number, delta);
+  if (delta == Money()) return JudgeNoChange(place, number);
+  return JudgeIncrease(place, number, delta);
+}
+
+std::string RefusalText(RefusalKind refusal, int number) {
+  using enum RefusalKind;
+  const std::string name(At(BetName, number));
+  const std::string flat(number > FamilySize ? At(BetName, number - FamilySize) : "");
+  const std::string decrease = "You may not decrease or remove ";
+  const std::string make = "You may not make ";
+  const std::string increase = "You may not make or increase ";
+  switch (refusal) {
+    case None:
+      return "";
+    case DecreasePassLine:
+      return decrease + "a Pass Line bet while a point is established.";
+    case KeepPassLine:
+      return decrease + "your Pass Line bet while a point is established.";
+    case DecreaseCome:
+      return decrease + "a Come bet which is established on a point.";
+    case DecreaseEstablished:
+      return decrease + "a " + name + " bet which is established on a point.";
+    case DecreaseDuringPoint:
+      return decrease + "a " + name + " bet while a point is established.";
+    case PutPassLine:
+      return increase + "a Pass Line bet while a point is established." + PutNote();
+    case PutCome:
+      return increase + "a Come bet directly on a point number." + PutNote();
+    case ComeWithoutPoint:
+      return make + "a Come bet until a point is established.";
+    case DontPassDuringPoint:
+      return increase + "a Don't Pass bet while a point is established.";
+    case DontComeWithoutPoint:
+      return make + "a Don't Come bet until a point is established.";
+    case OddsWithoutPassLine:
+      return make +
+             "a Pass Line Odds bet unless you also have a Pass Line bet and a point is "
+             "established.";
+    case OddsWithoutDontPass:
+      return make +
+             "a Don't Pass Odds bet unless you also have a Don't Pass bet and a point is "
+             "established.";
+    case OddsWithoutFlat:
+      return make + "a " + name + " bet until you've established a " + flat + " bet.";
+    case DontComeOnNumber:
+      return increase + "a Don't Come bet directly on a point number.";
+    case NumbersMarked:
+      return increase + (number == bet::MakeAll ? "a " : "an ") + name + " bet while any " +
+             std::string(MarkedWord(number)) + "numbers are marked.";
+    case CountInProgress:
+      return increase + "a " + name + " bet if the count is in progress.";
+    case NotOnComeOut:
+      return increase + "a " + name + " bet unless the shooter is on a come-out roll.";
+    case HandStarted:
+      return increase + "a " + name + " bet after the shooter has started a hand.";
+  }
+  return "";
+}
+
+}  // namespace tessarel

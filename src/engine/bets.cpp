@@ -1,0 +1,430 @@
+#include "engine/bets.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/number_format.h"
+#include "config/language.h"
+#include "config/settings.h"
+#include "engine/amount_adjustment.h"
+#include "engine/bet_limits.h"
+#include "engine/bet_refusals.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr Money StackLimit = Money::FromRaw(999'999'999'999'999'999);
+
+// More than any bet may be: asks for the largest legal amount.
+constexpr Money AllThatIsAllowed = 9'999'999;
+
+bool Quiet(int32_t messageSwitch) {
+  return Table.HyperDriveOn != 0 || (Table.MessageSwitches & messageSwitch) == 0;
+}
+
+std::string BetTitle(int number) {
+  if (IsStack(number)) return "CheckStack #" + std::to_string(number - FirstStack);
+  return std::string(At(BetName, number)) + " Bet";
+}
+
+// A change on its way through the rules: the change they leave so far and what they said.
+class Change {
+ public:
+  Change(int place, int number) : place_(place), number_(number), delta_(Table.Amount) {}
+
+  void Run() {
+    RoundToChecks();
+    delta_ = std::max(delta_, -Amount());
+    refused_ = !ApplyRefusals();
+    if (!refused_) {
+      const bool asked = delta_ != Money();
+      if (asked) ApplyMinimum();
+      ApplyMaximum();
+      if (asked && Total() > Money()) Adjust();
+      ApplyBankroll();
+    }
+    Tell();
+    Table.BetDelta = delta_;
+  }
+
+ private:
+  Money Amount() const { return Bet(place_, number_); }
+  Money Total() const { return Amount() + delta_; }
+
+  // Adds a part to the message. `text` is only built when somebody will see it.
+  template <class Text>
+  void Say(Notice notice, Text&& text) {
+    if (Quiet(ShowRejections) || (Settings.Notices & notice) == 0) return;
+    if (!text_.empty()) text_ += "\r\r";
+    text_ += text();
+    hide_ = notice == NoticeActionsNotAllowed ? msg::HideNotice1 : msg::HideNotice2;
+  }
+
+  void RoundToChecks() {
+    delta_ = delta_ < Money() ? FloorToMultiple(delta_, SmallestCheck())
+                              : CeilingToMultiple(delta_, SmallestCheck());
+  }
+
+  // Returns whether anything is left to look at.
+  bool ApplyRefusals() {
+    const Verdict verdict = JudgeChange(place_, number_, delta_);
+    delta_ = verdict.delta;
+    if (verdict.refusal == RefusalKind::None) return true;
+    Say(NoticeActionsNotAllowed, [&] {
+      return At(Table.PlayerName, place_) + ",\r\r" + RefusalText(verdict.refusal, number_);
+    });
+    return delta_ != Money();
+  }
+
+  void ApplyMinimum() {
+    const Money minimum = BetMinimum(number_);
+    if (Total() <= Money() || Total() >= minimum) return;
+    if (delta_ < Money()) {
+      delta_ = HeldContract(place_, number_) - Amount();
+      return;
+    }
+    Say(NoticeLimits, [&] {
+      return "The minimum " + std::string(At(BetName, number_)) + " bet is $" +
+             FormatMoney(minimum);
+    });
+    delta_ = minimum - Amount();
+  }
+
+  void ApplyMaximum() {
+    const Money limit = FigureMaxBet(place_, number_);
+    if (Total() <= limit) return;
+    const std::string name(Quiet(ShowRejections) ? "" : At(BetName, number_));
+    Say(NoticeLimits, [&] { return "The maximum " + name + " bet is $" + FormatMoney(limit); });
+    const Money contract = HeldContract(place_, number_);
+    if (contract > limit) {
+      Say(NoticeLimits, [&] {
+        return "However, because the " + name + " is a contract bet and you established it at $" +
+               FormatMoney(contract) + " before you recently lowered the maximum " + name +
+               " allowed on the Configuration screen, it must remain unchanged until it resolves.";
+      });
+    }
+    delta_ = std::max(limit, contract) - Amount();
+  }
+
+  void Adjust() {
+    if (At(Table.AutoAdjustBetAmounts, place_) <= 0) return;
+    const Adjustment adjustment = AdjustForOddsPayoff(place_, number_, Total());
+    if (adjustment.possible) {
+      delta_ = adjustment.total - Amount();
+      return;
+    }
+    Say(NoticeLimits, [&] {
+      unable_ = true;
+      return "Unable to auto-adjust bet for proper odds payoff.\r\r" +
+             std::string(adjustment.limitIsMaximum ? "Maximum" : "Minimum") +
+             " bet for proper odds payoff is: $" + FormatMoney(adjustment.total);
+    });
+  }
+
+  // What the change takes from the bankroll: itself and the up-front vig it moves.
+  Money Cost(Money delta) const {
+    Money cost = delta;
+    if (Settings.BuyVigAllBets != 0 && InFamily(number_, BuyFamily)) {
+      cost += FigureBuyVig(number_, Amount() + delta) - VigNow();
+    }
+    if (Settings.LayVigAllBets != 0 && InFamily(number_, LayFamily)) {
+      cost += FigureLayVig(number_, Amount() + delta) - VigNow();
+    }
+    return cost;
+  }
+
+  Money VigNow() const {
+    const auto& vigs = InFamily(number_, BuyFamily) ? Table.BuyVig : Table.LayVig;
+    return At(At(vigs, place_), (number_ - 1) % FamilySize);
+  }
+
+  void ApplyBankroll() {
+    if (Total() == Money() || At(Table.AllowNegBankroll, place_) != 0) return;
+    const Money left = BankrollOf(place_) - At(Table.MoneyOnTable, place_);
+    if (Cost(delta_) <= left) return;
+    delta_ = LargestAffordable(left);
+    const Money held = HeldContract(place_, number_);
+    if (Total() < std::max(BetMinimum(number_), held)) delta_ = held - Amount();
+    Say(NoticeLimits, [] {
+      return std::string(
+          "You don't have enough bankroll remaining to bet the full amount requested.\r\r"
+          "Your options are: \r"
+          "      - Bet less on other bets.\r"
+          "      - Make a withdrawal from the ATM.\r"
+          "      - Allow negative bankroll.");
+    });
+  }
+
+  // The largest change in whole checks that `left` pays for, at least the bet coming off. The vig
+  // never falls as the bet grows, so the search can halve its range.
+  Money LargestAffordable(Money left) const {
+    const Money check = SmallestCheck();
+    Money low = -Amount();
+    const Money top = std::min(delta_, left + VigNow());
+    int64_t steps = top > low ? (top - low).Raw() / check.Raw() : 0;
+    while (steps > 0) {
+      const int64_t half = (steps + 1) / 2;
+      const Money candidate = low + Money::FromRaw(check.Raw() * half);
+      if (Cost(candidate) <= left) {
+        low = candidate;
+        steps -= half;
+      } else {
+        steps = half - 1;
+      }
+    }
+    return low;
+  }
+
+  void Tell() {
+    if (text_.empty()) return;
+    if (!Quiet(ShowAlreadyBet) && !unable_ && !refused_) {
+      text_ += "\r\r$" + FormatMoney(Total()) +
+               (delta_ == Money() ? " which is already bet." : " which is being bet.");
+    }
+    ShowMessage(std::move(text_), BetTitle(number_), msg::OkAlert | hide_);
+  }
+
+  int place_, number_;
+  Money delta_;
+  std::string text_;
+  int32_t hide_ = 0;
+  bool refused_ = false;  // to nothing
+  bool unable_ = false;   // to adjust: no word on what is bet
+};
+
+void TellVig(int number, Money vig, Money change, bool upFront) {
+  if (Quiet(ShowVigNotices) || (Settings.Notices & NoticeCharges) == 0) return;
+  std::string text;
+  if (vig == Money()) {
+    text = "Vig charge returned $" + FormatMoney(-change);
+  } else {
+    text = upFront ? "Total vig charge $" + FormatMoney(vig) + " (up front)"
+                   : "If you win, the vig charge will be $" + FormatMoney(vig);
+    text += change > Money() ? "\rVig increased by $" : "\rVig decreased by $";
+    text += FormatMoney(Abs(change));
+  }
+  ShowMessage(std::move(text), BetTitle(number), msg::Ok | msg::PictureAlert | msg::HideNotice4);
+}
+
+void MoveVig(int number, Money& stored, Money vig, Money& onTable, bool upFront, bool silent) {
+  const Money change = vig - stored;
+  if (change == Money()) return;
+  stored = vig;
+  if (upFront) onTable += change;
+  if (!silent) TellVig(number, vig, change, upFront);
+}
+
+// Puts a bet at `amount` with all that follows from it: the money on the table, the working state
+// of a bet that came off, and the vig.
+void StandAt(int place, int number, Money amount, bool silent) {
+  Money& onTable = At(Table.MoneyOnTable, place);
+  onTable += amount - Bet(place, number);
+  SetBetAmount(place, number, amount);
+  if (amount == Money()) ResetBetWorking(place, number);
+  Table.TableDirty = Table.BetChangedThisRoll = -1;
+  const size_t index = static_cast<size_t>((number - 1) % FamilySize);
+  if (InFamily(number, BuyFamily)) {
+    MoveVig(number, At(Table.BuyVig, place)[index], FigureBuyVig(number, amount), onTable,
+            Settings.BuyVigAllBets != 0, silent);
+  } else if (InFamily(number, LayFamily)) {
+    MoveVig(number, At(Table.LayVig, place)[index], FigureLayVig(number, amount), onTable,
+            Settings.LayVigAllBets != 0, silent);
+  }
+}
+
+void ChangeStack(int place, int number) {
+  const Money amount = Bet(place, number);
+  Money delta = Table.Amount;
+  std::string text;
+  if (delta < -amount) {
+    delta = -amount;
+    text = "The minimum CheckStack value is: $" + FormatMoney(Money());
+  } else if (delta > StackLimit - amount) {
+    delta = StackLimit - amount;
+    text = "The maximum CheckStack value is: $" + FormatMoney(StackLimit);
+  }
+  SetBetAmount(place, number, amount + delta);
+  Table.BetDelta = delta;
+  if (text.empty() || Quiet(ShowRejections) || (Settings.Notices & NoticeLimits) == 0) return;
+  if (!Quiet(ShowAlreadyBet)) {
+    text += "\r\r$" + FormatMoney(amount + delta) +
+            (delta == Money() ? " which is already stacked." : " which is being stacked.");
+  }
+  ShowMessage(std::move(text), BetTitle(number), msg::OkAlert | msg::HideNotice2);
+}
+
+// The place whose Lay bets share the spot of this one's.
+constexpr int LayNeighbour(int place) {
+  return place <= 4 ? 5 - place : 13 - place;
+}
+
+void Redraw(int place, int number) {
+  if (Table.HyperDriveOn != 0) return;
+  FrontEnd.DrawBet(place, number);
+  if (number == bet::DontPass) FrontEnd.DrawBet(place, bet::DontPassOdds);
+  if (number == bet::DontPassOdds) FrontEnd.DrawBet(place, bet::DontPass);
+  if (InFamily(number, LayFamily)) FrontEnd.DrawBet(LayNeighbour(place), number);
+}
+
+// The odds that follow a flat bet and the setting that keeps them full; 0 when none follow now.
+int FollowingOdds(int place, int number, bool& keepFull) {
+  const bool onNumber = InFamily(number, ComeFamily) || InFamily(number, DontComeFamily);
+  const bool line = number == bet::PassLine || number == bet::DontPass;
+  if (!onNumber && !(line && Table.Point != 0)) return 0;
+  const bool dont = number == bet::DontPass || InFamily(number, DontComeFamily);
+  keepFull = At(dont ? Table.AutoLayFullOdds : Table.AutoTakeFullOdds, place) != 0;
+  return line ? number + 1 : number + FamilySize;
+}
+
+void FollowWithOdds(int place, int number) {
+  bool keepFull = false;
+  const int odds = FollowingOdds(place, number, keepFull);
+  if (odds == 0) return;
+  const Money delta = Table.BetDelta;
+  if (keepFull || Bet(place, odds) > FigureMaxBet(place, odds)) ReplaceBet(place, odds);
+  Table.BetDelta = delta;
+}
+
+void ReplaceWhereFlat(int place, int flat, int odds) {
+  if (Bet(place, flat) > Money()) ReplaceBet(place, odds);
+}
+
+// Pass Line, Don't Pass, the boxes and travelled bets cannot be called, nor can the special bets.
+bool CanBeCalled(int number) {
+  if (number >= bet::AllSmall) return number == bet::Midway;
+  return number != bet::PassLine && number != bet::DontPass && number != bet::Come &&
+         number != bet::DontCome && !InFamily(number, ComeFamily) &&
+         !InFamily(number, DontComeFamily);
+}
+
+void TellNotAllowed(std::string text) {
+  if (Quiet(ShowRejections) || (Settings.Notices & NoticeActionsNotAllowed) == 0) return;
+  ShowMessage(std::move(text), std::string(GetText(58)), msg::OkAlert | msg::HideNotice1);
+}
+
+}  // namespace
+
+SilentBets::SilentBets() : saved_(std::exchange(Table.MessageSwitches, 0)) {}
+
+SilentBets::~SilentBets() {
+  Table.MessageSwitches = saved_;
+}
+
+void ChangeBet(int place, int number) {
+  if (IsStack(number)) {
+    ChangeStack(place, number);
+    return;
+  }
+  Change(place, number).Run();
+  if (Table.BetDelta != Money()) {
+    StandAt(place, number, Bet(place, number) + Table.BetDelta, false);
+  }
+}
+
+void PlaceBet(int place, int number, int x, int y) {
+  At(At(Table.BetX, place), number) = x;
+  At(At(Table.BetY, place), number) = y;
+  PlaceBet(place, number);
+}
+
+void PlaceBet(int place, int number) {
+  ChangeBet(place, number);
+  if (Table.HyperDriveOn == 0 && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::Check);
+  Redraw(place, number);
+  if (Table.BetDelta != Money()) FollowWithOdds(place, number);
+}
+
+void RemoveBet(int place, int number) {
+  Table.Amount = -Bet(place, number);
+  PlaceBet(place, number);
+}
+
+void TakeDownBet(int place) {
+  const int number = Table.CurrentBet;
+  Table.BetDelta = -Bet(place, number);
+  StandAt(place, number, Money(), true);
+  Redraw(place, number);
+}
+
+void ReplaceBet(int place, int number) {
+  const SilentBets silent;
+  StandAt(place, number, Money(), true);
+  Table.Amount = AllThatIsAllowed;
+  ChangeBet(place, number);
+  Redraw(place, number);
+}
+
+void BetFullOdds(int place) {
+  if (Table.Point == 0) return;
+  ReplaceWhereFlat(place, bet::PassLine, bet::PassLineOdds);
+  for (int flat = bet::Come4; flat <= bet::Come10; ++flat) {
+    ReplaceWhereFlat(place, flat, flat + FamilySize);
+  }
+}
+
+void BetFullLay(int place) {
+  if (Table.Point == 0) return;
+  ReplaceWhereFlat(place, bet::DontPass, bet::DontPassOdds);
+  for (int flat = bet::DontCome4; flat <= bet::DontCome10; ++flat) {
+    ReplaceWhereFlat(place, flat, flat + FamilySize);
+  }
+}
+
+void BuyPlaceBet(int place, int number) {
+  const Money amount = Bet(place, number);
+  if (InFamily(number, BuyFamily) || amount == Money()) return;
+  if (!InFamily(number, PlaceFamily)) {
+    TellNotAllowed(std::string(GetText(57)));
+    return;
+  }
+  const int32_t working = At(At(Table.BetWorking, place), number);
+  const int buy = number + FamilySize;
+  StandAt(place, number, Money(), true);
+  Redraw(place, number);
+  Table.Amount = amount;
+  PlaceBet(place, buy);
+  const bool called = working == CalledOn || working == CalledOff;
+  if (called && Bet(place, buy) > Money()) SetBetWorking(place, buy, working);
+}
+
+void CallBet(int place, int number, CallState state) {
+  if (!CanBeCalled(number)) {
+    TellNotAllowed(FillIn(GetText(59), At(BetName, number)));
+    return;
+  }
+  const int32_t opposite = state == CallOn ? CalledOff : CalledOn;
+  if (At(At(Table.BetWorking, place), number) == opposite) {
+    ResetBetWorking(place, number);
+  } else {
+    SetBetWorking(place, number, state == CallOn ? CalledOn : CalledOff);
+  }
+  Redraw(place, number);
+}
+
+void ResetBetWorking(int place, int number) {
+  const int32_t normal =
+      Table.Point != 0 ? IsWorking : At(At(Table.BetWorkingDefault, place), number);
+  if (At(At(Table.BetWorking, place), number) != normal) SetBetWorking(place, number, normal);
+}
+
+void UpdateWorkingFlags() {
+  const bool pointOn = Table.Point != 0;
+  ForEachPlayer([pointOn](int place) {
+    auto& working = At(Table.BetWorking, place);
+    const auto& defaults = At(Table.BetWorkingDefault, place);
+    for (size_t number = 1; number <= LastBet; ++number) {
+      const int32_t state = working[number];
+      const bool called = state == CalledOn || state == CalledOff;
+      const int32_t normal = pointOn ? (state == NotWorking ? IsWorking : state) : defaults[number];
+      working[number] = called ? state : normal;
+    }
+    At(Table.WorkingChanged, place) = -1;
+  });
+}
+
+}  // namespace tessarel
