@@ -2,6 +2,7 @@
 // A test can hold it at a moment and advance it by hand.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 
@@ -15,10 +16,14 @@ struct LocalTime {
 
 LocalTime Now();
 
+// A moment of the machine in its time zone.
+LocalTime LocalTimeOf(std::chrono::system_clock::time_point moment);
+
 // Seconds since local midnight as a 32-bit float, with its fraction.
 float SecondsSinceMidnight(const LocalTime& time);
 
-// Milliseconds since some fixed moment; never runs backwards.
+// Milliseconds since some fixed moment; never runs backwards. While the clock is held they are
+// those of the held time, so that a run repeats exactly; holding and releasing begin a new count.
 int64_t TickMilliseconds();
 
 // "2026-11-22 19:04:05", the form of date and time in files.
@@ -30,8 +35,9 @@ std::string TimeText(const LocalTime& time);
 std::string MediumDate(const LocalTime& time);
 
 // Stops the clock at `time` (its weekday is figured from the date); each later Now() that is asked
-// for moves it on by `stepMilliseconds`.
+// for moves it on by `stepMilliseconds`. The fields must be a true date and time.
 void HoldClock(LocalTime time, int64_t stepMilliseconds = 0);
+// Moves a held clock on, over midnight where it must; a running clock stays as it is.
 void AdvanceClock(int64_t milliseconds);
 // Back to the clock of the machine.
 void ReleaseClock();

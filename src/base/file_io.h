@@ -1,0 +1,27 @@
+// Whole files in and out. A file is opened, used and closed in one call, and one that is replaced
+// is either the old or the new one, whatever goes wrong. Failures are faults: "File not found",
+// "Path/File access error", "Disk full" and "File too large".
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tessarel {
+
+// Replaces the file by one with these bytes, or makes it. On a fault the old file stands as it was.
+// Only ordinary files that may be written to are replaced; a link stays and its target changes.
+void WriteFileAtomically(const std::string& path, std::string_view bytes);
+
+// The bytes of an ordinary file. A file of more than `maxBytes` raises the file access fault.
+std::string ReadWholeFile(const std::string& path, size_t maxBytes);
+
+// Whether an ordinary file of this name is there.
+bool FileExists(const std::string& path);
+
+// When the file was last written to, in the form of DateTimeText; empty when it is not there.
+std::string LastModifiedText(const std::string& path);
+
+void DeleteFileIfPresent(const std::string& path);
+
+}  // namespace tessarel
