@@ -97,7 +97,7 @@ Refusal TestPayoffTables() {
   std::optional<PayoffRefusal> refusal = TestPayoffs();
   if (!refusal) return std::nullopt;
   if (!refusal->Cell) return Refuse(ConfigTab::Bets, std::move(refusal->Text), "MaxFireBet");
-  return ConfigurationRefusal{ConfigTab::Payoffs, std::move(refusal->Text), "", 0,
+  return ConfigurationRefusal{ConfigTab::PayoffTables, std::move(refusal->Text), "", 0,
                               std::move(refusal->Cell)};
 }
 

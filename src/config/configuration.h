@@ -26,7 +26,7 @@ enum class ConfigTab : int32_t {
   Misc,
   Bankroll,
   Bets,
-  Payoffs,
+  PayoffTables,
   Probability,
   Advantage
 };

@@ -206,7 +206,7 @@ struct KeyedValue {
 };
 
 std::string Quoted(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
+  return std::string(1, '"').append(text) + '"';
 }
 
 bool SameName(std::string_view a, std::string_view b) {
@@ -378,7 +378,7 @@ std::optional<std::string> SetField(std::string_view name,
   if (Error error = TestPlace(*field, place)) return error;
 
   std::string label(field->Name);
-  if (place) label += "@" + std::to_string(*place);
+  if (place) label.append("@").append(std::to_string(*place));
   std::vector<KeyedValue> values;
   if (Error error = ReadAll(*field, label, value, values)) return error;
 
