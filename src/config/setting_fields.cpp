@@ -1,0 +1,393 @@
+#include "config/setting_fields.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "base/message.h"
+#include "base/number_format.h"
+#include "config/configuration.h"
+#include "config/language.h"
+#include "config/settings.h"
+#include "engine/bets.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+namespace {
+
+using S = SettingsState;
+using T = TableState;
+
+template <class Value>
+constexpr bool IsSingle = std::is_same_v<Value, Money> || std::is_same_v<Value, int32_t>;
+
+template <class Value>
+FieldValue Element(Value& value, int key) {
+  if constexpr (IsSingle<Value>)
+    return &value;
+  else
+    return &At(value, key);
+}
+
+// A member of the settings, or of the table for a place.
+template <auto Member>
+FieldValue Of(int place, int key) {
+  if constexpr (requires { Settings.*Member; })
+    return Element(Settings.*Member, key);
+  else
+    return Element(At(Table.*Member, place), key);
+}
+
+template <auto Member>
+bool ChangeVigTo(int, Money value) {
+  if constexpr (std::is_same_v<decltype(Member), Money S::*const> ||
+                std::is_same_v<decltype(Member), Money S::*>)
+    return ChangeVig(Member, value);
+  else
+    return ChangeVig(Member, static_cast<int32_t>(value.Floor()));
+}
+
+template <LayoutOption Option>
+bool ChangeLayout(int, Money value) {
+  return ChangeBetAvailability(Option, value != Money());
+}
+
+bool ChangeLanguage(int, Money value) {
+  SetLanguage(static_cast<int32_t>(value.Floor()));
+  return true;
+}
+
+bool ChangeAllowNegBankroll(int place, Money value) {
+  return SetAllowNegBankroll(place, value != Money());
+}
+
+bool ChangeBankrollInitType(int place, Money value) {
+  return SetBankrollInitType(place, static_cast<int32_t>(value.Floor()));
+}
+
+bool ChangeTakeFullOdds(int place, Money value) {
+  At(Table.AutoTakeFullOdds, place) = static_cast<int32_t>(value.Floor());
+  if (value != Money()) BetFullOdds(place);
+  return true;
+}
+
+bool ChangeLayFullOdds(int place, Money value) {
+  At(Table.AutoLayFullOdds, place) = static_cast<int32_t>(value.Floor());
+  if (value != Money()) BetFullLay(place);
+  return true;
+}
+
+constexpr Money FineStep = Money::FromRaw(1), CentStep = Money::FromRaw(100);
+// A hundred times the largest bankroll: out of reach of any bet, and its products with payoffs and
+// multiples still fit.
+constexpr Money AmountLimit = 999'999'999;
+constexpr int OddsMultipleLimit = 1000;
+constexpr int ScrollLimit = 32767;  // indices of lists found on disk, and scroll positions
+
+constexpr FieldRange Amounts{0, AmountLimit, FineStep};
+constexpr FieldRange Fractions{0, 1, FineStep};
+constexpr FieldRange Multiples{0, OddsMultipleLimit, FineStep};
+constexpr FieldRange Bankrolls{-BankrollLimit, BankrollLimit, FineStep};
+constexpr FieldRange Colors{0, 0xFFFFFF, 1};
+constexpr FieldRange Positions{0, ScrollLimit, 1};
+constexpr FieldRange Flags{-1, 1, 1};
+
+constexpr FieldRange UpTo(int high) {
+  return {0, high, 1};
+}
+
+using enum FieldKind;
+using enum FieldShape;
+
+// clang-format off
+constexpr SettingField Fields[] = {
+    // Limits.
+    {"MinPlacardBet", Amount, Amounts, Of<&S::MinPlacardBet>},
+    {"MaxPlacardBet", Amount, Amounts, Of<&S::MaxPlacardBet>},
+    {"MinPlacardPropBet", Amount, Amounts, Of<&S::MinPlacardPropBet>},
+    {"MaxPropBetPayoff", Amount, Amounts, Of<&S::MaxPropBetPayoff>},
+    {"MaxOddsBet", Amount, Amounts, Of<&S::MaxOddsBet>},
+    {"MaxFireBet", Amount, Amounts, Of<&S::MaxFireBet>},
+    {"OddsAllowed410", Amount, Multiples, Of<&S::OddsAllowed410>},
+    {"OddsAllowed59", Amount, Multiples, Of<&S::OddsAllowed59>},
+    {"OddsAllowed68", Amount, Multiples, Of<&S::OddsAllowed68>},
+    {"OddsCalcMethod", WholeNumber, UpTo(5), Of<&S::OddsCalcMethod>},
+    {"BarNumber", WholeNumber, {2, 12, 10}, Of<&S::BarNumber>},
+    {"BetNeededToShoot", WholeNumber, UpTo(2), Of<&S::BetNeededToShoot>},
+    {"AllowPutBets", Flag, Flags, Of<&S::AllowPutBets>},
+    {"ReturnAbandonedBets", Flag, Flags, Of<&S::ReturnAbandonedBets>},
+
+    // Bets on the layout, and those that work on the come-out.
+    {"UseBig68", Flag, Flags, Of<&S::UseBig68>, false, ChangeLayout<LayoutOption::Big68>},
+    {"UseSpecialPropBets", Flag, Flags, Of<&S::UseSpecialPropBets>, false, ChangeLayout<LayoutOption::SpecialProps>},
+    {"UseMidwayBet", Flag, Flags, Of<&S::UseMidwayBet>, false, ChangeLayout<LayoutOption::Midway>},
+    {"UseFireBet", Flag, Flags, Of<&S::UseFireBet>, false, ChangeLayout<LayoutOption::Fire>},
+    {"HouseWorking", Mark, Flags, Of<&T::BetWorkingDefault>, false, nullptr, ByBet, 1, bet::Midway},
+
+    // Vigorish.
+    {"BuyVigPct", Amount, Fractions, Of<&S::BuyVigPct>, false, ChangeVigTo<&S::BuyVigPct>},
+    {"LayVigPct", Amount, Fractions, Of<&S::LayVigPct>, false, ChangeVigTo<&S::LayVigPct>},
+    {"BuyVigAllBets", Flag, Flags, Of<&S::BuyVigAllBets>, false, ChangeVigTo<&S::BuyVigAllBets>},
+    {"LayVigAllBets", Flag, Flags, Of<&S::LayVigAllBets>, false, ChangeVigTo<&S::LayVigAllBets>},
+    {"RoundBuyVig", WholeNumber, UpTo(2), Of<&S::RoundBuyVig>, false, ChangeVigTo<&S::RoundBuyVig>},
+    {"RoundLayVig", WholeNumber, UpTo(2), Of<&S::RoundLayVig>, false, ChangeVigTo<&S::RoundLayVig>},
+
+    // Checks and dice.
+    {"Denomination", Amount, {0, AmountLimit, CentStep}, Of<&S::Denomination>, false, nullptr, InOrder, 1, 5},
+    {"UseCentsSymbol", Flag, Flags, Of<&S::UseCentsSymbol>},
+    {"AutoArrangeChips", Flag, Flags, Of<&S::AutoArrangeChips>},
+    {"CheckStyle", WholeNumber, Positions, Of<&S::CheckStyle>},
+    {"DiceStyle", WholeNumber, Positions, Of<&S::DiceStyle>},
+    {"DiceAction", WholeNumber, UpTo(3), Of<&S::DiceAction>},
+    {"SimRollRate", Amount, {FineStep, RollRateUnits[0].Maximum, FineStep}, Of<&S::SimRollRate>},
+
+    // Bankroll and comps.
+    {"AtmAmount", Amount, Amounts, Of<&S::AtmAmount>},
+    {"CompRate", Amount, {0, 100, FineStep}, Of<&S::CompRate>},
+    {"CompBase", WholeNumber, UpTo(2), Of<&S::CompBase>},
+    {"CompsUseTrueProbs", Flag, Flags, Of<&S::CompsUseTrueProbs>},
+    {"CompBet", Flag, Flags, Of<&S::CompBet>, false, nullptr, ByBet, 1, LastBet},
+
+    // Sound and looks.
+    {"StickPersonVoice", WholeNumber, Positions, Of<&S::StickPersonVoice>},
+    {"DiceSound", WholeNumber, Positions, Of<&S::DiceSound>},
+    {"CheckSound", WholeNumber, Positions, Of<&S::CheckSound>},
+    {"WinSound", WholeNumber, Positions, Of<&S::WinSound>},
+    {"DisableAutoBetSounds", Flag, Flags, Of<&S::DisableAutoBetSounds>},
+    {"DisableAllSound", Flag, Flags, Of<&S::DisableAllSound>},
+    {"InfoTipLevel", WholeNumber, UpTo(4), Of<&S::InfoTipLevel>},
+    {"BasicFontSize", WholeNumber, {9, 13, 2}, Of<&S::BasicFontSize>},
+    {"Notices", WholeNumber, UpTo(31), Of<&S::Notices>},
+    {"SnapMouse", Flag, Flags, Of<&S::SnapMouse>},
+    {"ColorPrint", Flag, Flags, Of<&S::ColorPrint>},
+    {"Language", WholeNumber, UpTo(LanguageCount - 1), Of<&S::Language>, false, ChangeLanguage},
+    {"TableColor", WholeNumber, Colors, Of<&S::TableColor>, false, nullptr, ByIndex, 0, 48},
+    {"TableTexture", WholeNumber, Positions, Of<&S::TableTexture>, false, nullptr, ByIndex, 0, 4},
+    {"Spotlight", WholeNumber, UpTo(3), Of<&S::Spotlight>},
+    {"SeriesColor", WholeNumber, Colors, Of<&S::SeriesColor>, false, nullptr, ByIndex, 0, 5},
+
+    // Session and automation.
+    {"ClearEventsLogOnNew", Flag, Flags, Of<&S::ClearEventsLogOnNew>},
+    {"AutoStopRolls", WholeNumber, UpTo(MaxRolls), Of<&S::AutoStopRolls>},
+    {"RollDelay", Amount, {0, 300, FineStep}, Of<&S::RollDelay>},
+    {"Throttle", WholeNumber, Positions, Of<&S::Throttle>},
+
+    // Of each place.
+    {"AllowNegBankroll", Flag, Flags, Of<&T::AllowNegBankroll>, true, ChangeAllowNegBankroll},
+    {"BankrollInitType", WholeNumber, UpTo(2), Of<&T::BankrollInitType>, true, ChangeBankrollInitType},
+    {"BankrollInitAmount", Amount, Bankrolls, Of<&T::BankrollInitAmount>, true, SetBankrollInitAmount},
+    {"HandleWinningBets", WholeNumber, UpTo(7), Of<&T::HandleWinningBets>, true},
+    {"HandleLosingBets", WholeNumber, UpTo(7), Of<&T::HandleLosingBets>, true},
+    {"HandleAmount", Amount, Amounts, Of<&T::HandleAmount>, true, nullptr, ByIndex, FirstHandlingSlot, LastHandlingSlot},
+    {"HandleOperator", WholeNumber, UpTo(3), Of<&T::HandleOperator>, true, nullptr, ByIndex, FirstHandlingSlot, LastHandlingSlot},
+    {"HandleUnits", WholeNumber, UpTo(6), Of<&T::HandleUnits>, true, nullptr, ByIndex, FirstHandlingSlot, LastHandlingSlot},
+    {"AutoTakeFullOdds", Flag, Flags, Of<&T::AutoTakeFullOdds>, true, ChangeTakeFullOdds},
+    {"AutoLayFullOdds", Flag, Flags, Of<&T::AutoLayFullOdds>, true, ChangeLayFullOdds},
+    {"AutoDownPlaceBets", Flag, Flags, Of<&T::AutoDownPlaceBets>, true},
+    {"AutoAdjustBetAmounts", Mark, Flags, Of<&T::AutoAdjustBetAmounts>, true},
+    {"DoBias", WholeNumber, UpTo(2), Of<&T::DoBias>, true},
+    {"DontBias", WholeNumber, UpTo(2), Of<&T::DontBias>, true},
+    {"PlaceBias", WholeNumber, UpTo(2), Of<&T::PlaceBias>, true},
+    {"LayBias", WholeNumber, UpTo(2), Of<&T::LayBias>, true},
+    {"DeclinesDice", Flag, Flags, Of<&T::DeclinesDice>, true},
+    {"BetWorkingDefault", Mark, Flags, Of<&T::BetWorkingDefault>, true, nullptr, ByBet, 1, bet::Midway},
+};
+// clang-format on
+
+using Error = std::optional<std::string>;
+
+struct KeyedValue {
+  int key = 0;
+  Money value;
+};
+
+std::string Quoted(std::string_view text) {
+  return std::string(1, '"').append(text) + '"';
+}
+
+bool SameName(std::string_view a, std::string_view b) {
+  return std::ranges::equal(
+      a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+}
+
+std::string_view Trim(std::string_view text) {
+  while (text.starts_with(' '))
+    text.remove_prefix(1);
+  while (text.ends_with(' '))
+    text.remove_suffix(1);
+  return text;
+}
+
+std::string Grouped(Money limit) {
+  return FormatNumber(limit, limit.IsWhole() ? "#,0" : "#,0.####");
+}
+
+// What the field takes, to follow "must be".
+std::string Allowed(const SettingField& field) {
+  const auto [low, high, step] = field.Range;
+  if (field.Kind == Flag || field.Kind == Mark) return "0, 1 or -1";
+  const std::string limits = " from " + Grouped(low) + " to " + Grouped(high);
+  if (field.Kind == Amount) {
+    return "an amount" + limits + " with at most " + (step == CentStep ? "two" : "four") +
+           " decimals";
+  }
+  if (step == Money(1)) return "a whole number" + limits;
+  std::string choices = PlainText(low);
+  for (Money choice = low + step; choice <= high; choice += step)
+    choices += (choice == high ? " or " : ", ") + PlainText(choice);
+  return choices;
+}
+
+// Reads one value; empty when the field does not take it.
+std::optional<Money> ReadValue(const SettingField& field, std::string_view text) {
+  const std::optional<Money> value = ParseMoney(Trim(text));
+  const auto [low, high, step] = field.Range;
+  if (!value || *value < low || *value > high || !IsMultiple(*value - low, step))
+    return std::nullopt;
+  if (field.Kind == Flag) return -Abs(*value);
+  if (field.Kind == Mark) return Abs(*value);
+  return value;
+}
+
+int ReadKey(const SettingField& field, std::string_view text) {
+  int key = -1;
+  const char* end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, key);
+  const bool number = error == std::errc() && rest == end;
+  if (!number) key = field.Shape == ByBet ? BetByName(text) : -1;
+  return key >= field.FirstKey && key <= field.LastKey ? key : -1;
+}
+
+std::string KeyError(const SettingField& field, const std::string& label, std::string_view key) {
+  if (field.Shape == ByBet) return label + " has no bet " + Quoted(key) + ".";
+  return label + " has no entry " + Quoted(key) + "; its entries are " +
+         std::to_string(field.FirstKey) + " to " + std::to_string(field.LastKey) + ".";
+}
+
+std::vector<std::string_view> Split(std::string_view text) {
+  std::vector<std::string_view> parts;
+  for (size_t comma = text.find(','); comma != std::string_view::npos; comma = text.find(',')) {
+    parts.push_back(Trim(text.substr(0, comma)));
+    text.remove_prefix(comma + 1);
+  }
+  parts.push_back(Trim(text));
+  return parts;
+}
+
+// Reads one part of the value, which for keyed fields begins with its key.
+Error ReadPart(const SettingField& field,
+               const std::string& label,
+               std::string_view part,
+               KeyedValue& read) {
+  std::string which = label;
+  if (field.Shape == ByBet || field.Shape == ByIndex) {
+    const size_t colon = part.rfind(':');
+    if (colon == std::string_view::npos) {
+      return label + " takes " + (field.Shape == ByBet ? "BET" : "NUMBER") +
+             ":VALUE, separated by commas, not " + Quoted(part) + ".";
+    }
+    const std::string_view key = Trim(part.substr(0, colon));
+    part.remove_prefix(colon + 1);
+    read.key = ReadKey(field, key);
+    if (read.key < 0) return KeyError(field, label, key);
+    which += " of " + std::string(key);
+  }
+  const std::optional<Money> value = ReadValue(field, part);
+  if (!value) return which + " must be " + Allowed(field) + ", not " + Quoted(part) + ".";
+  read.value = *value;
+  return std::nullopt;
+}
+
+Error ReadAll(const SettingField& field,
+              const std::string& label,
+              std::string_view text,
+              std::vector<KeyedValue>& values) {
+  const auto parts = field.Shape == Single ? std::vector<std::string_view>{text} : Split(text);
+  const auto count = static_cast<size_t>(field.LastKey - field.FirstKey + 1);
+  if (field.Shape == InOrder && parts.size() != count) {
+    return label + " takes " + std::to_string(count) + " values separated by commas, not " +
+           Quoted(text) + ".";
+  }
+  for (const std::string_view part : parts) {
+    KeyedValue read{field.FirstKey + static_cast<int>(values.size()), Money()};
+    if (Error error = ReadPart(field, label, part, read)) return error;
+    values.push_back(read);
+  }
+  return std::nullopt;
+}
+
+void Write(FieldValue where, Money value) {
+  if (Money* const* amount = std::get_if<Money*>(&where))
+    **amount = value;
+  else
+    *std::get<int32_t*>(where) = static_cast<int32_t>(value.Floor());
+}
+
+// The shown refusal as a part of a sentence.
+std::string OneLine(std::string_view text) {
+  std::string line;
+  for (const char c : text) {
+    if (c != '\r')
+      line += c;
+    else if (!line.ends_with(" / "))
+      line += " / ";
+  }
+  return line;
+}
+
+Error Apply(const SettingField& field,
+            const std::string& label,
+            int place,
+            const std::vector<KeyedValue>& values) {
+  if (field.Change != nullptr) {
+    if (field.Change(place, values.front().value)) return std::nullopt;
+    return label + " was not changed: " + OneLine(Message.MsgText);
+  }
+  for (const auto& [key, value] : values)
+    Write(field.Reach(place, key), value);
+  return std::nullopt;
+}
+
+Error TestPlace(const SettingField& field, std::optional<int> place) {
+  if (!place) return std::nullopt;
+  const std::string name(field.Name);
+  if (!field.PerPlace) return name + " is a setting of the whole table and takes no place.";
+  if (*place < 1 || *place > LastPlace)
+    return "The place of " + name + " must be from 1 to 8, not " + std::to_string(*place) + ".";
+  if (!IsTaken(Table, *place))
+    return name + " cannot be set for place " + std::to_string(*place) + ", where nobody plays.";
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::span<const SettingField> SettingFields() {
+  return Fields;
+}
+
+std::optional<std::string> SetField(std::string_view name,
+                                    std::optional<int> place,
+                                    std::string_view value) {
+  const auto* field = std::ranges::find_if(
+      Fields, [name](const SettingField& row) { return SameName(row.Name, name); });
+  if (field == std::end(Fields)) return "There is no setting named " + Quoted(name) + ".";
+  if (Error error = TestPlace(*field, place)) return error;
+
+  std::string label(field->Name);
+  if (place) label.append("@").append(std::to_string(*place));
+  std::vector<KeyedValue> values;
+  if (Error error = ReadAll(*field, label, value, values)) return error;
+
+  if (!field->PerPlace || place) return Apply(*field, label, place.value_or(0), values);
+  Error error;
+  ForEachPlayer([&](int player) {
+    if (!error) error = Apply(*field, label, player, values);
+  });
+  return error;
+}
+
+}  // namespace tessarel
