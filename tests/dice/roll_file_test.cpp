@@ -133,7 +133,7 @@ TEST_F(RollFiles, InvalidRollStopsAndSwitchesOff) {
       EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
       EXPECT_EQ(RollFile.NextRoll, 2);
       EXPECT_EQ(Table.StopReason, InvalidReason);
-          EXPECT_EQ(MessagesShown, hyper == 0 ? 1 : 0);
+      EXPECT_EQ(MessagesShown, hyper == 0 ? 1 : 0);
     }
   }
   EXPECT_EQ(Message.MsgTitle, "Dice Roll File Error");

@@ -188,7 +188,7 @@ std::string ResultJson(const RunFacts& facts) {
                        {"players", players},
                        {"roll_counts", At(Stats.RollCount, CurrentSession)},
                        {"hand_figures", HandFiguresJson()}};
-  return result.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+  return result.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 std::string ResultSummary(const RunFacts& facts) {
