@@ -1,12 +1,12 @@
 #include "config/payoff_editor.h"
 
 #include <algorithm>
-#include <cctype>
 #include <span>
 
 #include "base/fault.h"
 #include "base/front_end.h"
 #include "base/message.h"
+#include "config/same_name.h"
 #include "config/settings.h"
 #include "engine/bet_limits.h"
 #include "engine/table.h"
@@ -238,11 +238,6 @@ std::optional<PayoffRefusal> TestMaxFireBet() {
   if (Settings.UseFireBet == 0 || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
     return std::nullopt;
   return PayoffRefusal{"The max Fire bet cannot be less than the minimum prop bet.", std::nullopt};
-}
-
-bool SameName(std::string_view a, std::string_view b) {
-  return std::ranges::equal(
-      a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
 std::optional<PayoffCell> CellByName(std::string_view name) {

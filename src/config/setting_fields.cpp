@@ -1,7 +1,6 @@
 #include "config/setting_fields.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <type_traits>
 #include <utility>
@@ -11,6 +10,7 @@
 #include "base/number_format.h"
 #include "config/configuration.h"
 #include "config/language.h"
+#include "config/same_name.h"
 #include "config/settings.h"
 #include "engine/bets.h"
 #include "engine/table.h"
@@ -207,11 +207,6 @@ struct KeyedValue {
 
 std::string Quoted(std::string_view text) {
   return std::string(1, '"').append(text) + '"';
-}
-
-bool SameName(std::string_view a, std::string_view b) {
-  return std::ranges::equal(
-      a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
 std::string_view Trim(std::string_view text) {
