@@ -64,8 +64,18 @@ class Money {
   friend constexpr Money operator-(Money a, Money b) { return a -= b; }
   // The exact product, returned to four decimals half to even.
   friend constexpr Money operator*(Money a, Money b) {
+    int64_t product = 0;
+    if (!__builtin_mul_overflow(a.raw_, b.raw_, &product)) return FromProduct(product);
     __extension__ using Wide = __int128;
-    const Wide product = static_cast<Wide>(a.raw_) * b.raw_;
+    return FromProduct(static_cast<Wide>(a.raw_) * b.raw_);
+  }
+  friend constexpr bool operator==(Money, Money) = default;
+  friend constexpr auto operator<=>(Money, Money) = default;
+
+ private:
+  // A product of two scaled amounts, in an integer wide enough for it.
+  template <class Wide>
+  static constexpr Money FromProduct(Wide product) {
     Wide quotient = product / Scale;
     const auto rest = static_cast<int64_t>(product % Scale);
     const int64_t size = rest < 0 ? -rest : rest;
@@ -75,10 +85,7 @@ class Money {
     if (quotient > INT64_MAX || quotient < INT64_MIN) RaiseOverflow();
     return FromRaw(static_cast<int64_t>(quotient));
   }
-  friend constexpr bool operator==(Money, Money) = default;
-  friend constexpr auto operator<=>(Money, Money) = default;
 
- private:
   int64_t raw_ = 0;
 };
 

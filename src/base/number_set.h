@@ -17,6 +17,13 @@ class NumberSet {
   constexpr void Clear() { words_ = {}; }
   constexpr bool Empty() const { return (words_[0] | words_[1] | words_[2] | words_[3]) == 0; }
 
+  constexpr bool Intersects(const NumberSet& other) const {
+    uint64_t common = 0;
+    for (size_t k = 0; k < words_.size(); ++k)
+      common |= words_[k] & other.words_[k];
+    return common != 0;
+  }
+
   constexpr NumberSet& operator|=(const NumberSet& other) {
     for (size_t k = 0; k < words_.size(); ++k)
       words_[k] |= other.words_[k];

@@ -334,25 +334,46 @@ constexpr HopBet Hops[] = {
 };
 // clang-format on
 
-// Where the lines of each total begin in a table that is ordered by total.
-template <size_t Count>
-constexpr std::array<uint8_t, 14> IndexByTotal(const Line (&lines)[Count]) {
-  std::array<uint8_t, 14> begin{};
-  for (size_t total = 0, k = 0; total < begin.size(); ++total) {
-    while (k < Count && lines[k].total < total)
-      ++k;
-    begin[total] = static_cast<uint8_t>(k);
-  }
-  return begin;
-}
-
 constexpr bool ByTotal(const Line& a, const Line& b) {
   return a.total < b.total;
 }
 static_assert(std::is_sorted(std::begin(Losers), std::end(Losers), ByTotal));
 static_assert(std::is_sorted(std::begin(Winners), std::end(Winners), ByTotal));
-constexpr auto LosersBegin = IndexByTotal(Losers);
-constexpr auto WinnersBegin = IndexByTotal(Winners);
+
+// The lines of one total, and the bets they touch: where nobody has one, nothing is looked at.
+struct LinesOfTotal {
+  const Line* begin = nullptr;
+  const Line* end = nullptr;
+  NumberSet bets;
+};
+
+constexpr std::array<LinesOfTotal, 13> ByTotals(const Line* begin, const Line* end) {
+  std::array<LinesOfTotal, 13> index{};
+  for (const Line* line = begin; line != end; ++line) {
+    LinesOfTotal& lines = index[line->total];
+    if (lines.begin == nullptr) lines.begin = line;
+    lines.end = line + 1;
+    for (int number = line->first; number <= line->last; ++number) {
+      lines.bets.Add(number);
+      if (line->odds != 0) lines.bets.Add(line->odds + number - line->first);
+    }
+  }
+  return index;
+}
+constexpr auto LosersOfTotal = ByTotals(std::begin(Losers), std::end(Losers));
+constexpr auto WinnersOfTotal = ByTotals(std::begin(Winners), std::end(Winners));
+
+// The bets that one roll decides, whatever it is.
+constexpr NumberSet DecidedEachRoll = [] {
+  NumberSet bets;
+  for (const int number : {bet::Field, bet::Over7, bet::Under7})
+    bets.Add(number);
+  for (const OneRollBet& each : OneRollBets)
+    bets.Add(each.number);
+  for (const HopBet& hop : Hops)
+    bets.Add(hop.number);
+  return bets;
+}();
 
 // Calls decide(visit) for each visit whose place has one of the two bets, in the order of visits.
 template <class Decide>
@@ -364,6 +385,7 @@ void ForEachHolder(int number, int odds, Decide&& decide) {
 }
 
 void Decide(int number, int result) {
+  if (!AnyHolds(number)) return;
   ForEachHolder(number, 0, [&](int visit) { ResolveBet(visit, result, number); });
 }
 
@@ -375,15 +397,19 @@ void DecideWithOdds(int number, int odds, int result) {
   });
 }
 
-void RunLines(const Line* lines, const std::array<uint8_t, 14>& begin, int result) {
-  const auto total = static_cast<size_t>(Table.DiceTotal);
-  for (size_t k = begin[total]; k < begin[total + 1]; ++k) {
-    const Line& line = lines[k];
-    if (!Applies(line.when)) continue;
-    for (int number = line.first; number <= line.last; ++number) {
-      DecideWithOdds(number, line.odds == 0 ? 0 : line.odds + number - line.first, result);
-    }
+void RunLine(const Line& line, int result) {
+  for (int number = line.first; number <= line.last; ++number) {
+    const int odds = line.odds == 0 ? 0 : line.odds + number - line.first;
+    const bool held = AnyHolds(number) || (odds != 0 && AnyHolds(odds));
+    if (held && Applies(line.when)) DecideWithOdds(number, odds, result);
   }
+}
+
+void RunLines(const std::array<LinesOfTotal, 13>& index, int result) {
+  const LinesOfTotal& lines = At(index, Table.DiceTotal);
+  if (!Table.Held.Intersects(lines.bets)) return;
+  for (const Line* line = lines.begin; line != lines.end; ++line)
+    RunLine(*line, result);
 }
 
 void LosersOfPointMade() {
@@ -391,7 +417,7 @@ void LosersOfPointMade() {
 }
 
 void LosersByTotal() {
-  RunLines(Losers, LosersBegin, Lose);
+  RunLines(LosersOfTotal, Lose);
   if (Table.DiceTotal != 7 || Settings.UseSpecialPropBets == 0) return;
   Table.MarkedNumbers = 0;
   for (const int number : {bet::AllSmall, bet::AllTall, bet::MakeAll, bet::FourRollsNo7}) {
@@ -418,15 +444,21 @@ void LosersOfPoint7() {
   }
 }
 
-void LosersOfOneRoll() {
-  Decide(bet::Field, Win);
-  for (const OneRollBet& each : OneRollBets) {
-    if ((each.losingTotals >> Table.DiceTotal & 1) != 0) Decide(each.number, Lose);
-  }
-  OverAndUnder();
+void HopsThatLose() {
   const auto [low, high] = std::minmax(Table.Die1, Table.Die2);
   for (const HopBet& hop : Hops) {
-    if (hop.low != low || hop.high != high) Decide(hop.number, Lose);
+    if (AnyHolds(hop.number) && (hop.low != low || hop.high != high)) Decide(hop.number, Lose);
+  }
+}
+
+void LosersOfOneRoll() {
+  if (Table.Held.Intersects(DecidedEachRoll)) {
+    Decide(bet::Field, Win);
+    for (const OneRollBet& each : OneRollBets) {
+      if ((each.losingTotals >> Table.DiceTotal & 1) != 0) Decide(each.number, Lose);
+    }
+    OverAndUnder();
+    HopsThatLose();
   }
   LosersOfPoint7();
 }
@@ -471,7 +503,7 @@ void BoxesTravel() {
 }
 
 void WinnersByTotal() {
-  RunLines(Winners, WinnersBegin, Win);
+  RunLines(WinnersOfTotal, Win);
   CountLinePass();
   if (Table.DiceTotal == 7) WinnersOfSeven();
   BoxesTravel();

@@ -20,6 +20,7 @@ void SetBetAmount(int place, int number, Money amount) {
   const auto visitBit = static_cast<uint8_t>(1u << (At(VisitOfPlace, place) - 1));
   uint8_t& holders = At(Table.Holders, number);
   holders = static_cast<uint8_t>(stands ? holders | visitBit : holders & ~visitBit);
+  Table.Held.Set(number, holders != 0);
 }
 
 void SetPlayerName(int place, std::string name) {
@@ -31,6 +32,7 @@ void SetPlayerName(int place, std::string name) {
 
 void RebuildDerived() {
   Table.Holders = {};
+  Table.Held.Clear();
   Table.TakenPlaces = 0;
   for (int place = 1; place <= LastPlace; ++place) {
     if (!At(Table.PlayerName, place).empty()) Table.TakenPlaces |= 1u << place;
@@ -39,6 +41,7 @@ void RebuildDerived() {
       MarkChanged(place, number);
       if (number > LastBet || Bet(place, number) <= Money()) continue;
       At(Table.Standing, place).Add(number);
+      Table.Held.Add(number);
       At(Table.Holders, number) |= static_cast<uint8_t>(1u << (At(VisitOfPlace, place) - 1));
     }
   }
@@ -88,6 +91,9 @@ std::string CheckPlace(int place) {
 
 std::string CheckTable() {
   if (Table.PlayerCount != std::popcount(Table.TakenPlaces)) return "player count";
+  for (int number = 1; number <= LastBet; ++number) {
+    if (AnyHolds(number) != (At(Table.Holders, number) != 0)) return "held bets and their holders";
+  }
   for (int place = 1; place <= LastPlace; ++place) {
     std::string fault = CheckPlace(place);
     if (!fault.empty()) return fault;

@@ -119,6 +119,7 @@ struct TableState {
   // Derived from the values above by the routines below.
   PerPlace<NumberSet> Standing;        // the bets 1 to 93 above zero
   PerBet<uint8_t> Holders{};           // per bet, bit v - 1: the place of visit v has it
+  NumberSet Held;                      // the bets that anybody has
   uint32_t TakenPlaces = 0;            // bit p: place p has a player
   PerPlace<NumberSet> ChangedForRoll;  // changed since the snapshot before the last roll
   PerPlace<NumberSet> ChangedAfter;    // changed since the snapshot after the last roll

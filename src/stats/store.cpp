@@ -101,14 +101,25 @@ void ForEachCreditedSlot(Visit&& visit) {
   }
 }
 
-void CountGaps(const RollCodeList& codes) {
+void CountGap(uint8_t code, int32_t roll) {
+  int32_t& last = Stats.LastCame[code];
+  if (last != 0) ++Stats.GapCount[code][static_cast<size_t>(std::min(roll - last - 1, LongestGap))];
+  last = roll;
+}
+
+// Counts a roll and its codes in the counted scopes of the given places, and the gaps.
+template <size_t Places>
+void CountCodes(const std::array<size_t, Places>& places, const RollCodeList& codes) {
+  std::array<int32_t*, 3 * Places> rows;
+  for (size_t k = 0; k < rows.size(); ++k) {
+    rows[k] = Stats.RollCount[static_cast<size_t>(CountedScopes[k % 3]) + places[k / 3]].data();
+    ++rows[k][0];
+  }
   const int32_t roll = RollsInSession();
-  for (const uint8_t code : codes) {
-    if (code == 0) break;
-    int32_t& last = Stats.LastCame[code];
-    if (last != 0)
-      ++Stats.GapCount[code][static_cast<size_t>(std::min(roll - last - 1, LongestGap))];
-    last = roll;
+  for (size_t k = 0; codes[k] != 0; ++k) {
+    for (int32_t* row : rows)
+      ++row[codes[k]];
+    CountGap(codes[k], roll);
   }
 }
 
@@ -201,20 +212,16 @@ const RollCodeList& CodesOfRoll(int die1, int die2) {
 
 void RecordRoll(int die1, int die2) {
   const RollCodeList& codes = CodesOfRoll(die1, die2);
-  ForEachCreditedSlot([&](size_t slot) {
-    auto& counts = Stats.RollCount[slot];
-    ++counts[0];
-    for (const uint8_t code : codes) {
-      if (code == 0) break;
-      ++counts[code];
-    }
-  });
+  if (Table.LastShooter != 0) {
+    CountCodes<2>({0, static_cast<size_t>(Table.LastShooter)}, codes);
+  } else {
+    CountCodes<1>({0}, codes);
+  }
   for (const Scope scope : CountedScopes) {
     ++At(Stats.Hands, scope).RollTotal;
     ForEachPlayer([scope](int place) { ++At(Stats.Hands, scope + place).RollTotal; });
   }
   RaiseAll(&HandFigures::MostRolls, RollsInHand());
-  CountGaps(codes);
 }
 
 void RecordComeoutRoll() {
