@@ -1,5 +1,7 @@
 #include "app/session.h"
 
+#include <algorithm>
+
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
@@ -79,13 +81,13 @@ void ClearLayout(bool keepStacks) {
     if (!keepStacks) ClearStacks(place);
     At(Table.BetWorking, place) = At(Table.BetWorkingBefore, place) =
         At(Table.BetWorkingDefault, place);
-    At(Table.ChangedAfter, place).Clear();
   }
 }
 
 // Asks for a beginning bankroll until the answer is one; a Cancel leaves the amount offered.
 Money AskBankroll(int place) {
-  const Money offered = At(Table.BankrollInitAmount, place);
+  const Money offered =
+      std::clamp(At(Table.BankrollInitAmount, place), -BankrollLimit, BankrollLimit);
   const std::string question = "Enter " + At(Table.PlayerName, place) + "'s beginning bankroll:";
   std::string text = question;
   while (AskForText(text, "Beginning Bankroll", PlainText(offered))) {
