@@ -1,6 +1,7 @@
 #include "app/session.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/front_end.h"
 #include "base/message.h"
@@ -26,9 +27,15 @@ namespace tessarel {
 
 namespace {
 
+// A step that meets the disk: when it fails that is reported, and the session starts all the same.
+template <class Step>
+void Attempt(Step&& step) {
+  Trapped("NewSession", std::forward<Step>(step));
+}
+
 void LoseAbandoned(int number) {
   for (int visit = 1; visit <= LastPlace; ++visit)
-    ResolveBet(visit, Lose, number);
+    Attempt([=] { ResolveBet(visit, Lose, number); });
 }
 
 // The bets that cannot be taken back are lost with the session.
@@ -132,13 +139,13 @@ void StartNewSession(const SessionOptions& options) {
   ForEachPlayer([&](int place) { StartBankroll(place, options.keepSessions != 0); });
   Table.GraphIndex = 0;
   Table.StopReason.clear();
-  if (Settings.ClearEventsLogOnNew != 0) ClearEventsLog();
+  if (Settings.ClearEventsLogOnNew != 0) Attempt(ClearEventsLog);
   Table.LastShooter = Table.Shooter;
   Table.Point = Table.LastPoint = Table.PointBeforeLast = Table.LastDecidedPoint = 0;
-  ApplyRollFileAction(options.rollFileAction);
-  LogNewSession();
-  if (Dice.ReseedEachSession != 0) SeedRNG(0);
-  LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : "");
+  Attempt([&] { ApplyRollFileAction(options.rollFileAction); });
+  Attempt(LogNewSession);
+  if (Dice.ReseedEachSession != 0) Attempt([] { SeedRNG(0); });
+  Attempt([] { LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : ""); });
   Table.BankrollStopPlace = 0;
   FrontEnd.RefreshViews();
   if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();

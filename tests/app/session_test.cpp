@@ -333,6 +333,19 @@ TEST_F(Session, LogTellsHowTheSessionBegan) {
   EXPECT_EQ(LogText(), opening.substr(0, seedLine) + shooter);
 }
 
+TEST_F(Session, StartsAlthoughItsLogCannotBeWritten) {
+  PlayToPoint();
+  EventsLog.LogOn = -1;
+  EventsLog.EventLogName = Folder.Path() + "missing/log.txt";
+  Table.BankrollStopPlace = 3;
+  Table.BankrollInitType[3] = 2;
+  NewSession({});
+  EXPECT_FALSE(Shown.empty());
+  EXPECT_EQ(Table.BankrollStopPlace, 0);
+  EXPECT_EQ(BankrollOf(3), Money(90));
+  EXPECT_EQ(Table.MoneyOnTable[3], Money());
+}
+
 TEST_F(Session, LogOfAnEmptyTableNamesNobody) {
   EventsLog.LogOn = -1;
   NewSession({});
