@@ -1,5 +1,8 @@
 #include "app/session.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
@@ -24,9 +27,15 @@ namespace tessarel {
 
 namespace {
 
+// A step that meets the disk: when it fails that is reported, and the session starts all the same.
+template <class Step>
+void Attempt(Step&& step) {
+  Trapped("NewSession", std::forward<Step>(step));
+}
+
 void LoseAbandoned(int number) {
   for (int visit = 1; visit <= LastPlace; ++visit)
-    ResolveBet(visit, Lose, number);
+    Attempt([=] { ResolveBet(visit, Lose, number); });
 }
 
 // The bets that cannot be taken back are lost with the session.
@@ -79,13 +88,13 @@ void ClearLayout(bool keepStacks) {
     if (!keepStacks) ClearStacks(place);
     At(Table.BetWorking, place) = At(Table.BetWorkingBefore, place) =
         At(Table.BetWorkingDefault, place);
-    At(Table.ChangedAfter, place).Clear();
   }
 }
 
 // Asks for a beginning bankroll until the answer is one; a Cancel leaves the amount offered.
 Money AskBankroll(int place) {
-  const Money offered = At(Table.BankrollInitAmount, place);
+  const Money offered =
+      std::clamp(At(Table.BankrollInitAmount, place), -BankrollLimit, BankrollLimit);
   const std::string question = "Enter " + At(Table.PlayerName, place) + "'s beginning bankroll:";
   std::string text = question;
   while (AskForText(text, "Beginning Bankroll", PlainText(offered))) {
@@ -130,13 +139,13 @@ void StartNewSession(const SessionOptions& options) {
   ForEachPlayer([&](int place) { StartBankroll(place, options.keepSessions != 0); });
   Table.GraphIndex = 0;
   Table.StopReason.clear();
-  if (Settings.ClearEventsLogOnNew != 0) ClearEventsLog();
+  if (Settings.ClearEventsLogOnNew != 0) Attempt(ClearEventsLog);
   Table.LastShooter = Table.Shooter;
   Table.Point = Table.LastPoint = Table.PointBeforeLast = Table.LastDecidedPoint = 0;
-  ApplyRollFileAction(options.rollFileAction);
-  LogNewSession();
-  if (Dice.ReseedEachSession != 0) SeedRNG(0);
-  LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : "");
+  Attempt([&] { ApplyRollFileAction(options.rollFileAction); });
+  Attempt(LogNewSession);
+  if (Dice.ReseedEachSession != 0) Attempt([] { SeedRNG(0); });
+  Attempt([] { LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : ""); });
   Table.BankrollStopPlace = 0;
   FrontEnd.RefreshViews();
   if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();

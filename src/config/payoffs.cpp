@@ -1,5 +1,6 @@
 #include "config/payoffs.h"
 
+#include <numeric>
 #include <span>
 
 #include "config/settings.h"
@@ -44,22 +45,14 @@ constexpr Ratio RideTheLineOdds[] = {{-1, 1}, {-1, 1}, {-1, 1}, {1, 1}, {2, 1}, 
 constexpr Ratio FireOdds[] = {{-1, 1}, {-1, 1}, {-1, 1}, {-1, 1}, {24, 1}, {249, 1}, {999, 1}};
 // clang-format on
 
-bool PaysWholeChecks(Money unit, const PayoffRow& row, Money check) {
-  // unit x PayNum / (PayDen x check) on the scaled integers; the scales cancel.
-  __extension__ using Wide = __int128;
-  const Wide num = static_cast<Wide>(unit.Raw()) * row.PayNum.Raw();
-  const Wide den = static_cast<Wide>(row.PayDen.Raw()) * check.Raw();
-  return den != 0 && num % den == 0;
-}
-
+// n checks win n x PayNum / PayDen checks: whole for the multiples of the ratio's denominator in
+// its lowest terms.
 Money UnitOf(const PayoffRow& row, Money check) {
-  constexpr int MaxSteps = 1'000'000;
-  Money unit;
-  for (int step = 0; step < MaxSteps; ++step) {
-    unit += check;
-    if (PaysWholeChecks(unit, row, check)) return unit;
-  }
-  return Money();
+  constexpr int64_t MostChecks = 1'000'000;
+  const int64_t den = row.PayDen.Raw();
+  if (den <= 0) return Money();
+  const int64_t checks = den / std::gcd(row.PayNum.Raw(), den);
+  return checks <= MostChecks ? check * Money::FromWhole(checks) : Money();
 }
 
 }  // namespace

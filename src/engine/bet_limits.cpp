@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "config/settings.h"
 #include "engine/table.h"
@@ -10,15 +11,45 @@ namespace tessarel {
 
 namespace {
 
-// How far a search by single checks goes.
-constexpr int MaxSearchSteps = 1'000'000;
+__extension__ using Wide = __int128;
 
-// Whether `stake` at num to den wins a whole number of checks of `value`.
-bool WinsWhole(Money stake, Money num, Money den, Money value) {
-  __extension__ using Wide = __int128;
+constexpr Wide Gcd(Wide a, Wide b) {
+  while (b != 0)
+    a = std::exchange(b, a % b);
+  return a < 0 ? -a : a;
+}
+
+// The x in 0 to m - 1 for which a times x leaves 1 over m. `a` and `m` have no common divisor.
+constexpr Wide Inverse(Wide a, Wide m) {
+  Wide rest = m, next = a % m;
+  Wide x = 0, nextX = 1;
+  while (next != 0) {
+    const Wide times = rest / next;
+    rest = std::exchange(next, rest - times * next);
+    x = std::exchange(nextX, x - times * nextX);
+  }
+  return (x % m + m) % m;
+}
+static_assert(Inverse(3, 7) == 5 && Inverse(4, 1) == 0);
+
+// The lowest stake from `start` on, by whole smallest checks, that wins a whole number of checks of
+// `value` at num to den and is below `ceiling`; `start` when there is none. Such stakes are the
+// multiples of one amount, of which a linear congruence picks those that the checks reach.
+Money StakeWinningWhole(Money start, Money ceiling, Money num, Money den, Money value) {
   const Wide unit = static_cast<Wide>(den.Raw()) * value.Raw();
-  if (unit == 0) RaiseDivisionByZero();
-  return static_cast<Wide>(stake.Raw()) * num.Raw() % unit == 0;
+  if (unit <= 0) RaiseDivisionByZero();
+  if (static_cast<Wide>(start.Raw()) * num.Raw() % unit == 0) return start;
+  const Wide multiple = unit / Gcd(unit, num.Raw());
+  const Wide first = (start.Raw() + multiple - 1) / multiple * multiple;
+  const Wide gap = first - start.Raw();
+  const Wide check = SmallestCheck().Raw();
+  const Wide common = Gcd(multiple, check);
+  if (first >= ceiling.Raw() || gap % common != 0) return start;
+  const Wide period = check / common;
+  const Wide steps = (period - gap / common % period) * Inverse(multiple / common, period) % period;
+  if (steps > (ceiling.Raw() - first) / multiple) return start;
+  const Money stake = Money::FromRaw(static_cast<int64_t>(first + steps * multiple));
+  return stake < ceiling ? stake : start;
 }
 
 // An odds limit never reaches the next multiple of the flat bet.
@@ -36,23 +67,13 @@ Money MinorPush(Money factor, Money flat, Money den) {
   return limit == Money() ? full : limit;
 }
 
-// "X Flat w/ Color Push": up, a smallest check at a time, to where the win is whole in a check that
-// the flat bet holds.
+// "X Flat w/ Color Push": up to where the win is whole in a check that the flat bet holds.
 Money ColorPush(Money factor, Money flat, Money num, Money den) {
   const Money ceiling = OneMultipleMore(factor, flat);
-  const Money start = factor * flat;
-  Money limit = start;
+  Money limit = factor * flat;
   for (size_t check = 5; check >= 2; --check) {
     const Money value = Settings.Denomination[check];
-    if (flat < value) continue;
-    Money candidate = limit;
-    for (int step = 0; step < MaxSearchSteps && candidate < ceiling; ++step) {
-      if (WinsWhole(candidate, num, den, value)) {
-        limit = candidate;
-        break;
-      }
-      candidate += SmallestCheck();
-    }
+    if (flat >= value) limit = StakeWinningWhole(limit, ceiling, num, den, value);
   }
   return limit;
 }

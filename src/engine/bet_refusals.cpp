@@ -12,10 +12,16 @@ namespace tessarel {
 
 namespace {
 
-// A refused increase still fills up what was taken off since the last roll.
-Verdict Refused(int place, int number, RefusalKind refusal) {
-  const Money contract = At(At(Table.BetContract, place), number);
-  return {std::max(contract - Bet(place, number), Money()), refusal};
+// A refused increase still fills up what was taken off since the last roll, but for odds that have
+// lost the bet under them.
+Verdict Refused(int place, int number, Money delta, RefusalKind refusal) {
+  using enum RefusalKind;
+  if (refusal == OddsWithoutPassLine || refusal == OddsWithoutDontPass ||
+      refusal == OddsWithoutFlat) {
+    return {Money(), refusal};
+  }
+  const Money missing = At(At(Table.BetContract, place), number) - Bet(place, number);
+  return {std::clamp(missing, Money(), delta), refusal};
 }
 
 Verdict JudgeDecrease(int place, int number, Money delta) {
@@ -93,7 +99,7 @@ Verdict JudgeIncrease(int place, int number, Money delta) {
     return {contract - amount, RefusalKind::DecreaseCome};
   }
   const RefusalKind refusal = IncreaseRefusal(place, number, amount + delta);
-  return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, refusal);
+  return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, delta, refusal);
 }
 
 std::string PutNote() {

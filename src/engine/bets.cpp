@@ -40,9 +40,11 @@ class Change {
   void Run() {
     RoundToChecks();
     delta_ = std::max(delta_, -Amount());
-    refused_ = !ApplyRefusals();
-    if (!refused_) {
-      const bool asked = delta_ != Money();
+    const bool refused = ApplyRefusals();
+    ended_ = refused && delta_ == Money();
+    if (!ended_) {
+      // What a refusal leaves fills up to the contract: it is neither raised nor rounded.
+      const bool asked = !refused && delta_ != Money();
       if (asked) ApplyMinimum();
       ApplyMaximum();
       if (asked && Total() > Money()) Adjust();
@@ -70,15 +72,15 @@ class Change {
                               : CeilingToMultiple(delta_, SmallestCheck());
   }
 
-  // Returns whether anything is left to look at.
+  // Returns whether there was one.
   bool ApplyRefusals() {
     const Verdict verdict = JudgeChange(place_, number_, delta_);
     delta_ = verdict.delta;
-    if (verdict.refusal == RefusalKind::None) return true;
+    if (verdict.refusal == RefusalKind::None) return false;
     Say(NoticeActionsNotAllowed, [&] {
       return At(Table.PlayerName, place_) + ",\r\r" + RefusalText(verdict.refusal, number_);
     });
-    return delta_ != Money();
+    return true;
   }
 
   void ApplyMinimum() {
@@ -182,7 +184,7 @@ class Change {
 
   void Tell() {
     if (text_.empty()) return;
-    if (!Quiet(ShowAlreadyBet) && !unable_ && !refused_) {
+    if (!Quiet(ShowAlreadyBet) && !unable_ && !ended_) {
       text_ += "\r\r$" + FormatMoney(Total()) +
                (delta_ == Money() ? " which is already bet." : " which is being bet.");
     }
@@ -193,8 +195,8 @@ class Change {
   Money delta_;
   std::string text_;
   int32_t hide_ = 0;
-  bool refused_ = false;  // to nothing
-  bool unable_ = false;   // to adjust: no word on what is bet
+  bool ended_ = false;   // refused to nothing: no word on what is bet
+  bool unable_ = false;  // to adjust: the same
 };
 
 void TellVig(int number, Money vig, Money change, bool upFront) {
@@ -203,8 +205,8 @@ void TellVig(int number, Money vig, Money change, bool upFront) {
   if (vig == Money()) {
     text = "Vig charge returned $" + FormatMoney(-change);
   } else {
-    text = upFront ? "Total vig charge $" + FormatMoney(vig) + " (up front)"
-                   : "If you win, the vig charge will be $" + FormatMoney(vig);
+    text = upFront ? "Total vig charge $" : "If you win, the vig charge will be $";
+    text += FormatMoney(vig);
     text += change > Money() ? "\rVig increased by $" : "\rVig decreased by $";
     text += FormatMoney(Abs(change));
   }
@@ -256,6 +258,11 @@ void ChangeStack(int place, int number) {
             (delta == Money() ? " which is already stacked." : " which is being stacked.");
   }
   ShowMessage(std::move(text), BetTitle(number), msg::OkAlert | msg::HideNotice2);
+}
+
+// Changes within a roll are shown when it ends.
+void RefreshViews() {
+  if (Table.HyperDriveOn == 0 && Table.RollInProgress == 0) FrontEnd.RefreshViews();
 }
 
 // The place whose Lay bets share the spot of this one's.
@@ -318,12 +325,13 @@ SilentBets::~SilentBets() {
 void ChangeBet(int place, int number) {
   if (IsStack(number)) {
     ChangeStack(place, number);
-    return;
+  } else {
+    Change(place, number).Run();
+    if (Table.BetDelta != Money()) {
+      StandAt(place, number, Bet(place, number) + Table.BetDelta, false);
+    }
   }
-  Change(place, number).Run();
-  if (Table.BetDelta != Money()) {
-    StandAt(place, number, Bet(place, number) + Table.BetDelta, false);
-  }
+  if (Table.BetDelta != Money()) RefreshViews();
 }
 
 void PlaceBet(int place, int number, int x, int y) {

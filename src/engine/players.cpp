@@ -104,6 +104,7 @@ void TellOfPassedHand(PassReason reason, int from, int to) {
                           : NameOf(from) + " is passing the dice to " + NameOf(to) +
                                 " who may finish the current hand and then roll his/her own "
                                 "hand.");
+  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
 }
 
 }  // namespace
@@ -171,7 +172,8 @@ void BankrollLimitStop(int place) {
         "Sorry ... " + NameOf(place) + " has exceeded the negative bankroll limit of -$" + rest, "",
         msg::OkAlert);
   } else {
-    if (Table.BankrollStopPlace == 0) FrontEnd.PlaySound(Sound::LimitBroken);
+    const bool first = Table.BankrollStopPlace == 0;
+    if (first && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::LimitBroken);
     ShowMessage(
         "Congratulations!\r\r" + NameOf(place) + " broke the max bankroll limit of $" + rest, "",
         msg::Ok);

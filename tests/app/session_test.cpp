@@ -1,0 +1,357 @@
+#include "app/session.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <fstream>
+#include <sstream>
+
+#include "base/clock.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/temporary_folder.h"
+#include "config/folders.h"
+#include "config/payoffs.h"
+#include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
+#include "engine/bets.h"
+#include "engine/players.h"
+#include "engine/roll_driver.h"
+#include "engine/table.h"
+#include "files/events_log.h"
+#include "stats/store.h"
+
+namespace tessarel {
+namespace {
+
+using namespace bet;
+
+// A program just started in a folder of its own, whose questions are answered from a list. An
+// answer of "-" cancels.
+class Session : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    Shown.clear();
+    Answers.clear();
+    FrontEnd = {};
+    FrontEnd.ShowMessage = [] {
+      const bool asks = (Message.MsgFlags & msg::Input) != 0;
+      Shown.push_back(Message.MsgTitle + ": " + Message.MsgText +
+                      (asks ? " [" + Message.MsgInput + "]" : ""));
+      if (Answers.empty()) return;
+      if (Answers.front() == "-") Message.MsgResult = AnswerCancel;
+      Message.MsgInput = Answers.front();
+      Answers.pop_front();
+    };
+    HoldClock({.year = 2026, .month = 11, .day = 22, .hour = 19, .minute = 4, .second = 5}, 1);
+    StartUp(Folder.Path());
+  }
+  void TearDown() override {
+    EXPECT_EQ(CheckTable(), "");
+    StartUp(Folder.Path());
+    ShutDown();
+    FrontEnd = {};
+    Folders = {};
+    ReleaseClock();
+  }
+
+  static void Roll2(int die1, int die2) {
+    Roll.ManualRollPending = -1;
+    Roll.ManualDie1 = die1;
+    Roll.ManualDie2 = die2;
+    MakeRoll();
+  }
+  static void Stake(int place, int number, Money amount) {
+    Table.Amount = amount;
+    ChangeBet(place, number);
+  }
+  // Ann has 5 on the line and 5 on Come 8, and the point is 6.
+  static void PlayToPoint() {
+    SeatPlayer(3, "Ann", 100);
+    Stake(3, PassLine, 5);
+    Roll2(3, 3);
+    Stake(3, Come, 5);
+    Roll2(4, 4);
+  }
+  std::string LogText() const {
+    std::ifstream file(DefaultEventLogName(), std::ios::binary);
+    std::stringstream text;
+    text << file.rdbuf();
+    return text.str();
+  }
+
+  TemporaryFolder Folder;
+  inline static std::vector<std::string> Shown;
+  inline static std::deque<std::string> Answers;
+};
+
+TEST_F(Session, StartsWithAnEmptyTableUnderTheHouseRules) {
+  EXPECT_EQ(Folders.AppFolder, Folder.Path());
+  EXPECT_EQ(Folders.BetFolder, Folder.Path());
+  EXPECT_EQ(Table.PlayerName[0], "House");
+  EXPECT_EQ(Table.PlayerCount, 0);
+  EXPECT_EQ(Table.Shooter, 0);
+  EXPECT_EQ(Payoffs.Payoff[Place6].PayUnit, Money(6));
+  EXPECT_EQ(Table.BetWorkingDefault[8][Place6], 0);
+  EXPECT_EQ(Table.BetWorkingDefault[8][Come4], 1);
+  EXPECT_EQ(Table.BetWorking[8][Come4], IsWorking);
+  EXPECT_EQ(Table.VisibleStack[8][1], 100);
+  EXPECT_EQ(Table.VisibleStack[1][4], 103);
+  EXPECT_EQ(Dice.CurrentRNG, 1);
+  EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
+  EXPECT_TRUE(Shown.empty());
+  EXPECT_EQ(Folder.EntryCount(), 0);
+}
+
+TEST_F(Session, StartUpForgetsWhatWas) {
+  PlayToPoint();
+  Settings.MaxPlacardBet = 7;
+  Dice.ReseedEachSession = -1;
+  EventsLog.LogOn = -1;
+  StartUp(Folder.Path());
+  EXPECT_EQ(Table.PlayerCount, 0);
+  EXPECT_EQ(Table.Point, 0);
+  EXPECT_EQ(RollsInSession(), 0);
+  EXPECT_EQ(Settings.MaxPlacardBet, Money(1000));
+  EXPECT_EQ(Dice.ReseedEachSession, 0);
+  EXPECT_EQ(EventsLog.LogOn, 0);
+}
+
+TEST_F(Session, ClearsTheTable) {
+  PlayToPoint();
+  Stake(3, Buy4, 20);
+  CallBet(3, Buy4, CallOff);
+  Stake(3, AllTall, 1);
+  Table.MarkedNumbers = Table.FourRollCount = Table.FirePoints = Table.FirePointsMask = 3;
+  Table.SharpShooterPoints = Table.RideTheLinePasses = 2;
+  Table.BankrollStopPlace = 3;
+  Table.StopReason = "enough";
+  NewSession({});
+  for (int number = 1; number <= LastBet; ++number) {
+    EXPECT_EQ(Bet(3, number), Money());
+    EXPECT_EQ(At(Table.BetAmountAfterRoll[3], number), Money());
+    EXPECT_EQ(At(Table.BetContract[3], number), Money());
+  }
+  EXPECT_EQ(Table.BetWorking[3][Buy4], NotWorking);
+  EXPECT_EQ(Table.MoneyOnTable[3], Money());
+  EXPECT_EQ(Table.Point + Table.LastPoint + Table.PointBeforeLast + Table.LastDecidedPoint, 0);
+  EXPECT_EQ(Table.MarkedNumbers + Table.FourRollCount + Table.FirePoints + Table.FirePointsMask, 0);
+  EXPECT_EQ(Table.SharpShooterPoints + Table.RideTheLinePasses, 0);
+  EXPECT_EQ(Table.BankrollStopPlace, 0);
+  EXPECT_EQ(Table.GraphIndex, 0);
+  EXPECT_EQ(Table.StopReason, "");
+  EXPECT_EQ(Table.Shooter, 3);
+  EXPECT_EQ(RollsInHand() + RollsInSession(), 0);
+  EXPECT_EQ(Stats.RollCount[LastSession][0], 2);
+}
+
+TEST_F(Session, HandIsCreditedToWhoHasTheDice) {
+  PlayToPoint();
+  SeatPlayer(2, "Bob", 100);
+  PassDice(PlayerAsked);
+  EXPECT_EQ(Table.LastShooter, 3);
+  NewSession({});
+  EXPECT_EQ(Table.LastShooter, 2);
+}
+
+TEST_F(Session, AbandonedContractBetsAreLostUnlessTheHouseReturnsThem) {
+  struct Case {
+    int32_t Returned, InitType;
+    int Bankroll;
+  };
+  // 5 on the line, 5 on Come 8 and 2 on 7 Point 7; the Place bet comes back.
+  const Case cases[] = {{0, 2, 88}, {-1, 2, 100}, {0, 0, 100}};
+  for (const Case& test : cases) {
+    StartUp(Folder.Path());
+    PlayToPoint();
+    Stake(3, Place5, 5);
+    SetBetAmount(3, SevenPoint7, 2);
+    Table.MoneyOnTable[3] += 2;
+    Table.BankrollInitType[3] = test.InitType;
+    Settings.ReturnAbandonedBets = test.Returned;
+    NewSession({.keepSessions = -1});
+    EXPECT_EQ(PlainText(BankrollOf(3)), std::to_string(test.Bankroll));
+    for (const auto& [number, lost] :
+         {std::pair(PassLine, "5"), {Come4 + 3, "5"}, {SevenPoint7, "2"}}) {
+      EXPECT_EQ(PlainText(At(Stats.Bets[AllSessions + 3], number).Lost.Sum),
+                test.Returned != 0 ? "0" : lost);
+    }
+    EXPECT_EQ(Table.MoneyOnTable[3], Money());
+  }
+}
+
+TEST_F(Session, CheckStacksAreClearedUnlessKept) {
+  SeatPlayer(3, "Ann", 100);
+  Stake(3, FirstStack + 4, 10);
+  Table.CheckStackName[3][4] = "rent";
+  NewSession({.keepStacks = -1});
+  EXPECT_EQ(Bet(3, FirstStack + 4), Money(10));
+  EXPECT_EQ(Table.CheckStackName[3][4], "rent");
+  // What was stacked since the last roll is still news for the log.
+  Stake(3, PassLine, 5);
+  Roll2(3, 3);
+  EXPECT_EQ(Table.BetAmountAfterRoll[3][FirstStack + 4], Money(10));
+  NewSession({});
+  EXPECT_EQ(Bet(3, FirstStack + 4), Money());
+  EXPECT_EQ(Table.CheckStackName[3][4], "");
+  EXPECT_EQ(Table.BetAmountAfterRoll[3][FirstStack + 4], Money());
+}
+
+TEST_F(Session, FormerSessionsAreKeptOnRequest) {
+  for (const int32_t keep : {-1, 0}) {
+    StartUp(Folder.Path());
+    PlayToPoint();
+    Table.BankrollLow[AllSessions + 3] = 40;
+    NewSession({.keepSessions = keep});
+    EXPECT_EQ(Stats.RollCount[AllSessions][0], keep != 0 ? 2 : 0);
+    EXPECT_EQ(Stats.Hands[AllSessions].HandCount, keep != 0 ? 1 : 0);
+    EXPECT_EQ(Stats.Hands[LastSession].HandCount, 1);
+    EXPECT_EQ(Table.BankrollLow[AllSessions + 3], Money(keep != 0 ? 40 : 100));
+  }
+}
+
+TEST_F(Session, BankrollsStartByTheirType) {
+  struct Case {
+    int32_t Type;
+    Money Init;
+    std::deque<std::string> Replies;
+    Money Bankroll, NextInit;
+    std::string Asked;
+  };
+  const std::string ask = "Beginning Bankroll: ";
+  const std::string enter = "Enter Ann's beginning bankroll:";
+  const Case cases[] = {
+      {0, 500, {}, 500, 500, ""},
+      {0, -20, {}, -20, -20, ""},
+      {2, 500, {}, 130, 500, ""},
+      {1, 500, {"250.5"}, Money::FromRaw(2505000), Money::FromRaw(2505000), ask + enter + " [500]"},
+      {1, 500, {"-"}, 500, 500, ask + enter + " [500]"},
+      {1, 500, {}, 500, 500, ask + enter + " [500]"},
+      {1,
+       500,
+       {"10000000", "-9999999"},
+       -9999999,
+       -9999999,
+       ask + enter + " [500] | " + ask + "The maximum player bankroll is $9,999,999\r\r" + enter +
+           " [500]"},
+      {1,
+       500,
+       {"-10000000", "9999999"},
+       9999999,
+       9999999,
+       ask + enter + " [500] | " + ask + "The minimum player bankroll is -$9,999,999\r\r" + enter +
+           " [500]"},
+      {1, 20'000'000, {}, 9999999, 9999999, ask + enter + " [9999999]"},
+  };
+  for (const Case& test : cases) {
+    StartUp(Folder.Path());
+    SeatPlayer(3, "Ann", 130);
+    Shown.clear();
+    Table.BankrollInitType[3] = test.Type;
+    Table.BankrollInitAmount[3] = test.Init;
+    Answers = test.Replies;
+    NewSession({});
+    std::string asked;
+    for (const std::string& text : Shown)
+      asked += (asked.empty() ? "" : " | ") + text;
+    EXPECT_EQ(asked, test.Asked);
+    EXPECT_EQ(PlainText(BankrollOf(3)), PlainText(test.Bankroll));
+    EXPECT_EQ(PlainText(Table.BankrollInitAmount[3]), PlainText(test.NextInit));
+    EXPECT_EQ(Table.InvestedBankroll[3], test.Bankroll);
+    EXPECT_EQ(Table.BankrollBegin[CurrentSession + 3], test.Bankroll);
+  }
+}
+
+TEST_F(Session, NobodyIsAskedUnderTheHyperDrive) {
+  SeatPlayer(3, "Ann", 130);
+  Table.BankrollInitType[3] = 1;
+  Table.HyperDriveOn = -1;
+  NewSession({});
+  EXPECT_TRUE(Shown.empty());
+  EXPECT_EQ(BankrollOf(3), Money(130));
+}
+
+TEST_F(Session, RollFileIsRewoundContinuedOrClosed) {
+  struct Case {
+    int32_t Action, Mode, NextRoll;
+  };
+  const Case cases[] = {{RewindRollFile, RollFilePlay, 1},
+                        {ContinueRollFile, RollFileRecord, 3},
+                        {CloseRollFileNow, RollFileOff, 1},
+                        {7, RollFileOff, 1}};
+  for (const Case& test : cases) {
+    StartUp(Folder.Path());
+    OpenRollFile("test.rll");
+    RollFile.RollFileMode = RollFileRecord;
+    PlayToPoint();
+    NewSession({.rollFileAction = test.Action});
+    EXPECT_EQ(RollFile.RollFileMode, test.Mode) << test.Action;
+    if (test.Mode != RollFileOff) {
+      EXPECT_EQ(RollFile.NextRoll, test.NextRoll) << test.Action;
+    }
+    EXPECT_EQ(RollFile.RollFileName.empty(), test.Mode == RollFileOff);
+  }
+}
+
+TEST_F(Session, DiceAreSeededAgainOnlyWhenAsked) {
+  for (const int32_t reseed : {0, -1}) {
+    const int32_t before = Dice.LastSeed;
+    AdvanceClock(60'000);
+    Dice.ReseedEachSession = reseed;
+    NewSession({});
+    EXPECT_EQ(Dice.LastSeed != before, reseed != 0);
+  }
+}
+
+TEST_F(Session, LogTellsHowTheSessionBegan) {
+  SeatPlayer(6, "Bob", 1500);
+  SeatPlayer(3, "Ann", 100);
+  OpenRollFile("test.rll");
+  EventsLog.LogOn = -1;
+  Dice.ReseedEachSession = -1;
+  const std::string rule(44, '=');
+  NewSession({.rollFileAction = RewindRollFile});
+  const std::string opening = " New session started 2026-11-22 @ 19:04:05\r\n" + rule +
+                              "\r\n"
+                              "    Players:\r\n"
+                              "      Ann at stick 2-left with $100\r\n"
+                              "      Bob at stick 2-right with $1500\r\n"
+                              "    RNG #1 seeded: " +
+                              std::to_string(Dice.LastSeed) + "\r\n";
+  const std::string shooter = "----New shooter (Bob) coming out----------\r\n";
+  const std::string first =
+      opening + "    Dice roll file playback actived (" + RollFile.RollFileName + ")\r\n" + shooter;
+  EXPECT_EQ(LogText(), first);
+  Dice.ReseedEachSession = 0;
+  NewSession({});
+  const size_t seedLine = opening.find("    RNG");
+  const std::string second = rule + "\r\n" + opening.substr(0, seedLine) + shooter;
+  EXPECT_EQ(LogText(), first + second);
+  Settings.ClearEventsLogOnNew = -1;
+  NewSession({});
+  EXPECT_EQ(LogText(), opening.substr(0, seedLine) + shooter);
+}
+
+TEST_F(Session, StartsAlthoughItsLogCannotBeWritten) {
+  PlayToPoint();
+  EventsLog.LogOn = -1;
+  EventsLog.EventLogName = Folder.Path() + "missing/log.txt";
+  Table.BankrollStopPlace = 3;
+  Table.BankrollInitType[3] = 2;
+  NewSession({});
+  EXPECT_FALSE(Shown.empty());
+  EXPECT_EQ(Table.BankrollStopPlace, 0);
+  EXPECT_EQ(BankrollOf(3), Money(90));
+  EXPECT_EQ(Table.MoneyOnTable[3], Money());
+}
+
+TEST_F(Session, LogOfAnEmptyTableNamesNobody) {
+  EventsLog.LogOn = -1;
+  NewSession({});
+  EXPECT_EQ(LogText(), " New session started 2026-11-22 @ 19:04:05\r\n" + std::string(44, '=') +
+                           "\r\n----New hand, come-out roll----------\r\n");
+}
+
+}  // namespace
+}  // namespace tessarel
