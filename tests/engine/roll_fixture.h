@@ -56,7 +56,7 @@ class RollTest : public ::testing::Test {
     Settings.MaxPropBetPayoff = BankrollLimit;
   }
 
-  // Seats a player whose bets all work.
+  // Seats a player whose bets all work, who leaves won bets standing and lets lost ones go.
   static void Seat(int place, Money bankroll = Buyin) {
     SetPlayerName(place, "P" + std::to_string(place));
     SetBankrollSlots(place, bankroll);
@@ -65,6 +65,8 @@ class RollTest : public ::testing::Test {
       At(At(Table.BetWorkingDefault, place), number) = IsWorking;
       At(At(Table.BetWorking, place), number) = IsWorking;
     }
+    At(Table.HandleWinningBets, place) = 2;
+    At(Table.HandleLosingBets, place) = 1;
     if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
   }
   static void PutDown(int place, int number, Money amount) {

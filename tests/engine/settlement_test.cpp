@@ -269,7 +269,11 @@ class RuleCard : public RollTest, public ::testing::WithParamInterface<House> {
   static void PutDownForCard(int place, int number) {
     const House& house = GetParam();
     const int flat = FlatUnder(number);
-    if (flat != 0) PutDown(place, flat, Stake);
+    if (flat != 0) {
+      PutDown(place, flat, Stake);
+      // Idle odds follow the choice for won bets once their flat bet has won twice.
+      SetBetStreak(place, flat, 1);
+    }
     PutDown(place, number, flat != 0 ? OddsStake : Stake);
     if (!house.works) SetBetWorking(place, number, CalledOff);
     if (!CarriesVig(number)) return;
@@ -751,7 +755,10 @@ TEST_F(Settlement, OffBetsAreLeftAndOffOddsFollowTheirFlatBet) {
       Reset();
       Seat(8);
       Table.Point = 4;
-      if (each.flatStands) PutDown(8, each.flat, 10);
+      if (each.flatStands) {
+        PutDown(8, each.flat, 10);
+        SetBetStreak(8, each.flat, 2);
+      }
       PutDown(8, each.number, 10);
       SetBetWorking(8, each.number, NotWorking);
       const bool single = each.flat == 0 && each.number != bet::SevenPoint7;
