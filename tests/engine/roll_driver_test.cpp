@@ -126,6 +126,24 @@ TEST_F(RollDriver, GraphIsARing) {
   EXPECT_EQ(Table.GraphBankroll[1][1], Money(120));
 }
 
+TEST_F(RollDriver, GraphOfAnOpenPlaceKeepsNothingOfWhoLeft) {
+  Seat(1, 100);
+  Table.GraphBankroll[1][6] = 500;
+  Throw(1, 2);
+  EXPECT_EQ(Table.GraphBankroll[1][6], Money());
+}
+
+TEST_F(RollDriver, AutoRollGoesOnUntilSomethingStopsIt) {
+  Seat(1);
+  Table.AutoRollOn = -1;
+  Throw(1, 2);
+  EXPECT_NE(Table.AutoRollOn, 0);
+  Settings.BetNeededToShoot = 2;
+  Throw(1, 2);
+  EXPECT_EQ(Table.AutoRollOn, 0);
+  EXPECT_EQ(Table.LastStopReason, "Shooter has no bet.");
+}
+
 TEST_F(RollDriver, BankrollStopsTheGamePastItsLimitOnly) {
   const Money limit = 9'999'999;
   const Money past = limit + Money::FromRaw(1);
