@@ -304,9 +304,12 @@ class RuleCard : public RollTest, public ::testing::WithParamInterface<House> {
   }
 
   // Eight bets at a time, one a place.
-  static void ThrowAt(int firstBet, const Thrown& thrown, const TableState& fresh) {
+  static void ThrowAt(int firstBet,
+                      const Thrown& thrown,
+                      const TableState& fresh,
+                      const StatsState& empty) {
     Table = fresh;
-    Stats.Bets = {};
+    Stats.Bets = empty.Bets;
     Stats.HandBets = Stats.LastHandBets = {};
     Table.Point = thrown.point;
     Table.LastPoint = thrown.justOn ? 0 : thrown.point;
@@ -328,11 +331,12 @@ TEST_P(RuleCard, HoldsForEveryBetOnEveryRollInEveryState) {
   for (int place = 1; place <= LastPlace; ++place)
     Seat(place);
   const TableState fresh = Table;
+  const StatsState empty = Stats;
   for (const int point : {0, 4, 5, 6, 8, 9, 10}) {
     for (int state = 0; state < (point == 0 ? 36 : 72); ++state) {
       const Thrown thrown{point, state >= 36, state % 36 / 6 + 1, state % 6 + 1};
       for (int first = 1; first <= LastBet; first += LastPlace)
-        ThrowAt(first, thrown, fresh);
+        ThrowAt(first, thrown, fresh, empty);
     }
   }
 }
