@@ -228,7 +228,8 @@ void FollowPoint() {
 void StoreGraphPoint() {
   if (++Table.GraphIndex > GraphLength) Table.GraphIndex = 1;
   auto& bankrolls = At(Table.GraphBankroll, Table.GraphIndex);
-  ForEachPlayer([&bankrolls](int place) { At(bankrolls, place) = BankrollOf(place); });
+  for (int place = 1; place <= LastPlace; ++place)
+    At(bankrolls, place) = BankrollOf(place);
 }
 
 void SnapshotWorking() {
@@ -332,7 +333,7 @@ void RollUntilStopped() {
 
 void EndRolling() {
   Table.LastStopReason = Table.StopReason;
-  StopUnattended();
+  if (!Table.StopReason.empty()) StopUnattended();
   Table.StopReason.clear();
   if (Table.Point == 0 && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::ComeOut);
   Table.RollInProgress = 0;

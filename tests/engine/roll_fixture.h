@@ -1,0 +1,89 @@
+// A table under its start-up rules on which chosen rolls are thrown: bets are put down without the
+// rules of betting, so that any state can be met by any roll.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "config/payoffs.h"
+#include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
+#include "engine/bet_limits.h"
+#include "engine/roll_driver.h"
+#include "engine/table.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+inline constexpr Money Buyin = 1'000'000;
+
+using Rolls = std::vector<std::pair<int, int>>;  // the faces of each
+
+class RollTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    Reset();
+    Settings.BetNeededToShoot = 0;
+  }
+  void TearDown() override {
+    EXPECT_EQ(CheckTable(), "");
+    Reset();
+  }
+
+  static void Reset() {
+    CloseRollFile();
+    Table = {};
+    Stats = {};
+    Settings = {};
+    Dice = {};
+    Roll = {};
+    Message = {};
+    FrontEnd = {};
+    FrontEnd.ShowMessage = [] { Shown.emplace_back(Message.MsgTitle, Message.MsgText); };
+    DefaultPayoffs();
+    FigurePayoffUnits();
+    Shown.clear();
+  }
+
+  static void LiftLimits() {
+    Settings.MaxPlacardBet = Settings.MaxOddsBet = Settings.MaxFireBet = 100'000;
+    Settings.MaxPropBetPayoff = BankrollLimit;
+  }
+
+  // Seats a player whose bets all work, who leaves won bets standing and lets lost ones go.
+  static void Seat(int place, Money bankroll = Buyin) {
+    SetPlayerName(place, "P" + std::to_string(place));
+    SetBankrollSlots(place, bankroll);
+    At(Table.InvestedBankroll, place) = bankroll;
+    for (int number = 1; number <= LastBet; ++number) {
+      At(At(Table.BetWorkingDefault, place), number) = IsWorking;
+      At(At(Table.BetWorking, place), number) = IsWorking;
+    }
+    At(Table.HandleWinningBets, place) = 2;
+    At(Table.HandleLosingBets, place) = 1;
+    if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
+  }
+  static void PutDown(int place, int number, Money amount) {
+    At(Table.MoneyOnTable, place) += amount - Bet(place, number);
+    SetBetAmount(place, number, amount);
+  }
+  static void Throw(int die1, int die2) {
+    Roll = {-1, die1, die2};
+    MakeRoll();
+  }
+  static void Throw(const Rolls& rolls) {
+    for (const auto& [die1, die2] : rolls)
+      Throw(die1, die2);
+  }
+  static Money Won(int place) { return BankrollOf(place) - At(Table.InvestedBankroll, place); }
+
+  inline static std::vector<std::pair<std::string, std::string>> Shown;  // title, text
+};
+
+}  // namespace tessarel
