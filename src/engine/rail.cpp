@@ -80,12 +80,12 @@ std::string ListOf(const std::vector<AbandonedBet>& bets) {
   const auto isCome = [](const AbandonedBet& bet) { return InFamily(bet.number, ComeFamily); };
   const auto comes = std::count_if(bets.begin(), bets.end(), isCome);
   std::vector<std::string> parts;
-  if (comes > 1) {
-    parts.push_back(std::to_string(comes) + FillIn(GetText(23), At(BetName, bet::Come)));
-  }
   for (const AbandonedBet& bet : bets) {
     if (comes > 1 && isCome(bet)) continue;
     parts.push_back(FillIn(GetText(20), At(BetName, bet.number)));
+  }
+  if (comes > 1) {
+    parts.push_back(std::to_string(comes) + FillIn(GetText(23), At(BetName, bet::Come)));
   }
   std::string list = parts.front();
   for (size_t k = 1; k < parts.size(); ++k)
