@@ -127,7 +127,9 @@ TEST_F(Rail, AnyPlayerMayMoveOrLeaveAtAnyTime) {
       case 2: {
         const int to = 1 + below(8);
         const Money bankroll = BankrollOf(place);
-        if (MovePlayer(place, to)) EXPECT_EQ(BankrollOf(to), bankroll);
+        if (MovePlayer(place, to)) {
+          EXPECT_EQ(BankrollOf(to), bankroll);
+        }
         break;
       }
       case 3:
