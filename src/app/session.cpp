@@ -168,12 +168,8 @@ void SetTableDefaults() {
   for (int number = 1; number <= LastBet; ++number) {
     At(Table.BetWorkingDefault[0], number) = OriginalHouseWorking(number);
   }
-  for (int place = 1; place <= LastPlace; ++place) {
-    At(Table.BetWorkingDefault, place) = Table.BetWorkingDefault[0];
-    for (int stack = 1; stack <= 4; ++stack) {
-      At(At(Table.VisibleStack, place), stack) = FirstStack + stack - 1;
-    }
-  }
+  for (int place = 1; place <= LastPlace; ++place)
+    OpenPlaceDefaults(place);
 }
 
 void WarnOfMissingFiles() {

@@ -8,9 +8,13 @@ namespace tessarel {
 // The sounds the core asks for. A front end without sound leaves PlaySound alone.
 enum class Sound { Check, DiceThrown, Total, Doubles, ComeOut, FirstComeOut, LimitBroken };
 
+struct SettlePrompt;  // engine/settle_prompt.h
+
 struct FrontEndCallbacks {
   // Shows the message that stands in the call block (base/message.h) and waits for its answer.
   void (*ShowMessage)() = [] {};
+  // Shows the settle-bet prompt and leaves the player's answer in it; the default is button 0.
+  void (*SettleBet)(SettlePrompt& prompt) = [](SettlePrompt&) {};
   // Runs whatever events wait: a promise made once a roll and in every wait. It may be cheap.
   void (*RunPendingEvents)() = [] {};
   void (*DrawBet)(int place, int number) = [](int, int) {};

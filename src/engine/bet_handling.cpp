@@ -1,45 +1,323 @@
 #include "engine/bet_handling.h"
 
+#include <string>
+#include <utility>
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/number_format.h"
+#include "config/language.h"
+#include "config/payoffs.h"
+#include "config/settings.h"
 #include "engine/bets.h"
+#include "engine/settlement.h"
 #include "engine/table.h"
 
 namespace tessarel {
 
 namespace {
 
-int FlatUnder(int odds) {
-  const bool line = odds == bet::PassLineOdds || odds == bet::DontPassOdds;
-  return line ? odds - 1 : odds - FamilySize;
+enum Operation : int32_t { Plus, Minus, Times, Divide };
+
+// "&Same bet" without its shortcut mark.
+std::string Plain(std::string_view caption) {
+  std::string text(caption);
+  std::erase(text, '&');
+  return text;
 }
 
-void StayOrComeDown(int place) {
-  if (Table.BetCantStay) {
-    TakeDownBet(place);
+Money AmountBefore(int place) {
+  return At(At(Table.BetAmountBefore, place), Table.CurrentBet);
+}
+
+// Tells how the bet stands now against the roll. `title` is only made when it is shown.
+template <class Title>
+void TellHowItStands(int place, Title&& title) {
+  const Money amount = Bet(place, Table.CurrentBet);
+  const bool quiet = Table.HyperDriveOn != 0 || (Table.MessageSwitches & ShowVigNotices) == 0 ||
+                     (Settings.Notices & NoticeCharges) == 0;
+  if (quiet || amount == Money()) return;
+  const Money change = amount - AmountBefore(place);
+  std::string text =
+      At(Table.PlayerName, place) + ",\r\r" + std::string(At(BetName, Table.CurrentBet)) + " bet ";
+  if (change == Money()) {
+    text += GetText(44);
   } else {
-    SameBet(place);
+    text += (change > Money() ? "increased by: $" : "decreased by: $") + FormatMoney(Abs(change));
   }
+  Message.MsgText = std::move(text);
+  Message.MsgTitle = title();
+  Message.MsgWidth = 500;
+  Message.MsgFlags = msg::Ok | msg::HideNotice4;
+  Message.MsgHelpId = Message.MsgTimeout = 0;
+  ShowMessage();
+}
+
+void ChangeBy(int place, Money change) {
+  Table.Amount = change;
+  ChangeBet(place, Table.CurrentBet);
+}
+
+// A bet that has come off goes back at `amount`, as far as the rules allow.
+void PutBack(int place, Money amount) {
+  TakeDownBet(place);
+  if (amount > Money()) ChangeBy(place, amount);
+}
+
+// What one unit of a modify row adds: a hundredth of the bet, a dollar, or a check times the base
+// of the bet's payoff.
+Money UnitToAdd(const HandlingRow& row, Money before) {
+  if (row.units <= Money()) return 1;
+  if (row.units == Money(1)) return Money::FromDouble(before.ToDouble() / 100);
+  return CheckOfUnits(row.units) * At(Payoffs.Payoff, Table.CurrentBet).PayDen;
+}
+
+Money ModifiedChange(const HandlingRow& row, Money before) {
+  const double factor = row.amount.ToDouble() * (row.units == Money(1) ? 0.01 : 1.0);
+  switch (row.operation) {
+    case Plus:
+      return row.amount * UnitToAdd(row, before);
+    case Minus:
+      return -(row.amount * UnitToAdd(row, before));
+    case Times:
+      return Money::FromDouble(before.ToDouble() * factor) - before;
+    default:
+      if (factor <= 0) return Money();
+      return Money::FromDouble(before.ToDouble() / factor) - before;
+  }
+}
+
+std::string FigureText(const HandlingRow& row) {
+  if (row.units <= Money()) return "$" + FormatMoney(row.amount);
+  if (row.units == Money(1)) return FormatMoney(row.amount) + "%";
+  return FormatMoney(row.amount) + " " + UnitsText(row.units);
+}
+
+// Holds the four biases of a place at "nearest" for its lifetime.
+class NearestAmounts {
+ public:
+  explicit NearestAmounts(int place)
+      : place_(place),
+        saved_{At(Table.DoBias, place), At(Table.DontBias, place), At(Table.PlaceBias, place),
+               At(Table.LayBias, place)} {
+    Set({2, 2, 2, 2});
+  }
+  ~NearestAmounts() { Set(saved_); }
+  NearestAmounts(const NearestAmounts&) = delete;
+  NearestAmounts& operator=(const NearestAmounts&) = delete;
+
+ private:
+  void Set(const std::array<int32_t, 4>& biases) {
+    At(Table.DoBias, place_) = biases[0];
+    At(Table.DontBias, place_) = biases[1];
+    At(Table.PlaceBias, place_) = biases[2];
+    At(Table.LayBias, place_) = biases[3];
+  }
+
+  int place_;
+  std::array<int32_t, 4> saved_;
+};
+
+void StoreRow(int place, int slot, const HandlingRow& row) {
+  At(At(Table.HandleAmount, place), slot) = row.amount;
+  At(At(Table.HandleOperator, place), slot) = row.operation;
+  At(At(Table.HandleUnits, place), slot) = row.units;
+}
+
+void ActOnWin(int place, int button) {
+  switch (button) {
+    case 1:
+      return SameBet(place);
+    case 2:
+      return PressUnit(place);
+    case 3:
+      return PressDouble(place);
+    case 4:
+      return Parlay(place);
+    case 5:
+      return ModifyBet(place, PromptWinModify);
+    case 6:
+      return SetBetUnits(place, PromptWinSet);
+    default:
+      return TakeDownBet(place);
+  }
+}
+
+void ActOnLoss(int place, int button) {
+  switch (button) {
+    case 1:
+      return SameBet(place);
+    case 2:
+      return BetRemainder(place);
+    case 3:
+      return PressUnit(place);
+    case 4:
+      return PressDouble(place);
+    case 5:
+      return ModifyBet(place, PromptLossModify);
+    case 6:
+      return SetBetUnits(place, PromptLossSet);
+    default:
+      return TakeDownBet(place);
+  }
+}
+
+// Asks the player, keeps the figures he typed, and does what he chose.
+void AskHandling(int place, Outcome outcome, bool asWin) {
+  SettlePrompt prompt = MakeSettlePrompt(place, outcome, asWin);
+  FrontEnd.SettleBet(prompt);
+  StoreRow(place, asWin ? PromptWinModify : PromptLossModify, prompt.modify);
+  StoreRow(place, asWin ? PromptWinSet : PromptLossSet, prompt.set);
+  Table.CurrentBet = prompt.number;
+  if (asWin) {
+    ActOnWin(place, prompt.button);
+  } else {
+    ActOnLoss(place, prompt.button);
+  }
+}
+
+bool CanAsk(int place) {
+  return Table.HyperDriveOn == 0 && Bet(place, Table.CurrentBet) > Money();
+}
+
+void RunWinMode(int place, Outcome outcome) {
+  const int32_t mode = At(Table.HandleWinningBets, place);
+  if (mode == WinPrompt && CanAsk(place)) return AskHandling(place, outcome, true);
+  if (Table.BetCantStay) return TakeDownBet(place);
+  switch (mode) {
+    case WinSameBet:
+      return SameBet(place);
+    case WinPressUnit:
+      return PressUnit(place);
+    case WinPressDouble:
+      return PressDouble(place);
+    case WinParlay:
+      return Parlay(place);
+    case WinModify:
+      return ModifyBet(place, AutoWinModify);
+    case WinSetUnits:
+      return SetBetUnits(place, AutoWinSet);
+    default:
+      return TakeDownBet(place);
+  }
+}
+
+void RunLossMode(int place, Outcome outcome) {
+  const int32_t mode = At(Table.HandleLosingBets, place);
+  if (mode == LossPrompt && CanAsk(place)) return AskHandling(place, outcome, false);
+  if (Table.BetCantStay) return TakeDownBet(place);
+  switch (mode) {
+    case LossSameBet:
+      return SameBet(place);
+    case LossRemainder:
+      return BetRemainder(place);
+    case LossPressUnit:
+      return PressUnit(place);
+    case LossPressDouble:
+      return PressDouble(place);
+    case LossModify:
+      return ModifyBet(place, AutoLossModify);
+    case LossSetUnits:
+      return SetBetUnits(place, AutoLossSet);
+    default:
+      return TakeDownBet(place);
+  }
+}
+
+bool IsLineOdds(int number) {
+  return number == bet::PassLineOdds || number == bet::DontPassOdds;
+}
+
+int FlatUnder(int odds) {
+  return IsLineOdds(odds) ? odds - 1 : odds - FamilySize;
 }
 
 }  // namespace
 
+HandlingRow RowOfSlot(int place, int slot) {
+  return {At(At(Table.HandleAmount, place), slot), At(At(Table.HandleOperator, place), slot),
+          At(At(Table.HandleUnits, place), slot)};
+}
+
 void SameBet(int place) {
-  Table.Amount = Money();
-  ChangeBet(place, Table.CurrentBet);
+  ChangeBy(place, Money());
+  TellHowItStands(place, [] { return Plain(GetText(51)); });
+}
+
+void PressUnit(int place) {
+  ChangeBy(place, Table.ChipUnit);
+  TellHowItStands(place, [] { return Plain(GetText(52)); });
+}
+
+void PressDouble(int place) {
+  ChangeBy(place, Bet(place, Table.CurrentBet));
+  TellHowItStands(place, [] { return Plain(GetText(53)); });
+}
+
+void Parlay(int place) {
+  const NearestAmounts nearest(place);
+  if (Table.NetWin == Money()) {
+    ReplaceBet(place, Table.CurrentBet);
+  } else {
+    ChangeBy(place, Table.NetWin);
+  }
+  TellHowItStands(place, [] { return std::string("Parlay"); });
+}
+
+void BetRemainder(int place) {
+  PutBack(place, AmountBefore(place) + Table.NetWin);
+  TellHowItStands(place, [] { return std::string(GetText(47)); });
+}
+
+void ModifyBet(int place, int slot) {
+  const HandlingRow row = RowOfSlot(place, slot);
+  ChangeBy(place, ModifiedChange(row, AmountBefore(place)));
+  TellHowItStands(place, [&row] {
+    constexpr std::array<std::string_view, 4> Words = {"plus ", "minus ", "times ", "divided by "};
+    return "Same bet " + std::string(At(Words, row.operation & 3)) + FigureText(row);
+  });
+}
+
+void SetBetUnits(int place, int slot) {
+  const HandlingRow row = RowOfSlot(place, slot);
+  Money unit = 1;
+  if (row.units == Money(1)) {
+    unit = Money::FromDouble(AmountBefore(place).ToDouble() / 100);
+  } else if (row.units > Money()) {
+    const Money payUnit = At(Payoffs.Payoff, Table.CurrentBet).PayUnit;
+    unit = Money::FromDouble(MulDiv(payUnit, CheckOfUnits(row.units), SmallestCheck()));
+  }
+  PutBack(place, row.amount * unit);
+  TellHowItStands(place, [&row] {
+    const std::string bet(GetText(45));
+    if (row.units <= Money(1)) return bet + " " + FigureText(row);
+    return bet + " " + FormatMoney(row.amount) + " " + std::string(GetText(46));
+  });
 }
 
 void HandleWonBet(int place) {
-  StayOrComeDown(place);
+  RunWinMode(place, Outcome::Won);
 }
 
 void HandleLostBet(int place) {
-  TakeDownBet(place);
+  FigureUnit(place, Table.CurrentBet);
+  RunLossMode(place, Outcome::Lost);
 }
 
 void HandleIdleOdds(int place) {
-  Table.NetWin = Money();
-  const bool line = Table.CurrentBet == bet::PassLineOdds || Table.CurrentBet == bet::DontPassOdds;
-  Table.BetCantStay = line || Bet(place, FlatUnder(Table.CurrentBet)) == Money();
-  StayOrComeDown(place);
+  const int odds = Table.CurrentBet;
+  Table.NetWin = Table.GrossWin = Money();
+  Table.BetCantStay =
+      Settings.AllowPutBets == 0 || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
+  FigureUnit(place, odds);
+  const bool asLoss = At(At(Table.BetStreak, place), FlatUnder(odds)) < 2;
+  if (IsLineOdds(odds)) {
+    TakeDownBet(place);
+  } else if (asLoss) {
+    RunLossMode(place, Outcome::Idle);
+  } else {
+    RunWinMode(place, Outcome::Idle);
+  }
 }
 
 }  // namespace tessarel

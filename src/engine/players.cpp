@@ -124,6 +124,15 @@ void SetBankroll(int place, Money amount) {
   At(Table.BankrollAtRoll, place) = At(Table.BankrollAfterRoll, place) = amount;
 }
 
+void OpenPlaceDefaults(int place) {
+  At(Table.BetWorkingDefault, place) = Table.BetWorkingDefault[0];
+  for (int number = 1; number <= LastBet; ++number)
+    ResetBetWorking(place, number);
+  for (int position = 1; position <= 4; ++position) {
+    At(At(Table.VisibleStack, place), position) = FirstStack + position - 1;
+  }
+}
+
 void SeatPlayer(int place, const std::string& name, Money bankroll) {
   SetPlayerName(place, name);
   ClearPlayerStats(place);
@@ -139,6 +148,22 @@ void SeatPlayer(int place, const std::string& name, Money bankroll) {
     ResetBetWorking(place, number);
   if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
   LogPlayerJoined(place, bankroll);
+}
+
+void ShowPassedDiceNote() {
+  if (Table.Shooter == Table.LastShooter || Table.Shooter == 0) return;
+  const bool inHand = RollsInHand() > 0;
+  const bool gone = Table.LastShooter == 0;
+  std::string text;
+  if (inHand) {
+    text = "The dice were passed during the current hand.\r\rAlthough " + NameOf(Table.Shooter) +
+           " is presently shooting the dice, the current hand is being credited to " +
+           (gone ? "another player who started the hand but is no longer at the table."
+                 : NameOf(Table.LastShooter) + " who started the hand.");
+  } else if (gone) {
+    text = "The last hand was shot by a player who is no longer at the table.";
+  }
+  if (!text.empty()) ShowMessage(std::move(text), std::string(PassTitle), msg::Ok);
 }
 
 void PassDice(PassReason reason) {

@@ -15,8 +15,15 @@ enum PassReason : int { HandEnded = 0, PlayerAsked = 1, PlayerLeft = 2 };
 // working table is the house standard, and he shoots if nobody does.
 void SeatPlayer(int place, const std::string& name, Money bankroll);
 
+// The come-out standard of the house, the working states that follow from it and the usual visible
+// stacks for a place that nobody has.
+void OpenPlaceDefaults(int place);
+
 // Sets a place's bankroll, with its beginning, high and low, in the counted scopes.
 void SetBankroll(int place, Money amount);
+
+// During a hand that another player began, says to whom it is credited.
+void ShowPassedDiceNote();
 
 // Hands the dice to the next player who wants them and may have them.
 void PassDice(PassReason reason);

@@ -1,0 +1,228 @@
+#include "engine/rail.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "app/session.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "config/settings.h"
+#include "engine/atm.h"
+#include "engine/bets.h"
+#include "engine/check_stacks.h"
+#include "engine/players.h"
+#include "engine/roll_driver.h"
+#include "engine/table.h"
+#include "stats/books.h"
+#include "stats/store.h"
+
+namespace tessarel {
+namespace {
+
+struct Dialog {
+  std::deque<std::string> answers;  // "yes", "no", "cancel" or a text
+  std::vector<std::string> shown;
+};
+
+Dialog Talk;
+
+void AnswerDialog() {
+  Talk.shown.push_back(Message.MsgTitle + ": " + Message.MsgText);
+  if (Talk.answers.empty()) return;
+  const std::string answer = Talk.answers.front();
+  Talk.answers.pop_front();
+  if (answer == "cancel") {
+    Message.MsgResult = AnswerCancel;
+  } else if ((Message.MsgFlags & msg::Input) != 0) {
+    Message.MsgInput = answer;
+  } else {
+    Message.MsgResult = answer == "yes" ? AnswerYes : AnswerNo;
+  }
+}
+
+class Rail : public testing::Test {
+ protected:
+  void SetUp() override {
+    StartUp("/tmp");
+    Settings.BetNeededToShoot = 0;
+    Talk = {};
+    FrontEnd.ShowMessage = AnswerDialog;
+  }
+  void TearDown() override { FrontEnd = FrontEndCallbacks{}; }
+
+  static void Ask(int place, int number, Money amount) {
+    Table.Amount = amount;
+    PlaceBet(place, number);
+  }
+  static void Throw(int die1, int die2) {
+    Roll = {-1, die1, die2};
+    MakeRoll();
+  }
+};
+
+TEST_F(Rail, ANewPlayerIsAskedForNameAndBuyIn) {
+  SeatPlayer(2, "Bob", 500);
+  Talk.answers = {"yes", "bob", "123", " Ann ", "10000000", "-9999999.5", "750.25"};
+  EXPECT_TRUE(AddPlayer(1));
+  EXPECT_EQ(Table.PlayerName[1], "Ann");
+  EXPECT_EQ(BankrollOf(1), Money::FromRaw(7502500));
+  EXPECT_EQ(Table.Shooter, 2);
+  ASSERT_EQ(Talk.shown.size(), 7u);
+  EXPECT_EQ(Talk.shown[0], "Add New Player: Would you like to add a player here?");
+  EXPECT_EQ(Talk.shown[2],
+            "Add New Player: There's already a player named bob.\r\rWhat's the new player's name?");
+  EXPECT_EQ(Talk.shown[5],
+            "Add New Player: The maximum player bankroll is $9,999,999\r\r"
+            "How much would Ann like to buy-in for?");
+}
+
+TEST_F(Rail, GivingUpAnywhereLeavesThePlaceOpen) {
+  for (const std::deque<std::string>& answers :
+       {std::deque<std::string>{"no"}, {"yes", "cancel"}, {"yes", ""}, {"yes", "Ann", "cancel"}}) {
+    Talk.answers = answers;
+    EXPECT_FALSE(AddPlayer(1));
+    EXPECT_EQ(Table.PlayerCount, 0);
+  }
+}
+
+TEST_F(Rail, AbandonedBetsAreNamedAndLost) {
+  SeatPlayer(1, "Ann", 1000);
+  SeatPlayer(5, "Bob", 1000);
+  Ask(1, bet::PassLine, 10);
+  Throw(4, 2);
+  for (const int total : {4, 5}) {
+    Ask(1, bet::Come, 15);
+    Throw(1, total - 1);
+  }
+  Ask(1, bet::Place8, 12);
+  Talk.answers = {"no", "yes"};
+  EXPECT_FALSE(DeletePlayer(1, true));
+  EXPECT_EQ(Talk.shown.back(),
+            "Remove Player: Would you like to remove Ann?\r\rAnn still has an active Pass Line bet "
+            "and 2 active Come bets that can't be removed and will be abandoned."
+            "\r\rTotal to be abandoned: $40");
+  EXPECT_TRUE(DeletePlayer(1, true));
+  EXPECT_EQ(Table.Shooter, 5);
+  EXPECT_EQ(Table.LastShooter, 0);
+  EXPECT_EQ(CheckTable(), "");
+}
+
+TEST_F(Rail, AnyPlayerMayMoveOrLeaveAtAnyTime) {
+  std::mt19937 random(5);
+  const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
+  for (int step = 0; step < 20'000; ++step) {
+    const int place = 1 + below(8);
+    const bool taken = IsTaken(Table, place);
+    switch (below(6)) {
+      case 0:
+        if (!taken) SeatPlayer(place, "P" + std::to_string(step), 500);
+        break;
+      case 1:
+        if (below(8) == 0) DeletePlayer(place, false);
+        break;
+      case 2: {
+        const int to = 1 + below(8);
+        const Money bankroll = BankrollOf(place);
+        if (MovePlayer(place, to)) {
+          EXPECT_EQ(BankrollOf(to), bankroll);
+        }
+        break;
+      }
+      case 3:
+        ATM(place, below(2) == 0, below(300), true);
+        break;
+      default:
+        if (taken) Ask(place, 1 + below(LastBet), below(40) - 5);
+        Throw(1 + below(6), 1 + below(6));
+    }
+    ASSERT_EQ(CheckTable(), "") << "step " << step;
+    ASSERT_EQ(CheckBooks(), "") << "step " << step;
+  }
+}
+
+TEST_F(Rail, MovingTakesEverythingAlong) {
+  SeatPlayer(3, "Ann", 1000);
+  Table.HandleWinningBets[3] = 2;
+  SetStackValue(3, 7, Money::FromRaw(12345));
+  SetStackName(3, 7, "bank");
+  Ask(3, bet::PassLine, 10);
+  Throw(3, 4);
+  Ask(3, bet::PassLine, 10);
+  EXPECT_FALSE(MovePlayer(3, 9));
+  EXPECT_TRUE(MovePlayer(3, 8));
+  EXPECT_EQ(Table.PlayerName[3], "");
+  EXPECT_EQ(Bet(8, bet::PassLine), 20);
+  EXPECT_EQ(Table.HandleWinningBets[8], 2);
+  EXPECT_EQ(Table.CheckStackName[8][7], "bank");
+  EXPECT_EQ(Bet(8, FirstStack + 7), Money::FromRaw(12345));
+  EXPECT_EQ(Stats.Bets[8 + AllSessions][bet::PassLine].Won.Sum, 10);
+  EXPECT_EQ(Stats.Bets[3 + AllSessions][bet::PassLine].Won.Sum, 0);
+  EXPECT_EQ(Table.GraphBankroll[1][8], 1010);
+  EXPECT_EQ(Table.Shooter, 8);
+}
+
+TEST_F(Rail, AtmKeepsToItsLimits) {
+  const std::string cut = "The full amount of this transaction was not allowed because ";
+  const struct {
+    bool deposit;
+    Money bankroll, wager, amount;
+    int32_t allowNegative;
+    Money moved;
+    std::string text;
+  } cases[] = {
+      {true, 100, 30, 70, 0, 70, ""},
+      {true, 100, 30, 71, 0, 70,
+       "ATM Deposit: Requested amount:  $71\rAllowed amount:  $70\r\r" + cut +
+           "Ann's bankroll would've dropped below the amount currently wagered.\r\rYou can deposit "
+           "more by checking the box marked, \"Allow negative bankroll\" on the Configuration "
+           "screen, and/or by reducing the amount currently wagered."},
+      {true, 100, 0, 200, 0, 100,
+       "ATM Deposit: Requested amount:  $200\rAllowed amount:  $100\r\r" + cut +
+           "Ann's bankroll would've become negative.\r\rYou can deposit more by checking the box "
+           "marked, \"Allow negative bankroll\" on the Configuration screen."},
+      {true, 100, 0, 200, -1, 200, ""},
+      {true, -9'999'000, 0, 1000, -1, 999,
+       "ATM Deposit: Requested amount:  $1,000\rAllowed amount:  $999\r\r" + cut +
+           "it would've caused Ann's bankroll to drop below the negative bank limit of "
+           "$-9,999,999"},
+      {false, 9'999'900, 0, 100, 0, 99,
+       "ATM Withdrawal: Requested amount:  $100\rAllowed amount:  $99\r\r" + cut +
+           "it would've caused Ann's bankroll to exceed the max bank limit of $9,999,999"},
+      {false, 100, 0, -5, 0, 0, ""},
+  };
+  for (const auto& each : cases) {
+    SetUp();
+    SeatPlayer(1, "Ann", each.bankroll);
+    Ask(1, bet::PassLine, each.wager);
+    Table.AllowNegBankroll[1] = each.allowNegative;
+    Talk.shown.clear();
+    EXPECT_EQ(ATM(1, each.deposit, each.amount, true), each.moved);
+    EXPECT_EQ(BankrollOf(1), each.bankroll + (each.deposit ? -each.moved : each.moved));
+    EXPECT_EQ(Table.InvestedBankroll[1], BankrollOf(1));
+    EXPECT_EQ(Talk.shown.empty() ? "" : Talk.shown[0], each.text);
+  }
+}
+
+TEST_F(Rail, StacksSplitIntoChecksAndKeepFourApart) {
+  const CheckPile pile = SplitIntoChecks(Money::FromRaw(12'366'500));
+  EXPECT_EQ(pile.count, (std::array<int64_t, 6>{0, 1, 2, 1, 2, 2}));
+  EXPECT_EQ(pile.fraction, Money::FromRaw(6500));
+  SeatPlayer(1, "Ann", 100);
+  EXPECT_FALSE(SetVisibleStacks(1, {1, 2, 3, 2}));
+  EXPECT_EQ(Talk.shown.back(),
+            "Set Visible CheckStacks: Each CheckStack entry should be a different number.");
+  EXPECT_TRUE(SetVisibleStacks(1, {9, 2, 3, 1}));
+  EXPECT_EQ(Table.VisibleStack[1][1], 109);
+  SetStackValue(1, 2, 5);
+  SetStackName(1, 4, "goal");
+  const std::vector<StackRow> rows = StackRows(1, false);
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].value + rows[1].value + rows[1].name, "50goal");
+}
+
+}  // namespace
+}  // namespace tessarel
