@@ -4,6 +4,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/trap.h"
+#include "config/advantage.h"
 #include "config/folders.h"
 #include "config/language.h"
 #include "config/payoffs.h"
@@ -146,6 +147,7 @@ void ResetModules() {
   CloseRollFile();
   Settings = SettingsState{};
   Payoffs = PayoffState{};
+  Advantage = AdvantageState{};
   Table = TableState{};
   Stats = StatsState{};
   Dice = DiceState{};
