@@ -7,6 +7,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/trap.h"
+#include "config/advantage.h"
 #include "config/folders.h"
 #include "config/language.h"
 #include "config/payoffs.h"
@@ -155,6 +156,7 @@ void ResetModules() {
   CloseRollFile();
   Settings = SettingsState{};
   Payoffs = PayoffState{};
+  Advantage = AdvantageState{};
   Table = TableState{};
   Stats = StatsState{};
   Dice = DiceState{};

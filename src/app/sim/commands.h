@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "app/sim/run_options.h"
 
@@ -19,6 +20,20 @@ struct DiceOptions {
 };
 
 void DiceCommand(const DiceOptions& options);
+
+struct AdvantageOptions {
+  std::vector<FieldArgument> settings;
+  std::vector<std::string> payoffs;
+  bool zeroOutcomes = false;
+  bool json = false;
+};
+
+void AdvantageCommand(const AdvantageOptions& options);
+
+// Sets fields, then payoffs ("ROW=NUM:DEN"), then puts the configuration to its closing tests.
+// Failure at the first refusal.
+void ApplyRules(const std::vector<FieldArgument>& settings,
+                const std::vector<std::string>& payoffs);
 
 // Makes a generator current and applies a seed. Failure when either is outside its limits; the
 // overflow fault for seeds that the generator's arithmetic cannot take.

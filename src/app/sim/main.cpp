@@ -17,7 +17,7 @@ namespace {
 // What a later version brings; until then it is refused by name.
 constexpr std::array<std::string_view, 6> NotYet = {"--script",      "--new",          "--sessions",
                                                     "--probability", "--sessions-log", "--save"};
-constexpr std::array<std::string_view, 2> CommandsNotYet = {"check", "advantage"};
+constexpr std::array<std::string_view, 1> CommandsNotYet = {"check"};
 
 void RefuseWhatIsMissing(int argc, char** argv) {
   const auto refuse = [](std::string_view what) {
@@ -49,17 +49,23 @@ void AddRead(
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
+void AddRules(CLI::App* command,
+              std::vector<FieldArgument>& settings,
+              std::vector<std::string>& payoffs) {
+  AddRead(command, "--set", settings, ReadField,
+          "FIELD[@PLACE]=VALUE: a table setting by its field name");
+  command->add_option("--payoff", payoffs, "ROW=NUM:DEN: a payoff by the name of its row")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
 void DescribeRun(CLI::App& app, RunOptions& options, std::string& game) {
   CLI::App* run = app.add_subcommand("run", "Play the table and report what became of the bets");
   run->add_option("--home", options.home, "The program's folder: files are taken from it")
       ->check(CLI::ExistingDirectory);
   AddRead(run, "--player", options.players, ReadPlayer,
           "NAME[@PLACE][=BANKROLL]: seat a player (default: lowest open place, 1000)");
-  AddRead(run, "--set", options.settings, ReadField,
-          "FIELD[@PLACE]=VALUE: a table setting by its field name");
-  run->add_option("--payoff", options.payoffs, "ROW=NUM:DEN: a payoff by the name of its row")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  AddRules(run, options.settings, options.payoffs);
   AddRead(run, "--bet", options.bets, ReadBet,
           "NAME=AMOUNT[@PLACE]: a wager asked for before every roll");
   run->add_option("--rolls", options.rolls, "Stop after N rolls")->check(CLI::NonNegativeNumber);
@@ -90,29 +96,42 @@ void DescribeDice(CLI::App& app, DiceOptions& options) {
   dice->add_flag("--raw", options.raw, "Generators 1 and 2: little-endian 32-bit words");
 }
 
+void DescribeAdvantage(CLI::App& app, AdvantageOptions& options) {
+  CLI::App* advantage = app.add_subcommand("advantage", "Print the house advantage of every bet");
+  AddRules(advantage, options.settings, options.payoffs);
+  advantage->add_flag("--zero-outcomes", options.zeroOutcomes,
+                      "Count rolls that decide nothing as decisions");
+  advantage->add_flag("--json", options.json, "The figures as JSON");
+}
+
 int Main(int argc, char** argv) {
   CLI::App app{"Tessarel: what a craps betting system really does, without a window"};
   app.require_subcommand(1);
   RunOptions run;
   DiceOptions dice;
+  AdvantageOptions advantage;
   std::string game;
   DescribeRun(app, run, game);
   DescribeDice(app, dice);
+  DescribeAdvantage(app, advantage);
   try {
     RefuseWhatIsMissing(argc, argv);
     app.parse(argc, argv);
     if (!game.empty()) throw Failure(CannotBeDone, "Game files are not available in this version.");
-    app.got_subcommand("run") ? RunCommand(run) : DiceCommand(dice);
+    if (app.got_subcommand("run")) RunCommand(run);
+    if (app.got_subcommand("dice")) DiceCommand(dice);
+    if (app.got_subcommand("advantage")) AdvantageCommand(advantage);
     return Done;
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return app.exit(error);
-    std::fprintf(stderr, "tessarel-sim: %s\nUsage: tessarel-sim run|dice [OPTIONS] (see --help)\n",
-                 error.what());
+    std::fprintf(
+        stderr, "tessarel-sim: %s\nUsage: tessarel-sim run|dice|advantage [OPTIONS] (see --help)\n",
+        error.what());
     return WrongCommandLine;
   } catch (const Failure& failure) {
     std::fprintf(stderr, "tessarel-sim: %s\n", failure.what());
     if (failure.status == WrongCommandLine) {
-      std::fprintf(stderr, "Usage: tessarel-sim run|dice [OPTIONS] (see --help)\n");
+      std::fprintf(stderr, "Usage: tessarel-sim run|dice|advantage [OPTIONS] (see --help)\n");
     }
     return failure.status;
   } catch (const Fault& fault) {

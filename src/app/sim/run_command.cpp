@@ -13,11 +13,8 @@
 #include "base/front_end.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
-#include "config/configuration.h"
 #include "config/folders.h"
 #include "config/language.h"
-#include "config/payoff_editor.h"
-#include "config/setting_fields.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
@@ -80,28 +77,6 @@ void SeatPlayers(const RunOptions& options) {
     CheckName(player.name);
     SeatPlayer(OpenPlace(player.place), player.name, player.bankroll);
   }
-}
-
-void Require(const std::optional<std::string>& refusal) {
-  if (refusal) throw Failure(CannotBeDone, *refusal);
-}
-
-std::string OnOneLine(std::string text) {
-  std::string line;
-  for (const char c : text)
-    line += c == '\r' ? ' ' : c;
-  return line;
-}
-
-void ApplySettings(const RunOptions& options) {
-  for (const FieldArgument& field : options.settings) {
-    const std::optional<int> place = field.place != 0 ? std::optional(field.place) : std::nullopt;
-    Require(SetField(field.field, place, field.value));
-  }
-  for (const std::string& payoff : options.payoffs)
-    Require(SetPayoffByName(payoff));
-  const auto refusal = ValidateConfiguration();
-  if (refusal) throw Failure(CannotBeDone, OnOneLine(refusal->Text));
 }
 
 void CheckBets(std::vector<BetArgument>& bets) {
@@ -267,7 +242,7 @@ void RunCommand(const RunOptions& options) {
   Console.tableMode = options.mode == Mode::Table;
   if (!options.answers.empty()) LoadAnswers(InFolder(Folders.AppFolder, options.answers));
   SeatPlayers(options);
-  ApplySettings(options);
+  ApplyRules(options.settings, options.payoffs);
   ChooseDice(options);
   if (!options.dice.empty()) PlayFrom(options.dice);
   Recording recording(options.record);

@@ -1,0 +1,78 @@
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "app/session.h"
+#include "app/sim/commands.h"
+#include "app/sim/console.h"
+#include "app/sim/failure.h"
+#include "base/number_format.h"
+#include "config/advantage.h"
+#include "engine/bet_numbers.h"
+#include "engine/table.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+std::string AdvantageJson() {
+  Json bets = Json::array();
+  for (int number = 1; number <= LastBet; ++number) {
+    const AdvantageResult result = FigureAdvantage(number);
+    bets.push_back({{"bet", number},
+                    {"name", At(BetName, number)},
+                    {"EvPerRoll", result.EvPerRoll},
+                    {"EvPerDec", result.EvPerDec},
+                    {"RollsPerDec", result.RollsPerDec},
+                    {"StDevPerRoll", result.StDevPerRoll},
+                    {"StDevPerDec", result.StDevPerDec}});
+  }
+  return bets.dump() + "\n";
+}
+
+std::string Line(const std::string& number,
+                 const std::string& name,
+                 const std::array<std::string, 5>& figures) {
+  constexpr size_t NumberWidth = 2, NameWidth = 20, FigureWidth = 13;
+  const auto right = [](const std::string& text, size_t width) {
+    return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
+  };
+  std::string line = right(number, NumberWidth) + "  " + name;
+  line.resize(std::max(line.size(), NumberWidth + 2 + NameWidth), ' ');
+  for (const std::string& figure : figures)
+    line += right(figure, FigureWidth);
+  return line + "\n";
+}
+
+std::string AdvantageTable() {
+  std::string table =
+      Line("#", "Bet", {"EV/Roll", "StDev/Roll", "EV/Dec", "StDev/Dec", "Rolls/Dec"});
+  const auto percent = [](double fraction) { return FormatNumber(fraction, "0.0000%"); };
+  for (int number = 1; number <= LastBet; ++number) {
+    const AdvantageResult result = FigureAdvantage(number);
+    table +=
+        Line(std::to_string(number), std::string(At(BetName, number)),
+             {percent(result.EvPerRoll), percent(result.StDevPerRoll), percent(result.EvPerDec),
+              percent(result.StDevPerDec), FormatNumber(result.RollsPerDec, "0.00")});
+  }
+  return table;
+}
+
+}  // namespace
+
+void AdvantageCommand(const AdvantageOptions& options) {
+  OpenConsole();
+  StartUp(".");
+  ApplyRules(options.settings, options.payoffs);
+  Advantage.IncludeZeroOutcomes = options.zeroOutcomes ? -1 : 0;
+  const std::string text = options.json ? AdvantageJson() : AdvantageTable();
+  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0) {
+    throw Failure(CannotBeDone, "Standard output cannot be written.");
+  }
+}
+
+}  // namespace tessarel::sim

@@ -1,0 +1,48 @@
+#include "stats/comps.h"
+
+#include "base/fault.h"
+#include "config/advantage.h"
+#include "config/settings.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+// The values of CompBase.
+enum CompBasis : int32_t { OnTheoreticalLoss = 0, OnAction = 1, OnAverageAction = 2 };
+
+double Base(const CompFigures& figures) {
+  switch (Settings.CompBase) {
+    case OnTheoreticalLoss:
+      return -figures.TheoreticalLoss;
+    case OnAction:
+      return figures.Action.ToDouble();
+    default:
+      return figures.AverageAction.ToDouble();
+  }
+}
+
+}  // namespace
+
+CompFigures FigureComps(int slot) {
+  if (slot < 0 || slot >= SlotCount) RaiseIndexOutOfRange();
+  const DiceProbabilities dice = Settings.CompsUseTrueProbs != 0 ? TrueDice() : DiceInForce();
+  CompFigures figures;
+  for (int number = 1; number <= LastBet; ++number) {
+    const BetMeasures& wagered = At(At(Stats.Bets, slot), number).Tendered;
+    if (At(Settings.CompBet, number) == 0 || wagered.Sum <= Money()) continue;
+    figures.Action += wagered.Sum;
+    figures.Decisions += wagered.Count;
+    figures.TheoreticalLoss += wagered.Sum.ToDouble() * FigureAdvantage(number, dice).EvPerDec;
+  }
+  if (figures.Decisions > Money()) {
+    const double hours = At(Stats.Hands, slot).RollTotal / Settings.SimRollRate.ToDouble();
+    figures.AverageAction =
+        Money::FromDouble(figures.Action.ToDouble() * hours / figures.Decisions.ToDouble());
+  }
+  figures.Comps = Settings.CompRate.ToDouble() * Base(figures) * 0.01;
+  return figures;
+}
+
+}  // namespace tessarel
