@@ -1,0 +1,153 @@
+#include "stats/report.h"
+
+#include <bit>
+
+#include "base/clock.h"
+#include "config/language.h"
+#include "stats/hands_view.h"
+#include "stats/roll_totals.h"
+#include "stats/text_table.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int NoPlayersPresent = 100;
+
+std::string Heading(std::string_view title) {
+  return "\n" + std::string(title) + "\n" + std::string(title.size(), '-') + "\n";
+}
+
+std::string SummarySection(const ReportInputs& inputs) {
+  const SummaryView view = Summary(inputs.Of, WholeTable, inputs.Expected, inputs.Comps);
+  TextRows rows = {{"", "Table", view.PlayerTitle}};
+  for (const GeneralRow& row : view.General)
+    rows.push_back({row.Caption, row.Table, row.Player});
+  TextRows wagers;
+  for (const SummaryRow& row : view.Wagers)
+    wagers.push_back({row.Caption, row.Value});
+  return TextTable(rows) + "\nWagers\n" + TextTable(wagers);
+}
+
+std::vector<std::string> BetResultsLine(const std::string& name, const WagerColumns& columns) {
+  return {name,
+          columns.TenderedCount,
+          columns.Tendered,
+          columns.ResolvedCount,
+          columns.Resolved,
+          columns.WinCount,
+          columns.Wins,
+          columns.LossCount,
+          columns.Losses,
+          columns.Net,
+          columns.NetPercent,
+          columns.Expected};
+}
+
+// The bets that the place has had resolved.
+NumberSet ResolvedBets(Scope scope, int place) {
+  NumberSet bets;
+  for (int bet = 1; bet <= LastBet; ++bet) {
+    bets.Set(bet, At(At(Stats.Bets, scope + place), bet).Tendered.Count > Money());
+  }
+  return bets;
+}
+
+std::string BetResultsOf(const ReportInputs& inputs, int place) {
+  const NumberSet bets = ResolvedBets(inputs.Of, place);
+  const std::string title = "\nPlayer:  " + At(Table.PlayerName, place) + "\n";
+  if (bets.Empty()) return title + "No bets were resolved.\n";
+  const BetResultsView view = BetResults(inputs.Of, 1u << place, bets, inputs.Expected);
+  TextRows rows = {{"Bet", "Tendered", "$", "Resolved", "$", "Wins", "$", "Losses", "$", "Net $",
+                    "Net %", "Expected $"}};
+  for (const BetResultsRow& row : view.Rows)
+    rows.push_back(BetResultsLine(row.Name, row.Columns));
+  rows.push_back(BetResultsLine("Total", view.Totals));
+  return title + TextTable(rows) + std::string(ExpectedValueCaption.substr(1)) +
+         view.Totals.Expected + "\n";
+}
+
+std::string BetResultsSection(const ReportInputs& inputs) {
+  std::string text = Heading(BetResultsTitle);
+  if (Table.TakenPlaces == 0) return text + std::string(GetText(NoPlayersPresent)) + "\n";
+  ForEachPlayer([&](int place) { text += BetResultsOf(inputs, place); });
+  return text;
+}
+
+std::string HandsSection(const ReportInputs& inputs) {
+  const HandsView view = Hands(inputs.Of, WholeTable, HandUnits::Counts);
+  TextRows rows;
+  for (const HandsRow& row : view.Figures)
+    rows.push_back({row.Caption, row.Value});
+  TextRows table = {{"Total", "C/o rolls", "Passes", "Misses"}};
+  for (const HandsTableRow& row : view.Table)
+    table.push_back({std::to_string(row.Total), row.ComeoutRolls, row.Passes, row.Misses});
+  return Heading(HandsTitle) + TextTable(rows) + "\n" + TextTable(table);
+}
+
+std::string RollTotalsTable(const ReportInputs& inputs, RollTotalsDisplay display) {
+  const RollTotalsView view = RollTotals(inputs.Of, WholeTable, display, inputs.Dice);
+  TextRows rows = {{"Roll"}};
+  rows[0].insert(rows[0].end(), RollTotalsHeadings.begin(), RollTotalsHeadings.end());
+  for (const RollTotalsRow& row : view.Rows) {
+    rows.push_back({row.Name, row.ActualPercent, row.ProbablePercent, row.Rolls, row.ProbableRolls,
+                    row.Since, row.ChiSquare});
+  }
+  return TextTable(rows) + "chi-square " + view.ChiSquare + " with " +
+         std::to_string(view.Degrees) + " degrees of freedom, " + view.PValue + "\n";
+}
+
+std::string RollTotalsSection(const ReportInputs& inputs) {
+  using enum RollTotalsDisplay;
+  std::string text = Heading(RollTotalsTitle);
+  const char* separator = "";
+  for (const RollTotalsDisplay display : {Number, Combinations, Die1, Die2}) {
+    text += separator + RollTotalsTable(inputs, display);
+    separator = "\n";
+  }
+  return text;
+}
+
+// One column a player.
+std::string BankrollSection(const ReportInputs& inputs) {
+  if (Table.TakenPlaces == 0) return "";
+  TextRows bankrolls = {{""}}, comps = {{""}};
+  ForEachPlayer([&](int place) {
+    const SummaryView view = Summary(inputs.Of, 1u << place, inputs.Expected, inputs.Comps);
+    const auto addColumn = [&view, place](TextRows& rows, const std::vector<SummaryRow>& column) {
+      rows.resize(column.size() + 1);
+      rows[0].push_back(At(Table.PlayerName, place));
+      for (size_t k = 0; k < column.size(); ++k) {
+        if (rows[k + 1].empty()) rows[k + 1].push_back(column[k].Caption);
+        rows[k + 1].push_back(column[k].Value);
+      }
+    };
+    addColumn(bankrolls, view.Bankroll);
+    addColumn(comps, view.Comps);
+  });
+  return Heading(BankrollTitle) + TextTable(bankrolls) + "\nComps\n" + TextTable(comps);
+}
+
+}  // namespace
+
+std::string ReportHeader(std::string_view title, std::string_view gameFile) {
+  const std::string_view name = gameFile.substr(gameFile.find_last_of("/\\") + 1);
+  return std::string(title) + "\n" + MediumDate(Now()) +
+         "\nGame file:  " + std::string(name.empty() ? "untitled" : name) + "\n";
+}
+
+std::string SelectionHeader(Scope scope, PlaceSelection selection) {
+  const PlaceSelection present = PresentPlaces(selection);
+  const std::string players = std::has_single_bit(present)
+                                  ? "Player:  " + At(Table.PlayerName, std::countr_zero(present))
+                                  : SelectionCaption(selection);
+  return std::string(ScopeName(scope)) + "\n" + players + "\n";
+}
+
+std::string TextReport(const ReportInputs& inputs) {
+  return ReportHeader(SummaryTitle, inputs.GameFile) + SelectionHeader(inputs.Of, WholeTable) +
+         "\n" + SummarySection(inputs) + BetResultsSection(inputs) + HandsSection(inputs) +
+         RollTotalsSection(inputs) + BankrollSection(inputs);
+}
+
+}  // namespace tessarel

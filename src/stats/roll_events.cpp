@@ -1,0 +1,192 @@
+#include "stats/roll_events.h"
+
+#include <bit>
+#include <string_view>
+
+#include "base/fault.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr RollEvent Totals(std::initializer_list<int> totals) {
+  RollEvent event;
+  for (const int total : totals)
+    event.Totals = static_cast<uint16_t>(event.Totals | 1u << total);
+  return event;
+}
+constexpr RollEvent Pair(uint8_t pair, uint8_t other = 0) {
+  return {.Pairs = {pair, other}};
+}
+constexpr RollEvent FirstDie(uint8_t face) {
+  return {.Die1 = face};
+}
+constexpr RollEvent SecondDie(uint8_t face) {
+  return {.Die2 = face};
+}
+
+// clang-format off
+constexpr std::array<RollEvent, LastRollEvent + 1> Events = {{
+    {}, {},
+    // 2 to 12: the totals.
+    Totals({2}), Totals({3}), Totals({4}), Totals({5}), Totals({6}), Totals({7}), Totals({8}),
+    Totals({9}), Totals({10}), Totals({11}), Totals({12}),
+    // 13 to 16: the hard ways.
+    Pair(22), Pair(33), Pair(44), Pair(55),
+    // 17 to 21: points, inside, outside, craps, field.
+    Totals({4, 5, 6, 8, 9, 10}), Totals({5, 6, 8, 9}), Totals({4, 5, 9, 10}), Totals({2, 3, 12}),
+    Totals({2, 3, 4, 9, 10, 11, 12}),
+    // 22 to 64: the ordered pairs of each total, then both orders together.
+    Pair(12), Pair(21),
+    Pair(13), Pair(31), Pair(13, 31),
+    Pair(14), Pair(41), Pair(23), Pair(32), Pair(14, 41), Pair(23, 32),
+    Pair(15), Pair(51), Pair(24), Pair(42), Pair(15, 51), Pair(24, 42),
+    Pair(16), Pair(61), Pair(25), Pair(52), Pair(34), Pair(43),
+    Pair(16, 61), Pair(25, 52), Pair(34, 43),
+    Pair(26), Pair(62), Pair(35), Pair(53), Pair(26, 62), Pair(35, 53),
+    Pair(36), Pair(63), Pair(45), Pair(54), Pair(36, 63), Pair(45, 54),
+    Pair(46), Pair(64), Pair(46, 64),
+    Pair(56), Pair(65),
+    // 65 to 77: more groups of totals.
+    Totals({2, 3, 7, 11, 12}), Totals({2, 3, 11, 12}), Totals({4, 5, 6}), Totals({8, 9, 10}),
+    Totals({2, 12}), Totals({3, 11}), Totals({4, 10}), Totals({5, 9}), Totals({6, 8}),
+    Totals({2, 3}), Totals({3, 12}), Totals({7, 11}), Totals({11, 12}),
+    // 78 to 89: the faces of either die.
+    FirstDie(1), FirstDie(2), FirstDie(3), FirstDie(4), FirstDie(5), FirstDie(6),
+    SecondDie(1), SecondDie(2), SecondDie(3), SecondDie(4), SecondDie(5), SecondDie(6),
+}};
+// clang-format on
+
+// What stands in front of the totals of a group; a group not named here is just its totals.
+constexpr std::string_view GroupName(int code) {
+  switch (code) {
+    case 17:
+      return "Point numbers";
+    case 18:
+      return "Inside numbers";
+    case 19:
+      return "Outside numbers";
+    case 20:
+      return "Craps";
+    case 21:
+      return "Field";
+    case 65:
+      return "Come-out decisions";
+    case 66:
+      return "Horn";
+    case 67:
+      return "Low points";
+    case 68:
+      return "High points";
+    default:
+      return "";
+  }
+}
+
+// "(4.6)".
+std::string PairText(int pair) {
+  return "(" + std::to_string(pair / 10) + "." + std::to_string(pair % 10) + ")";
+}
+
+std::string GroupText(int code, uint16_t totals) {
+  std::string list;
+  const int count = std::popcount(totals);
+  const char* const separator = count == 2 ? " or " : ", ";
+  for (unsigned rest = totals; rest != 0; rest &= rest - 1) {
+    if (!list.empty()) list += separator;
+    list += std::to_string(std::countr_zero(rest));
+  }
+  const std::string_view name = GroupName(code);
+  return name.empty() ? list : std::string(name) + " (" + list + ")";
+}
+
+// The totals that only one pair, or one pair in two orders, makes are named by their pairs.
+std::string TotalText(int total) {
+  const std::string number = "Number " + std::to_string(total);
+  switch (total) {
+    case 2:
+      return number + " (1.1)";
+    case 3:
+      return number + " (1.2) or (2.1)";
+    case 11:
+      return number + " (5.6) or (6.5)";
+    case 12:
+      return number + " (6.6)";
+    default:
+      return "Any " + std::to_string(total);
+  }
+}
+
+std::string PairsText(const std::array<uint8_t, 2>& pairs) {
+  const int die1 = pairs[0] / 10, die2 = pairs[0] % 10;
+  const std::string total = std::to_string(die1 + die2);
+  if (die1 == die2) return "Hard " + total + " " + PairText(pairs[0]);
+  const std::string name = "Number " + total + " " + PairText(pairs[0]);
+  return pairs[1] == 0 ? name : name + " or " + PairText(pairs[1]);
+}
+
+// In 1/100,000.
+int64_t ShareOf(const RollEvent& event, const SkewedDice& dice) {
+  int64_t share = At(dice.die1, event.Die1) + int64_t{At(dice.die2, event.Die2)};
+  for (unsigned rest = event.Totals; rest != 0; rest &= rest - 1)
+    share += At(dice.total, std::countr_zero(rest));
+  for (const int pair : event.Pairs)
+    share += At(At(dice.pair, pair / 10), pair % 10);
+  return share;
+}
+
+constexpr SkewedDice TrueDice = [] {
+  // Counts of ordered pairs in place of shares; index 0 stays empty.
+  SkewedDice dice;
+  for (size_t die1 = 1; die1 <= 6; ++die1) {
+    dice.die1[die1] = dice.die2[die1] = 6;
+    for (size_t die2 = 1; die2 <= 6; ++die2) {
+      dice.pair[die1][die2] = 1;
+      ++dice.total[die1 + die2];
+    }
+  }
+  return dice;
+}();
+
+}  // namespace
+
+const RollEvent& RollEventOf(int code) {
+  if (code < FirstRollEvent || code > LastRollEvent) RaiseIndexOutOfRange();
+  return At(Events, code);
+}
+
+std::string RollEventName(int code) {
+  const RollEvent& event = RollEventOf(code);
+  if (event.Die1 != 0) return "Die 1, face " + std::to_string(event.Die1);
+  if (event.Die2 != 0) return "Die 2, face " + std::to_string(event.Die2);
+  if (event.Pairs[0] != 0) return PairsText(event.Pairs);
+  return std::has_single_bit(event.Totals) ? TotalText(std::countr_zero(event.Totals))
+                                           : GroupText(code, event.Totals);
+}
+
+int CodeOfPair(int die1, int die2) {
+  const auto pair = static_cast<uint8_t>(10 * die1 + die2);
+  if (pair == 11) return CodeOfTotal(2);
+  if (pair == 66) return CodeOfTotal(12);
+  for (int code = FirstRollEvent; code <= LastRollEvent; ++code) {
+    if (At(Events, code).Pairs == std::array<uint8_t, 2>{pair, 0}) return code;
+  }
+  RaiseIndexOutOfRange();
+}
+
+SkewedDice SkewedDiceInForce() {
+  return {};
+}
+
+double EventProbability(int code, const SkewedDice& dice) {
+  const RollEvent& event = RollEventOf(code);
+  if (dice.active) return static_cast<double>(ShareOf(event, dice)) / 1000;
+  return static_cast<double>(ShareOf(event, TrueDice)) * 100 / 36;
+}
+
+double EventProbability(int code, bool useTrueDice) {
+  return EventProbability(code, useTrueDice ? SkewedDice{} : SkewedDiceInForce());
+}
+
+}  // namespace tessarel

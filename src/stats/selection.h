@@ -1,0 +1,63 @@
+// What a statistics view is asked to show: a scope of time and a selection of places, with the
+// words for both. Every view of players reads the store through here.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "base/number_set.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+// Bit n: place n. Bit 0 asks for the table as a whole, whoever is at it.
+using PlaceSelection = uint32_t;
+inline constexpr PlaceSelection WholeTable = 1;
+
+// The list of scopes in a view; an index times SlotsInScope is the Scope.
+inline constexpr std::array<std::string_view, 5> ScopeNames = {
+    "Current hand", "Last hand", "Current session", "Last session", "All sessions"};
+std::string_view ScopeName(Scope scope);
+// A sentence about it.
+std::string_view ScopeExplanation(Scope scope);
+// Whether the scope is counted into; the others are copies that stay as they are.
+bool IsCounted(Scope scope);
+
+// The selected places that have players.
+PlaceSelection PresentPlaces(PlaceSelection selection);
+// Whether the figures are those of the table as a whole.
+bool IsWholeTable(PlaceSelection selection);
+// What stands in place of the figures when the selection is empty; else empty.
+std::string Placeholder(PlaceSelection selection);
+
+// "No players selected", "1 player selected", "3 players selected", "All players selected".
+std::string SelectionCaption(PlaceSelection selection);
+std::string BetSelectionCaption(const NumberSet& bets);
+// Bets 1 to 93.
+NumberSet AllBets();
+
+// Calls visit(slot) for the table's slot if the selection is the whole table, else for the slot of
+// each selected place.
+template <class Visit>
+void ForEachSlot(Scope scope, PlaceSelection selection, Visit&& visit) {
+  if (IsWholeTable(selection)) {
+    visit(static_cast<int>(scope));
+    return;
+  }
+  for (uint32_t rest = PresentPlaces(selection); rest != 0; rest &= rest - 1)
+    visit(scope + std::countr_zero(rest));
+}
+
+// The same with place slots only, for figures that the table as a whole does not have: its own are
+// those of all eight places.
+template <class Visit>
+void ForEachPlaceSlot(Scope scope, PlaceSelection selection, Visit&& visit) {
+  constexpr uint32_t AllPlaces = (1u << (LastPlace + 1)) - 2;
+  uint32_t rest = IsWholeTable(selection) ? AllPlaces : PresentPlaces(selection);
+  for (; rest != 0; rest &= rest - 1)
+    visit(scope + std::countr_zero(rest));
+}
+
+}  // namespace tessarel

@@ -1,0 +1,158 @@
+#include "stats/summary_view.h"
+
+#include <bit>
+
+#include "base/number_format.h"
+#include "config/settings.h"
+#include "stats/store.h"
+#include "stats/view_text.h"
+
+namespace tessarel {
+
+namespace {
+
+// Calls visit(place) for each selected player.
+template <class Visit>
+void ForEachSelected(PlaceSelection selection, Visit&& visit) {
+  uint32_t rest = IsWholeTable(selection) ? Table.TakenPlaces : PresentPlaces(selection);
+  for (; rest != 0; rest &= rest - 1)
+    visit(std::countr_zero(rest));
+}
+
+struct PlayTime {
+  int64_t Hands = 0, Rolls = 0;
+};
+
+void AddPlay(PlayTime& play, int slot) {
+  play.Hands += At(Stats.Hands, slot).HandCount;
+  play.Rolls += At(Stats.Hands, slot).RollTotal;
+}
+
+std::string HoursText(int64_t rolls) {
+  return rolls == 0 ? std::string(NotAvailable) : FourDecimals(SimHours(rolls));
+}
+
+std::vector<GeneralRow> GeneralRows(Scope scope, PlaceSelection selection) {
+  PlayTime table, players;
+  AddPlay(table, scope);
+  ForEachSelected(selection, [&](int place) { AddPlay(players, scope + place); });
+  const std::string rate = FourDecimals(Settings.SimRollRate.ToDouble());
+  return {
+      {"Total hands", CountText(table.Hands), CountText(players.Hands)},
+      {"Total rolls", CountText(table.Rolls), CountText(players.Rolls)},
+      {"Sim hours", HoursText(table.Rolls), HoursText(players.Rolls)},
+      {"Rolls / hour", rate, rate},
+  };
+}
+
+std::vector<SummaryRow> WagerRows(const WagerColumns& columns) {
+  return {
+      {"Total #", columns.TenderedCount},
+      {"Resolved", columns.Resolved},
+      {"Wins", columns.Wins},
+      {"Losses", columns.Losses},
+      {"Net", columns.Net},
+      {"Net %", columns.NetPercent},
+      {std::string(ExpectedValueCaption), columns.Expected},
+  };
+}
+
+// The store keeps the sum of bankrolls for the running session only.
+std::string AverageText(Scope scope, PlaceSelection selection) {
+  if (scope != CurrentSession) return std::string(NotAvailable);
+  double sum = 0;
+  int players = 0;
+  ForEachSelected(selection, [&](int place) {
+    const std::optional<double> average = AverageBankroll(place);
+    if (!average) return;
+    sum += *average;
+    ++players;
+  });
+  return players == 0 ? std::string(NotAvailable) : FourDecimals(sum / players);
+}
+
+std::vector<SummaryRow> BankrollRows(Scope scope, PlaceSelection selection) {
+  Money begin, end, high, low;
+  ForEachSelected(selection, [&](int place) {
+    begin += At(Table.BankrollBegin, scope + place);
+    end += At(Table.Bankroll, scope + place);
+    high += At(Table.BankrollHigh, scope + place);
+    low += At(Table.BankrollLow, scope + place);
+  });
+  return {
+      {"Beginning bankroll", AmountText(begin)},
+      {IsCounted(scope) ? "Current bankroll" : "Ending bankroll", AmountText(end)},
+      {"High bankroll", AmountText(high)},
+      {"Low bankroll", AmountText(low)},
+      {"Average bankroll", AverageText(scope, selection)},
+  };
+}
+
+std::string CentsText(double amount) {
+  return FormatNumber(amount, "#,0.00;-#,0.00;0");
+}
+
+std::vector<SummaryRow> CompRows(PlaceSelection selection, const PerPlace<CompFigures>& comps) {
+  CompFigures sum;
+  ForEachSelected(selection, [&](int place) {
+    const CompFigures& figures = At(comps, place);
+    sum.Decisions += figures.Decisions;
+    sum.Action += figures.Action;
+    sum.AverageAction += figures.AverageAction;
+    sum.TheoreticalLoss += figures.TheoreticalLoss;
+    sum.Comps += figures.Comps;
+  });
+  const double decisions = sum.Decisions.ToDouble();
+  const auto caption = [](const char* text, int base) {
+    return (Settings.CompBase == base ? "* " : "") + std::string(text);
+  };
+  return {
+      {"Total # comp bets", CountText(sum.Decisions)},
+      {"Avg comp action $",
+       decisions > 0 ? CentsText(sum.Action.ToDouble() / decisions) : std::string(NotAvailable)},
+      {"Comp rate %", FormatNumber(Settings.CompRate, "#,0.0#;-#,0.0#;0")},
+      {caption("Theoretical vig $", 0), CentsText(-sum.TheoreticalLoss)},
+      {caption("Total comp action $", 1), CentsText(sum.Action.ToDouble())},
+      {caption("Avg action x time $", 2), CentsText(sum.AverageAction.ToDouble())},
+      {"Comps $", CentsText(sum.Comps)},
+  };
+}
+
+// The name of the only selected player, else how many they are.
+std::string PlayerTitle(PlaceSelection selection) {
+  const PlaceSelection present = PresentPlaces(selection);
+  if (!std::has_single_bit(present)) return SelectionCaption(selection);
+  return At(Table.PlayerName, std::countr_zero(present));
+}
+
+}  // namespace
+
+std::optional<double> AverageBankroll(int place) {
+  const int slot = CurrentSession + place;
+  const int32_t rolls = At(Stats.Hands, slot).RollTotal;
+  if (rolls == 0) return std::nullopt;
+  const Money sum = At(Table.BankrollBegin, slot) + At(Table.BankrollSum, place);
+  return sum.ToDouble() / (rolls + 1.0);
+}
+
+double SimHours(int64_t rolls) {
+  const double rate = Settings.SimRollRate.ToDouble();
+  return rate > 0 ? static_cast<double>(rolls) / rate : 0;
+}
+
+SummaryView Summary(Scope scope,
+                    PlaceSelection selection,
+                    const ExpectedValues& expected,
+                    const PerPlace<CompFigures>& comps) {
+  SummaryView view;
+  view.Placeholder = Placeholder(selection);
+  if (!view.Placeholder.empty()) return view;
+  view.PlayerTitle = PlayerTitle(selection);
+  view.General = GeneralRows(scope, selection);
+  view.Wagers = WagerRows(ColumnsOf(AllWagers(scope, selection, expected)));
+  view.Bankroll = BankrollRows(scope, selection);
+  view.Comps = CompRows(selection, comps);
+  return view;
+}
+
+}  // namespace tessarel

@@ -1,0 +1,111 @@
+#include "stats/roll_events.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+
+#include "base/fault.h"
+#include "stats/store.h"
+
+namespace tessarel {
+namespace {
+
+// Whether the event's name, as a reader takes it, says that the roll is one of it.
+bool NameCovers(const std::string& name, int die1, int die2) {
+  const std::string pair = std::to_string(die1) + "." + std::to_string(die2);
+  if (name.starts_with("Die 1")) return name.back() == '0' + die1;
+  if (name.starts_with("Die 2")) return name.back() == '0' + die2;
+  if (name.find('.') != std::string::npos) return name.find("(" + pair + ")") != std::string::npos;
+  std::set<int> totals;
+  for (size_t k = 0; k < name.size(); ++k) {
+    if (!std::isdigit(static_cast<unsigned char>(name[k]))) continue;
+    size_t digits = 0;
+    totals.insert(std::stoi(name.substr(k), &digits));
+    k += digits;
+  }
+  return totals.contains(die1 + die2);
+}
+
+bool Reports(int die1, int die2, int code) {
+  const RollCodeList& codes = CodesOfRoll(die1, die2);
+  const auto end = std::ranges::find(codes, 0);
+  return std::find(codes.begin(), end, code) != end;
+}
+
+// Prime-like shares, so that a wrong cell shows.
+SkewedDice OddDice() {
+  SkewedDice dice{.active = true};
+  int share = 101;
+  for (size_t a = 1; a <= 6; ++a) {
+    for (size_t b = 1; b <= 6; ++b) {
+      dice.pair[a][b] = share;
+      dice.total[a + b] += share;
+      dice.die1[a] += share;
+      dice.die2[b] += share;
+      share = share * 3 % 9973;
+    }
+  }
+  return dice;
+}
+
+TEST(RollEvents, NameProbabilityAndCountedRollsAgreeForEveryCode) {
+  const SkewedDice dice = OddDice();
+  std::set<std::string> names;
+  for (int code = FirstRollEvent; code <= LastRollEvent; ++code) {
+    const std::string name = RollEventName(code);
+    EXPECT_TRUE(names.insert(name).second) << name;
+    int pairs = 0;
+    int64_t share = 0;
+    for (int die1 = 1; die1 <= 6; ++die1) {
+      for (int die2 = 1; die2 <= 6; ++die2) {
+        EXPECT_EQ(Reports(die1, die2, code), NameCovers(name, die1, die2)) << name << die1 << die2;
+        if (!NameCovers(name, die1, die2)) continue;
+        ++pairs;
+        share += At(At(dice.pair, die1), die2);
+      }
+    }
+    EXPECT_DOUBLE_EQ(EventProbability(code, true), pairs * 100.0 / 36) << name;
+    EXPECT_DOUBLE_EQ(EventProbability(code, dice), static_cast<double>(share) / 1000) << name;
+  }
+}
+
+TEST(RollEvents, SharesAreReadWhereTheyAreKept) {
+  SkewedDice dice{.active = true};
+  dice.total[7] = 1000;
+  dice.pair[1][6] = 20;
+  dice.die1[3] = 3;
+  EXPECT_DOUBLE_EQ(EventProbability(CodeOfTotal(7), dice), 1);
+  EXPECT_DOUBLE_EQ(EventProbability(45, dice), 0.02);
+  EXPECT_DOUBLE_EQ(EventProbability(CodeOfFace(1, 3), dice), 0.003);
+  EXPECT_DOUBLE_EQ(EventProbability(CodeOfFace(2, 3), dice), 0);
+}
+
+TEST(RollEvents, NamesReadAsInTheLists) {
+  const std::pair<int, const char*> cases[] = {
+      {2, "Number 2 (1.1)"},
+      {3, "Number 3 (1.2) or (2.1)"},
+      {4, "Any 4"},
+      {10, "Any 10"},
+      {13, "Hard 4 (2.2)"},
+      {16, "Hard 10 (5.5)"},
+      {60, "Number 10 (4.6)"},
+      {61, "Number 10 (6.4)"},
+      {62, "Number 10 (4.6) or (6.4)"},
+      {20, "Craps (2, 3, 12)"},
+      {76, "7 or 11"},
+      {78, "Die 1, face 1"},
+      {89, "Die 2, face 6"},
+  };
+  for (const auto& [code, name] : cases)
+    EXPECT_EQ(RollEventName(code), name);
+}
+
+TEST(RollEvents, CodesOutsideTheTableAreFaults) {
+  for (const int code : {-1, 0, 1, 90, 91})
+    EXPECT_THROW(EventProbability(code, true), Fault) << code;
+}
+
+}  // namespace
+}  // namespace tessarel
