@@ -6,14 +6,15 @@
 #include <charconv>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <sstream>
 
-#include "app/sim/failure.h"
 #include "base/clock.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
+#include "base/single_byte_text.h"
 
 namespace tessarel::sim {
 
@@ -25,18 +26,6 @@ volatile std::sig_atomic_t StopAsked = 0;
 
 constexpr uint64_t LargestAnswersFile = 16 << 20;
 
-std::string OnOneLine(const std::string& text) {
-  std::string line;
-  for (const char c : text) {
-    if (c == '\r' || c == '\n') {
-      line += " / ";
-    } else {
-      line += c;
-    }
-  }
-  return line;
-}
-
 // A message is a prompt when there is something to choose or to type.
 bool IsPrompt(int32_t flags) {
   const bool severalButtons =
@@ -44,34 +33,46 @@ bool IsPrompt(int32_t flags) {
   return severalButtons || (flags & (msg::Input | msg::List)) != 0;
 }
 
-bool IsOneOf(const std::string& answer, std::initializer_list<const char*> words) {
-  return std::any_of(words.begin(), words.end(), [&](const char* word) { return answer == word; });
+// The answer that a text stands for: yes or no where the box asks that, else a button by its index
+// from 0.
+std::optional<int32_t> ButtonAnswer(const std::string& text) {
+  constexpr int32_t ButtonCount = 5;
+  const std::string word = LowerCase(text);
+  const bool yesNo = (Message.MsgFlags & msg::YesNo) == msg::YesNo;
+  if (yesNo && (word == "yes" || word == "no")) return word == "yes" ? AnswerYes : AnswerNo;
+  int32_t index = -1;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, index);
+  if (error != std::errc() || rest != end) return std::nullopt;
+  if (yesNo && (index == AnswerYes || index == AnswerNo)) return index;
+  const bool there = index >= 0 && index < ButtonCount && (Message.MsgFlags >> index & 1) != 0;
+  if (!there) return std::nullopt;
+  if (!yesNo) return index;
+  return index == 1 ? AnswerYes : AnswerNo;
 }
 
+// An answer that the prompt does not offer leaves its default.
 void TakeAnswer() {
   if (Console.answers.empty() || !IsPrompt(Message.MsgFlags)) return;
   const std::string answer = Console.answers.front();
   Console.answers.pop_front();
   if ((Message.MsgFlags & msg::Input) != 0) {
     Message.MsgInput = answer;
-    return;
-  }
-  if (IsOneOf(answer, {"yes", "Yes", "YES"})) {
-    Message.MsgResult = AnswerYes;
-  } else if (IsOneOf(answer, {"no", "No", "NO"})) {
-    Message.MsgResult = AnswerNo;
   } else {
-    std::from_chars(answer.data(), answer.data() + answer.size(), Message.MsgResult);
+    Message.MsgResult = ButtonAnswer(answer).value_or(Message.MsgResult);
   }
 }
 
+// Why the Hyper-Drive stopped is part of the result and no message.
 void ShowOnConsole() {
-  const bool stopNote = Message.MsgTitle == "Hyper-Drive Stopped";
-  if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
-  if (Console.tableMode || !stopNote) {
-    Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  if (Message.MsgTitle == "Hyper-Drive Stopped") return;
+  if (Message.MsgTitle == Message.ErrorTitle) {
+    ++Console.faults;
+    Console.lastFault = Message.MsgText;
   }
-  if (Console.tableMode) TakeAnswer();
+  if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
+  Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  TakeAnswer();
 }
 
 std::string TimeLeft(double seconds) {
@@ -86,8 +87,21 @@ void OpenConsole() {
   FrontEnd.ShowMessage = ShowOnConsole;
   struct sigaction action = {};
   action.sa_handler = [](int) { StopAsked = 1; };
-  action.sa_flags = static_cast<int>(SA_RESETHAND);  // a second Ctrl-C ends the program
+  // A second Ctrl-C ends the program, and the first one cuts no write short.
+  action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
   sigaction(SIGINT, &action, nullptr);
+}
+
+std::string OnOneLine(const std::string& text) {
+  std::string line;
+  for (const char c : text) {
+    if (c == '\r' || c == '\n') {
+      line += " / ";
+    } else {
+      line += c;
+    }
+  }
+  return line;
 }
 
 bool Interrupted() {

@@ -5,8 +5,10 @@
 #include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
+#include "base/trap.h"
 #include "config/language.h"
 #include "dice/generators.h"
+#include "engine/table.h"
 
 namespace tessarel::sim {
 
@@ -54,25 +56,35 @@ void WriteWords(int64_t count, Output& output) {
 
 }  // namespace
 
-void SelectAndSeed(int32_t generator, int64_t seed) {
-  if (generator < 1 || SelectRNG(generator) != Selected) {
-    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8, not " +
-                                    std::to_string(generator) + ".");
+void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
+  if (generator < 1 || generator > GeneratorCount) {
+    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8.");
   }
-  if (seed < 1 || seed > SeedLimit(generator)) {
-    throw Failure(CannotBeDone, std::string(GetText(40)) + " RNG #" + std::to_string(generator) +
+  const auto number = static_cast<int32_t>(generator);
+  if (SelectRNG(number) != Selected) {
+    throw Failure(CannotBeDone, "RNG #" + std::to_string(number) + " is not available.");
+  }
+  if (seed && (*seed < 1 || *seed > SeedLimit(number))) {
+    throw Failure(CannotBeDone, std::string(GetText(40)) + " RNG #" + std::to_string(number) +
                                     " takes whole numbers from 1 to " +
-                                    std::to_string(SeedLimit(generator)) + ".");
+                                    std::to_string(SeedLimit(number)) + ".");
   }
-  Dice.SeedRequest = Money::FromWhole(seed);
-  SeedRNG(-1);
+  Dice.SeedRequest = seed ? Money::FromWhole(*seed) : Money();
+  try {
+    SeedRNG(-1);
+  } catch (const Fault& fault) {
+    throw Failure(CannotBeDone, FaultText(fault, "SeedRNG"));
+  }
 }
 
 void DiceCommand(const DiceOptions& options) {
-  StartUp(".");
-  if (options.raw && options.generator > 2) {
+  if (options.raw && options.generator != 1 && options.generator != 2) {
     throw Failure(WrongCommandLine, "--raw is for generators 1 and 2 only.");
   }
+  if (!options.raw && options.count > MaxRolls) {
+    throw Failure(CannotBeDone, "--count: a table makes at most 2,000,000,000 rolls.");
+  }
+  StartUp(".");
   SelectAndSeed(options.generator, options.seed);
   Output output;
   if (options.raw) {

@@ -11,6 +11,8 @@ struct RunFacts {
   int64_t sessions = 1;
   int64_t hands = 0;
   double seconds = 0;
+  std::string stopReason;  // empty: the counts were reached
+  std::string diceFile;    // empty: a generator
 };
 
 // Both read the tables as they stand at the end of the run.
