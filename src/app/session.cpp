@@ -14,6 +14,7 @@
 #include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
+#include "engine/bet_handling.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
@@ -39,15 +40,19 @@ void LoseAbandoned(int number) {
     Attempt([=] { ResolveBet(visit, Lose, number); });
 }
 
-// The bets that cannot be taken back are lost with the session.
+// The bets that cannot be taken back are lost with the session; nobody is asked what becomes of
+// them.
 void LoseAbandonedBets() {
   if (Settings.ReturnAbandonedBets != 0) return;
+  const auto modes = std::exchange(Table.HandleLosingBets, {});
+  Table.HandleLosingBets.fill(LossTakeDown);
   if (Table.Point != 0) {
     LoseAbandoned(bet::PassLine);
     LoseAbandoned(bet::SevenPoint7);
   }
   for (int number = bet::Come4; number <= bet::Come10; ++number)
     LoseAbandoned(number);
+  Table.HandleLosingBets = modes;
 }
 
 void CloseStatistics(bool keepSessions) {
@@ -126,7 +131,7 @@ void StartBankroll(int place, bool keepSessions) {
 
 void ApplyRollFileAction(int32_t action) {
   if (action == RewindRollFile) {
-    RewindForPlayback();
+    if (!RollFile.RollFileName.empty()) RewindForPlayback();
   } else if (action != ContinueRollFile) {
     CloseRollFile();
   }

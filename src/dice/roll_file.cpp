@@ -93,6 +93,18 @@ void LoadBlock(int32_t roll) {
   RollFile.Block.resize(static_cast<size_t>(RollFile.File.gcount()));
 }
 
+// Has the block hold NextRoll; false at the end of the file.
+bool HoldNextRoll() {
+  RollFile.NextRoll = std::max(RollFile.NextRoll, 1);
+  if (!RollFile.BlockIsRecorded && BlockHolds(RollFile.NextRoll)) return true;
+  if (RollFile.File.is_open()) LoadBlock(RollFile.NextRoll);
+  return !RollFile.Block.empty();
+}
+
+Faces HeldRoll() {
+  return FacesOfByte(At(RollFile.Block, RollFile.NextRoll - RollFile.BlockStart));
+}
+
 void MovePastRoll() {
   RollFile.LastRoll = RollFile.NextRoll;
   RollFile.DisplayRoll = ++RollFile.NextRoll;
@@ -155,18 +167,19 @@ void RewindForPlayback() {
   RollFile.EndReached = false;
 }
 
+bool PlaysNextRoll() {
+  if (!HoldNextRoll()) return false;
+  const Faces faces = HeldRoll();
+  return IsFace(faces.die1) && IsFace(faces.die2);
+}
+
 std::optional<Faces> PlayBackRoll() {
-  RollFile.NextRoll = std::max(RollFile.NextRoll, 1);
-  RollFile.EndReached = false;
-  if (RollFile.BlockIsRecorded || !BlockHolds(RollFile.NextRoll)) {
-    if (RollFile.File.is_open()) LoadBlock(RollFile.NextRoll);
-    if (RollFile.Block.empty()) {
-      RollFile.EndReached = true;
-      Table.StopReason = StoppedByEnd;
-      return std::nullopt;
-    }
+  RollFile.EndReached = !HoldNextRoll();
+  if (RollFile.EndReached) {
+    Table.StopReason = StoppedByEnd;
+    return std::nullopt;
   }
-  const Faces faces = FacesOfByte(At(RollFile.Block, RollFile.NextRoll - RollFile.BlockStart));
+  const Faces faces = HeldRoll();
   if (!IsFace(faces.die1) || !IsFace(faces.die2)) {
     StopAtInvalidRoll();
     return std::nullopt;

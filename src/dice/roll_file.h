@@ -63,6 +63,9 @@ void FlushRollFile();
 // Rewinds to roll 1 and plays back.
 void RewindForPlayback();
 
+// Whether PlayBackRoll would yield a roll now. Nothing is said and the recorder stays as it is.
+bool PlaysNextRoll();
+
 // Takes the next roll of the file. Empty at the end of the file and at an invalid byte; StopReason
 // then says which, and an invalid byte has been reported (not under the Hyper-Drive) and has
 // switched the recorder off.

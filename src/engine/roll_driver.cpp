@@ -261,9 +261,7 @@ bool StoppedByBankroll() {
 }
 
 void StopAtCount() {
-  const int64_t every = Settings.AutoStopRolls.Floor();
-  if (every <= 0 || RollsInSession() == 0 || RollsInSession() % every != 0) return;
-  Table.StopReason = "Stopped by Auto-Stop.";
+  if (AutoStopIsDue()) Table.StopReason = "Stopped by Auto-Stop.";
 }
 
 void CheckEverything() {
@@ -341,6 +339,11 @@ void EndRolling() {
 }
 
 }  // namespace
+
+bool AutoStopIsDue() {
+  const int64_t every = Settings.AutoStopRolls.Floor();
+  return every > 0 && RollsInSession() > 0 && RollsInSession() % every == 0;
+}
 
 void MakeRoll() {
   if (Table.RollInProgress != 0) return;

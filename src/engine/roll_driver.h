@@ -17,4 +17,7 @@ extern RollState Roll;
 // Makes a roll; see the steps in the source. It reads and writes the state of the tables.
 void MakeRoll();
 
+// Whether an unattended run stops after the rolls made so far because of AutoStopRolls.
+bool AutoStopIsDue();
+
 }  // namespace tessarel

@@ -8,18 +8,10 @@
 
 #include "base/money.h"
 #include "stats/bet_results.h"
+#include "stats/comps.h"
 #include "stats/selection.h"
 
 namespace tessarel {
-
-// What a player's comps are figured from.
-struct CompFigures {
-  Money Decisions;             // resolved wagers, as whole units
-  Money Action;                // wagered in all
-  Money AverageAction;         // of a wager, times the hours of play
-  double TheoreticalLoss = 0;  // what the wagers were worth: below zero for the house's advantage
-  double Comps = 0;
-};
 
 struct GeneralRow {
   std::string Caption, Table, Player;

@@ -216,6 +216,7 @@ TEST_F(RollDriver, RequiredBetIsAskedForInTheWordsOfTheHouse) {
       Reset();
       Settings.BetNeededToShoot = each.needed;
       Settings.AutoStopRolls = 1;
+      Settings.Notices = 0;  // no word on bets that stay
       for (int place = 1; place <= each.players; ++place)
         Seat(place);
       Table.Point = Table.LastPoint = each.point;

@@ -1,13 +1,12 @@
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <nlohmann/json.hpp>
 #include <string>
 
 #include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
-#include "app/sim/failure.h"
+#include "app/sim/output.h"
 #include "base/number_format.h"
 #include "config/advantage.h"
 #include "engine/bet_numbers.h"
@@ -69,10 +68,7 @@ void AdvantageCommand(const AdvantageOptions& options) {
   StartUp(".");
   ApplyRules(options.settings, options.payoffs);
   Advantage.IncludeZeroOutcomes = options.zeroOutcomes ? -1 : 0;
-  const std::string text = options.json ? AdvantageJson() : AdvantageTable();
-  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0) {
-    throw Failure(CannotBeDone, "Standard output cannot be written.");
-  }
+  WriteOut(options.json ? AdvantageJson() : AdvantageTable());
 }
 
 }  // namespace tessarel::sim

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace tessarel::sim {
 void RunCommand(const RunOptions& options);
 
 struct DiceOptions {
-  int32_t generator = 1;
+  int64_t generator = 1;
   int64_t seed = 0;
   int64_t count = 0;
   bool raw = false;
@@ -24,6 +25,7 @@ void DiceCommand(const DiceOptions& options);
 struct AdvantageOptions {
   std::vector<FieldArgument> settings;
   std::vector<std::string> payoffs;
+  std::string probability;  // a file name, empty for true dice
   bool zeroOutcomes = false;
   bool json = false;
 };
@@ -35,8 +37,9 @@ void AdvantageCommand(const AdvantageOptions& options);
 void ApplyRules(const std::vector<FieldArgument>& settings,
                 const std::vector<std::string>& payoffs);
 
-// Makes a generator current and applies a seed. Failure when either is outside its limits; the
-// overflow fault for seeds that the generator's arithmetic cannot take.
-void SelectAndSeed(int32_t generator, int64_t seed);
+// Makes a generator current and applies a seed, without one a seed from the clock. Failure when
+// either is outside its limits, and with the report of the overflow for seeds that the generator's
+// arithmetic cannot take.
+void SelectAndSeed(int64_t generator, std::optional<int64_t> seed);
 
 }  // namespace tessarel::sim

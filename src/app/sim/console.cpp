@@ -6,14 +6,16 @@
 #include <charconv>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <sstream>
 
-#include "app/sim/failure.h"
 #include "base/clock.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
+#include "base/single_byte_text.h"
+#include "engine/settle_prompt.h"
 
 namespace tessarel::sim {
 
@@ -25,18 +27,6 @@ volatile std::sig_atomic_t StopAsked = 0;
 
 constexpr uint64_t LargestAnswersFile = 16 << 20;
 
-std::string OnOneLine(const std::string& text) {
-  std::string line;
-  for (const char c : text) {
-    if (c == '\r' || c == '\n') {
-      line += " / ";
-    } else {
-      line += c;
-    }
-  }
-  return line;
-}
-
 // A message is a prompt when there is something to choose or to type.
 bool IsPrompt(int32_t flags) {
   const bool severalButtons =
@@ -44,34 +34,92 @@ bool IsPrompt(int32_t flags) {
   return severalButtons || (flags & (msg::Input | msg::List)) != 0;
 }
 
-bool IsOneOf(const std::string& answer, std::initializer_list<const char*> words) {
-  return std::any_of(words.begin(), words.end(), [&](const char* word) { return answer == word; });
+// The answer that a text stands for: yes or no where the box asks that, else a button by its index
+// from 0.
+std::optional<int32_t> ButtonAnswer(const std::string& text) {
+  constexpr int32_t ButtonCount = 5;
+  const std::string word = LowerCase(text);
+  const bool yesNo = (Message.MsgFlags & msg::YesNo) == msg::YesNo;
+  if (yesNo && (word == "yes" || word == "no")) return word == "yes" ? AnswerYes : AnswerNo;
+  int32_t index = -1;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, index);
+  if (error != std::errc() || rest != end) return std::nullopt;
+  if (yesNo && (index == AnswerYes || index == AnswerNo)) return index;
+  const bool there = index >= 0 && index < ButtonCount && (Message.MsgFlags >> index & 1) != 0;
+  if (!there) return std::nullopt;
+  if (!yesNo) return index;
+  return index == 1 ? AnswerYes : AnswerNo;
 }
 
+// An answer that the prompt does not offer leaves its default.
 void TakeAnswer() {
   if (Console.answers.empty() || !IsPrompt(Message.MsgFlags)) return;
   const std::string answer = Console.answers.front();
   Console.answers.pop_front();
   if ((Message.MsgFlags & msg::Input) != 0) {
     Message.MsgInput = answer;
-    return;
-  }
-  if (IsOneOf(answer, {"yes", "Yes", "YES"})) {
-    Message.MsgResult = AnswerYes;
-  } else if (IsOneOf(answer, {"no", "No", "NO"})) {
-    Message.MsgResult = AnswerNo;
   } else {
-    std::from_chars(answer.data(), answer.data() + answer.size(), Message.MsgResult);
+    Message.MsgResult = ButtonAnswer(answer).value_or(Message.MsgResult);
   }
 }
 
+// Why the Hyper-Drive stopped is part of the result and no message.
 void ShowOnConsole() {
-  const bool stopNote = Message.MsgTitle == "Hyper-Drive Stopped";
-  if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
-  if (Console.tableMode || !stopNote) {
-    Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  if (Message.MsgTitle == "Hyper-Drive Stopped") return;
+  if (Message.MsgTitle == Message.ErrorTitle) {
+    ++Console.faults;
+    Console.lastFault = Message.MsgText;
   }
-  if (Console.tableMode) TakeAnswer();
+  if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
+  Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  TakeAnswer();
+}
+
+// "Ann Won", then the rows, each caption with its figure.
+std::string TextOf(const SettlePrompt& prompt) {
+  std::string text;
+  for (const SettlePrompt::Row& row : prompt.rows) {
+    if (!text.empty()) text += "\r";
+    text += row.caption;
+    if (row.figure.empty()) continue;
+    text += (row.caption.ends_with(' ') ? "" : " ") + row.figure;
+  }
+  return text;
+}
+
+// An answer to the settle-bet prompt reads "BUTTON", or for the modify and set buttons (5 and 6)
+// "BUTTON [AMOUNT] [+|-|x|/] [uUNITS]", UNITS as in HandleUnits. What cannot be read is left as it
+// is.
+void ReadSettling(const std::string& answer, SettlePrompt& prompt) {
+  constexpr std::string_view Operations = "+-x/";
+  std::istringstream words(answer);
+  int button = 0;
+  if (!(words >> button) || button < 0 || button > 6) return;
+  prompt.button = button;
+  HandlingRow& row = button == 6 ? prompt.set : prompt.modify;
+  for (std::string word; words >> word;) {
+    const size_t operation = word.size() == 1 ? Operations.find(word[0]) : std::string::npos;
+    const std::optional<Money> figure = ParseMoney(word);
+    if (operation != std::string::npos) {
+      row.operation = static_cast<int32_t>(operation);
+    } else if (word.starts_with('u')) {
+      row.units = ParseMoney(word.substr(1)).value_or(row.units);
+    } else if (figure) {
+      row.amount = *figure;
+    }
+  }
+}
+
+void SettleOnConsole(SettlePrompt& prompt) {
+  const std::string title =
+      prompt.title[0] + (prompt.title[1].empty() ? "" : " ") + prompt.title[1];
+  const std::string text = TextOf(prompt);
+  if (Console.tableMode) Console.messages.push_back({title, text});
+  Notice("[" + title + "] " + OnOneLine(text));
+  if (Console.answers.empty()) return;
+  ReadSettling(Console.answers.front(), prompt);
+  Console.answers.pop_front();
 }
 
 std::string TimeLeft(double seconds) {
@@ -84,10 +132,24 @@ std::string TimeLeft(double seconds) {
 
 void OpenConsole() {
   FrontEnd.ShowMessage = ShowOnConsole;
+  FrontEnd.SettleBet = SettleOnConsole;
   struct sigaction action = {};
   action.sa_handler = [](int) { StopAsked = 1; };
-  action.sa_flags = static_cast<int>(SA_RESETHAND);  // a second Ctrl-C ends the program
+  // A second Ctrl-C ends the program, and the first one cuts no write short.
+  action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
   sigaction(SIGINT, &action, nullptr);
+}
+
+std::string OnOneLine(const std::string& text) {
+  std::string line;
+  for (const char c : text) {
+    if (c == '\r' || c == '\n') {
+      line += " / ";
+    } else {
+      line += c;
+    }
+  }
+  return line;
 }
 
 bool Interrupted() {

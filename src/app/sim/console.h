@@ -1,5 +1,5 @@
 // The console in the place of the windows: it prints messages, answers prompts from a file, hears
-// Ctrl-C and draws the progress bar.
+// Ctrl-C and draws the progress bar. Standard output is left alone: it carries results only.
 #pragma once
 
 #include <cstdint>
@@ -17,6 +17,8 @@ struct ConsoleState {
   bool tableMode = false;              // messages are part of the result
   std::vector<ShownMessage> messages;  // shown in table mode, in their order
   std::deque<std::string> answers;     // to the prompts that come
+  int32_t faults = 0;                  // fault reports shown
+  std::string lastFault;
 };
 
 extern ConsoleState Console;
@@ -27,8 +29,11 @@ void OpenConsole();
 // Whether Ctrl-C was pressed.
 bool Interrupted();
 
-// Takes the answers from a file, one a line. Failure when it cannot be read.
+// Takes the answers from a file, one a line. File fault when it cannot be read.
 void LoadAnswers(const std::string& path);
+
+// The text with its line breaks shown as " / ".
+std::string OnOneLine(const std::string& text);
 
 // A notice on standard error.
 void Notice(const std::string& text);

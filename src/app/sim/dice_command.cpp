@@ -1,12 +1,14 @@
 #include <array>
-#include <cstdio>
 #include <string>
 
 #include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
+#include "app/sim/output.h"
+#include "base/trap.h"
 #include "config/language.h"
 #include "dice/generators.h"
+#include "engine/table.h"
 
 namespace tessarel::sim {
 
@@ -14,7 +16,7 @@ namespace {
 
 constexpr size_t BufferSize = 1 << 16;
 
-// Collects output and writes it in blocks; a closed pipe ends the work.
+// Collects output and writes it in blocks.
 class Output {
  public:
   void Add(std::string_view text) {
@@ -23,10 +25,7 @@ class Output {
   }
 
   void Flush() {
-    const bool whole = std::fwrite(buffer_.data(), 1, buffer_.size(), stdout) == buffer_.size();
-    if (!whole || std::fflush(stdout) != 0) {
-      throw Failure(CannotBeDone, "Standard output cannot be written.");
-    }
+    WriteOut(buffer_);
     buffer_.clear();
   }
 
@@ -54,25 +53,35 @@ void WriteWords(int64_t count, Output& output) {
 
 }  // namespace
 
-void SelectAndSeed(int32_t generator, int64_t seed) {
-  if (generator < 1 || SelectRNG(generator) != Selected) {
-    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8, not " +
-                                    std::to_string(generator) + ".");
+void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
+  if (generator < 1 || generator > GeneratorCount) {
+    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8.");
   }
-  if (seed < 1 || seed > SeedLimit(generator)) {
-    throw Failure(CannotBeDone, std::string(GetText(40)) + " RNG #" + std::to_string(generator) +
+  const auto number = static_cast<int32_t>(generator);
+  if (SelectRNG(number) != Selected) {
+    throw Failure(CannotBeDone, "RNG #" + std::to_string(number) + " is not available.");
+  }
+  if (seed && (*seed < 1 || *seed > SeedLimit(number))) {
+    throw Failure(CannotBeDone, std::string(GetText(40)) + " RNG #" + std::to_string(number) +
                                     " takes whole numbers from 1 to " +
-                                    std::to_string(SeedLimit(generator)) + ".");
+                                    std::to_string(SeedLimit(number)) + ".");
   }
-  Dice.SeedRequest = Money::FromWhole(seed);
-  SeedRNG(-1);
+  Dice.SeedRequest = seed ? Money::FromWhole(*seed) : Money();
+  try {
+    SeedRNG(-1);
+  } catch (const Fault& fault) {
+    throw Failure(CannotBeDone, FaultText(fault, "SeedRNG"));
+  }
 }
 
 void DiceCommand(const DiceOptions& options) {
-  StartUp(".");
-  if (options.raw && options.generator > 2) {
+  if (options.raw && options.generator != 1 && options.generator != 2) {
     throw Failure(WrongCommandLine, "--raw is for generators 1 and 2 only.");
   }
+  if (!options.raw && options.count > MaxRolls) {
+    throw Failure(CannotBeDone, "--count: a table makes at most 2,000,000,000 rolls.");
+  }
+  StartUp(".");
   SelectAndSeed(options.generator, options.seed);
   Output output;
   if (options.raw) {

@@ -4,19 +4,26 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <map>
+#include <functional>
 #include <string_view>
 
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
 #include "base/trap.h"
+#include "engine/table.h"
 
 namespace tessarel::sim {
 namespace {
 
+constexpr int64_t MaxSessions = 1'000'000;
+
+constexpr const char* UsageText =
+    "Usage: tessarel-sim run [OPTIONS] | advantage [OPTIONS] | dice --rng N --seed N --count N  "
+    "(--help tells more)\n";
+
 // What a later version brings; until then it is refused by name.
-constexpr std::array<std::string_view, 6> NotYet = {"--script",      "--new",          "--sessions",
-                                                    "--probability", "--sessions-log", "--save"};
+constexpr std::array<std::string_view, 4> OptionsNotYet = {"--script", "--new", "--sessions-log",
+                                                           "--save"};
 constexpr std::array<std::string_view, 1> CommandsNotYet = {"check"};
 
 void RefuseWhatIsMissing(int argc, char** argv) {
@@ -26,118 +33,214 @@ void RefuseWhatIsMissing(int argc, char** argv) {
   for (int k = 1; k < argc; ++k) {
     const std::string_view word = argv[k];
     const std::string_view option = word.substr(0, word.find('='));
-    if (std::find(NotYet.begin(), NotYet.end(), option) != NotYet.end()) refuse(option);
-    if (k != 1) continue;
-    if (std::find(CommandsNotYet.begin(), CommandsNotYet.end(), word) != CommandsNotYet.end()) {
-      refuse(word);
-    }
+    if (std::ranges::find(OptionsNotYet, option) != OptionsNotYet.end()) refuse(option);
+    if (k == 1 && std::ranges::find(CommandsNotYet, word) != CommandsNotYet.end()) refuse(word);
   }
 }
 
-template <class Value, class Read>
-void AddRead(
-    CLI::App* command, const char* name, std::vector<Value>& values, Read read, const char* help) {
-  command
-      ->add_option_function<std::vector<std::string>>(
-          name,
-          [&values, read](const std::vector<std::string>& texts) {
-            for (const std::string& text : texts)
-              values.push_back(read(text));
-          },
-          help)
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+// The options of a command with their values as texts. The values are read when the whole line is
+// known to be made of options that exist, so that a wrong line is always told as such.
+class Values {
+ public:
+  using Read = std::function<void(const std::string&)>;
+
+  explicit Values(CLI::App* command) : command_(command) {}
+
+  CLI::Option* Once(const char* name, const char* form, const char* help, Read read) {
+    const auto take = [this, name, read](const CLI::results_t& texts) {
+      for (const std::string& text : texts)
+        found_.push_back({name, text, read});
+      return true;
+    };
+    return command_->add_option(name, take, help)->type_name(form);
+  }
+
+  void Repeatable(const char* name, const char* form, const char* help, Read read) {
+    Once(name, form, help, std::move(read))->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  }
+
+  void ReadAll() const {
+    for (const Found& value : found_) {
+      try {
+        value.read(value.text);
+      } catch (const Failure& failure) {
+        throw Failure(failure.status, value.name + ": " + failure.what());
+      }
+    }
+  }
+
+ private:
+  struct Found {
+    std::string name, text;
+    Read read;
+  };
+
+  CLI::App* command_;
+  std::vector<Found> found_;
+};
+
+void DescribeRules(Values& values,
+                   std::vector<FieldArgument>& settings,
+                   std::vector<std::string>& payoffs,
+                   std::string& probability) {
+  values.Repeatable("--set", "FIELD[@PLACE]=VALUE",
+                    "A table setting by its field name, or one of a place (default: every player)",
+                    [&](const std::string& text) { settings.push_back(ReadField(text)); });
+  values.Repeatable("--payoff", "ROW=NUM:DEN", "A payoff by the name of its row: \"Place 6=7:6\"",
+                    [&](const std::string& text) { payoffs.push_back(text); });
+  values.Once("--probability", "FILE.prb", "Skew the dice by a probability matrix",
+              [&](const std::string& text) { probability = ReadFileName(text); });
 }
 
-void AddRules(CLI::App* command,
-              std::vector<FieldArgument>& settings,
-              std::vector<std::string>& payoffs) {
-  AddRead(command, "--set", settings, ReadField,
-          "FIELD[@PLACE]=VALUE: a table setting by its field name");
-  command->add_option("--payoff", payoffs, "ROW=NUM:DEN: a payoff by the name of its row")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+void DescribeTable(Values& values, RunOptions& options) {
+  values.Once("--home", "DIR", "The program's folder, from which file names are taken (default: .)",
+              [&](const std::string& text) { options.home = ReadFileName(text); });
+  values.Repeatable("--player", "NAME[@PLACE][=BANKROLL]",
+                    "Seat a player (default: the lowest open place, 1000)",
+                    [&](const std::string& text) { options.players.push_back(ReadPlayer(text)); });
+  DescribeRules(values, options.settings, options.payoffs, options.probability);
+  values.Repeatable("--bet", "NAME=AMOUNT[@PLACE]",
+                    "A wager asked for before every roll (default: of the first player; with no "
+                    "--player, Player One sits at place 1)",
+                    [&](const std::string& text) { options.bets.push_back(ReadBet(text)); });
 }
 
-void DescribeRun(CLI::App& app, RunOptions& options, std::string& game) {
-  CLI::App* run = app.add_subcommand("run", "Play the table and report what became of the bets");
-  run->add_option("--home", options.home, "The program's folder: files are taken from it")
-      ->check(CLI::ExistingDirectory);
-  AddRead(run, "--player", options.players, ReadPlayer,
-          "NAME[@PLACE][=BANKROLL]: seat a player (default: lowest open place, 1000)");
-  AddRules(run, options.settings, options.payoffs);
-  AddRead(run, "--bet", options.bets, ReadBet,
-          "NAME=AMOUNT[@PLACE]: a wager asked for before every roll");
-  run->add_option("--rolls", options.rolls, "Stop after N rolls")->check(CLI::NonNegativeNumber);
-  run->add_option("--hands", options.hands, "Stop after N finished hands")
-      ->check(CLI::NonNegativeNumber);
-  run->add_option("--rng", options.generator, "The generator, 1 to 8");
-  run->add_option("--seed", options.seed, "Its seed (default: from the clock)");
-  CLI::Option* dice = run->add_option("--dice", options.dice, "Dice from a dice roll file");
-  run->add_option("--record", options.record, "Record the dice into a dice roll file")
+void DescribeDiceOfRun(Values& values, RunOptions& options) {
+  values.Once("--rolls", "N", "Stop after N rolls (default: 100,000; with --dice the whole file)",
+              [&](const std::string& text) { options.rolls = ReadCount(text, MaxRolls); });
+  values.Once("--hands", "N", "Stop after N finished hands",
+              [&](const std::string& text) { options.hands = ReadCount(text, MaxRolls); });
+  values.Once("--sessions", "N", "Play N sessions, one after the other (default: 1)",
+              [&](const std::string& text) { options.sessions = ReadCount(text, MaxSessions); });
+  values.Once("--rng", "N", "The generator, 1 to 8 (default: 1)",
+              [&](const std::string& text) { options.generator = ReadWhole(text); });
+  values.Once("--seed", "N", "Its seed, from 1 (default: from the clock)",
+              [&](const std::string& text) { options.seed = ReadWhole(text); });
+  CLI::Option* dice =
+      values.Once("--dice", "FILE.rol", "Dice from a dice roll file; the run ends at its end",
+                  [&](const std::string& text) { options.dice = ReadFileName(text); });
+  values
+      .Once("--record", "FILE.rol", "Record the dice of the run",
+            [&](const std::string& text) { options.record = ReadFileName(text); })
       ->excludes(dice);
-  const std::map<std::string, Mode> modes = {{"hyper", Mode::Hyper}, {"table", Mode::Table}};
-  run->add_option("--mode", options.mode, "hyper: one fast run; table: roll by roll, with messages")
-      ->transform(CLI::CheckedTransformer(modes).description("hyper or table"));
-  run->add_option("--answers", options.answers, "Answers to the prompts of table mode, one a line");
-  run->add_option("--events-log", options.eventsLog, "Log every event into this file");
-  run->add_option("--json", options.json, "The result as JSON; - is standard output");
-  run->add_flag("--quiet", options.quiet, "No progress bar, no summary");
-  run->add_option("GAME", game)->group("");
 }
 
-void DescribeDice(CLI::App& app, DiceOptions& options) {
-  CLI::App* dice = app.add_subcommand("dice", "Print the dice that a generator gives");
-  dice->add_option("--rng", options.generator, "The generator, 1 to 8")->required();
-  dice->add_option("--seed", options.seed, "Its seed")->required();
-  dice->add_option("--count", options.count, "How many rolls, or words with --raw")
-      ->required()
-      ->check(CLI::NonNegativeNumber);
-  dice->add_flag("--raw", options.raw, "Generators 1 and 2: little-endian 32-bit words");
+void DescribeOutput(Values& values, RunOptions& options) {
+  values.Once("--mode", "hyper|table",
+              "hyper (default): one fast run; table: roll by roll, with messages",
+              [&](const std::string& text) { options.mode = ReadMode(text); });
+  values.Once("--answers", "FILE", "Answers to the prompts, in order, one a line",
+              [&](const std::string& text) { options.answers = ReadFileName(text); });
+  values.Once("--events-log", "FILE", "Log every kind of event at the end of this file",
+              [&](const std::string& text) { options.eventsLog = ReadFileName(text); });
+  values.Once("--report", "FILE", "The text report: all views of the run; - is standard output",
+              [&](const std::string& text) { options.report = ReadFileName(text); });
+  values.Once("--json", "FILE", "The result as JSON; - is standard output, then without summary",
+              [&](const std::string& text) { options.json = ReadFileName(text); });
 }
 
-void DescribeAdvantage(CLI::App& app, AdvantageOptions& options) {
-  CLI::App* advantage = app.add_subcommand("advantage", "Print the house advantage of every bet");
-  AddRules(advantage, options.settings, options.payoffs);
-  advantage->add_flag("--zero-outcomes", options.zeroOutcomes,
-                      "Count rolls that decide nothing as decisions");
-  advantage->add_flag("--json", options.json, "The figures as JSON");
+void DescribeDice(Values& values, DiceOptions& options) {
+  values
+      .Once("--rng", "N", "The generator, 1 to 8",
+            [&](const std::string& text) { options.generator = ReadWhole(text); })
+      ->required();
+  values
+      .Once("--seed", "N", "Its seed, from 1",
+            [&](const std::string& text) { options.seed = ReadWhole(text); })
+      ->required();
+  values
+      .Once("--count", "N", "How many rolls, or words with --raw",
+            [&](const std::string& text) { options.count = ReadCount(text, INT64_MAX); })
+      ->required();
+  values.Once("--probability", "FILE.prb", "Skew the dice by a probability matrix",
+              [&](const std::string& text) { options.probability = ReadFileName(text); });
+}
+
+// What is left over after the options: a misspelt one, or the name of a game.
+void RefuseRest(const CLI::App& run) {
+  const std::vector<std::string> rest = run.remaining();
+  for (const std::string& word : rest) {
+    if (word.starts_with('-')) {
+      throw Failure(WrongCommandLine, "There is no option \"" + word + "\".");
+    }
+  }
+  if (!rest.empty()) {
+    throw Failure(CannotBeDone,
+                  "Game files (\"" + rest.front() + "\") are not available in this version.");
+  }
+}
+
+int Play(int argc, char** argv) {
+  CLI::App app{"Tessarel: what a craps betting system really does, without a window.",
+               "tessarel-sim"};
+  app.require_subcommand(1);
+
+  CLI::App* run = app.add_subcommand("run", "Play the table and report what became of the bets");
+  RunOptions runOptions;
+  Values runValues(run);
+  DescribeTable(runValues, runOptions);
+  DescribeDiceOfRun(runValues, runOptions);
+  DescribeOutput(runValues, runOptions);
+  run->add_flag("--quiet", runOptions.quiet, "No progress bar, no summary")
+      ->disable_flag_override();
+  run->allow_extras();
+
+  CLI::App* dice = app.add_subcommand(
+      "dice", "Print the dice that a generator gives from a seed, one roll a line");
+  DiceOptions diceOptions;
+  Values diceValues(dice);
+  DescribeDice(diceValues, diceOptions);
+  dice->add_flag("--raw", diceOptions.raw,
+                 "Write the 32-bit words of generator 1 or 2, lowest byte first")
+      ->disable_flag_override();
+
+  CLI::App* advantage =
+      app.add_subcommand("advantage", "Print the house advantage of every bet under given rules");
+  AdvantageOptions advantageOptions;
+  Values advantageValues(advantage);
+  DescribeRules(advantageValues, advantageOptions.settings, advantageOptions.payoffs,
+                advantageOptions.probability);
+  advantage
+      ->add_flag("--zero-outcomes", advantageOptions.zeroOutcomes,
+                 "Count rolls that decide nothing as decisions")
+      ->disable_flag_override();
+  advantage->add_flag("--json", advantageOptions.json, "The figures as JSON")
+      ->disable_flag_override();
+
+  RefuseWhatIsMissing(argc, argv);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0) return app.exit(error);
+    throw Failure(WrongCommandLine, error.what());
+  }
+  if (app.got_subcommand(run)) {
+    RefuseRest(*run);
+    runValues.ReadAll();
+    RunCommand(runOptions);
+  } else if (app.got_subcommand(advantage)) {
+    advantageValues.ReadAll();
+    AdvantageCommand(advantageOptions);
+  } else {
+    diceValues.ReadAll();
+    DiceCommand(diceOptions);
+  }
+  return Done;
 }
 
 int Main(int argc, char** argv) {
-  CLI::App app{"Tessarel: what a craps betting system really does, without a window"};
-  app.require_subcommand(1);
-  RunOptions run;
-  DiceOptions dice;
-  AdvantageOptions advantage;
-  std::string game;
-  DescribeRun(app, run, game);
-  DescribeDice(app, dice);
-  DescribeAdvantage(app, advantage);
   try {
-    RefuseWhatIsMissing(argc, argv);
-    app.parse(argc, argv);
-    if (!game.empty()) throw Failure(CannotBeDone, "Game files are not available in this version.");
-    if (app.got_subcommand("run")) RunCommand(run);
-    if (app.got_subcommand("dice")) DiceCommand(dice);
-    if (app.got_subcommand("advantage")) AdvantageCommand(advantage);
-    return Done;
-  } catch (const CLI::ParseError& error) {
-    if (error.get_exit_code() == 0) return app.exit(error);
-    std::fprintf(
-        stderr, "tessarel-sim: %s\nUsage: tessarel-sim run|dice|advantage [OPTIONS] (see --help)\n",
-        error.what());
-    return WrongCommandLine;
+    return Play(argc, argv);
   } catch (const Failure& failure) {
     std::fprintf(stderr, "tessarel-sim: %s\n", failure.what());
-    if (failure.status == WrongCommandLine) {
-      std::fprintf(stderr, "Usage: tessarel-sim run|dice|advantage [OPTIONS] (see --help)\n");
-    }
+    if (failure.status == WrongCommandLine) std::fputs(UsageText, stderr);
     return failure.status;
   } catch (const Fault& fault) {
     std::fprintf(stderr, "tessarel-sim: %s\n", FaultText(fault, "tessarel-sim").c_str());
-    return CannotBeDone;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "tessarel-sim: %s\n", error.what());
   }
+  return CannotBeDone;
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "app/sim/console.h"
 #include "base/number_format.h"
 #include "dice/generators.h"
-#include "dice/roll_file.h"
 #include "engine/table.h"
 #include "stats/store.h"
 
@@ -119,6 +118,10 @@ std::string Cents(Money amount) {
   return FormatNumber(amount, "#,0.00;-#,0.00;0.00");
 }
 
+std::string Dollars(Money amount) {
+  return FormatNumber(amount, "$#,0.00;-$#,0.00;$0.00");
+}
+
 std::string Signed(Money amount) {
   return (amount > Money() ? "+" : "") + Cents(amount);
 }
@@ -132,8 +135,8 @@ std::string Right(const std::string& text, size_t width) {
   return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
 }
 
-std::string DiceText() {
-  if (RollFile.RollFileMode == RollFilePlay) return "from " + RollFile.RollFileName;
+std::string DiceText(const RunFacts& facts) {
+  if (!facts.diceFile.empty()) return "from " + facts.diceFile;
   return "from RNG #" + std::to_string(Dice.CurrentRNG) + ", seed " + std::to_string(Dice.LastSeed);
 }
 
@@ -160,10 +163,22 @@ std::string PlayerSummary(int place) {
   const int slot = place + CurrentSession;
   const Money bankroll = At(Table.Bankroll, slot);
   return "\n" + At(Table.PlayerName, place) + " (place " + std::to_string(place) + ")\n" +
-         "  Bankroll $" + Cents(bankroll) + "  (" +
-         Signed(bankroll - At(Table.InvestedBankroll, place)) + ")   high $" +
-         Cents(At(Table.BankrollHigh, slot)) + "   low $" + Cents(At(Table.BankrollLow, slot)) +
-         "   on the table $" + Cents(At(Table.MoneyOnTable, place)) + "\n" + BetRows(place);
+         "  Bankroll " + Dollars(bankroll) + "  (" +
+         Signed(bankroll - At(Table.InvestedBankroll, place)) + ")   high " +
+         Dollars(At(Table.BankrollHigh, slot)) + "   low " + Dollars(At(Table.BankrollLow, slot)) +
+         "   on the table " + Dollars(At(Table.MoneyOnTable, place)) + "\n" + BetRows(place);
+}
+
+Json BySessionJson(const RunFacts& facts) {
+  Json ends = Json::array();
+  for (const SessionEnd& end : facts.bySession) {
+    ends.push_back({{"session", end.session},
+                    {"place", end.place},
+                    {"Bankroll", Number(end.bankroll)},
+                    {"BankrollLow", Number(end.low)},
+                    {"BankrollHigh", Number(end.high)}});
+  }
+  return ends;
 }
 
 }  // namespace
@@ -175,33 +190,28 @@ std::string ResultJson(const RunFacts& facts) {
   }
   Json players = Json::array();
   ForEachPlayer([&players](int place) { players.push_back(PlayerJson(place)); });
-  const Json result = {{"version", 1},
-                       {"rolls", facts.rolls},
-                       {"sessions", facts.sessions},
-                       {"hands", facts.hands},
-                       {"seconds", facts.seconds},
-                       {"rng", Dice.CurrentRNG},
-                       {"seed", Dice.LastSeed},
-                       {"stop_reason", Table.LastStopReason},
-                       {"messages", messages},
-                       {"table", TableJson()},
-                       {"players", players},
-                       {"roll_counts", At(Stats.RollCount, CurrentSession)},
-                       {"hand_figures", HandFiguresJson()}};
+  Json result = {{"version", 1},
+                 {"rolls", facts.rolls},
+                 {"sessions", facts.sessions},
+                 {"hands", facts.hands},
+                 {"seconds", facts.seconds},
+                 {"rng", Dice.CurrentRNG},
+                 {"seed", Dice.LastSeed},
+                 {"stop_reason", facts.stopReason},
+                 {"messages", messages},
+                 {"table", TableJson()},
+                 {"players", players},
+                 {"roll_counts", At(Stats.RollCount, CurrentSession)},
+                 {"hand_figures", HandFiguresJson()}};
+  if (facts.sessions > 1) result["by_session"] = BySessionJson(facts);
   return result.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 std::string ResultSummary(const RunFacts& facts) {
-  std::string text =
-      Count(facts.rolls) + " rolls, " + Count(facts.hands) + " hands, dice " + DiceText() + "\n";
-  if (!Table.LastStopReason.empty()) {
-    std::string reason = Table.LastStopReason;
-    std::replace(reason.begin(), reason.end(), '\r', ' ');
-    text += reason + "\n";
-  }
-  const double rate = facts.seconds > 0 ? static_cast<double>(facts.rolls) / facts.seconds : 0;
-  text += FormatNumber(facts.seconds, "0.00") + " seconds, " + Count(static_cast<int64_t>(rate)) +
-          " rolls a second\n";
+  const std::string sessions = facts.sessions == 1 ? "" : Count(facts.sessions) + " sessions, ";
+  std::string text = sessions + Count(facts.rolls) + " rolls, " + Count(facts.hands) +
+                     " hands, dice " + DiceText(facts) + "\n";
+  if (!facts.stopReason.empty()) text += OnOneLine(facts.stopReason) + "\n";
   ForEachPlayer([&text](int place) { text += PlayerSummary(place); });
   return text;
 }

@@ -1,5 +1,5 @@
 #include <chrono>
-#include <cstdio>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -8,21 +8,21 @@
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/failure.h"
+#include "app/sim/output.h"
+#include "app/sim/reporting.h"
 #include "app/sim/result.h"
+#include "app/sim/run_files.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
-#include "base/number_format.h"
+#include "base/message.h"
 #include "base/single_byte_text.h"
-#include "config/folders.h"
 #include "config/language.h"
-#include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
-#include "files/events_log.h"
 #include "stats/store.h"
 
 namespace tessarel::sim {
@@ -36,6 +36,11 @@ struct SessionInPlay {
   std::vector<BetArgument> bets;
   std::optional<int64_t> rolls, hands;
   ProgressBar* progress = nullptr;
+  int64_t stepsBefore = 0;  // steps of the sessions before this one
+  const Recording* recording = nullptr;
+  int32_t rollsBefore = 0, faultsBefore = 0;  // at the last look
+  int32_t failures = 0;                       // at the roll now tried
+  bool stuck = false;
 
   bool Over() const {
     return (rolls && RollsInSession() >= *rolls) ||
@@ -93,71 +98,6 @@ void CheckBets(std::vector<BetArgument>& bets) {
   }
 }
 
-void ChooseDice(const RunOptions& options) {
-  if (options.generator < 1 || SelectRNG(options.generator) != Selected) {
-    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8, not " +
-                                    std::to_string(options.generator) + ".");
-  }
-  if (options.seed) {
-    SelectAndSeed(options.generator, *options.seed);
-  } else {
-    Dice.SeedRequest = Money();
-    SeedRNG(-1);
-  }
-}
-
-void PlayFrom(const std::string& name) {
-  if (!FileExists(InFolder(Folders.AppFolder, name))) {
-    throw Failure(CannotBeDone, "The dice roll file \"" + name + "\" does not exist.");
-  }
-  OpenRollFile(name);
-  RollFile.RollFileMode = RollFilePlay;
-}
-
-// Recording goes to a file beside the named one, which takes its place when the run is done.
-class Recording {
- public:
-  explicit Recording(const std::string& name) {
-    if (name.empty()) return;
-    target_ = InFolder(Folders.AppFolder, name);
-    part_ = target_ + ".part";
-    DeleteFileIfPresent(part_);
-    OpenRollFile(part_);
-    RollFile.RollFileMode = RollFileRecord;
-  }
-  ~Recording() {
-    if (part_.empty()) return;
-    CloseRollFile();
-    std::remove(part_.c_str());
-  }
-  Recording(const Recording&) = delete;
-  Recording& operator=(const Recording&) = delete;
-
-  void Keep() {
-    if (part_.empty()) return;
-    CloseRollFile();
-    if (std::rename(part_.c_str(), target_.c_str()) != 0) {
-      throw Failure(CannotBeDone, "The recording \"" + target_ + "\" cannot be written.");
-    }
-    part_.clear();
-  }
-
- private:
-  std::string target_, part_;
-};
-
-void OpenEventsLog(const std::string& name) {
-  if (name.empty()) return;
-  EventsLog.EventLogName = InFolder(Folders.AppFolder, name);
-  if (EventsLogExists()) {
-    RebuildEventsIndex();
-  } else {
-    DeleteFileIfPresent(EventsIndexName());
-  }
-  SelectAllEvents(true);
-  EventsLog.LogOn = -1;
-}
-
 // --- Playing -----------------------------------------------------------------------------------
 
 // Brings each fixed wager to its amount if the rules allow it now.
@@ -171,86 +111,181 @@ void PlaceFixedBets() {
   }
 }
 
+// Whether the dice roll file has no roll left. The stop is then made here: the wagers are not asked
+// for a roll that does not come, and without them the table might give another reason.
+bool DiceFileEnds() {
+  if (RollFile.RollFileMode != RollFilePlay || PlaysNextRoll()) return false;
+  PlayBackRoll();
+  return true;
+}
+
+// After an attempt at a roll: whether going on makes no sense. A face that no die has costs its
+// roll and no more, but a second failure at the same roll is there to stay, and a roll that failed
+// on the way leaves results that cannot be trusted.
+bool Stuck() {
+  const bool rolled = RollsInSession() != Session.rollsBefore;
+  const bool failed = Console.faults != Session.faultsBefore;
+  Session.rollsBefore = RollsInSession();
+  Session.faultsBefore = Console.faults;
+  Session.failures = failed && !rolled ? Session.failures + 1 : 0;
+  Session.stuck = Session.recording->Lost() || (failed && rolled) || Session.failures > 1;
+  return Session.stuck;
+}
+
+void ShowProgress() {
+  const int64_t done = Session.hands ? Stats.Hands[CurrentSession].HandCount : RollsInSession();
+  Session.progress->Show(Session.stepsBefore + done);
+}
+
 // Between two rolls of the Hyper-Drive.
 void BetweenRolls() {
-  Session.progress->Show(Session.hands ? Stats.Hands[CurrentSession].HandCount : RollsInSession());
-  if (Session.Over()) {
+  ShowProgress();
+  if (Stuck() || Session.Over()) {
     Table.HyperDriveOn = 0;
-  } else {
+  } else if (!DiceFileEnds() && !AutoStopIsDue()) {
     PlaceFixedBets();
   }
 }
 
 void PlayHyperDrive() {
   Table.HyperDriveOn = -1;
-  PlaceFixedBets();
-  FrontEnd.RunPendingEvents = BetweenRolls;
-  MakeRoll();
-  FrontEnd.RunPendingEvents = [] {};
+  if (DiceFileEnds()) {
+    Table.LastStopReason = Table.StopReason;
+  } else {
+    PlaceFixedBets();
+    FrontEnd.RunPendingEvents = BetweenRolls;
+    MakeRoll();
+    FrontEnd.RunPendingEvents = [] {};
+  }
   Table.HyperDriveOn = 0;
 }
 
 void PlayRollByRoll() {
   while (!Session.Over()) {
+    if (DiceFileEnds()) {
+      Table.LastStopReason = Table.StopReason;
+      return;
+    }
     PlaceFixedBets();
     MakeRoll();
-    Session.progress->Show(RollsInSession());
-    if (!Table.LastStopReason.empty() || Table.BankrollStopPlace != 0) return;
+    ShowProgress();
+    if (Stuck() || !Table.LastStopReason.empty() || Table.BankrollStopPlace != 0) return;
   }
 }
 
-RunFacts Play(const RunOptions& options) {
+// What ended the run before its counts. At a bankroll's limit a roll by hand only leaves a message.
+std::string StopReason() {
+  if (Table.LastStopReason.empty() && Table.BankrollStopPlace != 0) return Message.MsgText;
+  return Table.LastStopReason;
+}
+
+void FailWhenStuck() {
+  if (!Session.stuck) return;
+  throw Failure(CannotBeDone, "The run ended after roll " + std::to_string(RollsInSession()) +
+                                  ": " + Console.lastFault);
+}
+
+int64_t StepsToDo() {
+  if (Session.hands) return *Session.hands;
+  return Session.rolls ? *Session.rolls : RollFile.RollCountInFile;
+}
+
+// A new session that keeps what earlier ones left and goes on in the roll file.
+void StartSession() {
+  NewSession({-1, -1, -1, ContinueRollFile});
+  if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
+}
+
+// Plays the session that has just been started to its end.
+void PlaySession(const RunOptions& options) {
+  Session.rollsBefore = Session.failures = 0;
+  Session.faultsBefore = Console.faults;
+  Table.LastStopReason.clear();
+  if (!Session.Over()) options.mode == Mode::Hyper ? PlayHyperDrive() : PlayRollByRoll();
+  FailWhenStuck();
+}
+
+void AddSession(RunFacts& facts) {
+  ++facts.sessions;
+  facts.rolls += RollsInSession();
+  facts.hands += Stats.Hands[CurrentSession].HandCount;
+  facts.stopReason = StopReason();
+  ForEachPlayer([&facts](int place) {
+    const int slot = place + CurrentSession;
+    facts.bySession.push_back({facts.sessions, place, At(Table.Bankroll, slot),
+                               At(Table.BankrollLow, slot), At(Table.BankrollHigh, slot)});
+  });
+}
+
+RunFacts Play(const RunOptions& options, const Recording& recording) {
+  RunFacts facts;
+  facts.diceFile = options.dice;
+  Session.recording = &recording;
+  const auto began = std::chrono::steady_clock::now();
+  ProgressBar progress(!options.quiet, StepsToDo() * options.sessions);
+  Session.progress = &progress;
+  for (int64_t session = 0; session < options.sessions && !Interrupted(); ++session) {
+    if (session > 0 && DiceFileEnds()) break;
+    StartSession();
+    Session.stepsBefore = session * StepsToDo();
+    PlaySession(options);
+    AddSession(facts);
+  }
+  facts.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
+  return facts;
+}
+
+void WriteResultFile(const std::string& what, const std::string& name, const std::string& text) {
+  if (name.empty() || name == "-") return;
+  WithFile(what, name, "cannot be written", [&] { WriteFileAtomically(PathOf(name), text); });
+}
+
+// Standard output comes last, so that it stays empty when a file fails.
+void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& recording) {
+  recording.Finish();
+  const std::string json = options.json.empty() ? "" : ResultJson(facts);
+  const std::string report = options.report.empty() ? "" : RunReport();
+  WriteResultFile("result", options.json, json);
+  WriteResultFile("report", options.report, report);
+  recording.Keep();
+  if (options.json == "-") return WriteOut(json);
+  if (options.report == "-") return WriteOut(report);
+  if (!options.quiet) WriteOut(ResultSummary(facts));
+}
+
+void SetUp(const RunOptions& options) {
+  SeatPlayers(options);
+  ApplyRules(options.settings, options.payoffs);
   Session = {options.bets, options.rolls, options.hands};
   if (!options.rolls && !options.hands && options.dice.empty()) Session.rolls = DefaultRolls;
   CheckBets(Session.bets);
-  const int64_t total = Session.rolls   ? *Session.rolls
-                        : Session.hands ? *Session.hands
-                                        : RollFile.RollCountInFile;
-  const auto began = std::chrono::steady_clock::now();
-  {
-    ProgressBar progress(!options.quiet, total);
-    Session.progress = &progress;
-    if (!Session.Over()) options.mode == Mode::Hyper ? PlayHyperDrive() : PlayRollByRoll();
-    Session.progress = nullptr;
-  }
-  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - began;
-  return {RollsInSession(), 1, Stats.Hands[CurrentSession].HandCount, seconds.count()};
+  SelectAndSeed(options.generator, options.seed);
+  if (!options.dice.empty()) PlayFrom(options.dice);
 }
 
-void WriteOut(const std::string& text) {
-  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0) {
-    throw Failure(CannotBeDone, "Standard output cannot be written.");
+void RequireFolder(const std::string& home) {
+  if (!std::filesystem::is_directory(home)) {
+    throw Failure(CannotBeDone, "The folder \"" + home + "\" does not exist.");
   }
-}
-
-void WriteResults(const RunOptions& options, const RunFacts& facts) {
-  if (options.json == "-") {
-    WriteOut(ResultJson(facts));
-    return;
-  }
-  if (!options.json.empty()) {
-    WriteFileAtomically(InFolder(Folders.AppFolder, options.json), ResultJson(facts));
-  }
-  if (!options.quiet) WriteOut(ResultSummary(facts));
 }
 
 }  // namespace
 
 void RunCommand(const RunOptions& options) {
   OpenConsole();
+  RequireFolder(options.home);
   StartUp(options.home);
   Console.tableMode = options.mode == Mode::Table;
-  if (!options.answers.empty()) LoadAnswers(InFolder(Folders.AppFolder, options.answers));
-  SeatPlayers(options);
-  ApplyRules(options.settings, options.payoffs);
-  ChooseDice(options);
-  if (!options.dice.empty()) PlayFrom(options.dice);
+  CheckFiles(options);
+  if (!options.answers.empty()) {
+    WithFile("answers file", options.answers, "cannot be read",
+             [&options] { LoadAnswers(PathOf(options.answers)); });
+  }
+  SetUp(options);
   Recording recording(options.record);
   OpenEventsLog(options.eventsLog);
-  NewSession({-1, -1, -1, ContinueRollFile});
-  const RunFacts facts = Play(options);
-  recording.Keep();
-  WriteResults(options, facts);
+  const RunFacts facts = Play(options, recording);
+  WriteResults(options, facts, recording);
   ShutDown();
 }
 

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "app/sim/failure.h"
+#include "base/number_format.h"
 #include "base/single_byte_text.h"
 #include "engine/table.h"
 
@@ -82,6 +83,36 @@ BetArgument ReadBet(const std::string& text) {
     throw Failure(CannotBeDone, "A bet cannot be below zero: \"" + text + "\".");
   }
   return bet;
+}
+
+Mode ReadMode(const std::string& text) {
+  if (text == "hyper") return Mode::Hyper;
+  if (text == "table") return Mode::Table;
+  throw Failure(WrongCommandLine, "The mode is hyper or table, not \"" + text + "\".");
+}
+
+std::string ReadFileName(const std::string& text) {
+  if (text.empty()) throw Failure(WrongCommandLine, "A file name is empty.");
+  return text;
+}
+
+int64_t ReadWhole(const std::string& text) {
+  const char* begin = text.data() + (text.starts_with('+') ? 1 : 0);
+  const char* const end = text.data() + text.size();
+  int64_t number = 0;
+  const auto [rest, error] = std::from_chars(begin, end, number);
+  if (error == std::errc::invalid_argument || rest != end) {
+    throw Failure(WrongCommandLine, "\"" + text + "\" is not a whole number.");
+  }
+  if (error == std::errc()) return number;
+  return *begin == '-' ? INT64_MIN : INT64_MAX;
+}
+
+int64_t ReadCount(const std::string& text, int64_t limit) {
+  const int64_t count = ReadWhole(text);
+  if (count >= 0 && count <= limit) return count;
+  throw Failure(CannotBeDone, "The count " + text + " is out of limits: counts are 0 to " +
+                                  FormatNumber(limit, "#,0") + ".");
 }
 
 FieldArgument ReadField(const std::string& text) {

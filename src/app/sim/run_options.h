@@ -1,5 +1,5 @@
-// What `tessarel-sim run` is asked to do, and the reading of its composite arguments. Reading only:
-// names, places and amounts are checked for their form here and against the table by the run.
+// What `tessarel-sim run` is asked to do, and the reading of its arguments. Reading only: names,
+// places and amounts are checked for their form here and against the table by the run.
 #pragma once
 
 #include <cstdint>
@@ -38,9 +38,11 @@ struct RunOptions {
   std::vector<std::string> payoffs;
   std::vector<BetArgument> bets;
   std::optional<int64_t> rolls, hands;
-  int32_t generator = 1;
+  int64_t sessions = 1;
+  int64_t generator = 1;
   std::optional<int64_t> seed;
-  std::string dice, record, answers, eventsLog, json;
+  // File names; empty: not asked for.
+  std::string dice, record, answers, eventsLog, probability, report, json;
   Mode mode = Mode::Hyper;
   bool quiet = false;
 };
@@ -50,5 +52,13 @@ struct RunOptions {
 PlayerArgument ReadPlayer(const std::string& text);
 BetArgument ReadBet(const std::string& text);
 FieldArgument ReadField(const std::string& text);
+
+Mode ReadMode(const std::string& text);
+// A name that is not empty.
+std::string ReadFileName(const std::string& text);
+// A whole decimal number; one that 64 bits cannot hold comes back as the nearest that they can.
+int64_t ReadWhole(const std::string& text);
+// The same from 0 to `limit`. Failure outside.
+int64_t ReadCount(const std::string& text, int64_t limit);
 
 }  // namespace tessarel::sim

@@ -1,0 +1,21 @@
+#include "app/sim/reporting.h"
+
+#include "config/advantage.h"
+#include "engine/table.h"
+#include "stats/comps.h"
+#include "stats/report.h"
+
+namespace tessarel::sim {
+
+std::string RunReport() {
+  ReportInputs inputs;
+  for (int number = 1; number <= LastBet; ++number) {
+    At(inputs.Expected, number) = FigureAdvantage(number).EvPerDec;
+  }
+  ForEachPlayer(
+      [&inputs](int place) { At(inputs.Comps, place) = FigureComps(place + CurrentSession); });
+  inputs.Dice = SkewedDiceInForce();
+  return TextReport(inputs);
+}
+
+}  // namespace tessarel::sim

@@ -1,0 +1,159 @@
+#include "app/sim/run_files.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+
+#include "app/sim/failure.h"
+#include "base/fault.h"
+#include "base/file_io.h"
+#include "config/folders.h"
+#include "dice/roll_file.h"
+#include "files/events_log.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct RunFile {
+  const char* what;
+  const std::string* name;
+  bool written;
+};
+
+std::string Quoted(const char* what, const std::string& name) {
+  return std::string("The ") + what + " \"" + name + "\"";
+}
+
+// The file behind links, in one form for each file.
+fs::path Resolved(const std::string& name) {
+  std::error_code error;
+  const fs::path path = fs::weakly_canonical(fs::absolute(PathOf(name), error), error);
+  return error ? fs::path(PathOf(name)) : path;
+}
+
+void RefuseUnwritable(const RunFile& file) {
+  const auto refuse = [&file](const std::string& why) {
+    throw Failure(CannotBeDone, Quoted(file.what, *file.name) + " cannot be written: " + why);
+  };
+  const fs::path path = Resolved(*file.name);
+  std::error_code error;
+  if (fs::is_directory(path, error)) refuse("it is a folder.");
+  if (fs::exists(path, error)) {
+    if (!fs::is_regular_file(path, error)) refuse("it is not an ordinary file.");
+    if (access(path.c_str(), W_OK) != 0) refuse("it may not be changed.");
+  }
+  const fs::path folder = path.parent_path();
+  if (!fs::is_directory(folder, error)) refuse("its folder does not exist.");
+  if (access(folder.c_str(), W_OK | X_OK) != 0) refuse("its folder may not be changed.");
+}
+
+}  // namespace
+
+std::string PathOf(const std::string& name) {
+  return InFolder(Folders.AppFolder, name);
+}
+
+void WithFile(const std::string& what,
+              const std::string& name,
+              const std::string& trouble,
+              const std::function<void()>& work) {
+  try {
+    work();
+  } catch (const Fault& fault) {
+    throw Failure(CannotBeDone,
+                  Quoted(what.c_str(), name) + " " + trouble + ": " + fault.Description + ".");
+  }
+}
+
+void CheckFiles(const RunOptions& options) {
+  const std::string none;
+  const std::array<RunFile, 5> files = {{
+      {"dice roll file", &options.dice, false},
+      {"answers file", &options.answers, false},
+      {"recording", &options.record, true},
+      {"events log", &options.eventsLog, true},
+      {"result", options.json == "-" ? &none : &options.json, true},
+  }};
+  for (const RunFile& file : files) {
+    if (file.name->empty() || !file.written) continue;
+    RefuseUnwritable(file);
+    for (const RunFile& other : files) {
+      if (&other == &file || other.name->empty() || Resolved(*other.name) != Resolved(*file.name)) {
+        continue;
+      }
+      throw Failure(CannotBeDone,
+                    Quoted(file.what, *file.name) + " cannot be the " + other.what + " as well.");
+    }
+  }
+}
+
+void PlayFrom(const std::string& name) {
+  const std::string path = PathOf(name);
+  if (!FileExists(path)) {
+    const bool there = fs::exists(path);
+    throw Failure(CannotBeDone, Quoted("dice roll file", name) +
+                                    (there ? " is not an ordinary file." : " does not exist."));
+  }
+  WithFile("dice roll file", name, "cannot be read", [&name] { OpenRollFile(name); });
+  RewindForPlayback();
+}
+
+void OpenEventsLog(const std::string& name) {
+  if (name.empty()) return;
+  EventsLog.EventLogName = PathOf(name);
+  WithFile("events log", name, "cannot be continued", [] {
+    if (EventsLogExists()) {
+      RebuildEventsIndex();
+    } else {
+      DeleteFileIfPresent(EventsIndexName());
+    }
+  });
+  SelectAllEvents(true);
+  EventsLog.LogOn = -1;
+}
+
+Recording::Recording(const std::string& name) : name_(name) {
+  if (name.empty()) return;
+  const fs::path target = Resolved(name);
+  target_ = target.string();
+  part_ = (target.parent_path() / (".tessarel-" + std::to_string(getpid()) + ".rol")).string();
+  WithFile("recording", name_, "cannot be written", [this] {
+    DeleteFileIfPresent(part_);
+    OpenRollFile(part_);
+  });
+  RollFile.RollFileMode = RollFileRecord;
+}
+
+Recording::~Recording() {
+  if (part_.empty()) return;
+  RollFile = {};
+  std::remove(part_.c_str());
+}
+
+bool Recording::Lost() const {
+  return !part_.empty() && RollFile.RollFileMode != RollFileRecord;
+}
+
+void Recording::Finish() {
+  if (part_.empty()) return;
+  if (Lost()) {
+    throw Failure(CannotBeDone, Quoted("recording", name_) + " cannot be written to its end.");
+  }
+  WithFile("recording", name_, "cannot be written", [] { CloseRollFile(); });
+}
+
+void Recording::Keep() {
+  if (part_.empty()) return;
+  if (std::rename(part_.c_str(), target_.c_str()) != 0) {
+    throw Failure(CannotBeDone, Quoted("recording", name_) + " cannot be put in its place.");
+  }
+  part_.clear();
+}
+
+}  // namespace tessarel::sim

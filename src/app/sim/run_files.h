@@ -1,0 +1,50 @@
+// The files of a run: the dice it plays, the recording it makes and the log it writes. What cannot
+// be read or written is told before the first roll, with the file's name.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "app/sim/run_options.h"
+
+namespace tessarel::sim {
+
+// A file of the run as a path: relative names are taken from the program's folder.
+std::string PathOf(const std::string& name);
+
+// Runs `work`; a fault in it becomes the Failure `what`, then the file's name, `trouble` and why.
+void WithFile(const std::string& what,
+              const std::string& name,
+              const std::string& trouble,
+              const std::function<void()>& work);
+
+// Failure when a file to be written cannot be, or stands for two things.
+void CheckFiles(const RunOptions& options);
+
+// Dice from the roll file from now on.
+void PlayFrom(const std::string& name);
+
+// All events into the log from now on.
+void OpenEventsLog(const std::string& name);
+
+// Records to a file beside the named one, which takes its place when the run is done. Without a
+// name nothing is recorded and nothing here does anything.
+class Recording {
+ public:
+  explicit Recording(const std::string& name);
+  ~Recording();
+  Recording(const Recording&) = delete;
+  Recording& operator=(const Recording&) = delete;
+
+  // Whether the disk failed, so that no more is recorded.
+  bool Lost() const;
+  // Brings all that is recorded to the disk.
+  void Finish();
+  // Puts the recording in its place; after Finish.
+  void Keep();
+
+ private:
+  std::string name_, target_, part_;
+};
+
+}  // namespace tessarel::sim

@@ -1,0 +1,438 @@
+// tessarel-sim as people script against it: exit statuses, what goes to which stream, and files.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "base/temporary_folder.h"
+
+namespace tessarel {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Outcome {
+  int status = -1;
+  std::string out, err;
+};
+
+class Sim : public ::testing::Test {
+ protected:
+  std::string Path(const std::string& name) const { return folder_.Path() + name; }
+  void Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(Path(name), std::ios::binary) << bytes;
+  }
+  std::string Read(const std::string& name) const {
+    std::ifstream file(Path(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  // Runs the program in the test's folder; `arguments` as one writes them in a shell, `before` are
+  // commands of the shell.
+  Outcome Run(const std::string& arguments, const std::string& before = "") const {
+    const std::string streams = folder_.Path() + "streams-";
+    const std::string command = "cd '" + folder_.Path() + "' && " + before +
+                                " '" TESSAREL_SIM "' " + arguments + " >'" + streams + "out' 2>'" +
+                                streams + "err'";
+    const int status = std::system(command.c_str());
+    Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Read("streams-out"),
+                    Read("streams-err")};
+    std::filesystem::remove(streams + "out");
+    std::filesystem::remove(streams + "err");
+    return outcome;
+  }
+
+  // The JSON of a run that ends well.
+  Json Result(const std::string& arguments) const {
+    const Outcome outcome = Run("run --json - " + arguments);
+    EXPECT_EQ(outcome.status, 0) << arguments << "\n" << outcome.err;
+    return Json::parse(outcome.out, nullptr, false);
+  }
+
+  TemporaryFolder folder_;
+};
+
+// What must be the same in two runs that see the same dice.
+Json Played(Json result) {
+  for (const char* key : {"seconds", "rng", "seed", "stop_reason", "messages"})
+    result.erase(key);
+  return result;
+}
+
+Json Keys(const Json& object) {
+  Json keys = Json::array();
+  for (const auto& item : object.items())
+    keys.push_back(item.key());
+  return keys;
+}
+
+constexpr const char* Bets =
+    "--player Ann=5000 --player Bob@4 --bet 'Pass Line=10' --bet 'Pass Line Odds=20' "
+    "--bet 'Place 6=12' --bet 'Hard 8=1' --bet 'Don'\"'\"'t Pass=5@4' --bet Field=2.5@4 ";
+
+TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
+  Write("bad.rol", std::string("\x90\x90\x1d", 3));
+  std::filesystem::create_directory(Path("folder"));
+  Write("kept.json", "old");
+  struct Case {
+    const char* arguments;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"check a.bet", "check is not available"},
+      {"advantage --json", "advantage is not available"},
+      {"run --new", "--new is not available"},
+      {"run --sessions 3", "--sessions is not available"},
+      {"run --script=a.bet", "--script is not available"},
+      {"run --probability a.prb", "--probability is not available"},
+      {"dice --rng 1 --seed 1 --count 1 --probability a.prb", "--probability is not available"},
+      {"run --sessions-log .", "--sessions-log is not available"},
+      {"run --save a.tsg", "--save is not available"},
+      {"run --report -", "--report is not available"},
+      {"run a.tsg", "Game files (\"a.tsg\")"},
+      {"run --home nowhere", "The folder \"nowhere\" does not exist"},
+
+      {"run --player Ann --player aNN", "There's already a player named aNN."},
+      {"run --player 123", "A player's name can't be all numeric"},
+      {"run --player =5", "A player needs a name"},
+      {"run --player Ann@9", "Place 9 does not exist"},
+      {"run --player Ann@0", "Place 0 does not exist"},
+      {"run --player Ann@2 --player Bob@2", "Place 2 is taken by Ann"},
+      {"run --player A1 --player A2 --player A3 --player A4 --player A5 --player A6 --player A7 "
+       "--player A8 --player A9",
+       "only eight places"},
+      {"run --player Ann=10000000", "beyond the limits"},
+      {"run --player Ann=1.00001", "four decimals"},
+
+      {"run --bet Pass=5", "no bet named \"Pass\""},
+      {"run --bet 'Pass Line=-5'", "cannot be below zero"},
+      {"run --bet 'Pass Line=1.23456'", "four decimals"},
+      {"run --bet 'Pass Line=99999999999999999999'", "no amount of money"},
+      {"run --bet 'Pass Line=5@2'", "no player at place 2"},
+      {"run --bet Fire=5 --set UseFireBet=0 --events-log new.txt", "off the layout"},
+      {"run --set NoSuch=1", "no setting named \"NoSuch\""},
+      {"run --set BarNumber=3", "BarNumber must be 2 or 12"},
+      {"run --player Ann --set DoBias@5=1", "place 5, where nobody plays"},
+      {"run --set MinPlacardBet=2000", "maximum bet must be greater"},
+      {"run --payoff 'Place 6=7:0'", "must be greater than zero"},
+
+      {"run --rolls -1", "out of limits"},
+      {"run --rolls 2000000001", "0 to 2,000,000,000"},
+      {"run --hands 99999999999999999999", "out of limits"},
+      {"run --seed 0", "seed value is out of limits"},
+      {"run --seed 2147483648", "1 to 2147483647"},
+      {"run --rng 3 --seed 1000000", "1 to 999999"},
+      {"run --seed 99999999999999999999", "seed value is out of limits"},
+      {"run --rng 0", "generators are 1 to 8"},
+      {"run --rng 99999999999", "generators are 1 to 8"},
+      {"dice --rng 9 --seed 1 --count 1", "generators are 1 to 8"},
+      {"dice --rng 1 --seed 1 --count -1", "out of limits"},
+      {"run --rng 4 --seed 2147332759", "Overflow, Error #6 occurred at: SeedRNG"},
+      {"dice --rng 5 --seed 2147428875 --count 1", "Overflow, Error #6"},
+      {"dice --rng 6 --seed 2147428875 --count 1", "Overflow, Error #6"},
+      {"dice --rng 7 --seed 2147332759 --count 1", "Overflow, Error #6"},
+
+      {"run --answers nowhere", "The answers file \"nowhere\" cannot be read: File not found."},
+      {"run --dice nowhere", "\"nowhere\" does not exist"},
+      {"run --dice folder", "\"folder\" is not an ordinary file"},
+      {"run --record folder", "The recording \"folder\" cannot be written: it is a folder"},
+      {"run --record no/x.rol", "its folder does not exist"},
+      {"run --events-log no/x.txt", "its folder does not exist"},
+      {"run --json folder", "The result \"folder\" cannot be written: it is a folder"},
+      {"run --json kept.json/x", "its folder does not exist"},
+      {"run --record x.rol --json ./x.rol", "cannot be the result as well"},
+      {"run --dice bad.rol --events-log bad.rol", "cannot be the dice roll file as well"},
+      {"run --rolls 5 --bet 'Pass Line=5' --json kept.json --answers nowhere", "nowhere"},
+  };
+  for (const Case& row : cases) {
+    const Outcome outcome = Run(row.arguments);
+    EXPECT_EQ(outcome.status, 1) << row.arguments;
+    EXPECT_EQ(outcome.out, "") << row.arguments;
+    EXPECT_EQ(outcome.err.substr(0, 14), "tessarel-sim: ") << row.arguments;
+    EXPECT_NE(outcome.err.find(row.says), std::string::npos) << row.arguments << "\n"
+                                                             << outcome.err;
+    EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1) << outcome.err;
+  }
+  EXPECT_EQ(folder_.EntryCount(), 3);
+  EXPECT_EQ(Read("kept.json"), "old");
+}
+
+TEST_F(Sim, AnswersAWrongCommandLineWithTheUsageLine) {
+  const char* const lines[] = {
+      "",
+      "play",
+      "run --nosuch",
+      "run --nosuch --player Ann@9",
+      "run --rolls",
+      "run --rolls ten",
+      "run --rolls 1.5",
+      "run --rolls ''",
+      "run --rolls 5 --rolls 6",
+      "run --hands 1x",
+      "run --seed x",
+      "run --seed 0x10",
+      "run --rng one",
+      "run --mode slow",
+      "run --mode 1",
+      "run --json ''",
+      "run --player Ann@x",
+      "run --player Ann=much",
+      "run --bet Field",
+      "run --bet Field=",
+      "run --bet Field=5@here",
+      "run --set MinPlacardBet",
+      "run --dice a.rol --record b.rol",
+      "run --quiet=5x",
+      "dice --rng 1 --seed 1",
+      "dice --rng 1 --seed 1 --count x",
+      "dice --rng 1 --seed 1 --count 1 more",
+      "dice --rng 3 --seed 1 --count 1 --raw",
+  };
+  for (const char* arguments : lines) {
+    const Outcome outcome = Run(arguments);
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    EXPECT_EQ(outcome.out, "") << arguments;
+    EXPECT_NE(outcome.err.find("\nUsage: tessarel-sim "), std::string::npos) << arguments;
+    EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 2) << outcome.err;
+  }
+  EXPECT_EQ(folder_.EntryCount(), 0);
+}
+
+TEST_F(Sim, HelpNamesEveryOptionThatWorks) {
+  const std::string run = Run("run --help").out, dice = Run("dice --help").out;
+  for (const char* option :
+       {"--home DIR", "--player NAME[@PLACE][=BANKROLL]", "--set FIELD[@PLACE]=VALUE",
+        "--payoff ROW=NUM:DEN", "--bet NAME=AMOUNT[@PLACE]", "--rolls N", "--hands N", "--rng N",
+        "--seed N", "--dice FILE.rol", "--record FILE.rol", "--mode hyper|table", "--answers FILE",
+        "--events-log FILE", "--json FILE", "--quiet"}) {
+    EXPECT_NE(run.find(option), std::string::npos) << option;
+  }
+  for (const char* option : {"--rng N", "--seed N", "--count N", "--raw"})
+    EXPECT_NE(dice.find(option), std::string::npos) << option;
+  EXPECT_EQ(run.find("--script"), std::string::npos);
+  const Outcome top = Run("--help");
+  EXPECT_EQ(top.status, 0);
+  EXPECT_NE(top.out.find("dice"), std::string::npos);
+}
+
+TEST_F(Sim, DiceAreThoseOfTheTable) {
+  EXPECT_EQ(Run("dice --rng 1 --seed 5 --count 0").out, "");
+  for (const char* rng : {"1", "2", "3", "4", "5", "6", "7", "8"}) {
+    const std::string generator = std::string("--rng ") + rng + " --seed 4711 ";
+    Result(generator + "--rolls 300 --set BetNeededToShoot=0 --record table.rol");
+    std::string dice;
+    for (const char byte : Read("table.rol")) {
+      dice += std::to_string((byte & 28) / 4) + " " + std::to_string((byte & 224) / 32) + "\n";
+    }
+    EXPECT_EQ(Run("dice --count 300 " + generator).out, dice) << rng;
+  }
+  // The published first word of the generator from the seed 5489 is 3499211612.
+  const std::string words = Run("dice --rng 1 --seed 5489 --count 3 --raw").out;
+  EXPECT_EQ(words.size(), 12u);
+  EXPECT_EQ(words.substr(0, 4), "\x5c\xbb\x91\xd0");
+}
+
+TEST_F(Sim, ResultHasItsKeysInOrderAndExactMoney) {
+  const Json result = Result(std::string(Bets) +
+                             "--set Denomination=0.5,1,5,25,100 --rolls 400 "
+                             "--seed 77");
+  EXPECT_EQ(Keys(result).dump(),
+            R"(["version","rolls","sessions","hands","seconds","rng","seed","stop_reason",)"
+            R"("messages","table","players","roll_counts","hand_figures"])");
+  EXPECT_EQ(Keys(result["table"]).dump(),
+            R"(["Point","LastPoint","Shooter","LastShooter","Die1","Die2","DiceTotal",)"
+            R"("MarkedNumbers","FourRollCount","FirePointsMask","FirePoints",)"
+            R"("SharpShooterPoints","RideTheLinePasses"])");
+  EXPECT_EQ(Keys(result["hand_figures"]).dump(),
+            R"(["HandCount","RollTotal","MostRolls","MostComeoutRolls","MostPasses",)"
+            R"("MostMisses"])");
+  ASSERT_EQ(result["players"].size(), 2u);
+  const Json& bob = result["players"][1];
+  EXPECT_EQ(Keys(bob).dump(),
+            R"(["place","name","Bankroll","BankrollBegin","BankrollHigh","BankrollLow",)"
+            R"("InvestedBankroll","MoneyOnTable","bets","checkstacks","results"])");
+  EXPECT_EQ(bob["place"], 4);
+  EXPECT_EQ(Keys(result["players"][0]["bets"][0]).dump(),
+            R"(["bet","name","amount","contract","working","vig","streak"])");
+  EXPECT_EQ(result["roll_counts"].size(), 91u);
+  EXPECT_EQ(result["roll_counts"][0], 400);
+
+  const Json& field = bob["results"][1];
+  EXPECT_EQ(Keys(field).dump(), R"(["bet","name","tendered","won","lost"])");
+  EXPECT_EQ(Keys(field["won"]).dump(), R"(["count","sum","high","low","last_roll","last"])");
+  EXPECT_EQ(field["name"], "Field");
+  EXPECT_EQ(field["tendered"]["sum"].dump(), "1000");
+  EXPECT_EQ(field["tendered"]["high"].dump(), "2.5");
+  double net = 0;
+  for (const Json& bet : bob["results"])
+    net += bet["won"]["sum"].get<double>() - bet["lost"]["sum"].get<double>();
+  EXPECT_EQ(bob["Bankroll"].get<double>(), 1000 + net);
+}
+
+TEST_F(Sim, SameCommandLineGivesTheSameBytesInEitherMode) {
+  const std::string line = std::string("run --rolls 3000 --seed 99 ") + Bets;
+  const Outcome first = Run(line);
+  EXPECT_EQ(first.status, 0);
+  EXPECT_EQ(first.err, "");
+  EXPECT_EQ(Run(line).out, first.out);
+  EXPECT_EQ(Run(line + "--mode table").out, first.out);
+  EXPECT_NE(first.out.find("Ann (place 1)"), std::string::npos);
+
+  const std::string logged = std::string(Bets) + "--rolls 200 --seed 99 --events-log ";
+  EXPECT_EQ(Played(Result(logged + "hyper.txt")),
+            Played(Result(logged + "table.txt --mode table")));
+  const auto withoutTime = [](const std::string& log) { return log.substr(log.find('\n')); };
+  const std::string log = withoutTime(Read("hyper.txt"));
+  EXPECT_NE(log.find("Roll #200:"), std::string::npos);
+  EXPECT_TRUE(log == withoutTime(Read("table.txt")));
+}
+
+TEST_F(Sim, ReplayOfARecordingGivesTheSameResult) {
+  const std::string bets = std::string(Bets) + "--bet Come=5 ";
+  for (const char* mode : {"", "--mode table "}) {
+    const Json recorded = Result(bets + "--rolls 1234 --seed 31 --record run.rol " + mode);
+    EXPECT_EQ(Read("run.rol").size(), 1234u);
+    const Json replayed = Result(bets + "--dice run.rol " + mode);
+    EXPECT_EQ(Played(recorded), Played(replayed));
+    EXPECT_EQ(replayed["stop_reason"], "Stopped due to end of Dice Roll File reached.");
+    EXPECT_EQ(recorded["stop_reason"], "");
+    EXPECT_EQ(Result(bets + "--dice run.rol --rolls 34 " + mode)["rolls"], 34);
+  }
+}
+
+TEST_F(Sim, RunEndsWhereItsDiceEnd) {
+  const std::string hardEight(1, '\x90');
+  struct Case {
+    std::string bytes;
+    int rolls;
+    const char* reason;
+  };
+  const Case cases[] = {
+      {"", 0, "Stopped due to end of Dice Roll File reached."},
+      {hardEight + hardEight, 2, "Stopped due to end of Dice Roll File reached."},
+      {hardEight + hardEight + '\x1d' + hardEight, 2,
+       "Stopped due to Dice Roll File value out of limits."},
+  };
+  for (const Case& row : cases) {
+    Write("play.rol", row.bytes);
+    for (const char* mode : {"hyper", "table"}) {
+      const Json result = Result("--bet Field=5 --set BetNeededToShoot=2 --dice play.rol --mode " +
+                                 std::string(mode));
+      EXPECT_EQ(result["rolls"], row.rolls) << mode;
+      EXPECT_EQ(result["stop_reason"], row.reason) << mode;
+      EXPECT_TRUE(result["players"][0]["bets"].empty()) << "bet for a roll that did not come";
+      EXPECT_EQ(result["players"][0]["Bankroll"], 1000 - 5 * row.rolls);
+    }
+  }
+}
+
+TEST_F(Sim, CountsEndARun) {
+  const std::string bet = "--bet 'Pass Line=5' --seed 8 --set AllowNegBankroll=1 ";
+  EXPECT_EQ(Result(bet)["rolls"], 100'000);
+  EXPECT_EQ(Result(bet + "--hands 7")["hands"], 7);
+  EXPECT_EQ(Result(bet + "--hands 7 --rolls 10")["rolls"], 10);
+  EXPECT_EQ(Result(bet + "--hands 1 --rolls 1000")["hands"], 1);
+  const Json nothing = Result(bet + "--rolls 0");
+  EXPECT_EQ(nothing["players"][0]["bets"].size(), 0u);
+  EXPECT_EQ(nothing["table"]["DiceTotal"], 0);
+  const Json stopped = Result(bet + "--set AutoStopRolls=25");
+  EXPECT_EQ(stopped["rolls"], 25);
+  EXPECT_EQ(stopped["stop_reason"], "Stopped by Auto-Stop.");
+}
+
+TEST_F(Sim, RefusedRollEndsTheRunWithItsReason) {
+  const Outcome outcome = Run("run --player Ann --mode table --json -");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err.substr(0, 83),
+            "[Line Bet Required] A line bet is required to shoot. /  / Ann must make a Pass Line");
+  const Json result = Json::parse(outcome.out);
+  EXPECT_EQ(result["stop_reason"], "Shooter has no line bet.");
+  ASSERT_EQ(result["messages"].size(), 1u);
+  EXPECT_EQ(result["messages"][0]["title"], "Line Bet Required");
+  EXPECT_NE(std::string(result["messages"][0]["text"]).find("shoot.\r\rAnn"), std::string::npos);
+
+  const Outcome hyper = Run("run --player Ann --json -");
+  EXPECT_EQ(hyper.err, "");
+  EXPECT_TRUE(Json::parse(hyper.out)["messages"].empty());
+  EXPECT_NE(Run("run").out.find("No players are available to bet."), std::string::npos);
+
+  for (const char* mode : {"hyper", "table"}) {
+    const std::string broke = Result(
+        "--player Ann=9999998 --set MaxPlacardBet=5000 --bet Field=5000 "
+        "--set BetNeededToShoot=0 --seed 4 --mode " +
+        std::string(mode))["stop_reason"];
+    EXPECT_NE(broke.find("the max bankroll limit of $9,999,999"), std::string::npos) << mode;
+  }
+}
+
+TEST_F(Sim, PromptsTakeTheAnswersInOrder) {
+  Write("answers", "much\n99999999\n2500.5\r\n70\n");
+  const std::string ask = "--player Ann --player Bob --set BankrollInitType=1 --rolls 0 ";
+  const Json answered = Result(ask + "--mode table --answers answers")["players"];
+  EXPECT_EQ(answered[0]["Bankroll"].dump(), "2500.5");
+  EXPECT_EQ(answered[1]["Bankroll"], 70);
+  EXPECT_EQ(Result(ask + "--mode table")["players"][0]["Bankroll"], 1000);
+}
+
+TEST_F(Sim, FilesComeFromTheHomeFolderAndAppearWhole) {
+  std::filesystem::create_directory(Path("home"));
+  Write("home/run.rol", "old recording");
+  const Outcome outcome =
+      Run("run --home home --rolls 20 --quiet --record run.rol --json run.json "
+          "--events-log log.txt --bet 'Pass Line=5'");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out + outcome.err, "");
+  EXPECT_EQ(Read("home/run.rol").size(), 20u);
+  EXPECT_EQ(Json::parse(Read("home/run.json"))["rolls"], 20);
+  EXPECT_NE(Read("home/log.txt").find("New session started"), std::string::npos);
+  EXPECT_EQ(folder_.EntryCount(), 1);
+}
+
+TEST_F(Sim, AFailingDiskLeavesTheOldFiles) {
+  const std::string before = "trap '' XFSZ; ulimit -f 8;";  // files of 4 KiB in POSIX shells
+  Write("old.rol", "old recording");
+  Write("old.json", "old result");
+  const std::string line = "run --bet 'Pass Line=5' --quiet --rolls ";
+  for (const char* files : {"200000 --record old.rol --json old.json", "30000 --record old.rol",
+                            "5000 --events-log log.txt --record old.rol --json old.json"}) {
+    const Outcome outcome = Run(line + files, before);
+    EXPECT_EQ(outcome.status, 1) << files;
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_NE(outcome.err.find("tessarel-sim: The r"), std::string::npos) << outcome.err;
+    EXPECT_EQ(Read("old.rol"), "old recording");
+    EXPECT_EQ(Read("old.json"), "old result");
+  }
+  EXPECT_EQ(Run("run --rolls 5 --bet Field=1 --json old.json", "trap '' XFSZ; ulimit -f 0;").status,
+            1);
+  EXPECT_EQ(Read("old.json"), "old result");
+}
+
+TEST_F(Sim, CtrlCStopsAfterTheRollWithTheResultsSoFar) {
+  const std::string before = "{ ( sleep 0.5; kill -INT $$ ) & }; exec";
+  for (const char* mode : {"hyper", "table"}) {
+    const Outcome outcome =
+        Run("run --rolls 2000000000 --bet 'Pass Line=5' --set "
+            "AllowNegBankroll=1 --record run.rol --json - --mode " +
+                std::string(mode),
+            before);
+    EXPECT_EQ(outcome.status, 0) << mode;
+    const Json result = Json::parse(outcome.out, nullptr, false);
+    ASSERT_TRUE(result.is_object()) << mode;
+    EXPECT_EQ(result["stop_reason"], "");
+    EXPECT_GT(result["rolls"], 0);
+    EXPECT_EQ(result["rolls"], Read("run.rol").size());
+  }
+}
+
+}  // namespace
+}  // namespace tessarel
