@@ -9,6 +9,7 @@
 #include "config/payoffs.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/probability.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
@@ -149,6 +150,7 @@ void ResetModules() {
   Table = TableState{};
   Stats = StatsState{};
   Dice = DiceState{};
+  Probability = ProbabilityState{};
   RollFile = RollFileState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};
