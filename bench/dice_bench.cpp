@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "dice/generators.h"
+#include "dice/probability.h"
 
 namespace tessarel {
 namespace {
@@ -17,6 +18,14 @@ void MakeDiceOfGenerator(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(MakeDiceOfGenerator)->DenseRange(1, GeneratorCount);
+
+void MakeDiceOfMatrix(benchmark::State& state) {
+  Probability = {};
+  Probability.ProbabilityMatrixActive = -1;
+  MakeDiceOfGenerator(state);
+  Probability = {};
+}
+BENCHMARK(MakeDiceOfMatrix)->DenseRange(1, GeneratorCount);
 
 }  // namespace
 }  // namespace tessarel

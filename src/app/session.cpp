@@ -13,6 +13,7 @@
 #include "config/payoffs.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/probability.h"
 #include "dice/roll_file.h"
 #include "engine/bet_handling.h"
 #include "engine/bet_limits.h"
@@ -165,6 +166,7 @@ void ResetModules() {
   Table = TableState{};
   Stats = StatsState{};
   Dice = DiceState{};
+  Probability = ProbabilityState{};
   RollFile = RollFileState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};

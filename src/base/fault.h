@@ -10,6 +10,7 @@ namespace tessarel {
 
 // The kinds of fault with their report numbers.
 enum class FaultNumber : int {
+  InvalidCall = 5,
   Overflow = 6,
   IndexOutOfRange = 9,
   DivisionByZero = 11,

@@ -90,10 +90,13 @@ void Record::PutTextField(int first, int width, std::string_view text) {
 }
 
 RecordFile RecordFile::Load(const std::string& path, int maxRecords) {
-  const std::string bytes = ReadWholeFile(path, static_cast<size_t>(maxRecords) * Record::Size);
+  return OfBytes(ReadWholeFile(path, static_cast<size_t>(maxRecords) * Record::Size));
+}
+
+RecordFile RecordFile::OfBytes(std::string_view bytes) {
   RecordFile file;
   for (size_t start = 0; start < bytes.size(); start += Record::Size) {
-    const std::string_view part = std::string_view(bytes).substr(start, Record::Size);
+    const std::string_view part = bytes.substr(start, Record::Size);
     std::copy(part.begin(), part.end(), file.Add().Bytes.begin());
   }
   return file;

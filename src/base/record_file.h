@@ -57,6 +57,8 @@ class RecordFile {
   // Reads the file. The bytes that a short last record lacks read as 0; a file of more than
   // `maxRecords` records raises the file access fault.
   static RecordFile Load(const std::string& path, int maxRecords = MaxRecords);
+  // The same from the bytes of a file.
+  static RecordFile OfBytes(std::string_view bytes);
   // Writes all records; on a fault an older file stands as it was.
   void Save(const std::string& path) const;
 

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "config/language.h"
+#include "dice/probability.h"
 #include "engine/table.h"
 #include "files/event_lines.h"
 
@@ -132,6 +133,39 @@ Faces FacesOfReals() {
   const float first = Source(idum) * 6.0F;
   const float second = Source(idum) * 6.0F;
   return {static_cast<int32_t>(first) + 1, static_cast<int32_t>(second) + 1};
+}
+
+// The numbers that are drawn for the probability matrix. A real of the twisters is cut to a whole
+// number, one of the shuffled generators is rounded half to even: those come to one more than
+// WholeShare.
+int32_t DrawOfTwister(Twister& twister) {
+  return ScaleWord(NextWord(twister), WholeShare) + 1;
+}
+
+template <float (*Source)(int32_t&)>
+int32_t DrawOfReal() {
+  int32_t idum = 1;
+  const double real = Source(idum);
+  return static_cast<int32_t>(std::nearbyint(real * WholeShare)) + 1;
+}
+
+int32_t DrawOfGenerator(int32_t generator, bool odd) {
+  switch (generator) {
+    case 2:
+      return DrawOfTwister(Dice.Twister2);
+    case 3:
+      return QuickRan(WholeShare);
+    case 4:
+      return DrawOfReal<Ran2>();
+    case 5:
+      return DrawOfReal<Ran1>();
+    case 6:
+      return odd ? DrawOfTwister(Dice.Twister1) : DrawOfReal<Ran1>();
+    case 7:
+      return odd ? DrawOfTwister(Dice.Twister2) : DrawOfReal<Ran2>();
+    default:
+      return DrawOfTwister(Dice.Twister1);
+  }
 }
 
 // The files a generator needs, as bits of SupportFile.
@@ -272,6 +306,9 @@ void ReplaceMissingGenerator() {
 Faces MakeDice(int32_t rollCount) {
   if (Dice.SupportFilesMissing != 0) ReplaceMissingGenerator();
   const bool odd = rollCount % 2 != 0;
+  if (Probability.ProbabilityMatrixActive != 0 && Dice.CurrentRNG != 0) {
+    return DrawCell(DrawOfGenerator(Dice.CurrentRNG, odd));
+  }
   switch (Dice.CurrentRNG) {
     case 1:
       return FacesOfTwister(Dice.Twister1);

@@ -55,9 +55,10 @@ struct Faces {
   int32_t die1, die2;
 };
 
-// Makes a roll's faces with CurrentRNG. `rollCount` is the table's count of rolls before this one;
-// generators 6 and 7 alternate by it. Faces {0, 0} when CurrentRNG is 0. Applies the fallback rule
-// of ReplaceMissingGenerator first.
+// Makes a roll's faces with CurrentRNG, through the probability matrix (dice/probability.h) if it
+// is active; then the fault of its DrawCell may come. `rollCount` is the table's count of rolls
+// before this one; generators 6 and 7 alternate by it. Faces {0, 0} when CurrentRNG is 0. Applies
+// the fallback rule of ReplaceMissingGenerator first.
 Faces MakeDice(int32_t rollCount);
 
 // With a support file missing, moves CurrentRNG to a generator that works.

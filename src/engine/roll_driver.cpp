@@ -11,6 +11,7 @@
 #include "config/language.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/probability.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
@@ -133,12 +134,19 @@ void SnapshotBeforeRoll() {
   Table.PointBeforeLast = std::exchange(Table.LastPoint, Table.Point);
 }
 
+std::string GeneratorText() {
+  const std::string from = " from RNG #" + std::to_string(Dice.CurrentRNG);
+  if (Probability.ProbabilityMatrixActive == 0) return from;
+  return Probability.ProbabilityFileName.empty()
+             ? from + " using untitled probability matrix"
+             : from + " using probability matrix: " + Probability.ProbabilityFileName;
+}
+
 void LogRollLine(DiceSource source) {
   if (!Logs(&EventsLogState::LogRolls)) return;
-  const std::string from = source == DiceSource::ManualPad ? " from manual roll pad"
-                           : source == DiceSource::RollFile
-                               ? " from roll file"
-                               : " from RNG #" + std::to_string(Dice.CurrentRNG);
+  const std::string from = source == DiceSource::ManualPad  ? " from manual roll pad"
+                           : source == DiceSource::RollFile ? " from roll file"
+                                                            : GeneratorText();
   LogRoll(RollsInSession() + 1, Table.Die1, Table.Die2, from);
 }
 

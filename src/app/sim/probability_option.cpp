@@ -1,0 +1,23 @@
+#include "app/sim/probability_option.h"
+
+#include "app/sim/failure.h"
+#include "base/file_io.h"
+#include "config/folders.h"
+#include "dice/probability.h"
+#include "dice/probability_file.h"
+
+namespace tessarel::sim {
+
+void ActivateProbability(const std::string& file) {
+  if (!FileExists(InFolder(Folders.AppFolder, file))) {
+    throw Failure(CannotBeDone, "The probability file \"" + file + "\" does not exist.");
+  }
+  if (!OpenProbabilityFile(file)) {
+    throw Failure(CannotBeDone, "\"" + file +
+                                    "\" is not a true Tessarel Probability File, or it is from an "
+                                    "older version or corrupted.");
+  }
+  Probability.ProbabilityMatrixActive = -1;
+}
+
+}  // namespace tessarel::sim
