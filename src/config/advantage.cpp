@@ -13,6 +13,7 @@
 #include "base/number_format.h"
 #include "config/payoffs.h"
 #include "config/settings.h"
+#include "dice/probability.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -576,7 +577,18 @@ DiceProbabilities TrueDice() {
 }
 
 DiceProbabilities DiceInForce() {
-  return TrueDice();
+  if (Probability.ProbabilityMatrixActive == 0) return TrueDice();
+  DiceProbabilities dice;
+  const auto probability = [](int column, int row) {
+    return static_cast<double>(ShareOf(column, row)) / WholeShare;
+  };
+  for (int row = 1; row <= LastTotalRow; ++row)
+    At(dice.total, row + 1) = probability(TotalColumn, row);
+  ForEachPair([&](int column, int row) {
+    const Faces faces = FacesOfCell(column, row);
+    At(At(dice.pair, faces.die1), faces.die2) = probability(column, row);
+  });
+  return dice;
 }
 
 AdvantageResult FigureAdvantage(int number, const DiceProbabilities& dice) {

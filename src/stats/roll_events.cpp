@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/fault.h"
+#include "dice/probability.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -176,7 +177,20 @@ int CodeOfPair(int die1, int die2) {
 }
 
 SkewedDice SkewedDiceInForce() {
-  return {};
+  SkewedDice dice;
+  dice.active = Probability.ProbabilityMatrixActive != 0;
+  if (!dice.active) return dice;
+  for (int row = 1; row <= LastTotalRow; ++row)
+    At(dice.total, row + 1) = ShareOf(TotalColumn, row);
+  ForEachPair([&dice](int column, int row) {
+    const Faces faces = FacesOfCell(column, row);
+    At(At(dice.pair, faces.die1), faces.die2) = ShareOf(column, row);
+  });
+  for (int face = 1; face <= FaceCount; ++face) {
+    At(dice.die1, face) = ShareOf(face + 1, FirstDieRow);
+    At(dice.die2, face) = ShareOf(face + 1, SecondDieRow);
+  }
+  return dice;
 }
 
 double EventProbability(int code, const SkewedDice& dice) {

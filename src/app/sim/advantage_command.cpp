@@ -7,6 +7,7 @@
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/output.h"
+#include "app/sim/probability_option.h"
 #include "base/number_format.h"
 #include "config/advantage.h"
 #include "engine/bet_numbers.h"
@@ -66,6 +67,7 @@ std::string AdvantageTable() {
 void AdvantageCommand(const AdvantageOptions& options) {
   OpenConsole();
   StartUp(".");
+  if (!options.probability.empty()) ActivateProbability(options.probability);
   ApplyRules(options.settings, options.payoffs);
   Advantage.IncludeZeroOutcomes = options.zeroOutcomes ? -1 : 0;
   WriteOut(options.json ? AdvantageJson() : AdvantageTable());

@@ -17,6 +17,7 @@ struct DiceOptions {
   int64_t generator = 1;
   int64_t seed = 0;
   int64_t count = 0;
+  std::string probability;  // a file name, empty for the generator's own dice
   bool raw = false;
 };
 

@@ -5,6 +5,7 @@
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
 #include "app/sim/output.h"
+#include "app/sim/probability_option.h"
 #include "base/trap.h"
 #include "config/language.h"
 #include "dice/generators.h"
@@ -78,10 +79,14 @@ void DiceCommand(const DiceOptions& options) {
   if (options.raw && options.generator != 1 && options.generator != 2) {
     throw Failure(WrongCommandLine, "--raw is for generators 1 and 2 only.");
   }
+  if (options.raw && !options.probability.empty()) {
+    throw Failure(WrongCommandLine, "--raw writes the words of a generator: no --probability.");
+  }
   if (!options.raw && options.count > MaxRolls) {
     throw Failure(CannotBeDone, "--count: a table makes at most 2,000,000,000 rolls.");
   }
   StartUp(".");
+  if (!options.probability.empty()) ActivateProbability(options.probability);
   SelectAndSeed(options.generator, options.seed);
   Output output;
   if (options.raw) {

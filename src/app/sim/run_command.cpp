@@ -9,6 +9,7 @@
 #include "app/sim/console.h"
 #include "app/sim/failure.h"
 #include "app/sim/output.h"
+#include "app/sim/probability_option.h"
 #include "app/sim/reporting.h"
 #include "app/sim/result.h"
 #include "app/sim/run_files.h"
@@ -260,6 +261,7 @@ void SetUp(const RunOptions& options) {
   if (!options.rolls && !options.hands && options.dice.empty()) Session.rolls = DefaultRolls;
   CheckBets(Session.bets);
   SelectAndSeed(options.generator, options.seed);
+  if (!options.probability.empty()) ActivateProbability(options.probability);
   if (!options.dice.empty()) PlayFrom(options.dice);
 }
 

@@ -72,12 +72,17 @@ void WithFile(const std::string& what,
 }
 
 void CheckFiles(const RunOptions& options) {
+  if (options.json == "-" && options.report == "-") {
+    throw Failure(WrongCommandLine, "Standard output takes either the result or the report.");
+  }
   const std::string none;
-  const std::array<RunFile, 5> files = {{
+  const std::array<RunFile, 7> files = {{
       {"dice roll file", &options.dice, false},
       {"answers file", &options.answers, false},
+      {"probability file", &options.probability, false},
       {"recording", &options.record, true},
       {"events log", &options.eventsLog, true},
+      {"report", options.report == "-" ? &none : &options.report, true},
       {"result", options.json == "-" ? &none : &options.json, true},
   }};
   for (const RunFile& file : files) {
