@@ -24,6 +24,8 @@
 #include "engine/table.h"
 #include "files/event_lines.h"
 #include "files/events_log.h"
+#include "stats/bankroll_graph.h"
+#include "stats/selection.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -145,6 +147,8 @@ void StartNewSession(const SessionOptions& options) {
   ClearLayout(options.keepStacks != 0);
   ForEachPlayer([&](int place) { StartBankroll(place, options.keepSessions != 0); });
   Table.GraphIndex = 0;
+  BankrollGraph.GraphWidth = 150;
+  BankrollGraph.GraphScrolledBack = 0;
   Table.StopReason.clear();
   if (Settings.ClearEventsLogOnNew != 0) Attempt(ClearEventsLog);
   Table.LastShooter = Table.Shooter;
@@ -165,6 +169,8 @@ void ResetModules() {
   Advantage = AdvantageState{};
   Table = TableState{};
   Stats = StatsState{};
+  ViewSelections = ViewSelectionState{};
+  BankrollGraph = BankrollGraphState{};
   Dice = DiceState{};
   Probability = ProbabilityState{};
   RollFile = RollFileState{};

@@ -14,6 +14,7 @@
 #include "engine/players.h"
 #include "engine/table.h"
 #include "files/event_lines.h"
+#include "stats/selection.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -173,6 +174,7 @@ bool DeletePlayer(int place, bool ask) {
   LoseAbandoned(place, abandoned);
   LogCashOut(place, Total(abandoned));
   ClearPlace(place);
+  FollowInViews(place, 0);
   Follow(Table.LastShooter, place, 0);
   Follow(Table.PreviousShooter, place, 0);
   Follow(Table.BankrollStopPlace, place, 0);
@@ -195,6 +197,7 @@ bool MovePlayer(int from, int to) {
        {&Table.Shooter, &Table.LastShooter, &Table.PreviousShooter, &Table.BankrollStopPlace}) {
     Follow(*place, from, to);
   }
+  FollowInViews(from, to);
   RebuildDerived();
   LogPlayerMoved(to);
   FrontEnd.DrawTable();

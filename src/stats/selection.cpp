@@ -7,6 +7,8 @@
 
 namespace tessarel {
 
+ViewSelectionState ViewSelections;
+
 namespace {
 
 constexpr int NoPlayersPresent = 100, NoPlayersSelected = 101, PlayerSelected = 102,
@@ -69,6 +71,17 @@ NumberSet AllBets() {
   for (int number = 1; number <= LastBet; ++number)
     bets.Add(number);
   return bets;
+}
+
+void FollowInViews(int from, int to) {
+  const PlaceSelection before = 1u << from, after = to == 0 ? 0 : 1u << to;
+  for (PlaceSelection* selection :
+       {&ViewSelections.BetResultsPlayer, &ViewSelections.BetTrendsPlayer,
+        &ViewSelections.HandsPlayer, &ViewSelections.SummaryPlayer,
+        &ViewSelections.RollTotalsPlayer}) {
+    if ((*selection & before) != 0) *selection = (*selection & ~before) | after;
+  }
+  if (ViewSelections.CSPlayer == from) ViewSelections.CSPlayer = to;
 }
 
 }  // namespace tessarel

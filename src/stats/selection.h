@@ -16,6 +16,19 @@ namespace tessarel {
 using PlaceSelection = uint32_t;
 inline constexpr PlaceSelection WholeTable = 1;
 
+// The players that each view of players now shows.
+struct ViewSelectionState {
+  PlaceSelection BetResultsPlayer = 0, BetTrendsPlayer = 0, HandsPlayer = 0, SummaryPlayer = 0,
+                 RollTotalsPlayer = 0;
+  int32_t CSPlayer = 0;  // the place whose check stacks are listed
+};
+
+extern ViewSelectionState ViewSelections;
+
+// The views that showed the player of a place go on showing him at his new one; with `to` 0 they
+// let go of him.
+void FollowInViews(int from, int to);
+
 // The list of scopes in a view; an index times SlotsInScope is the Scope.
 inline constexpr std::array<std::string_view, 5> ScopeNames = {
     "Current hand", "Last hand", "Current session", "Last session", "All sessions"};

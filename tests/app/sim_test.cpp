@@ -15,6 +15,9 @@
 #include <vector>
 
 #include "base/temporary_folder.h"
+#include "dice/probability.h"
+#include "dice/probability_file.h"
+#include "engine/table.h"
 
 namespace tessarel {
 namespace {
@@ -90,15 +93,14 @@ TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
   };
   const Case cases[] = {
       {"check a.bet", "check is not available"},
-      {"advantage --json", "advantage is not available"},
       {"run --new", "--new is not available"},
-      {"run --sessions 3", "--sessions is not available"},
       {"run --script=a.bet", "--script is not available"},
-      {"run --probability a.prb", "--probability is not available"},
-      {"dice --rng 1 --seed 1 --count 1 --probability a.prb", "--probability is not available"},
+      {"run --probability a.prb", "\"a.prb\" does not exist"},
+      {"dice --rng 1 --seed 1 --count 1 --probability a.prb", "\"a.prb\" does not exist"},
+      {"advantage --probability bad.rol", "not a true Tessarel Probability File"},
+      {"advantage --set NoSuchField=1", "NoSuchField"},
       {"run --sessions-log .", "--sessions-log is not available"},
       {"run --save a.tsg", "--save is not available"},
-      {"run --report -", "--report is not available"},
       {"run a.tsg", "Game files (\"a.tsg\")"},
       {"run --home nowhere", "The folder \"nowhere\" does not exist"},
 
@@ -214,7 +216,8 @@ TEST_F(Sim, HelpNamesEveryOptionThatWorks) {
        {"--home DIR", "--player NAME[@PLACE][=BANKROLL]", "--set FIELD[@PLACE]=VALUE",
         "--payoff ROW=NUM:DEN", "--bet NAME=AMOUNT[@PLACE]", "--rolls N", "--hands N", "--rng N",
         "--seed N", "--dice FILE.rol", "--record FILE.rol", "--mode hyper|table", "--answers FILE",
-        "--events-log FILE", "--json FILE", "--quiet"}) {
+        "--events-log FILE", "--json FILE", "--quiet", "--sessions N", "--probability FILE.prb",
+        "--report FILE"}) {
     EXPECT_NE(run.find(option), std::string::npos) << option;
   }
   for (const char* option : {"--rng N", "--seed N", "--count N", "--raw"})
@@ -415,6 +418,74 @@ TEST_F(Sim, AFailingDiskLeavesTheOldFiles) {
   EXPECT_EQ(Run("run --rolls 5 --bet Field=1 --json old.json", "trap '' XFSZ; ulimit -f 0;").status,
             1);
   EXPECT_EQ(Read("old.json"), "old result");
+}
+
+TEST_F(Sim, SessionsFollowOneAnotherWithTheirEnds) {
+  const Json result = Result(
+      "--player A=500 --player B@5=100 --bet 'Pass Line=10' --bet 'Pass Line=50@5' --sessions 40 "
+      "--rolls 200 --seed 9");
+  EXPECT_EQ(result["sessions"], 40);
+  ASSERT_EQ(result["by_session"].size(), 80u);
+  int ruined = 0;
+  for (const Json& end : result["by_session"]) {
+    EXPECT_LE(end["BankrollLow"], end["Bankroll"]);
+    EXPECT_LE(end["Bankroll"], end["BankrollHigh"]);
+    EXPECT_GE(end["BankrollHigh"], end["place"] == 1 ? 500 : 100);
+    if (end["Bankroll"] == 0) ++ruined;
+  }
+  EXPECT_GT(ruined, 0);
+  const Json& last = result["by_session"][79];
+  EXPECT_EQ(last["session"], 40);
+  EXPECT_EQ(last["Bankroll"], result["players"][1]["Bankroll"]);
+  EXPECT_FALSE(Result("--rolls 0").contains("by_session"));
+}
+
+TEST_F(Sim, ProbabilityFileSkewsDiceAndAdvantage) {
+  Probability = ProbabilityState{};
+  Probability.ProbabilityMatrix.Shares = {};
+  const auto set = [](int die1, int die2, int32_t share) {
+    const MatrixCell cell = CellOfFaces({die1, die2});
+    At(At(Probability.ProbabilityMatrix.Shares, cell.Column), cell.Row) = share;
+    At(At(Probability.ProbabilityMatrix.Shares, TotalColumn), cell.Row) = share;
+  };
+  set(2, 2, 60'000);
+  set(6, 6, 40'000);
+  SaveProbabilityFile(Path("two.prb"));
+  Probability = ProbabilityState{};
+  const std::string dice = Run("dice --rng 2 --seed 5 --count 1000 --probability two.prb").out;
+  EXPECT_EQ(std::ranges::count(dice, '2') + std::ranges::count(dice, '6'), 2000);
+  const auto twelves = std::ranges::count(dice, '6') / 2;
+  EXPECT_NEAR(static_cast<double>(twelves), 400, 80);
+  const Json counts = Result(
+      "--set BetNeededToShoot=0 --player A --rolls 500 --probability "
+      "two.prb")["roll_counts"];
+  EXPECT_EQ(counts[4].get<int>() + counts[12].get<int>(), 500);
+  const Json advantage = Json::parse(Run("advantage --json --probability two.prb").out);
+  EXPECT_DOUBLE_EQ(advantage[51]["EvPerDec"], 7);  // Hard 4 cannot lose
+}
+
+TEST_F(Sim, ReportShowsTheViewsOfTheRun) {
+  const std::string arguments =
+      "run --player Ann=1000 --bet 'Pass Line=10' --rolls 5000 --seed 3 --quiet --report ";
+  const Outcome shown = Run(arguments + "-");
+  EXPECT_EQ(shown.status, 0);
+  for (const char* part : {"Tessarel", "Pass Line", "Expected value $", "Total hands", "chi-square",
+                           "Beginning bankroll", "Comp rate %"}) {
+    EXPECT_NE(shown.out.find(part), std::string::npos) << part << "\n" << shown.out;
+  }
+  EXPECT_EQ(Run(arguments + "night.txt").out, "");
+  EXPECT_EQ(Read("night.txt"), shown.out);
+}
+
+TEST_F(Sim, SettleBetPromptIsAskedInTableMode) {
+  Write("two.rol", "\x98\xb4");  // 6-4, then 5-5
+  Write("answers", "5 50 + u1\n3\n");
+  const Json result = Result(
+      "--mode table --player Ann=1000 --set BetNeededToShoot=0 --set Notices=0 --bet Field=10 "
+      "--rolls 1 --dice two.rol --answers answers");
+  EXPECT_EQ(result["messages"][0]["title"], "Ann Won");
+  EXPECT_EQ(result["messages"][0]["text"], "Field $10\rPayoff at 1 to 1: $10\rNet payoff: $10");
+  EXPECT_EQ(result["players"][0]["bets"][0]["amount"], 15);
 }
 
 TEST_F(Sim, CtrlCStopsAfterTheRollWithTheResultsSoFar) {

@@ -18,6 +18,7 @@
 #include "engine/roll_driver.h"
 #include "engine/table.h"
 #include "stats/books.h"
+#include "stats/selection.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -152,6 +153,8 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   Ask(3, bet::PassLine, 10);
   Throw(3, 4);
   Ask(3, bet::PassLine, 10);
+  ViewSelections.SummaryPlayer = 1u << 3 | 1u << 2;
+  ViewSelections.CSPlayer = 3;
   EXPECT_FALSE(MovePlayer(3, 9));
   EXPECT_TRUE(MovePlayer(3, 8));
   EXPECT_EQ(Table.PlayerName[3], "");
@@ -163,6 +166,8 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   EXPECT_EQ(Stats.Bets[3 + AllSessions][bet::PassLine].Won.Sum, 0);
   EXPECT_EQ(Table.GraphBankroll[1][8], 1010);
   EXPECT_EQ(Table.Shooter, 8);
+  EXPECT_EQ(ViewSelections.SummaryPlayer, 1u << 8 | 1u << 2);
+  EXPECT_EQ(ViewSelections.CSPlayer, 8);
 }
 
 TEST_F(Rail, AtmKeepsToItsLimits) {

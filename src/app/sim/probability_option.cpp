@@ -1,7 +1,10 @@
 #include "app/sim/probability_option.h"
 
+#include <utility>
+
 #include "app/sim/failure.h"
 #include "base/file_io.h"
+#include "base/front_end.h"
 #include "config/folders.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
@@ -12,7 +15,10 @@ void ActivateProbability(const std::string& file) {
   if (!FileExists(InFolder(Folders.AppFolder, file))) {
     throw Failure(CannotBeDone, "The probability file \"" + file + "\" does not exist.");
   }
-  if (!OpenProbabilityFile(file)) {
+  const auto show = std::exchange(FrontEnd.ShowMessage, [] {});  // the sentence below tells it all
+  const bool opened = OpenProbabilityFile(file);
+  FrontEnd.ShowMessage = show;
+  if (!opened) {
     throw Failure(CannotBeDone, "\"" + file +
                                     "\" is not a true Tessarel Probability File, or it is from an "
                                     "older version or corrupted.");
