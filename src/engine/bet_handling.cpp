@@ -164,6 +164,7 @@ void ActOnLoss(int place, int button) {
 
 // Asks the player, keeps the figures he typed, and does what he chose.
 void AskHandling(int place, Outcome outcome, bool asWin) {
+  FigureUnit(place, Table.CurrentBet);
   SettlePrompt prompt = MakeSettlePrompt(place, outcome, asWin);
   FrontEnd.SettleBet(prompt);
   StoreRow(place, asWin ? PromptWinModify : PromptLossModify, prompt.modify);
@@ -245,6 +246,7 @@ void SameBet(int place) {
 }
 
 void PressUnit(int place) {
+  FigureUnit(place, Table.CurrentBet);
   ChangeBy(place, Table.ChipUnit);
   TellHowItStands(place, [] { return Plain(GetText(52)); });
 }
@@ -300,7 +302,6 @@ void HandleWonBet(int place) {
 }
 
 void HandleLostBet(int place) {
-  FigureUnit(place, Table.CurrentBet);
   RunLossMode(place, Outcome::Lost);
 }
 
@@ -309,7 +310,6 @@ void HandleIdleOdds(int place) {
   Table.NetWin = Table.GrossWin = Money();
   Table.BetCantStay =
       Settings.AllowPutBets == 0 || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
-  FigureUnit(place, odds);
   const bool asLoss = At(At(Table.BetStreak, place), FlatUnder(odds)) < 2;
   if (IsLineOdds(odds)) {
     TakeDownBet(place);

@@ -230,15 +230,21 @@ struct Line {
   When when;
   uint8_t first, last;
   uint8_t odds;  // of `first`; 0 for none
+  BetSet bets;   // all it touches, so that a line nobody has a bet on costs one look
 };
 
-constexpr Line On(int total, When when, int number, int odds = 0) {
-  return {static_cast<uint8_t>(total), when, static_cast<uint8_t>(number),
-          static_cast<uint8_t>(number), static_cast<uint8_t>(odds)};
-}
 constexpr Line OnRange(int total, When when, int first, int last, int odds = 0) {
-  return {static_cast<uint8_t>(total), when, static_cast<uint8_t>(first),
-          static_cast<uint8_t>(last), static_cast<uint8_t>(odds)};
+  BetSet bets;
+  for (int number = first; number <= last; ++number) {
+    bets.Add(number);
+    if (odds != 0) bets.Add(odds + number - first);
+  }
+  return {static_cast<uint8_t>(total), when,
+          static_cast<uint8_t>(first), static_cast<uint8_t>(last),
+          static_cast<uint8_t>(odds),  bets};
+}
+constexpr Line On(int total, When when, int number, int odds = 0) {
+  return OnRange(total, when, number, number, odds);
 }
 constexpr Line Dc(int point) {
   return On(point, When::Always, BetOn(DontComeFamily, point), BetOn(DontComeOddsFamily, point));
@@ -344,7 +350,7 @@ static_assert(std::is_sorted(std::begin(Winners), std::end(Winners), ByTotal));
 struct LinesOfTotal {
   const Line* begin = nullptr;
   const Line* end = nullptr;
-  NumberSet bets;
+  BetSet bets;
 };
 
 constexpr std::array<LinesOfTotal, 13> ByTotals(const Line* begin, const Line* end) {
@@ -353,10 +359,7 @@ constexpr std::array<LinesOfTotal, 13> ByTotals(const Line* begin, const Line* e
     LinesOfTotal& lines = index[line->total];
     if (lines.begin == nullptr) lines.begin = line;
     lines.end = line + 1;
-    for (int number = line->first; number <= line->last; ++number) {
-      lines.bets.Add(number);
-      if (line->odds != 0) lines.bets.Add(line->odds + number - line->first);
-    }
+    lines.bets |= line->bets;
   }
   return index;
 }
@@ -364,8 +367,8 @@ constexpr auto LosersOfTotal = ByTotals(std::begin(Losers), std::end(Losers));
 constexpr auto WinnersOfTotal = ByTotals(std::begin(Winners), std::end(Winners));
 
 // The bets that one roll decides, whatever it is.
-constexpr NumberSet DecidedEachRoll = [] {
-  NumberSet bets;
+constexpr BetSet DecidedEachRoll = [] {
+  BetSet bets;
   for (const int number : {bet::Field, bet::Over7, bet::Under7})
     bets.Add(number);
   for (const OneRollBet& each : OneRollBets)
@@ -398,10 +401,11 @@ void DecideWithOdds(int number, int odds, int result) {
 }
 
 void RunLine(const Line& line, int result) {
+  if (!Table.Held.Intersects(line.bets) || !Applies(line.when)) return;
   for (int number = line.first; number <= line.last; ++number) {
     const int odds = line.odds == 0 ? 0 : line.odds + number - line.first;
     const bool held = AnyHolds(number) || (odds != 0 && AnyHolds(odds));
-    if (held && Applies(line.when)) DecideWithOdds(number, odds, result);
+    if (held) DecideWithOdds(number, odds, result);
   }
 }
 
@@ -572,7 +576,6 @@ void ResolveBet(int visit, int result, int number) {
     HandleLostBet(place);
     return;
   }
-  FigureUnit(place, number);
   HandleWonBet(place);
 }
 

@@ -117,9 +117,9 @@ struct TableState {
   std::array<PerPlace<Money>, GraphLength + 1> GraphBankroll{};
 
   // Derived from the values above by the routines below.
-  PerPlace<NumberSet> Standing;        // the bets 1 to 93 above zero
+  PerPlace<BetSet> Standing;           // the bets 1 to 93 above zero
   PerBet<uint8_t> Holders{};           // per bet, bit v - 1: the place of visit v has it
-  NumberSet Held;                      // the bets that anybody has
+  BetSet Held;                         // the bets that anybody has
   uint32_t TakenPlaces = 0;            // bit p: place p has a player
   PerPlace<NumberSet> ChangedForRoll;  // changed since the snapshot before the last roll
   PerPlace<NumberSet> ChangedAfter;    // changed since the snapshot after the last roll
