@@ -80,8 +80,8 @@ Json Keys(const Json& object) {
 }
 
 constexpr const char* Bets =
-    "--player Ann=5000 --player Bob@4 --bet 'Pass Line=10' --bet 'Pass Line Odds=20' "
-    "--bet 'Place 6=12' --bet 'Hard 8=1' --bet 'Don'\"'\"'t Pass=5@4' --bet Field=2.5@4 ";
+    "--player Ann=5000 --player Bob@4 --bet 'Pass Line=10@1' --bet 'Pass Line Odds=20@1' "
+    "--bet 'Place 6=12@1' --bet 'Hard 8=1@1' --bet 'Don'\"'\"'t Pass=5@4' --bet Field=2.5@4 ";
 
 TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
   Write("bad.rol", std::string("\x90\x90\x1d", 3));
@@ -301,7 +301,7 @@ TEST_F(Sim, SameCommandLineGivesTheSameBytesInEitherMode) {
 }
 
 TEST_F(Sim, ReplayOfARecordingGivesTheSameResult) {
-  const std::string bets = std::string(Bets) + "--bet Come=5 ";
+  const std::string bets = std::string(Bets) + "--bet Come=5@1 ";
   for (const char* mode : {"", "--mode table "}) {
     const Json recorded = Result(bets + "--rolls 1234 --seed 31 --record run.rol " + mode);
     EXPECT_EQ(Read("run.rol").size(), 1234u);
@@ -418,6 +418,14 @@ TEST_F(Sim, AFailingDiskLeavesTheOldFiles) {
   EXPECT_EQ(Run("run --rolls 5 --bet Field=1 --json old.json", "trap '' XFSZ; ulimit -f 0;").status,
             1);
   EXPECT_EQ(Read("old.json"), "old result");
+}
+
+TEST_F(Sim, WagerWithoutAPlaceIsMadeByEveryPlayer) {
+  const Json result = Result(
+      "--player A --player B@6 --bet Field=5 --set BetNeededToShoot=0 "
+      "--rolls 20 --seed 1");
+  for (const Json& player : result["players"])
+    EXPECT_EQ(player["results"][0]["tendered"]["count"], 20);
 }
 
 TEST_F(Sim, SessionsFollowOneAnotherWithTheirEnds) {

@@ -100,7 +100,7 @@ void DescribeTable(Values& values, RunOptions& options) {
                     [&](const std::string& text) { options.players.push_back(ReadPlayer(text)); });
   DescribeRules(values, options.settings, options.payoffs, options.probability);
   values.Repeatable("--bet", "NAME=AMOUNT[@PLACE]",
-                    "A wager asked for before every roll (default: of the first player; with no "
+                    "A wager asked for before every roll (default: by every player; with no "
                     "--player, Player One sits at place 1)",
                     [&](const std::string& text) { options.bets.push_back(ReadBet(text)); });
 }

@@ -85,18 +85,30 @@ void SeatPlayers(const RunOptions& options) {
   }
 }
 
-void CheckBets(std::vector<BetArgument>& bets) {
-  for (BetArgument& bet : bets) {
-    if (bet.place == 0) bet.place = std::countr_zero(Table.TakenPlaces);
-    const std::string name(At(BetName, bet.number));
-    if (!IsTaken(Table, bet.place)) {
-      throw Failure(CannotBeDone, "There is no player at place " + std::to_string(bet.place) +
-                                      " to bet on " + name + ".");
-    }
-    if (!OnLayout(bet.number)) {
-      throw Failure(CannotBeDone, "The settings take " + name + " off the layout.");
+void RequireBettable(int place, int number) {
+  const std::string name(At(BetName, number));
+  if (!IsTaken(Table, place)) {
+    throw Failure(CannotBeDone, "There is no player at place " + std::to_string(place) +
+                                    " to bet on " + name + ".");
+  }
+  if (!OnLayout(number)) {
+    throw Failure(CannotBeDone, "The settings take " + name + " off the layout.");
+  }
+}
+
+// The wagers with their places: one that names no place is every player's.
+std::vector<BetArgument> BetsByPlace(const std::vector<BetArgument>& asked) {
+  std::vector<BetArgument> bets;
+  for (const BetArgument& bet : asked) {
+    if (bet.place != 0) {
+      bets.push_back(bet);
+    } else {
+      ForEachPlayer([&](int place) { bets.push_back({bet.number, bet.amount, place}); });
     }
   }
+  for (const BetArgument& bet : bets)
+    RequireBettable(bet.place, bet.number);
+  return bets;
 }
 
 // --- Playing -----------------------------------------------------------------------------------
@@ -257,9 +269,8 @@ void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& r
 void SetUp(const RunOptions& options) {
   SeatPlayers(options);
   ApplyRules(options.settings, options.payoffs);
-  Session = {options.bets, options.rolls, options.hands};
+  Session = {BetsByPlace(options.bets), options.rolls, options.hands};
   if (!options.rolls && !options.hands && options.dice.empty()) Session.rolls = DefaultRolls;
-  CheckBets(Session.bets);
   SelectAndSeed(options.generator, options.seed);
   if (!options.probability.empty()) ActivateProbability(options.probability);
   if (!options.dice.empty()) PlayFrom(options.dice);

@@ -20,7 +20,7 @@ struct PlayerArgument {
 struct BetArgument {
   int number = 0;
   Money amount;
-  int place = 0;  // 0: the first seated player
+  int place = 0;  // 0: every seated player
 };
 
 struct FieldArgument {
