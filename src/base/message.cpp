@@ -34,4 +34,16 @@ bool AskForText(std::string text, std::string title, std::string offered) {
   return ShowMessage(std::move(text), std::move(title), msg::OkInput) != AnswerCancel;
 }
 
+std::string OnOneLine(std::string_view text) {
+  std::string line;
+  for (const char c : text) {
+    if (c == '\r' || c == '\n') {
+      line += " / ";
+    } else {
+      line += c;
+    }
+  }
+  return line;
+}
+
 }  // namespace tessarel

@@ -62,6 +62,9 @@ int32_t ShowMessage(std::string text, std::string title, int32_t flags);
 // Message.MsgInput.
 bool AskForText(std::string text, std::string title, std::string offered);
 
+// A message's text with its line breaks shown as " / ".
+std::string OnOneLine(std::string_view text);
+
 // The answer a message gives when nobody is there to press a button.
 int32_t DefaultAnswer(int32_t flags);
 

@@ -190,6 +190,10 @@ std::string FormatMoney(Money amount) {
   return FormatNumber(amount, amount.IsWhole() ? "#,#;-#,#;0" : "#,#.00##;-#,#.00##;0.00");
 }
 
+std::string FormatExact(Money amount) {
+  return FormatNumber(amount, amount.IsWhole() ? "#,0" : "#,0.####");
+}
+
 char32_t MoneyKeyFilter(
     char32_t key, int decimals, std::string_view text, size_t caret, size_t selected) {
   constexpr char32_t FirstPrintable = 0x20, Delete = 0x7F;

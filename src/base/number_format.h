@@ -40,6 +40,9 @@ std::string FormatNumber(Count value, std::string_view pattern) {
 // An amount as messages show it: whole ones without decimals, others with at least two.
 std::string FormatMoney(Money amount);
 
+// All that an amount has, grouped in thousands: "1,234" and "1,234.5".
+std::string FormatExact(Money amount);
+
 // The key that a money box lets through: `key` itself, or 0 for one it swallows. Digits pass, one
 // decimal point with at most `decimals` digits behind it, and control keys. `text` is what stands
 // in the box; the key would replace its `selected` characters from `caret` on.

@@ -346,7 +346,7 @@ std::string ShownRollRate(int unit) {
                          ? Money::FromDouble(inAnHour.ToDouble() / Settings.SimRollRate.ToDouble())
                          : Money::FromDouble(Settings.SimRollRate.ToDouble() / inAnHour.ToDouble());
   if (rate == Money()) return std::string(TinyRollRate);
-  return FormatNumber(rate, rate.IsWhole() ? "#,0" : "#,0.####");
+  return FormatExact(rate);
 }
 
 std::optional<std::string> SetSimRollRate(const RollRateEntry& entry) {

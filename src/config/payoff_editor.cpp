@@ -6,7 +6,7 @@
 #include "base/fault.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/same_name.h"
+#include "base/single_byte_text.h"
 #include "config/settings.h"
 #include "engine/bet_limits.h"
 #include "engine/table.h"
@@ -245,7 +245,8 @@ std::optional<PayoffCell> CellByName(std::string_view name) {
     const int last = grid == PayoffGrid::Bets ? PayoffEditorRowCount : FieldRowCount;
     for (int row = 1; row <= last; ++row) {
       const PayoffCell cell{grid, row};
-      if (const std::string known = PayoffRowName(cell); !known.empty() && SameName(known, name))
+      if (const std::string known = PayoffRowName(cell);
+          !known.empty() && EqualIgnoringCase(known, name))
         return cell;
     }
   }

@@ -8,10 +8,11 @@
 
 #include "base/message.h"
 #include "base/number_format.h"
+#include "base/single_byte_text.h"
 #include "config/configuration.h"
 #include "config/language.h"
-#include "config/same_name.h"
 #include "config/settings.h"
+#include "dice/generators.h"
 #include "engine/bets.h"
 #include "engine/table.h"
 
@@ -33,11 +34,13 @@ FieldValue Element(Value& value, int key) {
     return &At(value, key);
 }
 
-// A member of the settings, or of the table for a place.
+// A member of the settings, of the dice, or of the table for a place.
 template <auto Member>
 FieldValue Of(int place, int key) {
   if constexpr (requires { Settings.*Member; })
     return Element(Settings.*Member, key);
+  else if constexpr (requires { Dice.*Member; })
+    return Element(Dice.*Member, key);
   else
     return Element(At(Table.*Member, place), key);
 }
@@ -144,6 +147,8 @@ constexpr SettingField Fields[] = {
     {"DiceStyle", WholeNumber, Positions, Of<&S::DiceStyle>},
     {"DiceAction", WholeNumber, UpTo(3), Of<&S::DiceAction>},
     {"SimRollRate", Amount, {FineStep, RollRateUnits[0].Maximum, FineStep}, Of<&S::SimRollRate>},
+    {"AskForSeed", Flag, Flags, Of<&DiceState::AskForSeed>},
+    {"ReseedEachSession", Flag, Flags, Of<&DiceState::ReseedEachSession>},
 
     // Bankroll and comps.
     {"AtmAmount", Amount, Amounts, Of<&S::AtmAmount>},
@@ -209,23 +214,11 @@ std::string Quoted(std::string_view text) {
   return std::string(1, '"').append(text) + '"';
 }
 
-std::string_view Trim(std::string_view text) {
-  while (text.starts_with(' '))
-    text.remove_prefix(1);
-  while (text.ends_with(' '))
-    text.remove_suffix(1);
-  return text;
-}
-
-std::string Grouped(Money limit) {
-  return FormatNumber(limit, limit.IsWhole() ? "#,0" : "#,0.####");
-}
-
 // What the field takes, to follow "must be".
 std::string Allowed(const SettingField& field) {
   const auto [low, high, step] = field.Range;
   if (field.Kind == Flag || field.Kind == Mark) return "0, 1 or -1";
-  const std::string limits = " from " + Grouped(low) + " to " + Grouped(high);
+  const std::string limits = " from " + FormatExact(low) + " to " + FormatExact(high);
   if (field.Kind == Amount) {
     return "an amount" + limits + " with at most " + (step == CentStep ? "two" : "four") +
            " decimals";
@@ -239,7 +232,7 @@ std::string Allowed(const SettingField& field) {
 
 // Reads one value; empty when the field does not take it.
 std::optional<Money> ReadValue(const SettingField& field, std::string_view text) {
-  const std::optional<Money> value = ParseMoney(Trim(text));
+  const std::optional<Money> value = ParseMoney(TrimSpaces(text));
   const auto [low, high, step] = field.Range;
   if (!value || *value < low || *value > high || !IsMultiple(*value - low, step))
     return std::nullopt;
@@ -266,10 +259,10 @@ std::string KeyError(const SettingField& field, const std::string& label, std::s
 std::vector<std::string_view> Split(std::string_view text) {
   std::vector<std::string_view> parts;
   for (size_t comma = text.find(','); comma != std::string_view::npos; comma = text.find(',')) {
-    parts.push_back(Trim(text.substr(0, comma)));
+    parts.push_back(TrimSpaces(text.substr(0, comma)));
     text.remove_prefix(comma + 1);
   }
-  parts.push_back(Trim(text));
+  parts.push_back(TrimSpaces(text));
   return parts;
 }
 
@@ -285,7 +278,7 @@ Error ReadPart(const SettingField& field,
       return label + " takes " + (field.Shape == ByBet ? "BET" : "NUMBER") +
              ":VALUE, separated by commas, not " + Quoted(part) + ".";
     }
-    const std::string_view key = Trim(part.substr(0, colon));
+    const std::string_view key = TrimSpaces(part.substr(0, colon));
     part.remove_prefix(colon + 1);
     read.key = ReadKey(field, key);
     if (read.key < 0) return KeyError(field, label, key);
@@ -322,25 +315,13 @@ void Write(FieldValue where, Money value) {
     *std::get<int32_t*>(where) = static_cast<int32_t>(value.Floor());
 }
 
-// The shown refusal as a part of a sentence.
-std::string OneLine(std::string_view text) {
-  std::string line;
-  for (const char c : text) {
-    if (c != '\r')
-      line += c;
-    else if (!line.ends_with(" / "))
-      line += " / ";
-  }
-  return line;
-}
-
 Error Apply(const SettingField& field,
             const std::string& label,
             int place,
             const std::vector<KeyedValue>& values) {
   if (field.Change != nullptr) {
     if (field.Change(place, values.front().value)) return std::nullopt;
-    return label + " was not changed: " + OneLine(Message.MsgText);
+    return label + " was not changed: " + OnOneLine(Message.MsgText);
   }
   for (const auto& [key, value] : values)
     Write(field.Reach(place, key), value);
@@ -368,7 +349,7 @@ std::optional<std::string> SetField(std::string_view name,
                                     std::optional<int> place,
                                     std::string_view value) {
   const auto* field = std::ranges::find_if(
-      Fields, [name](const SettingField& row) { return SameName(row.Name, name); });
+      Fields, [name](const SettingField& row) { return EqualIgnoringCase(row.Name, name); });
   if (field == std::end(Fields)) return "There is no setting named " + Quoted(name) + ".";
   if (Error error = TestPlace(*field, place)) return error;
 

@@ -25,8 +25,7 @@ std::string CountText(Money count, bool useSeparator) {
 }
 
 std::string AmountText(Money amount, bool useSeparator) {
-  return WithoutBarePoint(
-      FormatNumber(amount, useSeparator ? "#,0.####;-#,0.####;0" : "0.####;-0.####;0"));
+  return useSeparator ? FormatExact(amount) : PlainText(amount);
 }
 
 std::string BankrollText(Money amount) {

@@ -193,6 +193,7 @@ TEST_F(Sim, AnswersAWrongCommandLineWithTheUsageLine) {
       "run --bet Field=",
       "run --bet Field=5@here",
       "run --set MinPlacardBet",
+      "run --payoff 'Place 6'",
       "run --dice a.rol --record b.rol",
       "run --quiet=5x",
       "dice --rng 1 --seed 1",

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "config/payoffs.h"
 #include "config/settings.h"
+#include "dice/generators.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -37,6 +38,7 @@ class ConfigurationTest : public ::testing::Test {
   static void Reset() {
     Table = {};
     Settings = {};
+    Dice = {};
     DefaultPayoffs();
     Message = {};
     FrontEnd = {};

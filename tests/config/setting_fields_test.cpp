@@ -162,7 +162,7 @@ TEST_F(SettingFieldRows, RulesOfChangeHoldAndTheirRefusalIsTheError) {
   const auto error = SetField("AllowNegBankroll", 1, "0");
   ASSERT_TRUE(error);
   EXPECT_EQ(*error,
-            "AllowNegBankroll@1 was not changed: Ann currently has a negative bankroll. / Some "
+            "AllowNegBankroll@1 was not changed: Ann currently has a negative bankroll. /  / Some "
             "options: /  -- Win some more money /  -- Withdraw some money from the ATM /  -- Start "
             "a new session");
   EXPECT_EQ(Table.AllowNegBankroll[1], -1);

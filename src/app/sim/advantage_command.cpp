@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -38,13 +37,9 @@ std::string Line(const std::string& number,
                  const std::string& name,
                  const std::array<std::string, 5>& figures) {
   constexpr size_t NumberWidth = 2, NameWidth = 20, FigureWidth = 13;
-  const auto right = [](const std::string& text, size_t width) {
-    return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
-  };
-  std::string line = right(number, NumberWidth) + "  " + name;
-  line.resize(std::max(line.size(), NumberWidth + 2 + NameWidth), ' ');
+  std::string line = Right(number, NumberWidth) + "  " + Left(name, NameWidth);
   for (const std::string& figure : figures)
-    line += right(figure, FigureWidth);
+    line += Right(figure, FigureWidth);
   return line + "\n";
 }
 

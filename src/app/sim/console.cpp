@@ -140,18 +140,6 @@ void OpenConsole() {
   sigaction(SIGINT, &action, nullptr);
 }
 
-std::string OnOneLine(const std::string& text) {
-  std::string line;
-  for (const char c : text) {
-    if (c == '\r' || c == '\n') {
-      line += " / ";
-    } else {
-      line += c;
-    }
-  }
-  return line;
-}
-
 bool Interrupted() {
   return StopAsked != 0;
 }

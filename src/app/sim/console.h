@@ -32,9 +32,6 @@ bool Interrupted();
 // Takes the answers from a file, one a line. File fault when it cannot be read.
 void LoadAnswers(const std::string& path);
 
-// The text with its line breaks shown as " / ".
-std::string OnOneLine(const std::string& text);
-
 // A notice on standard error.
 void Notice(const std::string& text);
 

@@ -87,7 +87,7 @@ void DescribeRules(Values& values,
                     "A table setting by its field name, or one of a place (default: every player)",
                     [&](const std::string& text) { settings.push_back(ReadField(text)); });
   values.Repeatable("--payoff", "ROW=NUM:DEN", "A payoff by the name of its row: \"Place 6=7:6\"",
-                    [&](const std::string& text) { payoffs.push_back(text); });
+                    [&](const std::string& text) { payoffs.push_back(ReadPayoff(text)); });
   values.Once("--probability", "FILE.prb", "Skew the dice by a probability matrix",
               [&](const std::string& text) { probability = ReadFileName(text); });
 }

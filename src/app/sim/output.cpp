@@ -1,5 +1,6 @@
 #include "app/sim/output.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "app/sim/failure.h"
@@ -11,6 +12,15 @@ void WriteOut(std::string_view text) {
   if (!whole || std::fflush(stdout) != 0) {
     throw Failure(CannotBeDone, "Standard output cannot be written.");
   }
+}
+
+std::string Left(std::string text, size_t width) {
+  text.resize(std::max(width, text.size()), ' ');
+  return text;
+}
+
+std::string Right(const std::string& text, size_t width) {
+  return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
 }
 
 }  // namespace tessarel::sim

@@ -1,9 +1,10 @@
 #include "app/sim/result.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "app/sim/console.h"
+#include "app/sim/output.h"
+#include "base/message.h"
 #include "base/number_format.h"
 #include "dice/generators.h"
 #include "engine/table.h"
@@ -124,15 +125,6 @@ std::string Dollars(Money amount) {
 
 std::string Signed(Money amount) {
   return (amount > Money() ? "+" : "") + Cents(amount);
-}
-
-std::string Left(std::string text, size_t width) {
-  text.resize(std::max(width, text.size()), ' ');
-  return text;
-}
-
-std::string Right(const std::string& text, size_t width) {
-  return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
 }
 
 std::string DiceText(const RunFacts& facts) {

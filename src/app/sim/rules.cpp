@@ -2,8 +2,8 @@
 #include <string>
 
 #include "app/sim/commands.h"
-#include "app/sim/console.h"
 #include "app/sim/failure.h"
+#include "base/message.h"
 #include "config/configuration.h"
 #include "config/payoff_editor.h"
 #include "config/setting_fields.h"

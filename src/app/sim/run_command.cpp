@@ -22,6 +22,7 @@
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
+#include "engine/rail.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
 #include "stats/store.h"
@@ -55,14 +56,7 @@ SessionInPlay Session;
 
 void CheckName(const std::string& name) {
   if (name.empty()) throw Failure(CannotBeDone, "A player needs a name.");
-  if (name.find_first_not_of("0123456789") == std::string::npos) {
-    throw Failure(CannotBeDone, std::string(GetText(7)));
-  }
-  for (int place = 1; place <= LastPlace; ++place) {
-    if (LowerCase(At(Table.PlayerName, place)) == LowerCase(name)) {
-      throw Failure(CannotBeDone, std::string(GetText(6)) + name + ".");
-    }
-  }
+  if (const auto refusal = PlayerNameRefusal(name, 0)) throw Failure(CannotBeDone, *refusal);
 }
 
 int OpenPlace(int wanted) {

@@ -115,6 +115,13 @@ int64_t ReadCount(const std::string& text, int64_t limit) {
                                   FormatNumber(limit, "#,0") + ".");
 }
 
+std::string ReadPayoff(const std::string& text) {
+  if (text.find('=') == std::string::npos) {
+    throw Failure(WrongCommandLine, "A payoff reads ROW=NUM:DEN, not \"" + text + "\".");
+  }
+  return text;
+}
+
 FieldArgument ReadField(const std::string& text) {
   const size_t equals = text.find('=');
   if (equals == std::string::npos) {

@@ -47,11 +47,12 @@ struct RunOptions {
   bool quiet = false;
 };
 
-// "NAME[@PLACE][=BANKROLL]", "NAME=AMOUNT[@PLACE]" and "FIELD[@PLACE]=VALUE". Failure when the form
-// is wrong or a name does not exist.
+// "NAME[@PLACE][=BANKROLL]", "NAME=AMOUNT[@PLACE]", "FIELD[@PLACE]=VALUE" and "ROW=NUM:DEN", which
+// stays a text. Failure when the form is wrong or a name does not exist.
 PlayerArgument ReadPlayer(const std::string& text);
 BetArgument ReadBet(const std::string& text);
 FieldArgument ReadField(const std::string& text);
+std::string ReadPayoff(const std::string& text);
 
 Mode ReadMode(const std::string& text);
 // A name that is not empty.
