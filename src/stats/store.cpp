@@ -126,7 +126,7 @@ void CountCodes(const std::array<size_t, Places>& places, const RollCodeList& co
 void RaiseAll(int32_t HandFigures::*figure, int32_t value) {
   ForEachCreditedSlot([&](size_t slot) {
     int32_t& most = Stats.Hands[slot].*figure;
-    most = std::max(most, value);
+    if (value > most) most = value;
   });
 }
 
@@ -188,11 +188,25 @@ void StartBankrolls(size_t slot) {
       Table.Bankroll[slot];
 }
 
+// Moves an array of counters, which leaves zeros. Element by element, since hands are short: whole
+// arrays of this size would be moved by string instructions, which are slow to start.
+template <class Counters>
+void MoveCounters(Counters& from, Counters& to) {
+  for (size_t k = 0; k < from.size(); ++k)
+    to[k] = std::exchange(from[k], {});
+}
+
+void MoveCounts(size_t from, size_t to) {
+  MoveCounters(Stats.RollCount[from], Stats.RollCount[to]);
+  Stats.Hands[to] = std::exchange(Stats.Hands[from], {});
+  MoveCounters(Stats.HandTable[from], Stats.HandTable[to]);
+  MoveCounters(Stats.ComeTravel[from], Stats.ComeTravel[to]);
+}
+
 void CopyHandOf(int place) {
   const auto from = static_cast<size_t>(CurrentHand + place);
   const auto to = static_cast<size_t>(LastHand + place);
-  CopyCounts(from, to);
-  ClearCounts(from);
+  MoveCounts(from, to);
   CopyBankrolls(from, to);
   StartBankrolls(from);
   NumberSet& now = At(Stats.HandBets, place);
@@ -269,9 +283,8 @@ void RecordBankrolls() {
 
 void EndHand() {
   ForEachCreditedSlot([](size_t slot) { ++Stats.Hands[slot].HandCount; });
-  for (int place = 0; place <= LastPlace; ++place) {
-    if (place == 0 || IsTaken(Table, place)) CopyHandOf(place);
-  }
+  CopyHandOf(0);
+  ForEachPlayer(CopyHandOf);
   Stats.HandComeouts = Stats.HandPassCount = Stats.HandMissCount = 0;
 }
 
