@@ -1,8 +1,11 @@
 #include "stats/store.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
+#include "base/fault.h"
+#include "base/trap.h"
 #include "config/settings.h"
 
 namespace tessarel {
@@ -224,8 +227,11 @@ const RollCodeList& CodesOfRoll(int die1, int die2) {
   return At(At(RollCodesOfPair, die1), die2);
 }
 
-void RecordRoll(int die1, int die2) {
-  const RollCodeList& codes = CodesOfRoll(die1, die2);
+namespace {
+
+void CountRoll(const RollCodeList& codes) {
+  // No counter is above the rolls of all sessions.
+  if (Stats.RollCount[AllSessions][0] == std::numeric_limits<int32_t>::max()) RaiseOverflow();
   if (Table.LastShooter != 0) {
     CountCodes<2>({0, static_cast<size_t>(Table.LastShooter)}, codes);
   } else {
@@ -236,6 +242,12 @@ void RecordRoll(int die1, int die2) {
     ForEachPlayer([scope](int place) { ++At(Stats.Hands, scope + place).RollTotal; });
   }
   RaiseAll(&HandFigures::MostRolls, RollsInHand());
+}
+
+}  // namespace
+
+void RecordRoll(int die1, int die2) {
+  Trapped("RecordRoll", [&] { CountRoll(CodesOfRoll(die1, die2)); });
 }
 
 void RecordComeoutRoll() {
@@ -250,8 +262,9 @@ void RecordMiss() {
   CountInHand(Stats.HandMissCount, &HandFigures::MostMisses, HandMisses);
 }
 
-void RecordBetResult(int place, int number, Money amount, Money result) {
-  if (result == Money()) return;
+namespace {
+
+void CountBetResult(int place, int number, Money amount, Money result) {
   const Money stake = StakeOf(place, number, amount);
   const Money sessionRoll = RollsInSession();
   const Money gameRoll = At(Stats.RollCount, AllSessions)[0];
@@ -265,19 +278,26 @@ void RecordBetResult(int place, int number, Money amount, Money result) {
       At(Stats.ComeTravel, place + scope)[index] += At(Table.ComeOriginal, place)[index];
     }
   }
+}
+
+}  // namespace
+
+void RecordBetResult(int place, int number, Money amount, Money result) {
+  if (result == Money()) return;
   At(Stats.HandBets, place).Add(number);
+  Trapped("RecordBetResult", [&] { CountBetResult(place, number, amount, result); });
 }
 
 void RecordBankrolls() {
   ForEachPlayer([](int place) {
     const Money bankroll = BankrollOf(place);
-    At(Table.BankrollSum, place) += bankroll;
     for (const Scope scope : CountedScopes) {
       Money& high = At(Table.BankrollHigh, place + scope);
       Money& low = At(Table.BankrollLow, place + scope);
       high = std::max(high, bankroll);
       low = std::min(low, bankroll);
     }
+    Trapped("RecordBankrolls", [&] { At(Table.BankrollSum, place) += bankroll; });
   });
 }
 
