@@ -10,8 +10,7 @@ namespace {
 std::string NetPercent(double net, double resolved) {
   if (!(resolved > 0)) return std::string(NotAvailable);
   const double share = net / resolved;
-  const bool all = share == 1 || share == -1;
-  return FormatNumber(share, all ? "0%;-0%" : "#,0.0#%;-#,0.0#%;0%");
+  return FormatNumber(share, share == 1 ? "0%" : "#,0.0#%;-#,#%;0%");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "stats/report.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "base/clock.h"
@@ -18,6 +19,11 @@ std::string Heading(std::string_view title) {
   return "\n" + std::string(title) + "\n" + std::string(title.size(), '-') + "\n";
 }
 
+// In a column of captions the blank in front of a caption would only look like a slip.
+std::string Flush(std::string_view caption) {
+  return std::string(caption.substr(std::min(caption.find_first_not_of(' '), caption.size())));
+}
+
 std::string SummarySection(const ReportInputs& inputs) {
   const SummaryView view = Summary(inputs.Of, WholeTable, inputs.Expected, inputs.Comps);
   TextRows rows = {{"", "Table", view.PlayerTitle}};
@@ -25,7 +31,7 @@ std::string SummarySection(const ReportInputs& inputs) {
     rows.push_back({row.Caption, row.Table, row.Player});
   TextRows wagers;
   for (const SummaryRow& row : view.Wagers)
-    wagers.push_back({row.Caption, row.Value});
+    wagers.push_back({Flush(row.Caption), row.Value});
   return TextTable(rows) + "\nWagers\n" + TextTable(wagers);
 }
 
@@ -63,8 +69,7 @@ std::string BetResultsOf(const ReportInputs& inputs, int place) {
   for (const BetResultsRow& row : view.Rows)
     rows.push_back(BetResultsLine(row.Name, row.Columns));
   rows.push_back(BetResultsLine("Total", view.Totals));
-  return title + TextTable(rows) + std::string(ExpectedValueCaption.substr(1)) +
-         view.Totals.Expected + "\n";
+  return title + TextTable(rows) + Flush(ExpectedValueCaption) + view.Totals.Expected + "\n";
 }
 
 std::string BetResultsSection(const ReportInputs& inputs) {
@@ -145,9 +150,10 @@ std::string SelectionHeader(Scope scope, PlaceSelection selection) {
 }
 
 std::string TextReport(const ReportInputs& inputs) {
+  const std::string stopped = inputs.StopReason.empty() ? "" : inputs.StopReason + "\n";
   return ReportHeader(SummaryTitle, inputs.GameFile) + SelectionHeader(inputs.Of, WholeTable) +
-         "\n" + SummarySection(inputs) + BetResultsSection(inputs) + HandsSection(inputs) +
-         RollTotalsSection(inputs) + BankrollSection(inputs);
+         stopped + "\n" + SummarySection(inputs) + BetResultsSection(inputs) +
+         HandsSection(inputs) + RollTotalsSection(inputs) + BankrollSection(inputs);
 }
 
 }  // namespace tessarel

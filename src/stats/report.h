@@ -32,7 +32,8 @@ struct ReportInputs {
   ExpectedValues Expected{};
   PerPlace<CompFigures> Comps{};
   SkewedDice Dice{};
-  std::string GameFile;  // empty: untitled
+  std::string GameFile;    // empty: untitled
+  std::string StopReason;  // what ended the run before its time; empty: nothing did
 };
 
 std::string TextReport(const ReportInputs& inputs);

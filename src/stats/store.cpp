@@ -1,8 +1,11 @@
 #include "stats/store.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
+#include "base/fault.h"
+#include "base/trap.h"
 #include "config/settings.h"
 
 namespace tessarel {
@@ -126,7 +129,7 @@ void CountCodes(const std::array<size_t, Places>& places, const RollCodeList& co
 void RaiseAll(int32_t HandFigures::*figure, int32_t value) {
   ForEachCreditedSlot([&](size_t slot) {
     int32_t& most = Stats.Hands[slot].*figure;
-    most = std::max(most, value);
+    if (value > most) most = value;
   });
 }
 
@@ -188,11 +191,25 @@ void StartBankrolls(size_t slot) {
       Table.Bankroll[slot];
 }
 
+// Moves an array of counters, which leaves zeros. Element by element, since hands are short: whole
+// arrays of this size would be moved by string instructions, which are slow to start.
+template <class Counters>
+void MoveCounters(Counters& from, Counters& to) {
+  for (size_t k = 0; k < from.size(); ++k)
+    to[k] = std::exchange(from[k], {});
+}
+
+void MoveCounts(size_t from, size_t to) {
+  MoveCounters(Stats.RollCount[from], Stats.RollCount[to]);
+  Stats.Hands[to] = std::exchange(Stats.Hands[from], {});
+  MoveCounters(Stats.HandTable[from], Stats.HandTable[to]);
+  MoveCounters(Stats.ComeTravel[from], Stats.ComeTravel[to]);
+}
+
 void CopyHandOf(int place) {
   const auto from = static_cast<size_t>(CurrentHand + place);
   const auto to = static_cast<size_t>(LastHand + place);
-  CopyCounts(from, to);
-  ClearCounts(from);
+  MoveCounts(from, to);
   CopyBankrolls(from, to);
   StartBankrolls(from);
   NumberSet& now = At(Stats.HandBets, place);
@@ -210,8 +227,11 @@ const RollCodeList& CodesOfRoll(int die1, int die2) {
   return At(At(RollCodesOfPair, die1), die2);
 }
 
-void RecordRoll(int die1, int die2) {
-  const RollCodeList& codes = CodesOfRoll(die1, die2);
+namespace {
+
+void CountRoll(const RollCodeList& codes) {
+  // No counter is above the rolls of all sessions.
+  if (Stats.RollCount[AllSessions][0] == std::numeric_limits<int32_t>::max()) RaiseOverflow();
   if (Table.LastShooter != 0) {
     CountCodes<2>({0, static_cast<size_t>(Table.LastShooter)}, codes);
   } else {
@@ -222,6 +242,12 @@ void RecordRoll(int die1, int die2) {
     ForEachPlayer([scope](int place) { ++At(Stats.Hands, scope + place).RollTotal; });
   }
   RaiseAll(&HandFigures::MostRolls, RollsInHand());
+}
+
+}  // namespace
+
+void RecordRoll(int die1, int die2) {
+  Trapped("RecordRoll", [&] { CountRoll(CodesOfRoll(die1, die2)); });
 }
 
 void RecordComeoutRoll() {
@@ -236,8 +262,9 @@ void RecordMiss() {
   CountInHand(Stats.HandMissCount, &HandFigures::MostMisses, HandMisses);
 }
 
-void RecordBetResult(int place, int number, Money amount, Money result) {
-  if (result == Money()) return;
+namespace {
+
+void CountBetResult(int place, int number, Money amount, Money result) {
   const Money stake = StakeOf(place, number, amount);
   const Money sessionRoll = RollsInSession();
   const Money gameRoll = At(Stats.RollCount, AllSessions)[0];
@@ -251,27 +278,33 @@ void RecordBetResult(int place, int number, Money amount, Money result) {
       At(Stats.ComeTravel, place + scope)[index] += At(Table.ComeOriginal, place)[index];
     }
   }
+}
+
+}  // namespace
+
+void RecordBetResult(int place, int number, Money amount, Money result) {
+  if (result == Money()) return;
   At(Stats.HandBets, place).Add(number);
+  Trapped("RecordBetResult", [&] { CountBetResult(place, number, amount, result); });
 }
 
 void RecordBankrolls() {
   ForEachPlayer([](int place) {
     const Money bankroll = BankrollOf(place);
-    At(Table.BankrollSum, place) += bankroll;
     for (const Scope scope : CountedScopes) {
       Money& high = At(Table.BankrollHigh, place + scope);
       Money& low = At(Table.BankrollLow, place + scope);
       high = std::max(high, bankroll);
       low = std::min(low, bankroll);
     }
+    Trapped("RecordBankrolls", [&] { At(Table.BankrollSum, place) += bankroll; });
   });
 }
 
 void EndHand() {
   ForEachCreditedSlot([](size_t slot) { ++Stats.Hands[slot].HandCount; });
-  for (int place = 0; place <= LastPlace; ++place) {
-    if (place == 0 || IsTaken(Table, place)) CopyHandOf(place);
-  }
+  CopyHandOf(0);
+  ForEachPlayer(CopyHandOf);
   Stats.HandComeouts = Stats.HandPassCount = Stats.HandMissCount = 0;
 }
 

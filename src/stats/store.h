@@ -1,5 +1,6 @@
 // The statistics store: everything the views report is counted here once, as it happens, per slot.
-// A slot is a place (0 for the table as a whole) plus a scope of engine/table.h.
+// A slot is a place (0 for the table as a whole) plus a scope of engine/table.h. A figure that has
+// no room for more is reported and stays behind; the roll goes on.
 #pragma once
 
 #include <array>

@@ -15,6 +15,8 @@
 #include "base/fault.h"
 #include "config/payoffs.h"
 #include "config/settings.h"
+#include "dice/probability.h"
+#include "dice/probability_balance.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -551,6 +553,19 @@ TEST_F(HouseAdvantage, HandsThatNeverEndPayForAllThatCanBeMade) {
   EXPECT_DOUBLE_EQ(FigureAdvantage(bet::SharpShooter, noSevensAndTens).EvPerDec, 299);
   EXPECT_DOUBLE_EQ(FigureAdvantage(bet::RideTheLine, noSevensAndTens).EvPerDec, 100);
   EXPECT_DOUBLE_EQ(FigureAdvantage(bet::Fire, noSevensAndTens).EvPerDec, 249);
+}
+
+// Sevens at 30 percent, 5 a pair, and all other pairs at 2.333: not quite 100 together.
+TEST_F(HouseAdvantage, FollowsAnActiveMatrix) {
+  BalanceMatrix(TotalColumn, 6, 30'000);
+  EXPECT_DOUBLE_EQ(FigureAdvantage(bet::Seven).EvPerDec, -0.166667) << "not active yet";
+  Probability.ProbabilityMatrixActive = -1;
+  const AdvantageResult seven = FigureAdvantage(bet::Seven);
+  EXPECT_DOUBLE_EQ(seven.EvPerRoll, 0.5001);
+  EXPECT_DOUBLE_EQ(seven.EvPerDec, 0.50015);
+  EXPECT_DOUBLE_EQ(FigureAdvantage(bet::Place6).EvPerRoll, -0.163908);
+  EXPECT_DOUBLE_EQ(FigureAdvantage(bet::FourRollsNo7).RollsPerDec, 2.533);
+  Probability = {};
 }
 
 TEST_F(HouseAdvantage, TotalsAndPairsOfTheDiceAreReadApart) {

@@ -6,6 +6,8 @@
 #include "config/advantage.h"
 #include "config/payoffs.h"
 #include "config/settings.h"
+#include "dice/probability.h"
+#include "dice/probability_balance.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -28,6 +30,7 @@ class Comps : public ::testing::Test {
     Stats = {};
     Settings = {};
     Advantage = {};
+    Probability = {};
     DefaultPayoffs();
   }
   static void Enter(int number, Money count, Money sum) {
@@ -53,6 +56,20 @@ TEST_F(Comps, AreFiguredFromTheBaseOfTheConfiguration) {
     EXPECT_EQ(figures.Action, Money(160));
     EXPECT_EQ(figures.AverageAction, Money(8));
     EXPECT_DOUBLE_EQ(figures.TheoreticalLoss, Loss);
+  }
+}
+
+TEST_F(Comps, UseTheSkewedDiceOnlyIfAskedTo) {
+  BalanceMatrix(TotalColumn, 6, 30'000);  // which favours the bet on seven
+  Probability.ProbabilityMatrixActive = -1;
+  At(Settings.CompBet, bet::PassLine) = 0;
+  const std::pair<int32_t, double> cases[] = {{-1, 60 * -0.166667}, {0, 60 * 0.50015}};
+  for (const auto& [useTrue, loss] : cases) {
+    Settings.CompsUseTrueProbs = useTrue;
+    const CompFigures figures = FigureComps(Slot);
+    EXPECT_DOUBLE_EQ(figures.TheoreticalLoss, loss);
+    EXPECT_DOUBLE_EQ(figures.Comps, 0.30 * -loss);
+    EXPECT_NE(Probability.ProbabilityMatrixActive, 0);
   }
 }
 

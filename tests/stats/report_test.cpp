@@ -43,11 +43,14 @@ TEST_F(ReportTest, TheReportHoldsEveryBlockInOrder) {
   ReportInputs inputs;
   inputs.Expected[bet::PassLine] = -0.014141;
   inputs.Comps[1].Comps = 1.25;
+  inputs.StopReason = "Shooter has no bet.";
   const std::string text = TextReport(inputs);
   size_t at = 0;
   for (const char* part : {"Tessarel Summary\n22-Nov-26\nGame file:  untitled\nCurrent session\n",
+                           "All players selected\nShooter has no bet.\n\n",
                            "Total rolls     300",
                            "Wagers\n",
+                           "\nExpected value $  ",
                            "Tessarel Bet Results\n",
                            "Player:  Ann\n",
                            "\nPass Line  ",

@@ -7,6 +7,8 @@
 #include <set>
 
 #include "base/fault.h"
+#include "dice/probability.h"
+#include "dice/probability_balance.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -80,6 +82,26 @@ TEST(RollEvents, SharesAreReadWhereTheyAreKept) {
   EXPECT_DOUBLE_EQ(EventProbability(45, dice), 0.02);
   EXPECT_DOUBLE_EQ(EventProbability(CodeOfFace(1, 3), dice), 0.003);
   EXPECT_DOUBLE_EQ(EventProbability(CodeOfFace(2, 3), dice), 0);
+}
+
+TEST(RollEvents, AnActiveMatrixGivesTheChances) {
+  BalanceMatrix(TotalColumn, 6, 30'000);
+  const struct {
+    int code;
+    double truePercent, skewedPercent;
+  } cases[] = {
+      {CodeOfTotal(7), 100.0 / 6, 30},       {45, 100.0 / 18, 10},     // 1.6 or 6.1
+      {CodeOfPair(2, 2), 100.0 / 36, 2.333}, {76, 200.0 / 9, 34.666},  // 7 or 11
+      {CodeOfFace(1, 3), 100.0 / 6, 16.665},
+  };
+  for (const auto& c : cases) {
+    EXPECT_DOUBLE_EQ(EventProbability(c.code, false), c.truePercent) << "not active yet";
+    Probability.ProbabilityMatrixActive = -1;
+    EXPECT_DOUBLE_EQ(EventProbability(c.code, false), c.skewedPercent);
+    EXPECT_DOUBLE_EQ(EventProbability(c.code, true), c.truePercent);
+    Probability.ProbabilityMatrixActive = 0;
+  }
+  Probability = {};
 }
 
 TEST(RollEvents, NamesReadAsInTheLists) {

@@ -44,9 +44,9 @@ class StatsTest : public ::testing::Test {
   }
 
   // Plays with fixed bets that are asked for before every roll.
-  static void Play(int rolls, std::vector<Wager> wagers) {
+  static void Play(int rolls, std::vector<Wager> wagers, int seed = 7) {
     SelectRNG(1);
-    Dice.SeedRequest = 7;
+    Dice.SeedRequest = seed;
     SeedRNG(-1);
     Settings.BetNeededToShoot = 0;
     Wagers = std::move(wagers);

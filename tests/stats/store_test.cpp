@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <sstream>
 
+#include "base/message.h"
 #include "engine/players.h"
 #include "engine/roll_fixture.h"
 #include "stats/books.h"
@@ -379,6 +381,31 @@ TEST_F(Store, ClearingAllSessionsKeepsTheSession) {
   EXPECT_EQ(At(Stats.Bets, 1 + AllSessions)[bet::Field].Won.Count, Money());
   EXPECT_EQ(RollsInSession(), 1);
   EXPECT_EQ(At(Stats.Bets, 1 + CurrentSession)[bet::Field].Won.Count, Money(1));
+}
+
+TEST_F(Store, AFullFigureIsReportedAndTheRollGoesOn) {
+  constexpr int64_t Full = std::numeric_limits<int64_t>::max();
+  struct {
+    const char* Place;
+    void (*Fill)();
+  } const cases[] = {
+      {"RecordRoll", [] { Stats.RollCount[AllSessions][0] = std::numeric_limits<int32_t>::max(); }},
+      {"RecordBetResult",
+       [] { Stats.Bets[1 + AllSessions][bet::Field].Lost.Sum = Money::FromRaw(Full); }},
+      {"RecordBankrolls", [] { Table.BankrollSum[1] = Money::FromRaw(Full); }},
+  };
+  for (const auto& c : cases) {
+    SetUp();
+    Seat(1, 100);
+    Throw(2, 2);
+    c.Fill();
+    PutDown(1, bet::Field, 10);
+    Throw(3, 4);
+    EXPECT_EQ(Message.MsgText, "Overflow, Error #6 occurred at: " + std::string(c.Place));
+    EXPECT_EQ(Table.Point, 0);
+    EXPECT_EQ(BankrollOf(1), Money(90));
+    EXPECT_EQ(RollsInHand(), 0) << "the seven ends the hand";
+  }
 }
 
 TEST_F(Store, SessionWithoutRollsKeepsTheLastOne) {

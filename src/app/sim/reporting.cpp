@@ -1,5 +1,6 @@
 #include "app/sim/reporting.h"
 
+#include "app/sim/console.h"
 #include "config/advantage.h"
 #include "engine/table.h"
 #include "stats/comps.h"
@@ -7,8 +8,9 @@
 
 namespace tessarel::sim {
 
-std::string RunReport() {
+std::string RunReport(const std::string& stopReason) {
   ReportInputs inputs;
+  inputs.StopReason = OnOneLine(stopReason);
   for (int number = 1; number <= LastBet; ++number) {
     At(inputs.Expected, number) = FigureAdvantage(number).EvPerDec;
   }

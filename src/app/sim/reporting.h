@@ -6,6 +6,7 @@
 
 namespace tessarel::sim {
 
-std::string RunReport();
+// `stopReason` is empty when the run reached its counts.
+std::string RunReport(const std::string& stopReason);
 
 }  // namespace tessarel::sim

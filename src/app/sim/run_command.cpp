@@ -251,7 +251,7 @@ void WriteResultFile(const std::string& what, const std::string& name, const std
 void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& recording) {
   recording.Finish();
   const std::string json = options.json.empty() ? "" : ResultJson(facts);
-  const std::string report = options.report.empty() ? "" : RunReport();
+  const std::string report = options.report.empty() ? "" : RunReport(facts.stopReason);
   WriteResultFile("result", options.json, json);
   WriteResultFile("report", options.report, report);
   recording.Keep();
