@@ -5,7 +5,6 @@
 
 #include "base/front_end.h"
 #include "base/message.h"
-#include "base/number_format.h"
 #include "base/trap.h"
 #include "config/advantage.h"
 #include "config/folders.h"
@@ -100,35 +99,22 @@ void ClearLayout(bool keepStacks) {
   }
 }
 
-// Asks for a beginning bankroll until the answer is one; a Cancel leaves the amount offered.
-Money AskBankroll(int place) {
+// Asks for a beginning bankroll; a Cancel leaves the amount offered.
+Money AskBeginningBankroll(int place) {
   const Money offered =
       std::clamp(At(Table.BankrollInitAmount, place), -BankrollLimit, BankrollLimit);
   const std::string question = "Enter " + At(Table.PlayerName, place) + "'s beginning bankroll:";
-  std::string text = question;
-  while (AskForText(text, "Beginning Bankroll", PlainText(offered))) {
-    const std::optional<Money> answer = ParseMoney(Message.MsgInput);
-    if (answer && Abs(*answer) <= BankrollLimit) return *answer;
-    const bool negative = answer && *answer < Money();
-    text = std::string(GetText(negative ? 11 : 10)) + (negative ? "-$" : "$") +
-           FormatMoney(BankrollLimit) + "\r\r" + question;
-  }
-  return offered;
+  return AskBankroll(question, "Beginning Bankroll", PlainText(offered)).value_or(offered);
 }
 
 void StartBankroll(int place, bool keepSessions) {
   Money amount = At(Table.BankrollInitAmount, place);
   if (At(Table.BankrollInitType, place) == 1 && Table.HyperDriveOn == 0) {
-    amount = At(Table.BankrollInitAmount, place) = AskBankroll(place);
+    amount = At(Table.BankrollInitAmount, place) = AskBeginningBankroll(place);
   } else if (At(Table.BankrollInitType, place) == 2) {
     amount = BankrollOf(place);
   }
-  if (!keepSessions) {
-    for (const auto slots :
-         {&TableState::BankrollBegin, &TableState::BankrollHigh, &TableState::BankrollLow}) {
-      At(Table.*slots, place + AllSessions) = amount;
-    }
-  }
+  if (!keepSessions) BeginBankroll(place + AllSessions, amount);
   SetBankroll(place, amount);
 }
 

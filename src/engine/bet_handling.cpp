@@ -56,6 +56,7 @@ void TellHowItStands(int place, Title&& title) {
 void ChangeBy(int place, Money change) {
   Table.Amount = change;
   ChangeBet(place, Table.CurrentBet);
+  if (Table.BetDelta != Money()) RedrawBet(place, Table.CurrentBet);
 }
 
 // A bet that has come off goes back at `amount`, as far as the rules allow.
@@ -162,13 +163,14 @@ void ActOnLoss(int place, int button) {
   }
 }
 
-// Asks the player, keeps the figures he typed, and does what he chose.
+// Asks the player, keeps the figures he typed, and does what he chose if the bet may stay.
 void AskHandling(int place, Outcome outcome, bool asWin) {
   SettlePrompt prompt = MakeSettlePrompt(place, outcome, asWin);
   FrontEnd.SettleBet(prompt);
   StoreRow(place, asWin ? PromptWinModify : PromptLossModify, prompt.modify);
   StoreRow(place, asWin ? PromptWinSet : PromptLossSet, prompt.set);
   Table.CurrentBet = prompt.number;
+  if (Table.BetCantStay) return TakeDownBet(place);
   if (asWin) {
     ActOnWin(place, prompt.button);
   } else {
@@ -222,14 +224,6 @@ void RunLossMode(int place, Outcome outcome) {
     default:
       return TakeDownBet(place);
   }
-}
-
-bool IsLineOdds(int number) {
-  return number == bet::PassLineOdds || number == bet::DontPassOdds;
-}
-
-int FlatUnder(int odds) {
-  return IsLineOdds(odds) ? odds - 1 : odds - FamilySize;
 }
 
 }  // namespace
@@ -311,9 +305,7 @@ void HandleIdleOdds(int place) {
       Settings.AllowPutBets == 0 || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
   FigureUnit(place, odds);
   const bool asLoss = At(At(Table.BetStreak, place), FlatUnder(odds)) < 2;
-  if (IsLineOdds(odds)) {
-    TakeDownBet(place);
-  } else if (asLoss) {
+  if (asLoss) {
     RunLossMode(place, Outcome::Idle);
   } else {
     RunWinMode(place, Outcome::Idle);

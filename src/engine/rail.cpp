@@ -41,19 +41,6 @@ std::string AskName(const std::string& question, const std::string& title, int p
   return "";
 }
 
-std::optional<Money> AskBuyIn(const std::string& name) {
-  const std::string question = FillIn(GetText(9), name);
-  std::string text = question;
-  while (AskForText(text, Text(5), UsualBuyIn)) {
-    const std::optional<Money> amount = ParseMoney(TrimSpaces(Message.MsgInput));
-    if (amount && Abs(*amount) <= BankrollLimit) return amount;
-    const bool tooLow = amount && *amount < Money();
-    text = Text(tooLow ? 11 : 10) + (tooLow ? "-$" : "$") + FormatMoney(BankrollLimit) + "\r\r" +
-           question;
-  }
-  return std::nullopt;
-}
-
 // A bet that its player cannot take back, with the part of it that stays.
 struct AbandonedBet {
   int number;
@@ -137,7 +124,7 @@ std::optional<std::string> PlayerNameRefusal(const std::string& name, int place)
   for (int other = 1; other <= LastPlace; ++other) {
     if (other != place && IsTaken(Table, other) &&
         EqualIgnoringCase(At(Table.PlayerName, other), name)) {
-      return Text(6) + name + ".";
+      return Text(6) + name;
     }
   }
   if (name.find_first_not_of("0123456789") == std::string::npos) return Text(7);
@@ -149,7 +136,7 @@ bool AddPlayer(int place) {
   if (ShowMessage(Text(3), Text(5), msg::AskYesDefault) != AnswerYes) return false;
   const std::string name = AskName(Text(4), Text(5), 0);
   if (name.empty()) return false;
-  const std::optional<Money> buyIn = AskBuyIn(name);
+  const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
   if (!buyIn) return false;
   SeatPlayer(place, name, *buyIn);
   FrontEnd.DrawTable();
@@ -177,7 +164,6 @@ bool DeletePlayer(int place, bool ask) {
   FollowInViews(place, 0);
   Follow(Table.LastShooter, place, 0);
   Follow(Table.PreviousShooter, place, 0);
-  Follow(Table.BankrollStopPlace, place, 0);
   if (Table.Shooter == place) PassDice(PlayerLeft);
   FrontEnd.DrawTable();
   return true;

@@ -182,19 +182,13 @@ void CopyBankrolls(size_t from, size_t to) {
   Table.BankrollLow[to] = Table.BankrollLow[from];
 }
 
-// A scope begins: the bankroll as it stands is its beginning, high and low.
-void StartBankrolls(size_t slot) {
-  Table.BankrollBegin[slot] = Table.BankrollHigh[slot] = Table.BankrollLow[slot] =
-      Table.Bankroll[slot];
-}
-
 void CopyHandOf(int place) {
   const auto from = static_cast<size_t>(CurrentHand + place);
   const auto to = static_cast<size_t>(LastHand + place);
   CopyCounts(from, to);
   ClearCounts(from);
   CopyBankrolls(from, to);
-  StartBankrolls(from);
+  BeginBankroll(CurrentHand + place, BankrollOf(place));
   NumberSet& now = At(Stats.HandBets, place);
   NumberSet& before = At(Stats.LastHandBets, place);
   before |= now;
@@ -256,14 +250,8 @@ void RecordBetResult(int place, int number, Money amount, Money result) {
 
 void RecordBankrolls() {
   ForEachPlayer([](int place) {
-    const Money bankroll = BankrollOf(place);
-    At(Table.BankrollSum, place) += bankroll;
-    for (const Scope scope : CountedScopes) {
-      Money& high = At(Table.BankrollHigh, place + scope);
-      Money& low = At(Table.BankrollLow, place + scope);
-      high = std::max(high, bankroll);
-      low = std::min(low, bankroll);
-    }
+    At(Table.BankrollSum, place) += BankrollOf(place);
+    MoveHighAndLow(place);
   });
 }
 
