@@ -18,7 +18,6 @@
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
-#include "engine/rail.h"
 #include "engine/roll_driver.h"
 #include "engine/settlement.h"
 #include "engine/table.h"
@@ -116,12 +115,7 @@ void StartBankroll(int place, bool keepSessions) {
   } else if (At(Table.BankrollInitType, place) == 2) {
     amount = BankrollOf(place);
   }
-  if (!keepSessions) {
-    for (const auto slots :
-         {&TableState::BankrollBegin, &TableState::BankrollHigh, &TableState::BankrollLow}) {
-      At(Table.*slots, place + AllSessions) = amount;
-    }
-  }
+  if (!keepSessions) BeginBankroll(place + AllSessions, amount);
   SetBankroll(place, amount);
 }
 

@@ -72,6 +72,12 @@ bool ChangeBankrollInitType(int place, Money value) {
   return SetBankrollInitType(place, static_cast<int32_t>(value.Floor()));
 }
 
+bool ChangeDownPlaceBets(int place, Money value) {
+  At(Table.AutoDownPlaceBets, place) = static_cast<int32_t>(value.Floor());
+  if (value != Money()) DownPlaceBets(place);
+  return true;
+}
+
 bool ChangeTakeFullOdds(int place, Money value) {
   At(Table.AutoTakeFullOdds, place) = static_cast<int32_t>(value.Floor());
   if (value != Money()) BetFullOdds(place);
@@ -192,7 +198,7 @@ constexpr SettingField Fields[] = {
     {"HandleUnits", WholeNumber, UpTo(6), Of<&T::HandleUnits>, true, nullptr, ByIndex, FirstHandlingSlot, LastHandlingSlot},
     {"AutoTakeFullOdds", Flag, Flags, Of<&T::AutoTakeFullOdds>, true, ChangeTakeFullOdds},
     {"AutoLayFullOdds", Flag, Flags, Of<&T::AutoLayFullOdds>, true, ChangeLayFullOdds},
-    {"AutoDownPlaceBets", Flag, Flags, Of<&T::AutoDownPlaceBets>, true},
+    {"AutoDownPlaceBets", Flag, Flags, Of<&T::AutoDownPlaceBets>, true, ChangeDownPlaceBets},
     {"AutoAdjustBetAmounts", Mark, Flags, Of<&T::AutoAdjustBetAmounts>, true},
     {"DoBias", WholeNumber, UpTo(2), Of<&T::DoBias>, true},
     {"DontBias", WholeNumber, UpTo(2), Of<&T::DontBias>, true},

@@ -74,9 +74,7 @@ struct SettingsState {
   static constexpr std::array<int32_t, 101> DefaultCompBets() {
     std::array<int32_t, 101> flags{};
     for (int number = 1; number <= LastBet; ++number) {
-      const bool odds = InFamily(number, DontComeOddsFamily) || InFamily(number, ComeOddsFamily) ||
-                        number == bet::PassLineOdds || number == bet::DontPassOdds;
-      flags[static_cast<size_t>(number)] = odds ? 0 : -1;
+      flags[static_cast<size_t>(number)] = IsOdds(number) ? 0 : -1;
     }
     return flags;
   }

@@ -11,11 +11,6 @@ namespace {
 
 enum Bias : int32_t { Decrease = 0, Increase = 1, Nearest = 2 };
 
-bool IsOdds(int number) {
-  return number == bet::PassLineOdds || number == bet::DontPassOdds ||
-         InFamily(number, ComeOddsFamily) || InFamily(number, DontComeOddsFamily);
-}
-
 bool HasUnit(int number) {
   return IsOdds(number) || InFamily(number, PlaceFamily) || InFamily(number, BuyFamily) ||
          InFamily(number, LayFamily);
@@ -23,10 +18,8 @@ bool HasUnit(int number) {
 
 int32_t BiasOf(int place, int number) {
   if (InFamily(number, LayFamily)) return At(Table.LayBias, place);
-  if (number == bet::DontPassOdds || InFamily(number, DontComeOddsFamily)) {
-    return At(Table.DontBias, place);
-  }
-  if (IsOdds(number)) return At(Table.DoBias, place);
+  if (IsLaidOdds(number)) return At(Table.DontBias, place);
+  if (IsTakenOdds(number)) return At(Table.DoBias, place);
   return At(Table.PlaceBias, place);
 }
 

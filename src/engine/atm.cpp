@@ -26,14 +26,14 @@ std::string WageredText(int place, Money asked, Money allowed) {
                   : "bankroll would've become negative.") +
          "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\" on the "
          "Configuration screen" +
-         (wagered ? ", and/or by reducing the amount currently wagered." : ".");
+         (wagered ? ", and/or by reducing the amount currently wagered." : "");
 }
 
 std::string LimitText(int place, Money asked, Money allowed, bool deposit) {
   return NotAllowed(place, asked, allowed, "it would've caused ") +
          (deposit ? "bankroll to drop below the negative bank limit of $"
                   : "bankroll to exceed the max bank limit of $") +
-         FormatMoney(deposit ? -BankrollLimit : BankrollLimit);
+         FormatMoney(BankrollLimit);
 }
 
 void MoveBankroll(int place, Money change) {
@@ -42,13 +42,8 @@ void MoveBankroll(int place, Money change) {
   At(Table.InvestedBankroll, place) += change;
   At(Table.BankrollAtRoll, place) = bankroll;
   At(At(Table.GraphBankroll, Table.GraphIndex), place) = bankroll;
-  for (const Scope scope : CountedScopes) {
-    Money& high = At(Table.BankrollHigh, place + scope);
-    Money& low = At(Table.BankrollLow, place + scope);
-    high = std::max(high, bankroll);
-    low = std::min(low, bankroll);
-  }
-  FrontEnd.RefreshViews();
+  MoveHighAndLow(place);
+  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
 }
 
 }  // namespace

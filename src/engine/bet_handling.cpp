@@ -56,6 +56,7 @@ void TellHowItStands(int place, Title&& title) {
 void ChangeBy(int place, Money change) {
   Table.Amount = change;
   ChangeBet(place, Table.CurrentBet);
+  if (Table.BetDelta != Money()) RedrawBet(place, Table.CurrentBet);
 }
 
 // A bet that has come off goes back at `amount`, as far as the rules allow.
@@ -162,7 +163,7 @@ void ActOnLoss(int place, int button) {
   }
 }
 
-// Asks the player, keeps the figures he typed, and does what he chose.
+// Asks the player, keeps the figures he typed, and does what he chose if the bet may stay.
 void AskHandling(int place, Outcome outcome, bool asWin) {
   FigureUnit(place, Table.CurrentBet);
   SettlePrompt prompt = MakeSettlePrompt(place, outcome, asWin);
@@ -170,6 +171,7 @@ void AskHandling(int place, Outcome outcome, bool asWin) {
   StoreRow(place, asWin ? PromptWinModify : PromptLossModify, prompt.modify);
   StoreRow(place, asWin ? PromptWinSet : PromptLossSet, prompt.set);
   Table.CurrentBet = prompt.number;
+  if (Table.BetCantStay) return TakeDownBet(place);
   if (asWin) {
     ActOnWin(place, prompt.button);
   } else {
@@ -223,14 +225,6 @@ void RunLossMode(int place, Outcome outcome) {
     default:
       return TakeDownBet(place);
   }
-}
-
-bool IsLineOdds(int number) {
-  return number == bet::PassLineOdds || number == bet::DontPassOdds;
-}
-
-int FlatUnder(int odds) {
-  return IsLineOdds(odds) ? odds - 1 : odds - FamilySize;
 }
 
 }  // namespace
@@ -311,9 +305,7 @@ void HandleIdleOdds(int place) {
   Table.BetCantStay =
       Settings.AllowPutBets == 0 || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
   const bool asLoss = At(At(Table.BetStreak, place), FlatUnder(odds)) < 2;
-  if (IsLineOdds(odds)) {
-    TakeDownBet(place);
-  } else if (asLoss) {
+  if (asLoss) {
     RunLossMode(place, Outcome::Idle);
   } else {
     RunWinMode(place, Outcome::Idle);

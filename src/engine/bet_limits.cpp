@@ -154,28 +154,14 @@ Money PropositionLimit(int number) {
 
 // The point that a line bet's odds ride on, or the number of a travelled bet.
 int OddsPoint(int number) {
-  const bool line = number == bet::PassLineOdds || number == bet::DontPassOdds;
-  return line ? Table.Point : PointOf(number);
-}
-
-int FlatOf(int odds) {
-  const bool line = odds == bet::PassLineOdds || odds == bet::DontPassOdds;
-  return line ? odds - 1 : odds - FamilySize;
-}
-
-bool IsTakenOdds(int number) {
-  return number == bet::PassLineOdds || InFamily(number, ComeOddsFamily);
-}
-
-bool IsLaidOdds(int number) {
-  return number == bet::DontPassOdds || InFamily(number, DontComeOddsFamily);
+  return IsLineOdds(number) ? Table.Point : PointOf(number);
 }
 
 Money OddsLimit(int place, int number) {
   const int point = OddsPoint(number);
   if (point == 0) return Money();
   const PayoffRow& row = PayoffRowOf(number);
-  const Money flat = Bet(place, FlatOf(number));
+  const Money flat = Bet(place, FlatUnder(number));
   const Money factor = OddsFactor(point);
   if (IsTakenOdds(number)) return FigureOddsMax(factor, flat, row.PayNum, row.PayDen);
   // What has to be laid to win the odds allowed on the flat bet.
@@ -228,7 +214,7 @@ Money FigureMaxBet(int place, int number) {
   Money limit = Settings.MaxPlacardBet;
   if (!OnLayout(number)) {
     limit = Money();
-  } else if (IsTakenOdds(number) || IsLaidOdds(number)) {
+  } else if (IsOdds(number)) {
     limit = OddsLimit(place, number);
   } else if (InFamily(number, LayFamily)) {
     const PayoffRow& row = At(Payoffs.Payoff, number);

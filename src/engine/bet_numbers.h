@@ -69,6 +69,29 @@ constexpr bool InFamily(int number, Family family) {
 constexpr int PointOf(int number) {
   return PointNumbers[static_cast<size_t>((number - 1) % FamilySize)];
 }
+constexpr bool IsBet(int number) {
+  return number >= 1 && number <= LastBet;
+}
+constexpr bool IsLineOdds(int number) {
+  return number == bet::PassLineOdds || number == bet::DontPassOdds;
+}
+constexpr bool IsTakenOdds(int number) {
+  return number == bet::PassLineOdds || InFamily(number, ComeOddsFamily);
+}
+constexpr bool IsLaidOdds(int number) {
+  return number == bet::DontPassOdds || InFamily(number, DontComeOddsFamily);
+}
+constexpr bool IsOdds(int number) {
+  return IsTakenOdds(number) || IsLaidOdds(number);
+}
+// The bet that odds ride on.
+constexpr int FlatUnder(int odds) {
+  return IsLineOdds(odds) ? odds - 1 : odds - FamilySize;
+}
+// Into how many equal parts a bet is divided, of which a hit pays one and loses the others.
+constexpr int PartsOf(int number) {
+  return number == bet::CAndE ? 2 : number == bet::Horn ? 4 : number == bet::World ? 5 : 1;
+}
 constexpr bool IsStack(int number) {
   return number >= FirstStack && number < FirstStack + StackCount;
 }

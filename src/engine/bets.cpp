@@ -270,14 +270,6 @@ constexpr int LayNeighbour(int place) {
   return place <= 4 ? 5 - place : 13 - place;
 }
 
-void Redraw(int place, int number) {
-  if (Table.HyperDriveOn != 0) return;
-  FrontEnd.DrawBet(place, number);
-  if (number == bet::DontPass) FrontEnd.DrawBet(place, bet::DontPassOdds);
-  if (number == bet::DontPassOdds) FrontEnd.DrawBet(place, bet::DontPass);
-  if (InFamily(number, LayFamily)) FrontEnd.DrawBet(LayNeighbour(place), number);
-}
-
 // The odds that follow a flat bet and the setting that keeps them full; 0 when none follow now.
 int FollowingOdds(int place, int number, bool& keepFull) {
   const bool onNumber = InFamily(number, ComeFamily) || InFamily(number, DontComeFamily);
@@ -343,8 +335,16 @@ void PlaceBet(int place, int number, int x, int y) {
 void PlaceBet(int place, int number) {
   ChangeBet(place, number);
   if (Table.HyperDriveOn == 0 && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::Check);
-  Redraw(place, number);
+  RedrawBet(place, number);
   if (Table.BetDelta != Money()) FollowWithOdds(place, number);
+}
+
+void RedrawBet(int place, int number) {
+  if (Table.HyperDriveOn != 0) return;
+  FrontEnd.DrawBet(place, number);
+  if (number == bet::DontPass) FrontEnd.DrawBet(place, bet::DontPassOdds);
+  if (number == bet::DontPassOdds) FrontEnd.DrawBet(place, bet::DontPass);
+  if (InFamily(number, LayFamily)) FrontEnd.DrawBet(LayNeighbour(place), number);
 }
 
 void RemoveBet(int place, int number) {
@@ -352,11 +352,25 @@ void RemoveBet(int place, int number) {
   PlaceBet(place, number);
 }
 
+void RemovePlaceBets(int place, int point) {
+  for (const Family family : {PlaceFamily, BuyFamily}) {
+    const int number = BetOn(family, point);
+    if (Bet(place, number) > Money()) RemoveBet(place, number);
+  }
+}
+
+void DownPlaceBets(int place) {
+  if (Table.Point != 0 && Bet(place, bet::PassLine) > Money()) RemovePlaceBets(place, Table.Point);
+  for (const int point : PointNumbers) {
+    if (Bet(place, BetOn(ComeFamily, point)) > Money()) RemovePlaceBets(place, point);
+  }
+}
+
 void TakeDownBet(int place) {
   const int number = Table.CurrentBet;
   Table.BetDelta = -Bet(place, number);
   StandAt(place, number, Money(), true);
-  Redraw(place, number);
+  RedrawBet(place, number);
 }
 
 void ReplaceBet(int place, int number) {
@@ -364,7 +378,7 @@ void ReplaceBet(int place, int number) {
   StandAt(place, number, Money(), true);
   Table.Amount = AllThatIsAllowed;
   ChangeBet(place, number);
-  Redraw(place, number);
+  RedrawBet(place, number);
 }
 
 void BetFullOdds(int place) {
@@ -384,6 +398,7 @@ void BetFullLay(int place) {
 }
 
 void BuyPlaceBet(int place, int number) {
+  if (!IsBet(number)) return;
   const Money amount = Bet(place, number);
   if (InFamily(number, BuyFamily) || amount == Money()) return;
   if (!InFamily(number, PlaceFamily)) {
@@ -393,7 +408,7 @@ void BuyPlaceBet(int place, int number) {
   const int32_t working = At(At(Table.BetWorking, place), number);
   const int buy = number + FamilySize;
   StandAt(place, number, Money(), true);
-  Redraw(place, number);
+  RedrawBet(place, number);
   Table.Amount = amount;
   PlaceBet(place, buy);
   const bool called = working == CalledOn || working == CalledOff;
@@ -401,6 +416,7 @@ void BuyPlaceBet(int place, int number) {
 }
 
 void CallBet(int place, int number, CallState state) {
+  if (!IsBet(number)) return;
   if (!CanBeCalled(number)) {
     TellNotAllowed(FillIn(GetText(59), At(BetName, number)));
     return;
@@ -411,7 +427,7 @@ void CallBet(int place, int number, CallState state) {
   } else {
     SetBetWorking(place, number, state == CallOn ? CalledOn : CalledOff);
   }
-  Redraw(place, number);
+  RedrawBet(place, number);
 }
 
 void ResetBetWorking(int place, int number) {

@@ -17,8 +17,17 @@ void PlaceBet(int place, int number, int x, int y);
 // The same at the bet's own position.
 void PlaceBet(int place, int number);
 
+// Outside the Hyper-Drive: draws the bet and those that share its spot.
+void RedrawBet(int place, int number);
+
 // Asks for the whole bet to come off; a contract bet stays as its rules say.
 void RemoveBet(int place, int number);
+
+// The Place and Buy bets on a point number come off.
+void RemovePlaceBets(int place, int point);
+
+// The same on every number that the place's line and come bets stand on now.
+void DownPlaceBets(int place);
 
 // Takes the resolved CurrentBet off without a message, whatever its contract.
 void TakeDownBet(int place);
@@ -30,12 +39,12 @@ void ReplaceBet(int place, int number);
 void BetFullOdds(int place);
 void BetFullLay(int place);
 
-// Turns a Place bet into the Buy bet of the same amount.
+// Turns a Place bet into the Buy bet of the same amount. Numbers that are no bet do nothing.
 void BuyPlaceBet(int place, int number);
 
 // The states CallBet takes.
 enum CallState : int { CallOff = 991, CallOn = 992 };
-// Calls a bet on or off, or refuses it.
+// Calls a bet on or off, or refuses it. Numbers that are no bet do nothing.
 void CallBet(int place, int number, CallState state);
 
 // Back to the bet's normal working state: the come-out default without a point, else working.

@@ -1,12 +1,13 @@
 #include "engine/players.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "base/front_end.h"
 #include "base/message.h"
+#include "base/number_format.h"
 #include "base/single_byte_text.h"
 #include "config/folders.h"
+#include "config/language.h"
 #include "config/settings.h"
 #include "engine/bets.h"
 #include "engine/table.h"
@@ -44,10 +45,6 @@ int FindShooter(Qualifies&& qualifies) {
     if (IsTaken(Table, place) && qualifies(place)) return place;
   }
   return 0;
-}
-
-bool HasLineBet(int place) {
-  return Bet(place, bet::PassLine) > Money() || Bet(place, bet::DontPass) > Money();
 }
 
 // Whether a player could shoot now: with the point on he may need a line bet he cannot make.
@@ -111,17 +108,25 @@ void TellOfPassedHand(PassReason reason, int from, int to) {
 
 void SetBankroll(int place, Money amount) {
   SetBankrollSlots(place, amount);
-  for (const Scope scope : {CurrentHand, CurrentSession}) {
-    At(Table.BankrollBegin, place + scope) = amount;
-    At(Table.BankrollHigh, place + scope) = amount;
-    At(Table.BankrollLow, place + scope) = amount;
-  }
-  Money& high = At(Table.BankrollHigh, place + AllSessions);
-  Money& low = At(Table.BankrollLow, place + AllSessions);
-  high = std::max(high, amount);
-  low = std::min(low, amount);
+  BeginBankroll(place + CurrentHand, amount);
+  BeginBankroll(place + CurrentSession, amount);
+  MoveHighAndLow(place);
   At(Table.InvestedBankroll, place) = amount;
   At(Table.BankrollAtRoll, place) = At(Table.BankrollAfterRoll, place) = amount;
+}
+
+std::optional<Money> AskBankroll(const std::string& question,
+                                 const std::string& title,
+                                 const std::string& offered) {
+  std::string text = question;
+  while (AskForText(text, title, offered)) {
+    const std::optional<Money> amount = ParseMoney(TrimSpaces(Message.MsgInput));
+    if (amount && Abs(*amount) <= BankrollLimit) return amount;
+    const bool tooLow = amount && *amount < Money();
+    text = std::string(GetText(tooLow ? 11 : 10)) + (tooLow ? "-$" : "$") +
+           FormatMoney(BankrollLimit) + "\r\r" + question;
+  }
+  return std::nullopt;
 }
 
 void OpenPlaceDefaults(int place) {
@@ -136,31 +141,26 @@ void OpenPlaceDefaults(int place) {
 void SeatPlayer(int place, const std::string& name, Money bankroll) {
   SetPlayerName(place, name);
   ClearPlayerStats(place);
-  for (const auto slots :
-       {&TableState::BankrollBegin, &TableState::BankrollHigh, &TableState::BankrollLow}) {
-    At(Table.*slots, place + AllSessions) = bankroll;
-  }
+  BeginBankroll(place + AllSessions, bankroll);
   SetBankroll(place, bankroll);
   At(Table.BankrollInitAmount, place) = bankroll;
   At(Table.SessionLogName, place) = Folders.SessionsLogFolder + LowerCase(name) + ".slg";
-  At(Table.BetWorkingDefault, place) = Table.BetWorkingDefault[0];
-  for (int number = 1; number <= LastBet; ++number)
-    ResetBetWorking(place, number);
+  OpenPlaceDefaults(place);
   if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
   LogPlayerJoined(place, bankroll);
 }
 
 void ShowPassedDiceNote() {
-  if (Table.Shooter == Table.LastShooter || Table.Shooter == 0) return;
-  const bool inHand = RollsInHand() > 0;
-  const bool gone = Table.LastShooter == 0;
+  if (Table.Shooter == 0) return;
+  const bool handBefore = At(Stats.RollCount, LastHand)[0] > 0;
   std::string text;
-  if (inHand) {
+  if (RollsInHand() > 0 && Table.Shooter != Table.LastShooter) {
     text = "The dice were passed during the current hand.\r\rAlthough " + NameOf(Table.Shooter) +
            " is presently shooting the dice, the current hand is being credited to " +
-           (gone ? "another player who started the hand but is no longer at the table."
-                 : NameOf(Table.LastShooter) + " who started the hand.");
-  } else if (gone) {
+           (Table.LastShooter == 0
+                ? "another player who started the hand but is no longer at the table."
+                : NameOf(Table.LastShooter) + " who started the hand.");
+  } else if (RollsInHand() == 0 && handBefore && Table.PreviousShooter == 0) {
     text = "The last hand was shot by a player who is no longer at the table.";
   }
   if (!text.empty()) ShowMessage(std::move(text), std::string(PassTitle), msg::Ok);
@@ -185,13 +185,16 @@ void PassDice(PassReason reason) {
 }
 
 void BankrollLimitStop(int place) {
-  const std::string rest =
-      std::string(LimitText) + "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
+  const std::string reset = "Select \"New\" from the \"Game\" menu to reset the table.";
+  const std::string rest = std::string(LimitText) + "\r\r" + reset;
+  const bool gone = !IsTaken(Table, place);
   const bool negative = BankrollOf(place) <= Money();
   if (Table.HyperDriveOn != 0) {
-    Table.StopReason = (negative ? "Stopped by exceeding the negative bankroll limit of -$"
-                                 : "Stopped by breaking the max bankroll limit of $") +
-                       rest;
+    Table.StopReason = gone       ? reset
+                       : negative ? "Stopped by exceeding the negative bankroll limit of -$" + rest
+                                  : "Stopped by breaking the max bankroll limit of $" + rest;
+  } else if (gone) {
+    ShowMessage(reset, "", msg::OkAlert);
   } else if (negative) {
     ShowMessage(
         "Sorry ... " + NameOf(place) + " has exceeded the negative bankroll limit of -$" + rest, "",

@@ -2,6 +2,7 @@
 // bankroll.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "base/money.h"
@@ -22,13 +23,20 @@ void OpenPlaceDefaults(int place);
 // Sets a place's bankroll, with its beginning, high and low, in the counted scopes.
 void SetBankroll(int place, Money amount);
 
-// During a hand that another player began, says to whom it is credited.
+// Asks until the answer is a bankroll within the limits; empty when the user gives up.
+std::optional<Money> AskBankroll(const std::string& question,
+                                 const std::string& title,
+                                 const std::string& offered);
+
+// During a hand that another player began, says to whom it is credited; before the first roll of a
+// hand, that whoever shot the last one has left.
 void ShowPassedDiceNote();
 
 // Hands the dice to the next player who wants them and may have them.
 void PassDice(PassReason reason);
 
-// The bankroll of the place is beyond its limit: says so and bars further rolls of the session.
+// The bankroll of the place is beyond its limit: says so and bars further rolls of the session,
+// even if the player leaves.
 void BankrollLimitStop(int place);
 
 }  // namespace tessarel

@@ -124,24 +124,10 @@ std::optional<std::string> PlayerNameRefusal(const std::string& name, int place)
   for (int other = 1; other <= LastPlace; ++other) {
     if (other != place && IsTaken(Table, other) &&
         EqualIgnoringCase(At(Table.PlayerName, other), name)) {
-      return Text(6) + name + ".";
+      return Text(6) + name;
     }
   }
   if (name.find_first_not_of("0123456789") == std::string::npos) return Text(7);
-  return std::nullopt;
-}
-
-std::optional<Money> AskBankroll(const std::string& question,
-                                 const std::string& title,
-                                 const std::string& offered) {
-  std::string text = question;
-  while (AskForText(text, title, offered)) {
-    const std::optional<Money> amount = ParseMoney(TrimSpaces(Message.MsgInput));
-    if (amount && Abs(*amount) <= BankrollLimit) return amount;
-    const bool tooLow = amount && *amount < Money();
-    text = Text(tooLow ? 11 : 10) + (tooLow ? "-$" : "$") + FormatMoney(BankrollLimit) + "\r\r" +
-           question;
-  }
   return std::nullopt;
 }
 
@@ -178,7 +164,6 @@ bool DeletePlayer(int place, bool ask) {
   FollowInViews(place, 0);
   Follow(Table.LastShooter, place, 0);
   Follow(Table.PreviousShooter, place, 0);
-  Follow(Table.BankrollStopPlace, place, 0);
   if (Table.Shooter == place) PassDice(PlayerLeft);
   FrontEnd.DrawTable();
   return true;

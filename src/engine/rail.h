@@ -12,11 +12,6 @@ namespace tessarel {
 // Why a name cannot be given to the player of `place` (0: a new one); empty when it can.
 std::optional<std::string> PlayerNameRefusal(const std::string& name, int place);
 
-// Asks `question` until the answer is a bankroll within the limits. Empty on Cancel.
-std::optional<Money> AskBankroll(const std::string& question,
-                                 const std::string& title,
-                                 const std::string& offered);
-
 // Asks whether somebody joins at an open place, for the name and for the buy-in, and seats him.
 // Returns whether somebody joined.
 bool AddPlayer(int place);

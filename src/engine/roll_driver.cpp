@@ -47,10 +47,6 @@ bool HasAnyBet(int place) {
   return !At(Table.Standing, place).Empty();
 }
 
-bool HasLineBet(int place) {
-  return Bet(place, bet::PassLine) > Money() || Bet(place, bet::DontPass) > Money();
-}
-
 bool RefuseWithoutLineBet() {
   std::string text = "A line bet is required to shoot.\r\r" + At(Table.PlayerName, Table.Shooter);
   if (Table.PlayerCount == 1) {
@@ -214,10 +210,7 @@ bool EndHandOnSevenOut() {
 void PlaceAutomaticOdds(int place) {
   if (Bet(place, bet::PassLine) > Money()) {
     if (At(Table.AutoTakeFullOdds, place) != 0) ReplaceBet(place, bet::PassLineOdds);
-    if (At(Table.AutoDownPlaceBets, place) != 0) {
-      RemoveBet(place, BetOn(PlaceFamily, Table.Point));
-      RemoveBet(place, BetOn(BuyFamily, Table.Point));
-    }
+    if (At(Table.AutoDownPlaceBets, place) != 0) RemovePlaceBets(place, Table.Point);
   }
   if (Bet(place, bet::DontPass) > Money() && At(Table.AutoLayFullOdds, place) != 0) {
     if (Table.HyperDriveOn == 0) FrontEnd.DrawBet(place, bet::DontPass);

@@ -51,10 +51,6 @@ bool Rounded() {
   return Table.NetWin != Table.GrossWin;
 }
 
-int PartsOf(int number) {
-  return number == bet::CAndE ? 2 : number == bet::Horn ? 4 : number == bet::World ? 5 : 1;
-}
-
 void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow& row) {
   const std::string whole = std::to_string(parts);
   const Money part = Money::FromDouble(amount.ToDouble() / parts);
@@ -73,6 +69,8 @@ void AddVigRow(SettlePrompt& prompt, Money gross) {
 }
 
 void AddWinRows(SettlePrompt& prompt, Money amount) {
+  const std::string count = CountLine(prompt.number);
+  if (!count.empty()) prompt.rows.push_back({count, ""});
   const PayoffRow& row = Payoffs.Payoff[0];
   const int parts = PartsOf(prompt.number);
   if (parts > 1) {
@@ -128,8 +126,6 @@ SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
   const Money amount = Bet(place, prompt.number);
   const std::string& name = At(Table.PlayerName, place);
   prompt.rows.push_back({std::string(At(BetName, prompt.number)), Dollars(amount)});
-  const std::string count = CountLine(prompt.number);
-  if (!count.empty()) prompt.rows.push_back({count, ""});
   switch (outcome) {
     case Outcome::Won:
       prompt.title = {name, std::string(GetText(35))};

@@ -90,11 +90,6 @@ const PayoffRow& WinningRow(int number, int result) {
   }
 }
 
-// Into how many equal parts a bet is divided, of which a hit pays one and loses the others.
-int PartsOf(int number) {
-  return number == bet::CAndE ? 2 : number == bet::Horn ? 4 : number == bet::World ? 5 : 1;
-}
-
 // Copies the deciding fields of a row to the scratch row, from which the prompt reads them.
 const PayoffRow& ToScratch(const PayoffRow& row) {
   return Payoffs.Payoff[0] = row;
@@ -586,7 +581,7 @@ void MoveBet(int place, int from, int to) {
   Table.Amount = -amount;
   ChangeBet(place, from);
   SetBetContract(place, from, Money());
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawBet(place, from);
+  RedrawBet(place, from);
   Table.BetMoving = true;
   Table.Amount = amount;
   PlaceBet(place, to);
@@ -594,10 +589,7 @@ void MoveBet(int place, int from, int to) {
   SetBetContract(place, to, amount);
   if (InFamily(to, ComeFamily)) {
     At(Table.ComeOriginal, place)[static_cast<size_t>(to - bet::Come4)] = amount;
-    if (At(Table.AutoDownPlaceBets, place) != 0) {
-      RemoveBet(place, to + 2 * FamilySize);
-      RemoveBet(place, to + 3 * FamilySize);
-    }
+    if (At(Table.AutoDownPlaceBets, place) != 0) RemovePlaceBets(place, PointOf(to));
   }
   Settings.DisableAllSound = soundWas;
   LogBetMoved(place, from, to);

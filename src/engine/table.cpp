@@ -1,5 +1,6 @@
 #include "engine/table.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "config/settings.h"
@@ -46,6 +47,7 @@ void RebuildDerived() {
     }
   }
   Table.PlayerCount = std::popcount(Table.TakenPlaces);
+  Table.WorkingChanged.fill(-1);
 }
 
 namespace {
@@ -100,6 +102,16 @@ std::string CheckTable() {
   }
   if (Table.Shooter != 0 && !IsTaken(Table, Table.Shooter)) return "the shooter's place is open";
   return "";
+}
+
+void MoveHighAndLow(int place) {
+  const Money bankroll = BankrollOf(place);
+  for (const Scope scope : CountedScopes) {
+    Money& high = At(Table.BankrollHigh, place + scope);
+    Money& low = At(Table.BankrollLow, place + scope);
+    high = std::max(high, bankroll);
+    low = std::min(low, bankroll);
+  }
 }
 
 std::string StickPosition(int place) {

@@ -188,6 +188,10 @@ inline Money Bet(int place, int number) {
   return At(At(Table.BetAmount, place), number);
 }
 
+inline bool HasLineBet(int place) {
+  return Bet(place, bet::PassLine) > Money() || Bet(place, bet::DontPass) > Money();
+}
+
 // Whether anybody has the bet.
 inline bool AnyHolds(int number) {
   return At(Table.Holders, number) != 0;
@@ -201,6 +205,15 @@ inline Money BankrollOf(int place) {
 inline void SetBankrollSlots(int place, Money amount) {
   for (const Scope scope : CountedScopes)
     At(Table.Bankroll, place + scope) = amount;
+}
+
+// Moves the high and low of the counted scopes to the bankroll.
+void MoveHighAndLow(int place);
+
+// A bankroll begins at `amount` in a slot, which so far is its high and low.
+inline void BeginBankroll(int slot, Money amount) {
+  At(Table.BankrollBegin, slot) = At(Table.BankrollHigh, slot) = At(Table.BankrollLow, slot) =
+      amount;
 }
 
 // "3-left" or "1-right": where a place stands from the stick.

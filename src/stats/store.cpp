@@ -185,12 +185,6 @@ void CopyBankrolls(size_t from, size_t to) {
   Table.BankrollLow[to] = Table.BankrollLow[from];
 }
 
-// A scope begins: the bankroll as it stands is its beginning, high and low.
-void StartBankrolls(size_t slot) {
-  Table.BankrollBegin[slot] = Table.BankrollHigh[slot] = Table.BankrollLow[slot] =
-      Table.Bankroll[slot];
-}
-
 // Moves an array of counters, which leaves zeros. Element by element, since hands are short: whole
 // arrays of this size would be moved by string instructions, which are slow to start.
 template <class Counters>
@@ -211,7 +205,7 @@ void CopyHandOf(int place) {
   const auto to = static_cast<size_t>(LastHand + place);
   MoveCounts(from, to);
   CopyBankrolls(from, to);
-  StartBankrolls(from);
+  BeginBankroll(CurrentHand + place, BankrollOf(place));
   NumberSet& now = At(Stats.HandBets, place);
   NumberSet& before = At(Stats.LastHandBets, place);
   before |= now;
@@ -290,14 +284,8 @@ void RecordBetResult(int place, int number, Money amount, Money result) {
 
 void RecordBankrolls() {
   ForEachPlayer([](int place) {
-    const Money bankroll = BankrollOf(place);
-    for (const Scope scope : CountedScopes) {
-      Money& high = At(Table.BankrollHigh, place + scope);
-      Money& low = At(Table.BankrollLow, place + scope);
-      high = std::max(high, bankroll);
-      low = std::min(low, bankroll);
-    }
-    Trapped("RecordBankrolls", [&] { At(Table.BankrollSum, place) += bankroll; });
+    MoveHighAndLow(place);
+    Trapped("RecordBankrolls", [place] { At(Table.BankrollSum, place) += BankrollOf(place); });
   });
 }
 

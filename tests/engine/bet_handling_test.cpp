@@ -141,6 +141,43 @@ TEST_F(BetHandling, WhatCannotStayComesDownWhateverTheChoice) {
   EXPECT_EQ(Bet(1, bet::PassLine), 20);
 }
 
+TEST_F(BetHandling, WhatCannotStayComesDownWhateverIsAnswered) {
+  Settings.AllowPutBets = 0;
+  const struct {
+    int box, number;
+    int die1, die2;
+  } cases[] = {{bet::DontCome, bet::DontCome4, 3, 4}, {bet::Come, bet::Come4, 2, 2}};
+  for (const auto& each : cases) {
+    for (const int button : {1, 2, 3, 4, 5, 6}) {
+      Table = TableState{};
+      SetUp();
+      Settings.AllowPutBets = 0;
+      Throw(4, 2);
+      Ask(each.box, 10);
+      Throw(3, 1);
+      ASSERT_EQ(Bet(1, each.number), 10);
+      SettlePrompt answer;
+      answer.button = button;
+      answer.modify = {7, 0, 0};
+      Talk.answers = {answer};
+      Throw(each.die1, each.die2);
+      EXPECT_EQ(Bet(1, each.number), 0) << each.number << " button " << button;
+      EXPECT_EQ(Talk.shown.size(), 1u);
+      EXPECT_EQ(RowOfSlot(1, PromptWinModify).amount, 7);
+    }
+  }
+}
+
+TEST_F(BetHandling, BetsLeftOrPressedAreDrawnAgain) {
+  static std::vector<int> drawn;
+  Table.HandleWinningBets[1] = WinPressDouble;
+  Ask(bet::Field, 10);
+  drawn.clear();
+  FrontEnd.DrawBet = [](int, int number) { drawn.push_back(number); };
+  Throw(4, 5);
+  EXPECT_EQ(drawn, std::vector<int>{bet::Field});
+}
+
 TEST_F(BetHandling, RemainderOfAPartialLossGoesBackUp) {
   Table.HandleLosingBets[1] = LossRemainder;
   Payoffs.Payoff[bet::Craps].PayNum = Money::FromRaw(5000);  // half to one
@@ -196,9 +233,11 @@ TEST_F(BetHandling, PromptRowsOfEachKind) {
       {bet::Place6, 5, 3, 3, "Ann/Won|Place 6$5|Payoff at 7 to 6:$5.8333|Net payoff (rounded): $5"},
       {bet::Horn, 4, 2, 3, "Lost/Ann|Horn$4|Loss at 1 to 1$4|Net loss: $4|Remainder: $0"},
       {bet::Field, 10, 2, 3, "Lost/Ann|Field$10|Loss at 1 to 1$10|Net loss: $10"},
+      {bet::Fire, 5, 3, 4, "Lost/Ann|Fire$5|Loss at 1 to 1$5|Net loss: $5"},
   };
   for (const auto& each : cases) {
     SetUp();
+    if (each.number == bet::Fire) Ask(each.number, each.amount);
     Throw(5, 4);
     Ask(each.number, each.amount);
     Throw(each.die1, each.die2);
@@ -219,6 +258,33 @@ TEST_F(BetHandling, OddsThatWereOffAreAskedFor) {
   EXPECT_EQ(Rows(Talk.shown[1]), "Ann/|Come 4 Odds$10|wasn't working!");
   EXPECT_EQ(Bet(1, bet::Come4Odds), 0);
   EXPECT_EQ(BankrollOf(1), 990);
+}
+
+TEST_F(BetHandling, LineOddsThatWereCalledOffAreTold) {
+  Ask(bet::PassLine, 10);
+  Throw(4, 2);
+  Ask(bet::PassLineOdds, 20);
+  CallBet(1, bet::PassLineOdds, CallOff);
+  SettlePrompt same;
+  same.button = 1;
+  Talk.answers = {same, same};
+  Throw(3, 3);
+  ASSERT_EQ(Talk.shown.size(), 2u);
+  EXPECT_EQ(Rows(Talk.shown[1]), "Ann/|Pass Line Odds$20|wasn't working!");
+  EXPECT_EQ(Bet(1, bet::PassLineOdds), 0);
+  EXPECT_EQ(Bet(1, bet::PassLine), 10);
+}
+
+TEST_F(BetHandling, ComingDownBehindATravellingBetIsHeardOnlyOfBetsThatStand) {
+  static int sounds;
+  Table.AutoDownPlaceBets[1] = -1;
+  Ask(bet::PassLine, 10);
+  Ask(bet::Place6, 12);
+  sounds = 0;
+  FrontEnd.PlaySound = [](Sound sound) { sounds += sound == Sound::Check; };
+  Throw(4, 2);
+  EXPECT_EQ(Bet(1, bet::Place6), 0);
+  EXPECT_EQ(sounds, 1);
 }
 
 }  // namespace

@@ -509,6 +509,15 @@ TEST_F(Bets, LineTravelledAndHandBetsCannotBeCalled) {
   }
 }
 
+TEST_F(Bets, NumbersThatAreNoBetAreNeitherCalledNorBought) {
+  for (const int number : {-7, 0, 94, 100, 105, 199, 200, 1000}) {
+    CallBet(Ann, number, CallOff);
+    BuyPlaceBet(Ann, number);
+    EXPECT_EQ(Said(), "") << number;
+  }
+  EXPECT_EQ(Table.BetWorking[Ann][0], NotWorking);
+}
+
 TEST_F(Bets, CallingBackReturnsToTheNormalState) {
   struct CallCase {
     int Point;

@@ -75,7 +75,7 @@ TEST_F(Rail, ANewPlayerIsAskedForNameAndBuyIn) {
   ASSERT_EQ(Talk.shown.size(), 7u);
   EXPECT_EQ(Talk.shown[0], "Add New Player: Would you like to add a player here?");
   EXPECT_EQ(Talk.shown[2],
-            "Add New Player: There's already a player named bob.\r\rWhat's the new player's name?");
+            "Add New Player: There's already a player named bob\r\rWhat's the new player's name?");
   EXPECT_EQ(Talk.shown[5],
             "Add New Player: The maximum player bankroll is $9,999,999\r\r"
             "How much would Ann like to buy-in for?");
@@ -170,6 +170,59 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   EXPECT_EQ(ViewSelections.CSPlayer, 8);
 }
 
+TEST_F(Rail, CallsOfAMoverAreNotNewsTwice) {
+  SeatPlayer(8, "Ann", 1000);
+  Throw(4, 5);
+  EXPECT_TRUE(MovePlayer(8, 3));
+  Throw(1, 2);
+  Ask(3, bet::Place6, 12);
+  CallBet(3, bet::Place6, CallOff);
+  EXPECT_TRUE(MovePlayer(3, 8));
+  Throw(1, 2);
+  EXPECT_EQ(Table.BetWorkingBefore[8][bet::Place6], CalledOff);
+}
+
+TEST_F(Rail, ABrokenLimitOutlivesThePlayerWhoBrokeIt) {
+  SeatPlayer(3, "Ann", BankrollLimit);
+  SeatPlayer(4, "Bob", 100);
+  Ask(3, bet::Field, 10);
+  Throw(4, 5);
+  EXPECT_EQ(Table.BankrollStopPlace, 3);
+  const int32_t rolls = RollsInSession();
+  EXPECT_TRUE(DeletePlayer(3, false));
+  Throw(4, 5);
+  EXPECT_EQ(RollsInSession(), rolls);
+  EXPECT_EQ(Talk.shown.back(), ": Select \"New\" from the \"Game\" menu to reset the table.");
+  NewSession({});
+  Throw(4, 5);
+  EXPECT_EQ(RollsInSession(), 1);
+}
+
+TEST_F(Rail, DiceNoteTellsWhoseHandItIs) {
+  SeatPlayer(3, "Ann", 1000);
+  SeatPlayer(2, "Bob", 1000);
+  const auto note = [] {
+    Talk.shown.clear();
+    ShowPassedDiceNote();
+    return Talk.shown.empty() ? "" : Talk.shown[0];
+  };
+  const std::string credited =
+      "Pass the Dice: The dice were passed during the current hand.\r\rAlthough Bob is presently "
+      "shooting the dice, the current hand is being credited to ";
+  Throw(4, 5);
+  EXPECT_EQ(note(), "");
+  PassDice(PlayerAsked);
+  EXPECT_EQ(note(), credited + "Ann who started the hand.");
+  EXPECT_TRUE(DeletePlayer(3, false));
+  EXPECT_EQ(note(),
+            credited + "another player who started the hand but is no longer at the table.");
+  Throw(3, 4);
+  EXPECT_EQ(note(),
+            "Pass the Dice: The last hand was shot by a player who is no longer at the table.");
+  Throw(4, 5);
+  EXPECT_EQ(note(), "");
+}
+
 TEST_F(Rail, AtmKeepsToItsLimits) {
   const std::string cut = "The full amount of this transaction was not allowed because ";
   const struct {
@@ -188,12 +241,12 @@ TEST_F(Rail, AtmKeepsToItsLimits) {
       {true, 100, 0, 200, 0, 100,
        "ATM Deposit: Requested amount:  $200\rAllowed amount:  $100\r\r" + cut +
            "Ann's bankroll would've become negative.\r\rYou can deposit more by checking the box "
-           "marked, \"Allow negative bankroll\" on the Configuration screen."},
+           "marked, \"Allow negative bankroll\" on the Configuration screen"},
       {true, 100, 0, 200, -1, 200, ""},
       {true, -9'999'000, 0, 1000, -1, 999,
        "ATM Deposit: Requested amount:  $1,000\rAllowed amount:  $999\r\r" + cut +
            "it would've caused Ann's bankroll to drop below the negative bank limit of "
-           "$-9,999,999"},
+           "$9,999,999"},
       {false, 9'999'900, 0, 100, 0, 99,
        "ATM Withdrawal: Requested amount:  $100\rAllowed amount:  $99\r\r" + cut +
            "it would've caused Ann's bankroll to exceed the max bank limit of $9,999,999"},

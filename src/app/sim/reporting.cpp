@@ -1,6 +1,7 @@
 #include "app/sim/reporting.h"
 
 #include "app/sim/console.h"
+#include "base/message.h"
 #include "config/advantage.h"
 #include "engine/table.h"
 #include "stats/comps.h"
