@@ -10,7 +10,8 @@ namespace {
 std::string NetPercent(double net, double resolved) {
   if (!(resolved > 0)) return std::string(NotAvailable);
   const double share = net / resolved;
-  return FormatNumber(share, share == 1 ? "0%" : "#,0.0#%;-#,#%;0%");
+  const bool all = share == 1 || share == -1;
+  return FormatNumber(share, all ? "0%;-0%" : "#,0.0#%;-#,0.0#%;0%");
 }
 
 }  // namespace

@@ -51,10 +51,6 @@ TEST_F(BetViews, ColumnsOfBetsAndTheirSum) {
   EXPECT_EQ(Text(all.Totals), "3|1500.25|3|1500.25|1|2000|2|500.25|1499.75|99.97%|-75.0125");
   EXPECT_EQ(Text(BetResults(LastHand, WholeTable, Bets({bet::Field}), expected).Totals),
             "0|0|0|0|0|0|0|0|0|---|0");
-  RecordBetResult(4, bet::Place8, 24, 2);
-  RecordBetResult(4, bet::Place8, 10, -10);
-  EXPECT_EQ(Text(BetResults(CurrentSession, WholeTable, Bets({bet::Place8}), expected).Totals),
-            "2|34|2|34|1|2|1|10|-8|-24%|0");
 }
 
 TEST_F(BetViews, EmptySelectionsShowWhatIsMissing) {
