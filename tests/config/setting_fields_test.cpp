@@ -181,5 +181,15 @@ TEST_F(SettingFieldRows, FullOddsAreTakenAtOnce) {
   EXPECT_EQ(Bet(1, bet::PassLineOdds), Money(50));
 }
 
+TEST_F(SettingFieldRows, PlaceBetsUnderLineAndComeBetsComeDownAtOnce) {
+  Seat(1, "Ann", 1000);
+  Table.Point = 6;
+  for (const int number : {bet::PassLine, bet::Come4, bet::Place4, bet::Place6, bet::Place8})
+    PutDown(1, number, 12);
+  EXPECT_EQ(SetField("AutoDownPlaceBets", 1, "1"), std::nullopt);
+  EXPECT_EQ(Bet(1, bet::Place4) + Bet(1, bet::Place6), Money());
+  EXPECT_EQ(Bet(1, bet::Place8), Money(12));
+}
+
 }  // namespace
 }  // namespace tessarel
