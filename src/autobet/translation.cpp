@@ -47,8 +47,19 @@ void Blank(std::string& text, size_t at, size_t length) {
   std::fill_n(text.begin() + static_cast<std::ptrdiff_t>(at), length, ' ');
 }
 
+// Like find; lines are full of blanks, so it is the first letter behind one that is looked for.
+size_t FindPhrase(std::string_view text, std::string_view phrase, size_t from = 0) {
+  if (!phrase.starts_with(' ')) return text.find(phrase, from);
+  const std::string_view body = phrase.substr(1);
+  size_t at = text.find(body, from + 1);
+  while (at != std::string_view::npos && text[at - 1] != ' ')
+    at = text.find(body, at + 1);
+  return at == std::string_view::npos ? at : at - 1;
+}
+
 void BlankAll(std::string& text, std::string_view phrase) {
-  for (size_t at = text.find(phrase); at != std::string::npos; at = text.find(phrase, at)) {
+  for (size_t at = FindPhrase(text, phrase); at != std::string::npos;
+       at = FindPhrase(text, phrase, at)) {
     Blank(text, at, phrase.size());
   }
 }
@@ -127,8 +138,7 @@ void RemoveNoise(std::string& working) {
 // A text in the shadow, as a whole word if it stands there as one; npos when it is not there.
 size_t FindWord(std::string_view shadow, std::string_view word) {
   const auto isPart = [&](size_t at) {
-    constexpr std::string_view Marks = " :\"'";
-    return at < shadow.size() && Marks.find(shadow[at]) == std::string_view::npos;
+    return at < shadow.size() && shadow[at] != ' ' && shadow[at] != ':';
   };
   for (size_t at = shadow.find(word); at != std::string_view::npos;
        at = shadow.find(word, at + 1)) {
@@ -344,11 +354,11 @@ std::optional<ScriptError> TranslateScript(int slot,
 }
 
 bool ReplaceAll(std::string& text, std::string_view from, std::string_view to) {
-  size_t found = text.find(from);
+  size_t found = FindPhrase(text, from);
   if (found == std::string::npos) return false;
   std::string done;
   size_t read = 0;  // what stands in front of it in `text` is in `done`
-  for (; found != std::string::npos; found = text.find(from, read)) {
+  for (; found != std::string::npos; found = FindPhrase(text, from, read)) {
     done.append(text, read, found - read).append(to);
     read = found + from.size();
     // The next occurrence may begin in the replacement or just in front of it: back these go, into
