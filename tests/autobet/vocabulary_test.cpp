@@ -1,0 +1,103 @@
+#include "autobet/vocabulary.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <regex>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "autobet/normalise.h"
+#include "autobet/token_names.h"
+#include "autobet/translation.h"
+#include "base/single_byte_text.h"
+
+namespace tessarel {
+namespace {
+
+// What a text has become when the first `count` rows have passed over it.
+std::string AfterRows(std::string text, int count) {
+  for (int row = 0; row < count; ++row) {
+    const Phrase& phrase = PhraseTable[static_cast<size_t>(row)];
+    ReplaceAll(text, phrase.From.View(), phrase.To.View());
+    ReplaceAll(text, "  ", " ");
+  }
+  return text;
+}
+
+TEST(Vocabulary, HasEachPhraseOnceButForTheNumberWordTwo) {
+  std::map<std::string, int> uses;
+  for (const Phrase& phrase : PhraseTable)
+    ++uses[std::string(phrase.From.View())];
+  for (const auto& [from, count] : uses) {
+    EXPECT_FALSE(TrimSpaces(from).empty());
+    EXPECT_EQ(count, from == " two " ? 2 : 1) << from;
+  }
+}
+
+// Replacing goes on until the phrase is gone, so it must not come back by itself.
+TEST(Vocabulary, NoPhraseBringsItselfBack) {
+  for (const Phrase& phrase : PhraseTable) {
+    const std::string from(phrase.From.View()), to(phrase.To.View());
+    EXPECT_EQ(to.find(from), std::string::npos) << from;
+    EXPECT_TRUE(to.starts_with(' ')) << from;
+  }
+}
+
+// A phrase becomes words that tokens are made of, or other words that a row below looks for.
+TEST(Vocabulary, EveryPhraseEndsInTokens) {
+  const std::regex tokens("( ([FVPHXYAI]\\d+\\.?|L\\d{3}|S-?\\d+|EX1|-?\\d*\\.?\\d+))+ ");
+  for (auto row = PhraseTable.begin(); row != PhraseTable.end(); ++row) {
+    const std::string to(row->To.View());
+    const bool usedBelow = std::any_of(row + 1, PhraseTable.end(), [&](const Phrase& below) {
+      return below.From.View().find(to) != std::string_view::npos;
+    });
+    EXPECT_TRUE(std::regex_match(to, tokens) || usedBelow) << row->From.View() << " to " << to;
+  }
+}
+
+// These rows never see what they look for, since another one or the tidy form of lines takes it.
+TEST(Vocabulary, KnowsWhichRowsNoTextCanReach) {
+  std::vector<std::string> unreachable;
+  for (int row = 0; row < PhraseCount; ++row) {
+    const std::string from(PhraseTable[static_cast<size_t>(row)].From.View());
+    const bool typed =
+        std::none_of(from.begin(), from.end(), [](char c) { return std::isupper(c); });
+    std::string text = from;
+    if (typed) NormaliseLine(text);
+    text = AfterRows(" " + text + " ", row);
+    if (text.find(from) == std::string::npos) unreachable.push_back(from);
+  }
+  EXPECT_EQ(unreachable, (std::vector<std::string>{" dice combination ", " two ", " go to "}));
+}
+
+TEST(Vocabulary, NamesEveryFunctionThatItCanMake) {
+  for (const Phrase& phrase : PhraseTable) {
+    const std::string to(phrase.To.View());
+    if (!to.starts_with(" F")) continue;
+    EXPECT_NE(FunctionName(std::stoi(to.substr(2))), "") << to;
+  }
+}
+
+TEST(Vocabulary, WordsMessagesWithNamesInQuotes) {
+  EXPECT_EQ(FunctionName(44), "\"% misses\"");
+  EXPECT_EQ(FunctionName(24), "");
+  const std::pair<int, std::string> variables[] = {
+      {43, "\"Pass Line\""},
+      {94, "\"Variable\""},
+      {107, "\"Checkstack7\""},
+      {899, "\"Checkstackname99\""},
+      {4011, "\"inside dont come bets\""},
+      {5708, "\"Seven out\""},
+      {5709, "\"Variable\""},
+      {-1, "\"Variable\""},
+  };
+  for (const auto& [number, name] : variables)
+    EXPECT_EQ(VariableName(number), name);
+}
+
+}  // namespace
+}  // namespace tessarel
