@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "autobet/player_name.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
@@ -34,9 +35,13 @@ std::string AskName(const std::string& question, const std::string& title, int p
   while (AskForText(text, title, offered)) {
     const std::string name(TrimSpaces(Message.MsgInput));
     if (name.empty() || (place != 0 && name == offered)) return "";
-    const std::optional<std::string> refusal = PlayerNameRefusal(name, place);
-    if (!refusal) return name;
-    text = *refusal + "\r\r" + question;
+    if (const auto taken = NameRefusal(name, place)) {
+      text = *taken + "\r\r" + question;
+    } else if (const auto reserved = PlayerNameRefusal(name)) {
+      text = *reserved + question;
+    } else {
+      return name;
+    }
   }
   return "";
 }
@@ -120,7 +125,7 @@ void Follow(int32_t& place, int from, int to) {
 
 }  // namespace
 
-std::optional<std::string> PlayerNameRefusal(const std::string& name, int place) {
+std::optional<std::string> NameRefusal(const std::string& name, int place) {
   for (int other = 1; other <= LastPlace; ++other) {
     if (other != place && IsTaken(Table, other) &&
         EqualIgnoringCase(At(Table.PlayerName, other), name)) {

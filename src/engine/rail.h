@@ -9,8 +9,9 @@
 
 namespace tessarel {
 
-// Why a name cannot be given to the player of `place` (0: a new one); empty when it can.
-std::optional<std::string> PlayerNameRefusal(const std::string& name, int place);
+// Why a name cannot be given to the player of `place` (0: a new one): it is somebody's already, or
+// all digits. Empty when it can. What players type is held against the words of scripts as well.
+std::optional<std::string> NameRefusal(const std::string& name, int place);
 
 // Asks whether somebody joins at an open place, for the name and for the buy-in, and seats him.
 // Returns whether somebody joined.

@@ -67,16 +67,19 @@ class Rail : public testing::Test {
 
 TEST_F(Rail, ANewPlayerIsAskedForNameAndBuyIn) {
   SeatPlayer(2, "Bob", 500);
-  Talk.answers = {"yes", "bob", "123", " Ann ", "10000000", "-9999999.5", "750.25"};
+  Talk.answers = {"yes", "bob", "123", "Bankroll", " Ann ", "10000000", "-9999999.5", "750.25"};
   EXPECT_TRUE(AddPlayer(1));
   EXPECT_EQ(Table.PlayerName[1], "Ann");
   EXPECT_EQ(BankrollOf(1), Money::FromRaw(7502500));
   EXPECT_EQ(Table.Shooter, 2);
-  ASSERT_EQ(Talk.shown.size(), 7u);
+  ASSERT_EQ(Talk.shown.size(), 8u);
   EXPECT_EQ(Talk.shown[0], "Add New Player: Would you like to add a player here?");
   EXPECT_EQ(Talk.shown[2],
             "Add New Player: There's already a player named bob\r\rWhat's the new player's name?");
-  EXPECT_EQ(Talk.shown[5],
+  EXPECT_EQ(Talk.shown[4],
+            "Add New Player: \"Bankroll\" contains a word, phrase, or symbol used in auto-betting "
+            "and therefore can't be used as a player's name.\r\rWhat's the new player's name?");
+  EXPECT_EQ(Talk.shown[6],
             "Add New Player: The maximum player bankroll is $9,999,999\r\r"
             "How much would Ann like to buy-in for?");
 }

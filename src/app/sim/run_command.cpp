@@ -56,7 +56,7 @@ SessionInPlay Session;
 
 void CheckName(const std::string& name) {
   if (name.empty()) throw Failure(CannotBeDone, "A player needs a name.");
-  if (const auto refusal = PlayerNameRefusal(name, 0)) {
+  if (const auto refusal = NameRefusal(name, 0)) {
     throw Failure(CannotBeDone, *refusal + (refusal->ends_with('.') ? "" : "."));
   }
 }
