@@ -52,8 +52,9 @@ size_t FindPhrase(std::string_view text, std::string_view phrase, size_t from = 
   if (!phrase.starts_with(' ')) return text.find(phrase, from);
   const std::string_view body = phrase.substr(1);
   size_t at = text.find(body, from + 1);
-  while (at != std::string_view::npos && text[at - 1] != ' ')
+  while (at != std::string_view::npos && text[at - 1] != ' ') {
     at = text.find(body, at + 1);
+  }
   return at == std::string_view::npos ? at : at - 1;
 }
 
