@@ -231,10 +231,12 @@ void CountRoll(const RollCodeList& codes) {
   } else {
     CountCodes<1>({0}, codes);
   }
-  for (const Scope scope : CountedScopes) {
-    ++At(Stats.Hands, scope).RollTotal;
-    ForEachPlayer([scope](int place) { ++At(Stats.Hands, scope + place).RollTotal; });
-  }
+  const auto countTime = [](int place) {
+    for (const Scope scope : CountedScopes)
+      ++At(Stats.Hands, scope + place).RollTotal;
+  };
+  countTime(0);
+  ForEachPlayer(countTime);
   RaiseAll(&HandFigures::MostRolls, RollsInHand());
 }
 
