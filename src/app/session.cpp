@@ -21,6 +21,7 @@
 #include "engine/roll_driver.h"
 #include "engine/settlement.h"
 #include "engine/table.h"
+#include "engine/unattended.h"
 #include "files/event_lines.h"
 #include "files/events_log.h"
 #include "stats/bankroll_graph.h"
@@ -197,6 +198,15 @@ void StartUp(const std::string& appFolder) {
     NewSession({});
     WarnOfMissingFiles();
   });
+}
+
+bool AskToLeave() {
+  const bool hyper = Table.HyperDriveOn != 0;
+  if (!hyper && Table.AutoRollOn == 0) return true;
+  const std::string title(GetText(hyper ? 114 : 117)), question(GetText(hyper ? 118 : 119));
+  if (ShowMessage(question, title, msg::AskYesDefault) != AnswerYes) return false;
+  StopUnattended();
+  return true;
 }
 
 void ShutDown() {

@@ -25,6 +25,10 @@ void NewSession(const SessionOptions& options);
 // support files. Nothing is read from disk.
 void StartUp(const std::string& appFolder);
 
+// Before the program ends: asks whether an unattended run may be stopped, and stops it. Returns
+// false when the answer is no, with everything as it was.
+bool AskToLeave();
+
 // Closes what is open. What was recorded is on disk when it returns.
 void ShutDown();
 

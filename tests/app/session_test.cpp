@@ -334,6 +334,26 @@ TEST_F(Session, LogTellsHowTheSessionBegan) {
   EXPECT_EQ(LogText(), opening.substr(0, seedLine) + shooter);
 }
 
+TEST_F(Session, LeavingAsksToStopAnUnattendedRun) {
+  EXPECT_TRUE(AskToLeave());
+  EXPECT_TRUE(Shown.empty());
+  for (int32_t TableState::*run : {&TableState::HyperDriveOn, &TableState::AutoRollOn}) {
+    FrontEnd.ShowMessage = [] {
+      Shown.push_back(Message.MsgTitle + ": " + Message.MsgText);
+      Message.MsgResult = Shown.size() == 1 ? AnswerNo : AnswerYes;
+    };
+    Shown.clear();
+    Table.*run = -1;
+    EXPECT_FALSE(AskToLeave());
+    EXPECT_EQ(Table.*run, -1);
+    EXPECT_TRUE(AskToLeave());
+    EXPECT_EQ(Table.*run, 0);
+    EXPECT_EQ(Shown[0], run == &TableState::HyperDriveOn
+                            ? "Hyper-Drive Active: Do you want to stop the Hyper-Drive?"
+                            : "Auto-Roll Active: Do you want to stop auto-rolling?");
+  }
+}
+
 TEST_F(Session, StartsAlthoughItsLogCannotBeWritten) {
   PlayToPoint();
   EventsLog.LogOn = -1;
