@@ -317,6 +317,8 @@ SilentBets::~SilentBets() {
 void ChangeBet(int place, int number) {
   if (IsStack(number)) {
     ChangeStack(place, number);
+  } else if (number < 1 || number > LastBet) {
+    Table.BetDelta = Money();
   } else {
     Change(place, number).Run();
     if (Table.BetDelta != Money()) {

@@ -9,7 +9,7 @@
 namespace tessarel {
 
 // Changes a bet (1 to 93) or check stack (100 to 199) of a place by Table.Amount as far as the
-// rules allow; Table.BetDelta is the change made.
+// rules allow; Table.BetDelta is the change made. Nothing changes for other numbers.
 void ChangeBet(int place, int number);
 
 // ChangeBet, then what the table shows, then the odds that follow their flat bet.

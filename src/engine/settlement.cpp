@@ -159,6 +159,34 @@ void BookResult(int place, int number, Money amount) {
   SetBetContract(place, number, Money());
 }
 
+// No sounds and no rules on numbers while a box travels, whatever happens on the way.
+class Travelling {
+ public:
+  Travelling() : soundWas_(std::exchange(Settings.DisableAllSound, -1)) { Table.BetMoving = true; }
+  ~Travelling() {
+    Settings.DisableAllSound = soundWas_;
+    Table.BetMoving = false;
+  }
+  Travelling(const Travelling&) = delete;
+  Travelling& operator=(const Travelling&) = delete;
+
+ private:
+  int32_t soundWas_;
+};
+
+void Travel(int place, int from, int to, Money amount) {
+  Table.Amount = -amount;
+  ChangeBet(place, from);
+  SetBetContract(place, from, Money());
+  RedrawBet(place, from);
+  Table.Amount = amount;
+  PlaceBet(place, to);
+  SetBetContract(place, to, amount);
+  if (!InFamily(to, ComeFamily)) return;
+  At(Table.ComeOriginal, place)[static_cast<size_t>(to - bet::Come4)] = amount;
+  if (At(Table.AutoDownPlaceBets, place) != 0) RemovePlaceBets(place, PointOf(to));
+}
+
 // --- Which bets a roll touches ---------------------------------------------------------------
 
 // When a line of the tables below applies to the roll in Table.
@@ -577,21 +605,10 @@ void ResolveBet(int visit, int result, int number) {
 void MoveBet(int place, int from, int to) {
   const Money amount = Bet(place, from);
   if (amount == Money()) return;
-  const int32_t soundWas = std::exchange(Settings.DisableAllSound, -1);
-  Table.Amount = -amount;
-  ChangeBet(place, from);
-  SetBetContract(place, from, Money());
-  RedrawBet(place, from);
-  Table.BetMoving = true;
-  Table.Amount = amount;
-  PlaceBet(place, to);
-  Table.BetMoving = false;
-  SetBetContract(place, to, amount);
-  if (InFamily(to, ComeFamily)) {
-    At(Table.ComeOriginal, place)[static_cast<size_t>(to - bet::Come4)] = amount;
-    if (At(Table.AutoDownPlaceBets, place) != 0) RemovePlaceBets(place, PointOf(to));
+  {
+    const Travelling travelling;
+    Travel(place, from, to, amount);
   }
-  Settings.DisableAllSound = soundWas;
   LogBetMoved(place, from, to);
 }
 

@@ -193,6 +193,28 @@ TEST_F(BetHandling, ParlayOfAPushSetsTheLargestBet) {
   EXPECT_EQ(Bet(1, bet::World), 500);
 }
 
+TEST_F(BetHandling, FaultWhileABetTravelsLeavesSoundsAndRulesInForce) {
+  Settings.OddsCalcMethod = 4;
+  Table.AutoTakeFullOdds[1] = -1;
+  Payoffs.Payoff[bet::Come4Odds].PayDen = 0;
+  Throw(4, 2);
+  Ask(bet::Come, 10);
+  Throw(3, 1);
+  EXPECT_EQ(Talk.messages.back(), "Error: Division by zero, Error #11 occurred at: MakeRoll");
+  EXPECT_EQ(Bet(1, bet::Come4), 10);
+  EXPECT_EQ(Settings.DisableAllSound, 0);
+  EXPECT_FALSE(Table.BetMoving);
+}
+
+TEST_F(BetHandling, NumbersThatAreNoBetsTakeNoMoney) {
+  for (const int number : {0, 94, 99, 200}) {
+    Table.Amount = 10;
+    ChangeBet(1, number);
+    EXPECT_EQ(Table.BetDelta, 0) << number;
+  }
+  EXPECT_EQ(CheckTable(), "");
+}
+
 TEST_F(BetHandling, HyperDriveNeverAsks) {
   Ask(bet::Field, 10);
   Table.HyperDriveOn = -1;
