@@ -3,12 +3,15 @@
 // desktop program, tessarel-sim and the tests each fill in what they need.
 #pragma once
 
+#include <string>
+
 namespace tessarel {
 
 // The sounds the core asks for. A front end without sound leaves PlaySound alone.
 enum class Sound { Check, DiceThrown, Total, Doubles, ComeOut, FirstComeOut, LimitBroken };
 
 struct SettlePrompt;  // engine/settle_prompt.h
+struct ScriptStep;    // autobet/interpreter.h
 
 struct FrontEndCallbacks {
   // Shows the message that stands in the call block (base/message.h) and waits for its answer.
@@ -23,6 +26,9 @@ struct FrontEndCallbacks {
   void (*RefreshViews)() = [] {};
   void (*PlaySound)(Sound sound) = [](Sound) {};
   void (*AnimateDice)() = [] {};
+  void (*PlaySoundFile)(const std::string& path) = [](const std::string&) {};
+  // A step of a script that runs step by step: shows it and waits until the next one may run.
+  void (*ShowStep)(const ScriptStep& step) = [](const ScriptStep&) {};
 };
 
 extern constinit FrontEndCallbacks FrontEnd;

@@ -2,6 +2,7 @@
 // a place or move it as a whole. A new per-place field belongs into this list.
 #pragma once
 
+#include "autobet/script_store.h"
 #include "engine/table.h"
 #include "stats/store.h"
 
@@ -50,6 +51,12 @@ void ForEachPlaceField(Visit&& visit) {
   visit(Table.SessionLogName);
   visit(Table.CheckStackName);
   visit(Table.VisibleStack);
+  visit(Scripts.Places);
+  visit(Scripts.ScriptActive);
+  visit(Scripts.ScriptActiveAfterRoll);
+  visit(Scripts.AllowReset);
+  visit(Scripts.AllowAct4Others);
+  visit(Scripts.AllowActProb);
   visit(Stats.HandBets);
   visit(Stats.LastHandBets);
 }

@@ -1,0 +1,11 @@
+#include "autobet/actions.h"
+
+namespace tessarel {
+
+void RunCommand(const ScriptCommand&) {}
+
+bool ScriptMessagesShown() {
+  return true;
+}
+
+}  // namespace tessarel

@@ -1,0 +1,13 @@
+#include "autobet/interpreter.h"
+
+namespace tessarel {
+
+void CheckScriptErrors() {}
+
+bool CompileHotKeyScript() {
+  return false;
+}
+
+void RunAutoBet() {}
+
+}  // namespace tessarel

@@ -1,0 +1,9 @@
+#include "autobet/script_errors.h"
+
+namespace tessarel {
+
+std::string ScriptErrorText(int32_t) {
+  return {};
+}
+
+}  // namespace tessarel

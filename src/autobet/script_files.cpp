@@ -1,0 +1,1 @@
+#include "autobet/script_files.h"

@@ -1,0 +1,148 @@
+#include "autobet/values.h"
+
+#include <bit>
+#include <charconv>
+
+#include "autobet/number_text.h"
+#include "autobet/script_store.h"
+#include "base/clock.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+AutoBetState AutoBet;
+
+int SelectedBettor() {
+  if (AutoBet.BettorOnView > 0 && IsTaken(Table, AutoBet.BettorOnView)) return AutoBet.BettorOnView;
+  return Table.TakenPlaces != 0 ? std::countr_zero(Table.TakenPlaces) : 0;
+}
+
+int ResolvePlayer(int player) {
+  switch (player) {
+    case PlayerShooter:
+      return Table.Shooter;
+    case PlayerLastShooter:
+      return Table.LastShooter;
+    case PlayerOriginalShooter:
+      return Table.PreviousShooter;
+    case PlayerBettor:
+      return SelectedBettor();
+    case PlayerAutoBettor:
+      return AutoBet.CurrentScriptPlayer;
+    default:
+      return player >= 0 && player <= LastPlace ? player : -1;
+  }
+}
+
+void FailScript(int32_t error) {
+  if (AutoBet.ScriptError == 0) AutoBet.ScriptError = error;
+}
+
+bool MayActFor(int place) {
+  if (place < 1 || place > LastPlace || !IsTaken(Table, place)) {
+    FailScript(851);
+    return false;
+  }
+  const int owner = AutoBet.CurrentScriptPlayer;
+  if (place == owner || At(Scripts.AllowAct4Others, owner) != 0) return true;
+  FailScript(852);
+  return false;
+}
+
+namespace {
+
+std::string TextOfSpecial(int32_t value) {
+  switch (value) {
+    case DateString:
+      return DateText(Now());
+    case TimeString:
+      return TimeText(Now());
+    case InputPromptString:
+      return "Please enter a value";
+    case InputTextPromptString:
+      return "Please enter a string";
+    default:
+      break;
+  }
+  const int key = -value;
+  if (key > 900 && key <= 900 + LastPlace) return At(Table.PlayerName, key - 900);
+  const int place = key / 1000, stack = key % 1000 - 800;
+  if (place >= 1 && place <= LastPlace && stack >= 0 && stack < StackCount)
+    return At(At(Table.CheckStackName, place), stack);
+  return {};
+}
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+}  // namespace
+
+std::string TextOf(const ScriptValue& value) {
+  if (!IsText(value)) return NumberText(value.value);
+  const auto index = static_cast<int32_t>(value.value);
+  if (index <= 0) return TextOfSpecial(index);
+  return At(AutoBet.Strings, index).text;
+}
+
+double LeadingNumber(std::string_view text) {
+  std::string digits;
+  bool point = false;
+  for (const char c : text) {
+    if (c == ' ' || c == '\t' || c == '\r' || c == '\n') continue;
+    if (digits.empty() && (c == '-' || c == '+')) {
+      digits += c;
+    } else if (IsDigit(c)) {
+      digits += c;
+    } else if (c == '.' && !point) {
+      point = true;
+      digits += c;
+    } else {
+      break;
+    }
+  }
+  const bool plus = !digits.empty() && digits.front() == '+';
+  double number = 0;
+  std::from_chars(digits.data() + (plus ? 1 : 0), digits.data() + digits.size(), number,
+                  std::chars_format::fixed);
+  return number;
+}
+
+double NumberOf(const ScriptValue& value) {
+  return IsText(value) ? LeadingNumber(TextOf(value)) : value.value;
+}
+
+ScriptValue MakeText(std::string text) {
+  if (text.empty()) return {StringToken, EmptyString};
+  AutoBet.Strings.push_back({std::move(text), 0});
+  return {StringToken, static_cast<double>(AutoBet.Strings.size() - 1)};
+}
+
+namespace {
+
+template <class Side>
+bool Compare(const Side& a, int32_t op, const Side& b) {
+  switch (op) {
+    case LogicEqual:
+      return a == b;
+    case LogicNotEqual:
+      return a != b;
+    case LogicLess:
+      return a < b;
+    case LogicGreater:
+      return a > b;
+    case LogicLessOrEqual:
+      return a <= b;
+    default:
+      return a >= b;
+  }
+}
+
+}  // namespace
+
+bool CompareValues(const ScriptValue& a, int32_t op, const ScriptValue& b) {
+  if (IsText(a)) return Compare(TextOf(a), op, TextOf(b));
+  return Compare(a.value, op, NumberOf(b));
+}
+
+}  // namespace tessarel

@@ -1,0 +1,129 @@
+// What scripts calculate with at run time: numbers and texts as tokens, references to variables,
+// and the state of the cycle that runs. The interpreter owns the cycle; the readers and writers of
+// variables, the functions and the actions all work on what stands here.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "autobet/translation.h"
+#include "autobet/vocabulary.h"
+
+namespace tessarel {
+
+// A value is a token: a number (NumberToken) or a text (StringToken with a StringValue or an index
+// of AutoBet.Strings). Values are small and are copied.
+using ScriptValue = ScriptToken;
+
+inline constexpr double TrueValue = -1, FalseValue = 0;
+
+constexpr ScriptValue Number(double value) {
+  return {NumberToken, value};
+}
+constexpr ScriptValue Truth(bool truth) {
+  return {NumberToken, truth ? TrueValue : FalseValue};
+}
+constexpr bool IsText(const ScriptValue& value) {
+  return value.code == StringToken;
+}
+
+// The values of a text that is no index of the strings.
+enum StringValue : int32_t {
+  EmptyString = 0,
+  DateString = -1,
+  TimeString = -2,
+  InputPromptString = -10,
+  InputTextPromptString = -11,
+  FromRollString = -15,     // empty: marks the words "from roll"
+  PlayerNameString = -900,  // less the place
+};
+// The name of a check stack (0 to 99) of a place.
+constexpr ScriptValue StackNameValue(int place, int stack) {
+  return {StringToken, -(place * 1000.0 + 800 + stack)};
+}
+
+// A variable with its qualifiers as they are written: a bet, a check stack, a statistic. What a
+// number has no use for is 0.
+struct Reference {
+  int32_t number = 0;  // 1 to 93 bets, 100 to 199 and 800 to 899 check stacks, ...
+  int8_t player = 0;   // a PlayerWord or place; ResolvePlayer tells the place
+  int8_t hand = 0;     // HandScope
+  int8_t first = 0;    // FirstModifier
+  int8_t second = 0;   // SecondModifier
+  bool operator==(const Reference&) const = default;
+};
+
+// An element of a list or an argument of a function: a member, or a qualifier that the members
+// behind it have to pass.
+struct ListItem {
+  int32_t qualifier = 0;  // 0 a member, else LogicEqual to LogicGreaterOrEqual
+  ScriptValue value;
+};
+
+struct AutoBetState {
+  // The strings of the compiled scripts, and behind them those made in this cycle; from 1.
+  std::vector<ScriptString> Strings = std::vector<ScriptString>(1);
+
+  int32_t ScriptRunning = 0;        // -1 in a cycle; set to 0, the cycle stops
+  int32_t CurrentScriptPlayer = 0;  // whose script runs
+  int32_t Initializing = 0;         // the cycle is one before the first roll
+  int32_t NewSessionBegins = 0;     // the cycle is the first of a session
+  int32_t HotKeyRun = 0;
+  int32_t TableWasReset = 0;  // a statement has started a new session
+  int32_t ShowSteps = 0;
+  int32_t ScriptError = 0;   // of the running statement; 0 none
+  std::string FaultText;     // of error 10000
+  int32_t Answer = 0;        // to the last question of any script: 6 yes, 7 no
+  int32_t BettorOnView = 0;  // the place a window has selected; 0 without a window
+};
+
+extern AutoBetState AutoBet;
+
+// The place of the selected bettor: the one on view, else the first seated player, else 0.
+int SelectedBettor();
+
+// The place a player qualifier stands for now: 0 the house, 1 to 8; -1 for nobody.
+int ResolvePlayer(int player);
+
+// Whether the running script may act for a place: sets error 851 for an open place and 852 for
+// another player's without the right.
+bool MayActFor(int place);
+
+// The running statement ends with this error, unless it has one already.
+void FailScript(int32_t error);
+
+// The text of a text value; a number's text form.
+std::string TextOf(const ScriptValue& value);
+
+// The number of a value; a text is read up to its first character that is not part of a number,
+// blanks skipped, 0 without one.
+double NumberOf(const ScriptValue& value);
+double LeadingNumber(std::string_view text);
+
+// A text made at run time; it lives until the cycle ends.
+ScriptValue MakeText(std::string text);
+
+// a op b, op LogicEqual to LogicGreaterOrEqual: as numbers if a is a number, else as texts byte by
+// byte.
+bool CompareValues(const ScriptValue& a, int32_t op, const ScriptValue& b);
+
+// Calls visit(value) for each member that passes the qualifier in force, in order, until visit
+// returns false.
+template <class Visit>
+void ForEachMember(std::span<const ListItem> items, Visit&& visit) {
+  const ListItem* qualifier = nullptr;
+  for (const ListItem& item : items) {
+    if (item.qualifier != 0) {
+      qualifier = &item;
+      continue;
+    }
+    if (qualifier != nullptr && !CompareValues(item.value, qualifier->qualifier, qualifier->value))
+      continue;
+    if (!visit(item.value)) return;
+  }
+}
+
+}  // namespace tessarel
