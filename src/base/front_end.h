@@ -27,8 +27,13 @@ struct FrontEndCallbacks {
   void (*PlaySound)(Sound sound) = [](Sound) {};
   void (*AnimateDice)() = [] {};
   void (*PlaySoundFile)(const std::string& path) = [](const std::string&) {};
+  // A statement of a script in place `place` has ended with a run-time error.
+  void (*ReportScriptError)(int place, int line, const std::string& text) =
+      [](int, int, const std::string&) {};
   // A step of a script that runs step by step: shows it and waits until the next one may run.
   void (*ShowStep)(const ScriptStep& step) = [](const ScriptStep&) {};
+  // How long a status text has to stay readable; nobody looks at it by default.
+  int StatusMilliseconds = 0;
 };
 
 extern constinit FrontEndCallbacks FrontEnd;
