@@ -1,15 +1,14 @@
 #include "autobet/actions.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "autobet/file_actions.h"
 #include "autobet/script_messages.h"
 #include "autobet/script_store.h"
 #include "autobet/variables.h"
-#include "base/fault.h"
 #include "base/message.h"
 #include "config/settings.h"
 #include "dice/generators.h"
@@ -123,7 +122,7 @@ void UseAtm(const ScriptCommand& command) {
   const int place = AutoBet.CurrentScriptPlayer;
   if (!HasValue(command) || !MayActFor(place)) return;
   // More than this moves no more than this, from one end of the limits to the other.
-  constexpr double Most = 2.0 * 9'999'999;
+  constexpr double Most = (BankrollLimit + BankrollLimit).ToDouble();
   const double amount = NumberOf(command.arguments[0]);
   if (amount > 0) {
     ATM(place, command.action == AtmDeposit, Money::FromDouble(std::min(amount, Most)), false);

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <string_view>
-#include <utility>
 
 #include "autobet/number_text.h"
 #include "base/single_byte_text.h"

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "autobet/script_store.h"
@@ -68,13 +70,8 @@ class Actions : public RulesTest {
 TEST_F(Actions, NeedTheirRights) {
   Table.Shooter = Bea;
   const Reference hers = Of(Bea, Field), nobodys = Of(7, Field);
-  struct Case {
-    int32_t action, error;
-    std::vector<ScriptValue> arguments;
-    std::vector<Reference> targets;
-  };
   // clang-format off
-  const std::vector<Case> cases = {
+  const std::tuple<int, int, std::vector<ScriptValue>, std::vector<Reference>> cases[] = {
       {100, 853, {}, {}}, {103, 853, {}, {}}, {114, 854, {}, {}}, {213, 854, {}, {}},
       {118, 855, {}, {}}, {119, 856, {}, {}}, {310, 856, {}, {}},
       {481, 852, {Number(5)}, {hers}}, {481, 851, {Number(5)}, {nobodys}},
@@ -82,8 +79,8 @@ TEST_F(Actions, NeedTheirRights) {
       {453, 851, {}, {nobodys}}, {300, 852, {}, {Of(Ann, Field), hers}},
   };
   // clang-format on
-  for (const Case& c : cases)
-    EXPECT_EQ(Run(c.action, c.arguments, c.targets), c.error) << c.action;
+  for (const auto& [action, error, arguments, targets] : cases)
+    EXPECT_EQ(Run(action, arguments, targets), error) << action;
   EXPECT_EQ(Table.Shooter, Bea);
   Allow();
   EXPECT_EQ(Run(481, {Number(5)}, {hers}), 0);
@@ -96,26 +93,21 @@ TEST_F(Actions, NeedTheirRights) {
 }
 
 TEST_F(Actions, ChangeEachBetNamed) {
-  struct Case {
-    int32_t action;
-    double operand;
-    Money place6, place8;
-    int32_t error = 0;
-  };
   // clang-format off
-  const Case cases[] = {
-      {481, 18, 18, 18}, {482, 2, 24, 60}, {483, 3, 4, 10}, {483, 0, 12, 30, 9999},
-      {484, 6, 18, 36}, {485, 6, 6, 24}, {485, 40, 0, 0}, {487, 20, 20, 40}, {488, 20, 0, 20},
-      {489, 20, 20, 40}, {487, 0, 12, 30, 9999}, {487, .00001, 12, 30, 9999}, {488, .1, 12, 30},
+  const std::tuple<int, double, int, Money, Money> cases[] = {
+      {481, 18, 0, 18, 18}, {482, 2, 0, 24, 60}, {483, 3, 0, 4, 10}, {483, 0, 9999, 12, 30},
+      {484, 6, 0, 18, 36}, {485, 6, 0, 6, 24}, {485, 40, 0, 0, 0}, {487, 20, 0, 20, 40},
+      {488, 20, 0, 0, 20}, {489, 20, 0, 20, 40}, {487, 0, 9999, 12, 30},
+      {487, .00001, 9999, 12, 30}, {488, .1, 0, 12, 30},
   };
   // clang-format on
-  for (const Case& c : cases) {
+  for (const auto& [action, operand, error, place6, place8] : cases) {
     PutDown(Ann, Place6, 12);
     PutDown(Ann, Place8, 30);
     const std::vector<Reference> bets = {Of(PlayerAutoBettor, Place6), Of(Ann, Place8)};
-    EXPECT_EQ(Run(c.action, {Number(c.operand)}, bets), c.error) << c.action;
-    EXPECT_EQ(Bet(Ann, Place6), c.place6) << c.action << " " << c.operand;
-    EXPECT_EQ(Bet(Ann, Place8), c.place8) << c.action << " " << c.operand;
+    EXPECT_EQ(Run(action, {Number(operand)}, bets), error) << action;
+    EXPECT_EQ(Bet(Ann, Place6), place6) << action << " " << operand;
+    EXPECT_EQ(Bet(Ann, Place8), place8) << action << " " << operand;
   }
   EXPECT_EQ(Run(481, {}, {Of(Ann, Field)}), 9997);
   EXPECT_EQ(Run(481, {Number(5)}, {Of(Ann, Field), Of(7, Field), Of(Ann, Hard4)}), 851);
@@ -146,12 +138,16 @@ TEST_F(Actions, CallAndBuyBetsWithoutAMessage) {
 
 TEST_F(Actions, SwapValuesOrLeaveBothAlone) {
   PutDown(Ann, Place6, 9000);
-  SetBetAmount(Ann, 100, 30);
   Settings.MaxPlacardBet = 10000;
   EXPECT_EQ(Run(300, {}, {Of(Ann, Place8), Of(Ann, Place6)}), 0);
   EXPECT_EQ(Bet(Ann, Place6), 0);
   EXPECT_EQ(Bet(Ann, Place8), 9000);
-  // A variable that cannot be set now, on either side.
+  // Behind the first roll the bankroll cannot be set; it would rise, so the stack has its turn
+  // first.
+  PutDown(Ann, Place8, 0);
+  SetBankrollSlots(Ann, 10);
+  SetBetAmount(Ann, 100, 30);
+  RecordRoll(3, 3);
   for (const auto& [a, b] : {std::pair{100, 1301}, std::pair{1301, 100}}) {
     EXPECT_EQ(Run(300, {}, {Of(Ann, a), Of(Ann, b)}), 870);
     EXPECT_EQ(Bet(Ann, 100), 30);
@@ -186,7 +182,6 @@ TEST_F(Actions, StopARunAtOnceOnlyBetweenRolls) {
   Table.AutoRollOn = Table.RollInProgress = -1;
   Run(115);
   EXPECT_EQ(Table.AutoRollOn, -1);
-  EXPECT_EQ(Table.StopReason, "Stopped by Auto-Bet command.");
   Table.RollInProgress = 0;
   Run(115);
   EXPECT_EQ(Table.AutoRollOn, 0);
@@ -194,42 +189,29 @@ TEST_F(Actions, StopARunAtOnceOnlyBetweenRolls) {
   EXPECT_EQ(Said(), "Stopped by Auto-Bet command.");
 }
 
-TEST_F(Actions, ShowMessagesOnlyWhereTheyAreWanted) {
-  const std::vector<ScriptValue> text = {MakeText("Up\r\n$5")};
-  struct Case {
-    int32_t notices, hyper;
-    bool shown;
-  };
-  for (const Case& c : {Case{NoticeAutoBet, 0, true}, Case{NoticeAutoBet, -1, false},
-                        Case{NoticeAutoBetHyper, 0, false}, Case{NoticeAutoBetHyper, -1, true}}) {
-    Settings.Notices = c.notices;
-    Table.HyperDriveOn = c.hyper;
-    AutoBet.Answer = 0;
-    Shown.clear();
-    Answers = {0, AnswerNo};
-    EXPECT_EQ(Run(210, text), c.shown ? 0 : 990);
-    EXPECT_EQ(Run(211, text), c.shown ? 0 : 990);
-    EXPECT_EQ(AutoBet.Answer, c.shown ? AnswerNo : 0);
-    ASSERT_EQ(Shown.size(), c.shown ? 2u : 0u);
-    if (c.shown) {
-      EXPECT_EQ(Shown[1].Title + ": " + Shown[1].Text, "Auto-Bet (Ann): Up\r$5");
-    }
-  }
-}
-
-TEST_F(Actions, PlaySoundsUnlessTheyAreOff) {
+TEST_F(Actions, ShowMessagesAndPlaySoundsOnlyWhereTheyAreWanted) {
+  const std::vector<ScriptValue> text = {MakeText(" Up\r\n$5 ")};
   static std::string played;
-  played.clear();
-  FrontEnd.PlaySoundFile = [](const std::string& path) { played = path; };
+  FrontEnd.PlaySoundFile = [](const std::string& path) { played += path; };
+  constexpr int32_t Normal = NoticeAutoBet, Hyper = NoticeAutoBetHyper;
+  const std::tuple<int32_t, int32_t, bool> cases[] = {
+      {Normal, 0, true}, {Normal, -1, false}, {Hyper, 0, false}, {Hyper, -1, true}};
+  for (const auto& [notices, hyper, shown] : cases) {
+    Settings.Notices = notices;
+    Table.HyperDriveOn = hyper;
+    AutoBet.Answer = 0;
+    Answers = {0, AnswerNo};
+    played.clear();
+    EXPECT_EQ(Run(210, text), shown ? 0 : 990);
+    EXPECT_EQ(Run(211, text), shown ? 0 : 990);
+    EXPECT_EQ(AutoBet.Answer, shown ? AnswerNo : 0);
+    EXPECT_EQ(Run(212, {MakeText(" a.wav ")}), 0);
+    EXPECT_EQ(played, hyper != 0 ? "" : Folder.Path() + "a.wav");
+  }
+  ASSERT_EQ(Shown.size(), 4u);
+  EXPECT_EQ(Shown[3].Title + ":" + Shown[3].Text, "Auto-Bet (Ann): Up\r$5 ");
   Settings.DisableAutoBetSounds = -1;
   EXPECT_EQ(Run(212, {MakeText("a.wav")}), 992);
-  Settings = {};
-  Table.HyperDriveOn = -1;
-  EXPECT_EQ(Run(212, {MakeText("a.wav")}), 0);
-  EXPECT_EQ(played, "");
-  Table.HyperDriveOn = 0;
-  EXPECT_EQ(Run(212, {MakeText(" a.wav ")}), 0);
-  EXPECT_EQ(played, Folder.Path() + "a.wav");
 }
 
 TEST_F(Actions, MoveMoneyAtTheAtmOfTheScriptsPlayer) {

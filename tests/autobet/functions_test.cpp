@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <string>
+#include <tuple>
 #include <variant>
 #include <vector>
 
@@ -49,13 +50,8 @@ class Functions : public ConfigurationTest {
 };
 
 TEST_F(Functions, FamiliesNameTheBetOfTheNumberOrFailWithTheirOwnError) {
-  struct Case {
-    int32_t function;
-    Value argument;
-    int32_t variable;
-  };
   // clang-format off
-  const Case cases[] = {
+  const std::tuple<int32_t, Value, int32_t> cases[] = {  // function, argument, variable
       {1, 4.0, 1}, {1, 10.0, 6}, {2, 5.0, 8}, {3, 6.0, 15}, {4, 8.0, 22}, {5, 9.0, 29},
       {6, "6", 33}, {7, 10.0, 42}, {6, 7.0, 0}, {6, 6.5, 0}, {6, 3.0, 0}, {1, 11.0, 0},
       {8, 6.0, 50}, {8, 8.0, 51}, {8, 5.0, 0}, {9, 4.0, 52}, {9, 10.0, 55}, {9, 5.0, 0},
@@ -65,22 +61,17 @@ TEST_F(Functions, FamiliesNameTheBetOfTheNumberOrFailWithTheirOwnError) {
       {21, 100.0, 0}, {21, -1.0, 0}, {800, 12.0, 812}, {800, 1e300, 0},
   };
   // clang-format on
-  for (const Case& c : cases) {
+  for (const auto& [function, argument, variable] : cases) {
     AutoBet.ScriptError = 0;
-    EXPECT_EQ(NamedVariable(c.function, Made(c.argument)), c.variable) << c.function;
-    EXPECT_EQ(AutoBet.ScriptError, c.variable == 0 ? c.function : 0) << c.function;
+    EXPECT_EQ(NamedVariable(function, Made(argument)), variable) << function;
+    EXPECT_EQ(AutoBet.ScriptError, variable == 0 ? function : 0) << function;
   }
 }
 
 TEST_F(Functions, WorkOutNumbersAndTexts) {
   const std::string accented = "na\xC3\xAFve";  // five characters in six bytes
-  struct Case {
-    int32_t function;
-    std::vector<Value> arguments;
-    Value result;
-  };
   // clang-format off
-  const Case cases[] = {
+  const std::tuple<int32_t, std::vector<Value>, Value> cases[] = {
       {50, {2.0}, 2.0}, {100, {9.0}, 3.0}, {101, {-2.5}, -3.0}, {102, {"-2.5"}, 2.5},
       {104, {"Abc"}, 65.0}, {104, {"\xC3\xAF"}, 239.0}, {104, {""}, 0.0},
       {117, {" -12.5 dollars"}, -12.5}, {118, {accented}, 5.0}, {118, {12.5}, 4.0},
@@ -100,28 +91,18 @@ TEST_F(Functions, WorkOutNumbersAndTexts) {
       {850, {2.0}, "Bo"}, {850, {3.0}, ""},
   };
   // clang-format on
-  for (const Case& c : cases) {
-    const ScriptValue result = Call(c.function, c.arguments);
-    EXPECT_EQ(AutoBet.ScriptError, 0) << c.function;
-    const double* const number = std::get_if<double>(&c.result);
-    EXPECT_EQ(IsText(result), number == nullptr) << c.function;
-    if (number != nullptr) {
-      EXPECT_EQ(result.value, *number) << c.function;
-    } else {
-      EXPECT_EQ(TextOf(result), std::get<std::string>(c.result)) << c.function;
-    }
+  for (const auto& [function, arguments, expected] : cases) {
+    const ScriptValue result = Call(function, arguments);
+    EXPECT_EQ(AutoBet.ScriptError, 0) << function;
+    EXPECT_EQ(IsText(result), IsText(Made(expected))) << function;
+    EXPECT_EQ(TextOf(result), TextOf(Made(expected))) << function;
   }
 }
 
 TEST_F(Functions, RefuseArgumentsOutOfLimits) {
   const std::string million(1'000'000, 'x');
-  struct Case {
-    int32_t function;
-    std::vector<Value> arguments;
-    int32_t error;
-  };
   // clang-format off
-  const Case cases[] = {
+  const std::tuple<int32_t, std::vector<Value>, int32_t> cases[] = {
       {22, {526.0}, 22}, {22, {-1.0}, 22}, {50, {9.0}, 50}, {850, {0.0}, 850},
       {100, {-1.0}, 100}, {139, {5.0, 0.0}, 139}, {190, {3.0}, 190}, {191, {7.0}, 191},
       {203, {0.0, "a", "a"}, 203}, {801, {"a", -1.0}, 801}, {802, {"a", -1.0}, 802},
@@ -131,9 +112,9 @@ TEST_F(Functions, RefuseArgumentsOutOfLimits) {
       {812, {INFINITY}, 812}, {812, {NAN}, 812}, {809, {million, 1.0, "b"}, 998},
   };
   // clang-format on
-  for (const Case& c : cases) {
-    EXPECT_EQ(Call(c.function, c.arguments), Number(0)) << c.function;
-    EXPECT_EQ(AutoBet.ScriptError, c.error) << c.function;
+  for (const auto& [function, arguments, error] : cases) {
+    EXPECT_EQ(Call(function, arguments), Number(0)) << function;
+    EXPECT_EQ(AutoBet.ScriptError, error) << function;
   }
   EXPECT_EQ(TextOf(Call(812, {Value(1'000'000.0)})).size(), 1'000'000u);
 }
@@ -145,16 +126,13 @@ TEST_F(Functions, FigureListsFromTheMembersThatPassTheQualifierInForce) {
       member(2.0), {LogicGreater, Number(3)}, member(2.0), member(4.0),
       member(6.0), {LogicLess, Number(3)},    member(9.0)};
   const std::vector<ListItem> none = {{LogicGreater, Number(3)}, member(1.0)};
-  struct Case {
-    int32_t function;
-    double all, some;
-  };
-  const double deviation = std::sqrt(26 / 3.0);
-  for (const Case& c : {Case{126, 9, 6}, Case{127, 2, 2}, Case{128, 5, 4}, Case{130, 15, 12},
-                        Case{131, 3, 3}, Case{129, deviation, std::sqrt(8 / 3.0)}}) {
-    EXPECT_DOUBLE_EQ(Call(c.function, all).value, c.all) << c.function;
-    EXPECT_DOUBLE_EQ(Call(c.function, some).value, c.some) << c.function;
-    EXPECT_EQ(Call(c.function, none).value, 0) << c.function;
+  const std::tuple<int32_t, double, double> cases[] = {
+      {126, 9, 6},   {127, 2, 2}, {128, 5, 4}, {129, std::sqrt(26 / 3.0), std::sqrt(8 / 3.0)},
+      {130, 15, 12}, {131, 3, 3}};
+  for (const auto& [function, ofAll, ofSome] : cases) {
+    EXPECT_DOUBLE_EQ(Call(function, all).value, ofAll) << function;
+    EXPECT_DOUBLE_EQ(Call(function, some).value, ofSome) << function;
+    EXPECT_EQ(Call(function, none).value, 0) << function;
   }
   const std::vector<ListItem> words = {member("pear"), member(10.0), member("Zoo"), member("fig")};
   EXPECT_EQ(TextOf(Call(132, words)), "pear");
@@ -184,17 +162,14 @@ TEST_F(Functions, AskTheUser) {
 
 TEST(ScriptErrors, HaveOneOrTwoLines) {
   AutoBet.FaultText = "Overflow, Error #6\r occurred at: RunAutoBet";
+  // clang-format off
   const std::pair<int32_t, std::string> cases[] = {
       {6, "Reference to Place bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
       {191, "Reference to odds allowed factor out of limits.\rAcceptable values 1-8"},
-      {801, "Reference to \"Left$\" function out of limits."},
-      {1005, "Unable to Open File"},
-      {9999, "Division by zero."},
-      {10000, AutoBet.FaultText},
-      {0, ""},
-      {807, ""},
-      {12345, ""},
+      {801, "Reference to \"Left$\" function out of limits."}, {1005, "Unable to Open File"},
+      {9999, "Division by zero."}, {10000, AutoBet.FaultText}, {0, ""}, {807, ""}, {12345, ""},
   };
+  // clang-format on
   for (const auto& [code, text] : cases)
     EXPECT_EQ(ScriptErrorText(code), text);
   AutoBet = {};
