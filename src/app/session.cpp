@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "autobet/actions.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
@@ -150,6 +151,14 @@ void StartNewSession(const SessionOptions& options) {
   if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
 }
 
+// What a script cannot ask for is kept: the data of former sessions and the sessions logs.
+void StartSessionOfScript(bool keepStacks, bool keepRollFile) {
+  NewSession({.keepSessions = -1,
+              .keepStacks = keepStacks ? -1 : 0,
+              .keepLogs = -1,
+              .rollFileAction = keepRollFile ? ContinueRollFile : CloseRollFileNow});
+}
+
 void ResetModules() {
   CloseRollFile();
   Settings = SettingsState{};
@@ -188,6 +197,7 @@ void NewSession(const SessionOptions& options) {
 
 void StartUp(const std::string& appFolder) {
   ResetModules();
+  StartSessionForScript = StartSessionOfScript;
   Trapped("StartUp", [&appFolder] {
     SetAppFolder(appFolder);
     SetLanguage(English);
