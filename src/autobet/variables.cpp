@@ -249,10 +249,19 @@ double SettingFigure(int32_t number) {
   }
 }
 
-// From 0 to just below 1.
+// From 0 to just below 1: SplitMix64 (Steele, Lea and Flood, 2014), begun from the machine's own
+// source, which by itself would be too slow for every read.
 double FreshRandom() {
-  constexpr int32_t Steps = 1 << 30;
-  return static_cast<double>(PlatformRandom(Steps)) / Steps;
+  uint64_t& state = AutoBet.RandomState;
+  while (state == 0) {
+    state = static_cast<uint64_t>(PlatformRandom(1 << 30)) << 32 |
+            static_cast<uint64_t>(PlatformRandom(1 << 30));
+  }
+  uint64_t word = state += 0x9E3779B97F4A7C15;
+  word = (word ^ word >> 30) * 0xBF58476D1CE4E5B9;
+  word = (word ^ word >> 27) * 0x94D049BB133111EB;
+  word ^= word >> 31;
+  return static_cast<double>(word >> 11) * 0x1p-53;
 }
 
 double TableVariable(int32_t number) {
