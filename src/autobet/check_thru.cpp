@@ -115,7 +115,7 @@ struct OpenGroup {
 };
 
 // Group words within the player of a group word multiply; this many elements is the limit.
-constexpr size_t LongestStream = 2'000'000;
+constexpr size_t LongestStream = 4'000'000;
 
 // Replaces the word at the end of `written`, with its qualifiers, by its members.
 void WriteMembers(const OpenGroup& group, TokenStream& written) {
