@@ -32,12 +32,12 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
+#include "base/temporary_folder.h"
 #include "config/setting_fields.h"
 #include "config/settings.h"
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
-#include "base/temporary_folder.h"
 
 namespace tessarel {
 namespace {
@@ -81,13 +81,13 @@ RunnerState Runner;
 
 void TakeStep(const ScriptStep& step) {
   if (!Runner.expected.contains(step.line)) return;
-  std::string& outcome = Runner.outcome[step.line];
   if (AutoBet.ScriptError != 0)
-    outcome = "error " + std::to_string(AutoBet.ScriptError);
+    Runner.outcome[step.line] = "error " + std::to_string(AutoBet.ScriptError);
   else if (step.text.starts_with("Condition is "))
-    outcome = step.text == "Condition is true." ? "true" : "false";
+    Runner.outcome[step.line] = step.text == "Condition is true." ? "true" : "false";
   else if (step.text == "Action taken.")
-    outcome = Runner.setsName[step.line] ? At(Table.CheckStackName, step.place)[0] : "done";
+    Runner.outcome[step.line] =
+        Runner.setsName[step.line] ? At(Table.CheckStackName, step.place)[0] : "done";
 }
 
 void AnswerQuestion() {
