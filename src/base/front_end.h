@@ -29,6 +29,13 @@ struct FrontEndCallbacks {
   void (*PlaySoundFile)(const std::string& path) = [](const std::string&) {};
   // A step of a script that runs step by step: shows it and waits until the next one may run.
   void (*ShowStep)(const ScriptStep& step) = [](const ScriptStep&) {};
+  // A statement of a place's script that failed while it ran; `text` has carriage returns between
+  // its lines.
+  void (*ReportScriptError)(int place, int line, const std::string& text) =
+      [](int, int, const std::string&) {};
+  // Asks for the file to save to, the offered one at first; empty when the user gives up.
+  std::string (*AskSaveFile)(const std::string& title, const std::string& offered) =
+      [](const std::string&, const std::string&) { return std::string(); };
 };
 
 extern constinit FrontEndCallbacks FrontEnd;

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "autobet/script_store.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
@@ -249,6 +250,7 @@ void SnapshotAfterRoll() {
     });
     changed.Clear();
   });
+  Scripts.ScriptActiveAfterRoll = Scripts.ScriptActive;
 }
 
 bool StoppedByBankroll() {

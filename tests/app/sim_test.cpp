@@ -92,9 +92,17 @@ TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
     const char* says;
   };
   const Case cases[] = {
-      {"check a.bet", "check is not available"},
+      {"check a.bet", "The script \"a.bet\" does not exist"},
+      {"check folder", "The script \"folder\" does not exist"},
+      {"check --player 'Hard 8' bad.rol", "can't be used as a player's name."},
+      {"check --player Ann@2 --player Bob@2 bad.rol", "Place 2 is taken by Ann"},
+      {"check --set UseFireBet=2 bad.rol", "UseFireBet must be"},
       {"run --new", "--new is not available"},
-      {"run --script=a.bet", "--script is not available"},
+      {"run --script=a.bet", "The script \"a.bet\" does not exist"},
+      {"run --script bad.rol@9", "Place 9 does not exist"},
+      {"run --player Ann --script bad.rol@2", "no player at place 2 for the script"},
+      {"run --script bad.rol --script bad.rol@1", "place 1 has a script already"},
+      {"run --script bad.rol --record bad.rol", "cannot be the script as well"},
       {"run --probability a.prb", "\"a.prb\" does not exist"},
       {"dice --rng 1 --seed 1 --count 1 --probability a.prb", "\"a.prb\" does not exist"},
       {"advantage --probability bad.rol", "not a true Tessarel Probability File"},
