@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "autobet/actions.h"
 #include "autobet/interpreter.h"
 #include "autobet/script_files.h"
 #include "autobet/script_store.h"
@@ -156,6 +157,14 @@ void StartNewSession(const SessionOptions& options) {
   if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
 }
 
+// What a script cannot ask for is kept: the data of former sessions and the sessions logs.
+void StartSessionOfScript(bool keepStacks, bool keepRollFile) {
+  NewSession({.keepSessions = -1,
+              .keepStacks = keepStacks ? -1 : 0,
+              .keepLogs = -1,
+              .rollFileAction = keepRollFile ? ContinueRollFile : CloseRollFileNow});
+}
+
 void ResetModules() {
   CloseRollFile();
   Settings = SettingsState{};
@@ -264,6 +273,7 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts) {
 
 void StartUp(const std::string& appFolder) {
   ResetModules();
+  StartSessionForScript = StartSessionOfScript;
   Trapped("StartUp", [&appFolder] {
     SetAppFolder(appFolder);
     SetLanguage(English);

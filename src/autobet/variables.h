@@ -22,4 +22,7 @@ ScriptValue RollStatistic(int32_t function,
                           const Reference& reference,
                           std::span<const ListItem> arguments);
 
+// The moving average of the bankroll of a seated place over the last rolls, 0 to 525 of them.
+double AverageBankroll(int place, int rolls);
+
 }  // namespace tessarel

@@ -32,7 +32,8 @@ constexpr int NextShooterPlace(int place) {
 }
 
 void TellPassing(PassReason reason, std::string text) {
-  if (reason != PlayerAsked || Table.HyperDriveOn != 0) return;
+  const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
+  if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
   ShowMessage(std::move(text), std::string(PassTitle), msg::OkAlert);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "autobet/interpreter.h"
 #include "autobet/script_store.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -296,6 +297,7 @@ void PlayRoll(Faces faces, DiceSource source) {
   if (handEnded) LogNextHand(shooterBefore);
   StoreGraphPoint();
   SnapshotWorking();
+  if (Scripts.ScriptActive[0] != 0) RunAutoBet();
   SnapshotAfterRoll();
   CheckEverything();
 }
@@ -332,6 +334,13 @@ void RollUntilStopped() {
   } while (rolled && GoOnRolling());
 }
 
+// Whether the active scripts, if there are any, are compiled as they stand now.
+bool ScriptsCanRun() {
+  if (Scripts.ScriptActive[0] == 0) return true;
+  if (!Scripts.ProgramReady) CheckScriptErrors();
+  return Scripts.ProgramReady;
+}
+
 void EndRolling() {
   Table.LastStopReason = Table.StopReason;
   if (!Table.StopReason.empty()) StopUnattended();
@@ -353,6 +362,10 @@ void MakeRoll() {
   ReplaceMissingGenerator();
   if (Table.BankrollStopPlace != 0) {
     BankrollLimitStop(Table.BankrollStopPlace);
+    return;
+  }
+  if (!ScriptsCanRun()) {
+    if (Table.AutoRollOn != 0) StopUnattended();
     return;
   }
   RollUntilStopped();

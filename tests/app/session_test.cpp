@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "autobet/actions.h"
 #include "autobet/script_store.h"
 #include "base/clock.h"
 #include "base/front_end.h"
@@ -294,6 +295,22 @@ TEST_F(Session, RollFileIsRewoundContinuedOrClosed) {
       EXPECT_EQ(RollFile.NextRoll, test.NextRoll) << test.Action;
     }
     EXPECT_EQ(RollFile.RollFileName.empty(), test.Mode == RollFileOff);
+  }
+}
+
+TEST_F(Session, ScriptsStartSessionsThatKeepFormerOnes) {
+  for (const bool keep : {true, false}) {
+    StartUp(Folder.Path());
+    OpenRollFile("test.rll");
+    RollFile.RollFileMode = RollFileRecord;
+    PlayToPoint();
+    Stake(3, FirstStack + 4, 10);
+    StartSessionForScript(keep, keep);
+    EXPECT_EQ(RollsInSession(), 0);
+    EXPECT_EQ(Stats.RollCount[AllSessions][0], 2);
+    EXPECT_EQ(Bet(3, FirstStack + 4), Money(keep ? 10 : 0));
+    EXPECT_EQ(RollFile.NextRoll, keep ? 3 : 1);
+    EXPECT_EQ(RollFile.RollFileName.empty(), !keep);
   }
 }
 

@@ -1,0 +1,28 @@
+#include "autobet/script_messages.h"
+
+#include "autobet/values.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+std::string ScriptMessageTitle() {
+  const std::string& name = At(Table.PlayerName, AutoBet.CurrentScriptPlayer);
+  return AutoBet.CurrentScriptPlayer == 0 ? "Auto-Bet" : "Auto-Bet (" + name + ")";
+}
+
+std::string MessageLines(std::string_view text) {
+  std::string lines;
+  lines.reserve(text.size());
+  char before = 0;
+  for (const char c : text) {
+    if (c != '\n') {
+      lines += c;
+    } else if (before != '\r') {
+      lines += '\r';
+    }
+    before = c;
+  }
+  return lines;
+}
+
+}  // namespace tessarel
