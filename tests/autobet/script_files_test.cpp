@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "app/session.h"
+#include "autobet/older_scripts.h"
 #include "autobet/values.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -21,7 +22,7 @@ using Strings = std::vector<std::string>;
 
 std::vector<std::string> Shown;
 
-class ScriptFiles : public ::testing::Test {
+class FilesOfScripts : public ::testing::Test {
  protected:
   void SetUp() override {
     Shown.clear();
@@ -65,7 +66,7 @@ std::string Header(const std::string& text) {
   return Piece(text + " and more", 0);
 }
 
-TEST_F(ScriptFiles, EndOfTheLastLineBeginsNoOther) {
+TEST_F(FilesOfScripts, EndOfTheLastLineBeginsNoOther) {
   const struct {
     std::string_view bytes;
     Strings lines;
@@ -90,7 +91,7 @@ TEST_F(ScriptFiles, EndOfTheLastLineBeginsNoOther) {
   EXPECT_EQ(lines, Strings{"kept"});
 }
 
-TEST_F(ScriptFiles, OlderFormIsReadUnderItsThreeHeaders) {
+TEST_F(FilesOfScripts, OlderFormIsReadUnderItsThreeHeaders) {
   const std::string full(128, 'x');
   const std::string records = Piece("while point is", 1) + Piece("6", 5) + Piece("", 1) +
                               Piece("bet 5 on pass-line", 2) + Piece("then", 256 + 2) +
@@ -104,7 +105,7 @@ TEST_F(ScriptFiles, OlderFormIsReadUnderItsThreeHeaders) {
   EXPECT_EQ(LinesOf("Tessarel AutoBets, Data Format 5.0"), Strings());
 }
 
-TEST_F(ScriptFiles, OlderFileThatEndsEarlyGivesItsWholePieces) {
+TEST(OlderScripts, FileThatEndsEarlyGivesItsWholePieces) {
   const std::string whole = Header("Tessarel AutoBets, Data Format 3.9") + Piece("one", 1) +
                             Piece("two", 2) + Piece("more", 7);
   const auto pieceEnd = [](size_t number) { return number * 256 + 130; };
@@ -113,11 +114,11 @@ TEST_F(ScriptFiles, OlderFileThatEndsEarlyGivesItsWholePieces) {
     if (size >= pieceEnd(1)) expected.push_back("one");
     if (size >= pieceEnd(2)) expected.push_back("two");
     if (size >= pieceEnd(3)) expected.back() += " more";
-    EXPECT_EQ(LinesOf(whole.substr(0, size)), expected) << size;
+    EXPECT_EQ(OlderScriptLines(whole.substr(0, size)), expected) << size;
   }
 }
 
-TEST_F(ScriptFiles, OlderWordingBecomesTheCurrentOne) {
+TEST_F(FilesOfScripts, OlderWordingBecomesTheCurrentOne) {
   const std::pair<const char*, const char*> cases[] = {
       {"When point is 6 AND WHEN die1 = 3 or while rnd > 1 then",
        "if point is 6 and die1 = 3 or rnd > 1 then"},
@@ -157,7 +158,7 @@ TEST_F(ScriptFiles, OlderWordingBecomesTheCurrentOne) {
   }
 }
 
-TEST_F(ScriptFiles, SavedScriptReadsBackAsItWas) {
+TEST_F(FilesOfScripts, SavedScriptReadsBackAsItWas) {
   const std::string path = folder_.Path() + "system.bet";
   Scripts.Places[3] = {{"bet 5 on passline", "", "  'end\xff"}, "", "out.txt", true};
   const ScriptPlace before = Scripts.Places[3];
@@ -179,7 +180,7 @@ TEST_F(ScriptFiles, SavedScriptReadsBackAsItWas) {
   EXPECT_EQ(Scripts.Places[5].ScriptFile, elsewhere.Path() + "a.bet");
 }
 
-TEST_F(ScriptFiles, ActivationAsksForOneCycleAndKeepsTheOthersActive) {
+TEST_F(FilesOfScripts, ActivationAsksForOneCycleAndKeepsTheOthersActive) {
   SeatPlayer(1, "Ann", 100);
   SeatPlayer(4, "Bob", 100);
   SetScriptActive(4, true);
@@ -205,7 +206,7 @@ TEST_F(ScriptFiles, ActivationAsksForOneCycleAndKeepsTheOthersActive) {
   EXPECT_EQ(Scripts.ScriptActive, (PerPlace<int32_t>{-1, -1, 0, 0, -1}));
 }
 
-TEST_F(ScriptFiles, FirstCycleIsMarkedOnlyWhileItRuns) {
+TEST_F(FilesOfScripts, FirstCycleIsMarkedOnlyWhileItRuns) {
   SeatPlayer(2, "Ann", 100);
   Scripts.Places[2].lines = {"if initializing script then",   "add 1 to checkstack5", "endif",
                              "if beginning new session then", "add 1 to checkstack6", "endif"};
@@ -224,7 +225,7 @@ TEST_F(ScriptFiles, FirstCycleIsMarkedOnlyWhileItRuns) {
   EXPECT_EQ(Scripts.Places[0].ScriptFile, "key.bet");
 }
 
-TEST_F(ScriptFiles, HotKeyTellsWhyItsScriptDoesNotRun) {
+TEST_F(FilesOfScripts, HotKeyTellsWhyItsScriptDoesNotRun) {
   Answer([] { Shown.push_back(Message.MsgTitle + ": " + Message.MsgText); });
   RunHotKeyScript("missing.bet");
   Put("bad.bet", "if point is\n");

@@ -49,12 +49,15 @@ std::string ErrorLine(const std::string& file, const ScriptError& error) {
 }
 
 void LoadScripts(const std::vector<ScriptArgument>& scripts) {
+  std::vector<ScriptArgument> loaded;
   for (const ScriptArgument& script : scripts) {
     const int place = PlaceOf(script);
     LoadScript(place, script.file);
     SetScriptActive(place, true);
-    RequireRunnable(place, script.file);
+    loaded.push_back({script.file, place});
   }
+  for (const ScriptArgument& script : loaded)
+    RequireRunnable(script.place, script.file);
 }
 
 }  // namespace tessarel::sim
