@@ -26,7 +26,7 @@ int FunctionQualifierCount(int32_t function);
 
 // The whole chain for the script of a slot (its lines are those of the script store). On success
 // `script` is ready to be compiled to a program; `lineLevels`, if given, holds the indentation of
-// each line, from element 0 for line 1.
+// each line, from element 0 for line 1. A fault in a pass is an error too, at line 1.
 std::optional<ScriptError> CheckScript(int slot,
                                        CompiledScript& script,
                                        std::vector<int32_t>* lineLevels = nullptr);
@@ -35,6 +35,7 @@ std::optional<ScriptError> CheckScript(int slot,
 std::optional<ScriptError> CheckLists(CompiledScript& script);
 std::optional<ScriptError> CheckReferences(int slot, CompiledScript& script);
 std::optional<ScriptError> CheckThru(CompiledScript& script);
+// Overflow fault when the members do not fit: groups in the player of a group multiply.
 void ExpandGroups(CompiledScript& script);
 std::optional<ScriptError> CheckAssignments(CompiledScript& script);
 std::optional<ScriptError> CheckStructure(CompiledScript& script,

@@ -17,21 +17,32 @@ int SelectedBettor() {
   return Table.TakenPlaces != 0 ? std::countr_zero(Table.TakenPlaces) : 0;
 }
 
-int ResolvePlayer(int player) {
+namespace {
+
+// Words stand for 0 while nobody is what they say.
+int PlaceOfWord(int player) {
   switch (player) {
     case PlayerShooter:
       return Table.Shooter;
     case PlayerLastShooter:
-      return Table.LastShooter;
+    // Whoever rolls, the hand stays credited to the player who began it.
     case PlayerOriginalShooter:
-      return Table.PreviousShooter;
+      return Table.LastShooter;
     case PlayerBettor:
       return SelectedBettor();
     case PlayerAutoBettor:
       return AutoBet.CurrentScriptPlayer;
     default:
-      return player >= 0 && player <= LastPlace ? player : -1;
+      return 0;
   }
+}
+
+}  // namespace
+
+int ResolvePlayer(int player) {
+  if (player >= 0 && player <= LastPlace) return player;
+  const int place = PlaceOfWord(player);
+  return place > 0 ? place : -1;
 }
 
 void FailScript(int32_t error) {

@@ -78,6 +78,7 @@ struct AutoBetState {
   std::string FaultText;     // of error 10000
   int32_t Answer = 0;        // to the last question of any script: 6 yes, 7 no
   int32_t BettorOnView = 0;  // the place a window has selected; 0 without a window
+  uint64_t RandomState = 0;  // behind the random values of scripts; 0 not begun
 };
 
 extern AutoBetState AutoBet;

@@ -22,7 +22,9 @@ ScriptValue RollStatistic(int32_t function,
                           const Reference& reference,
                           std::span<const ListItem> arguments);
 
-// The moving average of the bankroll of a seated place over the last rolls, 0 to 525 of them.
+// The mean of a player's bankroll over the last `rolls` (0 to 525) of the session, or over those of
+// his time at the table while they are fewer; 0 takes the session's average. Without a roll it is
+// the bankroll itself, at an open place 0.
 double AverageBankroll(int place, int rolls);
 
 }  // namespace tessarel

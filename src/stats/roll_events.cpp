@@ -177,9 +177,12 @@ int CodeOfPair(int die1, int die2) {
 }
 
 SkewedDice SkewedDiceInForce() {
+  return Probability.ProbabilityMatrixActive != 0 ? SkewedDiceOfMatrix() : SkewedDice{};
+}
+
+SkewedDice SkewedDiceOfMatrix() {
   SkewedDice dice;
-  dice.active = Probability.ProbabilityMatrixActive != 0;
-  if (!dice.active) return dice;
+  dice.active = true;
   for (int row = 1; row <= LastTotalRow; ++row)
     At(dice.total, row + 1) = ShareOf(TotalColumn, row);
   ForEachPair([&dice](int column, int row) {

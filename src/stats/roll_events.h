@@ -44,6 +44,8 @@ struct SkewedDice {
 };
 
 SkewedDice SkewedDiceInForce();
+// The dice of the matrix in memory, whether it is active or not.
+SkewedDice SkewedDiceOfMatrix();
 
 // In percent of all rolls.
 double EventProbability(int code, const SkewedDice& dice);

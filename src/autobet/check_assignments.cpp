@@ -1,0 +1,234 @@
+#include <string>
+
+#include "autobet/checker.h"
+#include "autobet/functions.h"
+#include "autobet/token_names.h"
+#include "autobet/token_walk.h"
+#include "engine/bet_numbers.h"
+
+namespace tessarel {
+
+namespace {
+
+struct NumberRange {
+  int32_t First, Last;
+};
+// clang-format off
+constexpr NumberRange WritableVariables[] = {
+    {1, 93}, {100, 199}, {670, 671}, {700, 703}, {800, 899}, {1300, 1301}, {5006, 5006},
+    {5603, 5603}, {5612, 5617}, {5655, 5655}, {5672, 5672}, {5691, 5691},
+};
+// clang-format on
+
+bool IsWritable(int32_t variable) {
+  for (const NumberRange& range : WritableVariables) {
+    if (variable >= range.First && variable <= range.Last) return true;
+  }
+  return false;
+}
+
+// What a statement does to the bets it names.
+enum class Use {
+  Amounts,  // sets what is on them now
+  Bets,     // turns or takes them down: of this hand or session
+  Any,      // its own rules are told with the statement
+};
+
+// The actions and what they do to what they name.
+struct ActionRow {
+  int32_t First, Last;
+  Use Targets;
+  bool HasAmount;  // beside the targets, divided by "on", "to" or "from"
+};
+constexpr int32_t SwapAction = 300;
+// clang-format off
+constexpr ActionRow ActionRows[] = {
+    {SwapAction, SwapAction, Use::Amounts, false},
+    {450, 450, Use::Any, false},
+    {451, 453, Use::Bets, false},
+    {460, 460, Use::Bets, false},
+    {481, 489, Use::Amounts, true},
+};
+// clang-format on
+
+const ActionRow* RowOf(int32_t action) {
+  for (const ActionRow& row : ActionRows) {
+    if (action >= row.First && action <= row.Last) return &row;
+  }
+  return nullptr;
+}
+
+constexpr bool IsHead(int32_t code) {
+  return code == VariableToken || code == FunctionToken;
+}
+
+// Marks the targets of the statements that stand outside conditions.
+class TargetMarker {
+ public:
+  explicit TargetMarker(CompiledScript& script)
+      : script_(script), stream_(script.TokenStream), walk_(script.TokenStream) {}
+
+  std::optional<ScriptError> Run() {
+    bool inCondition = false;
+    for (size_t from = 2; from < stream_.size();) {
+      const size_t to = StatementEnd(stream_, from);
+      if (auto error = CheckStatement(from, to, inCondition)) return error;
+      from = to + 1;
+    }
+    return {};
+  }
+
+ private:
+  std::optional<ScriptError> CheckStatement(size_t from, size_t to, bool& inCondition) {
+    const ScriptToken first = from < to ? stream_[from] : ScriptToken();
+    if (first.code == LogicIf || first.code == LogicElseIf) {
+      inCondition = true;
+    } else if (first.code == LogicThen) {
+      inCondition = false;
+    } else if (inCondition && first.code == LabelToken) {
+      return ErrorAt(script_, from,
+                     "Improper placement of label.\r\rLabels cannot appear within condition "
+                     "statements (between If and Then).");
+    } else if (!inCondition && first.code == ActionToken) {
+      return CheckAction(NumberIn(first), from + 1, to);
+    } else if (!inCondition && (IsHead(first.code) || first.code == ListToken)) {
+      return CheckAssignment(from, to);
+    }
+    return {};
+  }
+
+  std::optional<ScriptError> CheckAssignment(size_t from, size_t to) {
+    const size_t end = FindTargets(from, to);
+    if (end == to || stream_[end].code != LogicEqual) return {};
+    return Mark(Use::Amounts);
+  }
+
+  std::optional<ScriptError> CheckAction(int32_t action, size_t from, size_t to) {
+    const ActionRow* row = RowOf(action);
+    if (row == nullptr) return {};
+    if (row->HasAmount) {
+      const size_t divide = FindDivision(from, to);
+      if (divide == to) return {};
+      if (!HoldsVariable(divide + 1, to) && HoldsVariable(from, divide)) {
+        to = divide;
+      } else {
+        from = divide + 1;
+      }
+    }
+    if (FindTargets(from, to) != to) return {};
+    if (action != SwapAction) return Mark(row->Targets);
+    for (const size_t target : targets_) {
+      if (auto error = CheckTarget(target, row->Targets)) return error;
+    }
+    return {};
+  }
+
+  // The "on", "to" or "from" between the sides of a statement; `to` without one.
+  size_t FindDivision(size_t from, size_t to) const {
+    for (size_t k = from; k < to; ++k) {
+      if (stream_[k].code == LogicOn || stream_[k].code == LogicFrom) return k;
+      if (stream_[k].code == LogicOpen) k = walk_.Match(k);
+    }
+    return to;
+  }
+
+  bool HoldsVariable(size_t from, size_t to) const {
+    for (size_t k = from; k < to; ++k) {
+      if (stream_[k].code == VariableToken) return true;
+      if (stream_[k].code == FunctionToken && NamesVariable(NumberIn(stream_[k]))) return true;
+    }
+    return false;
+  }
+
+  // Gathers the variables of a list, with or without the words "any" and "all", qualifiers between
+  // them left out. Returns where what is no part of such a list begins.
+  size_t FindTargets(size_t from, size_t to) {
+    targets_.clear();
+    int lists = 0;
+    bool itemBegins = true;
+    size_t k = from;
+    while (k < to) {
+      const int32_t code = stream_[k].code;
+      if (itemBegins && IsRelation(code)) {
+        k = ItemEnd(k, to);
+        itemBegins = false;
+      } else if (itemBegins && IsHead(code)) {
+        targets_.push_back(k);
+        k = walk_.End(k);
+        itemBegins = false;
+      } else if (itemBegins && code == ListToken) {
+        ++lists;
+        k += 2;
+      } else if (!itemBegins && lists > 0 && code == LogicClose) {
+        --lists;
+        k += 2;
+      } else if (!itemBegins && (code == LogicSeparator || code == LogicThru)) {
+        itemBegins = true;
+        ++k;
+      } else {
+        break;
+      }
+    }
+    return k;
+  }
+
+  size_t ItemEnd(size_t from, size_t to) const {
+    size_t k = from;
+    while (k < to && stream_[k].code != LogicSeparator && stream_[k].code != LogicClose)
+      k = stream_[k].code == LogicOpen ? walk_.Match(k) + 1 : k + 1;
+    return k;
+  }
+
+  std::optional<ScriptError> Mark(Use use) {
+    for (const size_t target : targets_) {
+      if (auto error = CheckTarget(target, use)) return error;
+      ScriptToken& token = stream_[target];
+      token.code = token.code == VariableToken ? VariableTarget : FunctionTarget;
+    }
+    return {};
+  }
+
+  std::optional<ScriptError> CheckTarget(size_t target, Use use) const {
+    constexpr int32_t LastBetFunction = 10;
+    const ScriptToken& token = stream_[target];
+    const int32_t number = NumberIn(token);
+    std::string text;
+    if (token.code == FunctionToken && !NamesVariable(number)) {
+      text = FunctionName(number) + " is a read-only function and cannot be assigned a value.";
+    } else if (token.code == VariableToken && !IsWritable(number)) {
+      text = VariableName(number) + " is a read-only variable and cannot be assigned a value.";
+    } else if (token.code == VariableToken ? IsBet(number) : number <= LastBetFunction) {
+      text = BetFault(target, use);
+    }
+    if (text.empty()) return {};
+    return ErrorAt(script_, target, std::move(text));
+  }
+
+  std::string BetFault(size_t target, Use use) const {
+    const size_t qualifiers = walk_.PlayerEnd(target);
+    const int32_t hand = NumberIn(stream_[qualifiers]);
+    const int32_t first = NumberIn(stream_[qualifiers + 1]);
+    const int32_t second = NumberIn(stream_[qualifiers + 2]);
+    if (use == Use::Any) return {};
+    if (hand != HandCurrent && hand != HandCurrentSession)
+      return "Unable to set the value of a bet that's not in the current hand or session.";
+    if (use == Use::Bets) return {};
+    if (first != ModTendered && first != ModWagered)
+      return "Only able to set the value of current wagers.";
+    if (second != ModCurrentAmount) return "Only able to set the current $ value of a bet.";
+    return {};
+  }
+
+  CompiledScript& script_;
+  std::vector<ScriptToken>& stream_;
+  const TokenWalk walk_;
+  std::vector<size_t> targets_;  // of the statement
+};
+
+}  // namespace
+
+std::optional<ScriptError> CheckAssignments(CompiledScript& script) {
+  return TargetMarker(script).Run();
+}
+
+}  // namespace tessarel

@@ -1,0 +1,128 @@
+#include <string>
+#include <unordered_map>
+
+#include "autobet/checker.h"
+#include "autobet/number_text.h"
+#include "autobet/token_names.h"
+#include "autobet/token_walk.h"
+#include "base/single_byte_text.h"
+
+namespace tessarel {
+
+namespace {
+
+std::optional<ScriptError> CheckBrackets(const CompiledScript& script) {
+  const auto& stream = script.TokenStream;
+  int depth = 0;
+  for (size_t k = 2; k < stream.size(); ++k) {
+    const int32_t code = stream[k].code;
+    if (code == LogicOpen) ++depth;
+    if (code == LogicClose) --depth;
+    if (depth < 0 || (depth > 0 && IsMarker(code)))
+      return ErrorAt(script, k - 1, "Missing or improperly placed parenthesis.");
+  }
+  return {};
+}
+
+// A text or number that is all of its statement names a place to jump to. The words for the date
+// and time and the empty text are no names.
+bool IsLabel(const std::vector<ScriptToken>& stream, size_t element) {
+  const auto& [code, value] = stream[element];
+  return (code == NumberToken || (code == StringToken && value > 0)) &&
+         IsMarker(stream[element - 1].code) &&
+         (element + 1 == stream.size() || IsMarker(stream[element + 1].code));
+}
+
+std::optional<ScriptError> EnterLabels(CompiledScript& script) {
+  auto& stream = script.TokenStream;
+  std::unordered_map<std::string, int32_t> lines;
+  for (size_t k = 2; k < stream.size(); ++k) {
+    if (!IsLabel(stream, k)) continue;
+    const bool isNumber = stream[k].code == NumberToken;
+    if (isNumber) {
+      script.ScriptStringTable.push_back({NumberText(stream[k].value)});
+      stream[k].value = static_cast<double>(script.ScriptStringTable.size() - 1);
+    }
+    stream[k].code = LabelToken;
+    const std::string& name = script.ScriptStringTable[static_cast<size_t>(stream[k].value)].text;
+    const int32_t line = stream[k - 1].code - MarkerToken;
+    const auto [other, isNew] = lines.try_emplace(LowerCase(TrimSpaces(name)), line);
+    if (isNew) continue;
+    const std::string what = isNumber ? "A duplicate line number" : "A duplicate label";
+    return ErrorAt(script, k, what + " exists in line " + std::to_string(other->second));
+  }
+  return {};
+}
+
+std::string UnbracketedListText(int32_t word) {
+  const bool any = word == ListAny;
+  return std::string("Lists defined by ") + (any ? "\"Any\"" : "\"All\"") +
+         " must be enclosed in brackets.\r\rFor example:\r" +
+         (any ? "      Any(Big6, Field, Checkstacks)\r      Any[4,5,6,8,9,10]"
+              : "      All(inside place bets)\r      All[Field, PassLine, Hard4]");
+}
+
+// Lists get their end behind the closing bracket.
+std::optional<ScriptError> CloseLists(CompiledScript& script) {
+  auto& stream = script.TokenStream;
+  const TokenWalk walk(stream);
+  std::vector<bool> endsList(stream.size());
+  for (size_t k = 1; k < stream.size(); ++k) {
+    if (stream[k].code != ListToken) continue;
+    if (k + 1 == stream.size() || stream[k + 1].code != LogicOpen)
+      return ErrorAt(script, k, UnbracketedListText(NumberIn(stream[k])));
+    endsList[walk.Match(k + 1)] = true;
+  }
+  std::vector<ScriptToken> closed;
+  for (size_t k = 0; k < stream.size(); ++k) {
+    closed.push_back(stream[k]);
+    if (endsList[k]) closed.push_back({EmptyToken, 0});
+  }
+  stream = std::move(closed);
+  return {};
+}
+
+// Whether what follows a function can be its argument. Those with qualifiers may have some of them
+// in between.
+bool HasOperand(const std::vector<ScriptToken>& stream, const TokenWalk& walk, size_t element) {
+  const int32_t function = NumberIn(stream[element]);
+  size_t operand = element + 1;
+  while (FunctionQualifierCount(function) > 0 && operand < stream.size()) {
+    if (IsPlayerFunction(stream[operand])) {
+      operand = walk.PlayerFunctionEnd(operand);
+    } else if (IsQualifier(stream[operand].code)) {
+      ++operand;
+    } else {
+      break;
+    }
+  }
+  if (operand >= stream.size()) return false;
+  const int32_t code = stream[operand].code;
+  return code == LogicOpen ||
+         (TakesBareOperand(function) && (code == NumberToken || code == VariableToken));
+}
+
+std::optional<ScriptError> CheckFunctionOperands(const CompiledScript& script) {
+  constexpr int32_t LastBetFunction = 10;
+  const auto& stream = script.TokenStream;
+  const TokenWalk walk(stream);
+  for (size_t k = 1; k < stream.size(); ++k) {
+    if (stream[k].code != FunctionToken || HasOperand(stream, walk, k)) continue;
+    const int32_t function = NumberIn(stream[k]);
+    return ErrorAt(script, k,
+                   "Missing or inappropriate reference to " + FunctionName(function) +
+                       (function <= LastBetFunction ? " bet." : "."));
+  }
+  return {};
+}
+
+}  // namespace
+
+std::optional<ScriptError> CheckLists(CompiledScript& script) {
+  if (auto error = CheckBrackets(script)) return error;
+  if (auto error = EnterLabels(script)) return error;
+  if (auto error = CloseLists(script)) return error;
+  return CheckFunctionOperands(script);
+}
+
+}  // namespace tessarel

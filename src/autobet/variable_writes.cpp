@@ -1,0 +1,241 @@
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "autobet/handling_words.h"
+#include "autobet/variables.h"
+#include "base/front_end.h"
+#include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
+#include "engine/bet_handling.h"
+#include "engine/bets.h"
+#include "engine/check_stacks.h"
+#include "engine/players.h"
+#include "engine/table.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int32_t FirstStackName = 800, LastStackName = 899;
+
+enum WriteError : int32_t {
+  BadWinHandling = 860,
+  BadLossHandling = 861,
+  SessionHasBegun = 870,
+  BadRollRate = 900,
+  BadSeed = 905,
+  GeneratorMissing = 910,
+  NoGenerator = 911,
+  BadCompRate = 912,
+  BadOddsFactor = 914,
+  NoRollFile = 1003,
+};
+
+// --- Numbers -----------------------------------------------------------------------------------
+
+// Far more than any rule leaves standing, and still with room to be added up.
+constexpr double BoundOfMoney = 1e14;
+
+// Money that the rules will cut: what is far beyond them all is cut here. Overflow fault for what
+// is no number.
+Money MoneyToCut(double value) {
+  return Money::FromDouble(std::clamp(value, -BoundOfMoney, BoundOfMoney));
+}
+
+// Money within limits; empty, with the script's error set, outside of them.
+std::optional<Money> MoneyWithin(double value, Money low, Money high, WriteError error) {
+  if (std::abs(value) <= BoundOfMoney) {
+    const Money amount = Money::FromDouble(value);
+    if (amount >= low && amount <= high) return amount;
+  }
+  FailScript(error);
+  return std::nullopt;
+}
+
+// The nearest whole number within limits, else the same.
+std::optional<int32_t> WholeWithin(double value, int32_t low, int32_t high, WriteError error) {
+  const double whole = std::nearbyint(value);
+  if (whole >= low && whole <= high) return static_cast<int32_t>(whole);
+  FailScript(error);
+  return std::nullopt;
+}
+
+// --- What belongs to a player ------------------------------------------------------------------
+
+void WriteBet(int place, int32_t number, double value) {
+  const Money change = MoneyToCut(value) - Bet(place, number);
+  if (change == Money()) return;
+  const SilentBets silent;
+  Table.Amount = change;
+  PlaceBet(place, number);
+}
+
+void WriteStack(int place, int32_t number, double value) {
+  const SilentBets silent;
+  SetStackValue(place, number - FirstStack, MoneyToCut(value));
+}
+
+struct HandlingVariable {
+  PerPlace<int32_t> TableState::*mode;
+  std::optional<HandlingChoice> (*choiceOf)(std::string_view words);
+  int32_t modifyMode;
+  int modifySlot, setSlot;
+  WriteError error;
+};
+
+constexpr HandlingVariable WinVariable = {&TableState::HandleWinningBets,
+                                          WinHandlingOf,
+                                          WinModify,
+                                          AutoWinModify,
+                                          AutoWinSet,
+                                          BadWinHandling};
+constexpr HandlingVariable LossVariable = {&TableState::HandleLosingBets,
+                                           LossHandlingOf,
+                                           LossModify,
+                                           AutoLossModify,
+                                           AutoLossSet,
+                                           BadLossHandling};
+
+void TakeChoice(const HandlingVariable& variable, int place, const HandlingChoice& choice) {
+  At(Table.*variable.mode, place) = choice.mode;
+  if (!choice.hasAmount) return;
+  const int slot = choice.mode == variable.modifyMode ? variable.modifySlot : variable.setSlot;
+  At(At(Table.HandleAmount, place), slot) = choice.amount;
+  At(At(Table.HandleOperator, place), slot) = choice.operation;
+  At(At(Table.HandleUnits, place), slot) = Money();
+}
+
+void WriteHandling(const HandlingVariable& variable, int place, const ScriptValue& value) {
+  if (IsText(value)) {
+    const auto choice = variable.choiceOf(TextOf(value));
+    if (choice) return TakeChoice(variable, place, *choice);
+    FailScript(variable.error);
+  } else if (const auto mode = WholeWithin(value.value, 1, 8, variable.error)) {
+    At(Table.*variable.mode, place) = *mode - 1;
+  }
+}
+
+// A switch of the player, and what setting it does at once to what stands.
+void WriteSwitch(int place, int32_t number, bool on) {
+  constexpr std::array<PerPlace<int32_t> TableState::*, 4> Switches = {
+      &TableState::AutoTakeFullOdds, &TableState::AutoLayFullOdds, &TableState::AutoDownPlaceBets,
+      &TableState::DeclinesDice};
+  At(Table.*At(Switches, number - 700), place) = on ? -1 : 0;
+  if (!on) return;
+  const SilentBets silent;
+  if (number == 700) BetFullOdds(place);
+  if (number == 701) BetFullLay(place);
+  if (number != 702) return;
+  for (int bet = bet::Place4; bet <= bet::Place10; ++bet) {
+    if (Bet(place, bet) > Money()) RemoveBet(place, bet);
+  }
+}
+
+// The bankroll of a session that has not begun, cut to what the table allows.
+void WriteBankroll(int place, double value) {
+  if (RollsInSession() > 0) return FailScript(SessionHasBegun);
+  const bool mayBeNegative = At(Table.AllowNegBankroll, place) != 0;
+  const Money lowest =
+      mayBeNegative ? -BankrollLimit : std::max(At(Table.MoneyOnTable, place), Money());
+  const Money amount = std::max(std::min(MoneyToCut(value), BankrollLimit), lowest);
+  if (At(Stats.RollCount, AllSessions)[0] == 0) BeginBankroll(place + AllSessions, amount);
+  SetBankroll(place, amount);
+  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+}
+
+void WriteOwn(int place, int32_t number, const ScriptValue& value) {
+  switch (number) {
+    case 670:
+      return WriteHandling(WinVariable, place, value);
+    case 671:
+      return WriteHandling(LossVariable, place, value);
+    case 700:
+    case 701:
+    case 702:
+    case 703:
+      return WriteSwitch(place, number, NumberOf(value) != 0);
+    case 1300:
+    case 1301:
+      return WriteBankroll(place, NumberOf(value));
+    default:
+      break;
+  }
+  if (IsStack(number)) return WriteStack(place, number, NumberOf(value));
+  if (number >= FirstStackName && number <= LastStackName)
+    return SetStackName(place, number - FirstStackName, TextOf(value));
+  if (IsBet(number)) WriteBet(place, number, NumberOf(value));
+}
+
+// --- The table ---------------------------------------------------------------------------------
+
+void WriteSetting(
+    Money SettingsState::*setting, double value, Money low, Money high, WriteError error) {
+  if (const auto amount = MoneyWithin(value, low, high, error)) Settings.*setting = *amount;
+}
+
+void WriteNextRoll(double value) {
+  if (RollFile.RollFileName.empty()) return FailScript(NoRollFile);
+  const double behindLast = RollFile.RollCountInFile + 1.0;
+  const double roll = std::nearbyint(value);
+  RollFile.NextRoll = RollFile.DisplayRoll =
+      roll >= 1 ? static_cast<int32_t>(std::min(roll, behindLast)) : 1;
+}
+
+void WriteSeed(double value) {
+  const auto seed = MoneyWithin(value, 1, Money::FromWhole(SeedLimit(Dice.CurrentRNG)), BadSeed);
+  if (!seed) return;
+  Dice.SeedRequest = *seed;
+  SeedRNG(-1);
+}
+
+void WriteGenerator(double value) {
+  const auto number = WholeWithin(value, 0, GeneratorCount, NoGenerator);
+  if (number && SelectRNG(*number) == Unavailable) FailScript(GeneratorMissing);
+}
+
+void WriteTable(int32_t number, double value) {
+  using S = SettingsState;
+  constexpr Money FineStep = Money::FromRaw(1), FastestRate = 36'000'000, LargestFactor = 9999;
+  switch (number) {
+    case 5006:
+      return WriteNextRoll(value);
+    case 5603:
+      return WriteSetting(&S::SimRollRate, value, FineStep, FastestRate, BadRollRate);
+    case 5612:
+    case 5617:
+      return WriteSetting(&S::OddsAllowed410, value, 0, LargestFactor, BadOddsFactor);
+    case 5613:
+    case 5616:
+      return WriteSetting(&S::OddsAllowed59, value, 0, LargestFactor, BadOddsFactor);
+    case 5614:
+    case 5615:
+      return WriteSetting(&S::OddsAllowed68, value, 0, LargestFactor, BadOddsFactor);
+    case 5655:
+      return WriteSeed(value);
+    case 5672:
+      return WriteGenerator(value);
+    case 5691:
+      return WriteSetting(&S::CompRate, value * 100, 0, 100, BadCompRate);
+    default:
+      return;
+  }
+}
+
+}  // namespace
+
+void SetVariable(const Reference& reference, const ScriptValue& value) {
+  constexpr int32_t FirstTableVariable = 5000;
+  if (reference.number >= FirstTableVariable) {
+    WriteTable(reference.number, NumberOf(value));
+  } else {
+    const int place = ResolvePlayer(reference.player);
+    if (!MayActFor(place)) return;
+    WriteOwn(place, reference.number, value);
+  }
+  if (AutoBet.ScriptError == 0) Table.TableDirty = -1;
+}
+
+}  // namespace tessarel
