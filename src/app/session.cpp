@@ -4,6 +4,11 @@
 #include <utility>
 
 #include "autobet/actions.h"
+#include "autobet/interpreter.h"
+#include "autobet/script_files.h"
+#include "autobet/script_store.h"
+#include "autobet/values.h"
+#include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
@@ -146,6 +151,7 @@ void StartNewSession(const SessionOptions& options) {
   Attempt(LogNewSession);
   if (Dice.ReseedEachSession != 0) Attempt([] { SeedRNG(0); });
   Attempt([] { LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : ""); });
+  Scripts.ScriptActiveAfterRoll = Scripts.ScriptActive;  // the log tells these once
   Table.BankrollStopPlace = 0;
   FrontEnd.RefreshViews();
   if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
@@ -173,6 +179,8 @@ void ResetModules() {
   RollFile = RollFileState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};
+  Scripts = ScriptStoreState{};
+  AutoBet = AutoBetState{};
   Message = MessageState{};
 }
 
@@ -184,6 +192,62 @@ void SetTableDefaults() {
     OpenPlaceDefaults(place);
 }
 
+void DeleteRollClipboard() {
+  Attempt([] { DeleteFileIfPresent(InFolder(Folders.AppFolder, "rollcopyfile.rll")); });
+}
+
+void EmptyScripts() {
+  for (int place = 1; place <= LastPlace; ++place)
+    NewScript(place);
+}
+
+// --- Leaving -----------------------------------------------------------------------------------
+
+std::string Text(int id) {
+  return std::string(GetText(id));
+}
+
+bool AskToStopUnattended() {
+  const bool hyper = Table.HyperDriveOn != 0;
+  if (!hyper && Table.AutoRollOn == 0) return true;
+  const int title = hyper ? 114 : 117, question = hyper ? 118 : 119;
+  if (ShowMessage(Text(question), Text(title), msg::AskYesDefault) != AnswerYes) return false;
+  StopUnattended();
+  return true;
+}
+
+bool AskToStopScripts() {
+  if (AutoBet.ScriptRunning == 0) return true;
+  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault) != AnswerYes) return false;
+  AutoBet.ScriptRunning = 0;
+  return true;
+}
+
+// Saves a script, an untitled one where the user wants it; false when he gives up or it fails.
+bool SaveScript(int place) {
+  const bool untitled = At(Scripts.Places, place).ScriptFile.empty();
+  const std::string file =
+      untitled ? FrontEnd.AskSaveFile(Text(147), At(Table.PlayerName, place) + ".bet") : "";
+  if (untitled && file.empty()) return false;
+  return Trapped("SaveScriptFile",
+                 [&] { untitled ? SaveScriptFileAs(place, file) : SaveScriptFile(place); });
+}
+
+bool OfferToSaveScript(int place) {
+  if (!At(Scripts.Places, place).changed) return true;
+  const std::string question =
+      "Would you like to save " + At(Table.PlayerName, place) + "'s auto-bet script?";
+  const int32_t answer = ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel);
+  return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
+}
+
+bool OfferToSaveScripts() {
+  bool leave = true;
+  for (int place = 1; place <= LastPlace && leave; ++place)
+    leave = OfferToSaveScript(place);
+  return leave;
+}
+
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
   if (!text.empty()) ShowMessage(text, "Missing Support File", msg::Ok);
@@ -193,6 +257,18 @@ void WarnOfMissingFiles() {
 
 void NewSession(const SessionOptions& options) {
   Trapped("NewSession", [&options] { StartNewSession(options); });
+}
+
+bool StartNewGame(const SessionOptions& options, bool keepScripts) {
+  if (Table.HyperDriveOn != 0) return false;
+  if (!keepScripts) EmptyScripts();
+  const bool restart = Scripts.ScriptActive[0] != 0;
+  if (restart && !Scripts.ProgramReady) Trapped("CheckScriptErrors", CheckScriptErrors);
+  NewSession(options);
+  if (!restart) return true;
+  DeleteRollClipboard();
+  if (Scripts.ProgramReady) InitializeScripts();
+  return true;
 }
 
 void StartUp(const std::string& appFolder) {
@@ -211,12 +287,7 @@ void StartUp(const std::string& appFolder) {
 }
 
 bool AskToLeave() {
-  const bool hyper = Table.HyperDriveOn != 0;
-  if (!hyper && Table.AutoRollOn == 0) return true;
-  const std::string title(GetText(hyper ? 114 : 117)), question(GetText(hyper ? 118 : 119));
-  if (ShowMessage(question, title, msg::AskYesDefault) != AnswerYes) return false;
-  StopUnattended();
-  return true;
+  return AskToStopUnattended() && AskToStopScripts() && OfferToSaveScripts();
 }
 
 void ShutDown() {

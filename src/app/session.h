@@ -20,13 +20,19 @@ struct SessionOptions {
 // Starts a new session. Not to be called during a roll.
 void NewSession(const SessionOptions& options);
 
+// The New command of the game: NewSession, with the scripts kept or emptied. Active scripts that
+// are kept are compiled first (the first one in error is told) and then run for one initialising
+// cycle. Returns false, with nothing done, under the Hyper-Drive.
+bool StartNewGame(const SessionOptions& options, bool keepScripts);
+
 // Puts every module in its start-up state in `appFolder`, the program's folder: default settings,
 // payoffs and units, every generator seeded from the clock, an empty table. Warns of missing
 // support files. Nothing is read from disk.
 void StartUp(const std::string& appFolder);
 
-// Before the program ends: asks whether an unattended run may be stopped, and stops it. Returns
-// false when the answer is no, with everything as it was.
+// Before the program ends: asks whether an unattended run and running scripts may be stopped, and
+// stops them; then which changed scripts to save, and saves them. Returns false as soon as an
+// answer is against leaving or a script cannot be saved.
 bool AskToLeave();
 
 // Closes what is open. What was recorded is on disk when it returns.

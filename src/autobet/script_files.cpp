@@ -1,1 +1,199 @@
 #include "autobet/script_files.h"
+
+#include <initializer_list>
+#include <utility>
+
+#include "autobet/interpreter.h"
+#include "autobet/older_scripts.h"
+#include "autobet/values.h"
+#include "base/file_io.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/trap.h"
+#include "config/folders.h"
+#include "engine/table.h"
+
+namespace tessarel {
+
+namespace {
+
+// Some hundred times the longest script anybody writes, and little enough to hold in memory.
+constexpr size_t LargestScriptFile = 4 << 20;
+
+constexpr int AllPlaces = LastPlace + 1;
+
+std::vector<std::string> TextLines(std::string_view bytes) {
+  std::vector<std::string> lines;
+  while (!bytes.empty()) {
+    const size_t end = bytes.find('\n');
+    std::string_view line = bytes.substr(0, end);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines.emplace_back(line);
+    bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+  }
+  return lines;
+}
+
+std::vector<std::string> UpgradedLines(std::string_view bytes) {
+  std::vector<std::string> lines = OlderScriptLines(bytes);
+  for (std::string& line : lines)
+    line = UpgradeWording(line);
+  return lines;
+}
+
+// Flags that are up as long as this lives, whatever becomes of the cycle in between.
+class RaisedFlags {
+ public:
+  explicit RaisedFlags(std::initializer_list<int32_t*> flags) : flags_(flags) {
+    for (int32_t* flag : flags_)
+      *flag = -1;
+  }
+  ~RaisedFlags() {
+    for (int32_t* flag : flags_)
+      *flag = 0;
+  }
+  RaisedFlags(const RaisedFlags&) = delete;
+  RaisedFlags& operator=(const RaisedFlags&) = delete;
+
+ private:
+  std::vector<int32_t*> flags_;
+};
+
+// One place's script as the only active one.
+class OnlyScript {
+ public:
+  explicit OnlyScript(int place) : flags_(Scripts.ScriptActive) {
+    for (int other = 1; other <= LastPlace; ++other)
+      SetScriptActive(other, other == place);
+  }
+  ~OnlyScript() {
+    if (Scripts.ScriptActive == flags_) return;
+    Scripts.ScriptActive = flags_;
+    Scripts.ProgramReady = false;
+  }
+  OnlyScript(const OnlyScript&) = delete;
+  OnlyScript& operator=(const OnlyScript&) = delete;
+
+ private:
+  PerPlace<int32_t> flags_;
+};
+
+bool ActiveScriptsCompile() {
+  if (!Scripts.ProgramReady) CheckScriptErrors();
+  return Scripts.ProgramReady;
+}
+
+void RunFirstCycle() {
+  if (Scripts.ScriptActive[0] == 0 || !ActiveScriptsCompile()) return;
+  const RaisedFlags flags{&AutoBet.Initializing};
+  RunAutoBet();
+}
+
+// Not during a roll: its cycles are those of the program it began with.
+bool WantsFirstCycle(const std::string& activated,
+                     const std::string& whichScript,
+                     const std::string& initialize) {
+  if (Table.RollInProgress != 0) return false;
+  const std::string text =
+      activated + "\r\rYou have an opportunity now to run " + whichScript +
+      " for one cycle BEFORE the dice roll in order to check and set any initial conditions.  "
+      "This is called initializing. If you're not ready yet, then just recheck the active "
+      "checkbox later or note that all players' active auto-bets are automatically initialized "
+      "whenever NEW is selected from the GAME menu.\r\rWould you like to initialize " +
+      initialize + " now?";
+  return ShowMessage(text, "Auto-Bet", msg::AskYesNo) == AnswerYes;
+}
+
+void ActivateAll() {
+  ForEachPlayer([](int place) { SetScriptActive(place, true); });
+  if (WantsFirstCycle("All players' auto-bet scripts have been activated.", "each script",
+                      "all auto-bet scripts")) {
+    RunFirstCycle();
+  }
+}
+
+void ActivateOne(int place) {
+  SetScriptActive(place, true);
+  const std::string& name = At(Table.PlayerName, place);
+  if (!WantsFirstCycle(name + "'s auto-bet script has been activated.", name + "'s script",
+                       name + "'s auto-bet script")) {
+    return;
+  }
+  const OnlyScript alone(place);
+  RunFirstCycle();
+}
+
+void RunHotKey(const std::string& path) {
+  if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, "File not found");
+  if (!CompileHotKeyScript()) {
+    ShowMessage(
+        "The Auto-Bet script for this hot-key contains a syntax error which must be corrected "
+        "before you can use it.",
+        "Auto-Bet Script Error", msg::OkAlert);
+    return;
+  }
+  Scripts.ProgramReady = true;
+  const RaisedFlags flags{&AutoBet.Initializing, &AutoBet.HotKeyRun};
+  RunAutoBet();
+  FrontEnd.DrawTable();
+}
+
+}  // namespace
+
+bool ReadScriptLines(const std::string& path, std::vector<std::string>& lines) {
+  if (!FileExists(path)) return false;
+  const std::string bytes = ReadWholeFile(path, LargestScriptFile);
+  lines = IsOlderScript(bytes) ? UpgradedLines(bytes) : TextLines(bytes);
+  return true;
+}
+
+bool ReadScriptFile(int slot, const std::string& path) {
+  ScriptPlace& script = At(Scripts.Places, slot);
+  std::vector<std::string> lines;
+  if (!ReadScriptLines(InFolder(Folders.AppFolder, path), lines)) return false;
+  script.lines = std::move(lines);
+  script.ScriptFile = NameInFolder(Folders.AppFolder, path);
+  script.changed = false;
+  Scripts.ProgramReady = false;
+  return true;
+}
+
+void SaveScriptFile(int slot) {
+  ScriptPlace& script = At(Scripts.Places, slot);
+  std::string text;
+  for (const std::string& line : script.lines)
+    text.append(line).append("\n");
+  WriteFileAtomically(InFolder(Folders.AppFolder, script.ScriptFile), text);
+  script.changed = false;
+}
+
+void SaveScriptFileAs(int slot, const std::string& path) {
+  ScriptPlace& script = At(Scripts.Places, slot);
+  std::string before = std::exchange(script.ScriptFile, NameInFolder(Folders.AppFolder, path));
+  try {
+    SaveScriptFile(slot);
+  } catch (const Fault&) {
+    script.ScriptFile = std::move(before);
+    throw;
+  }
+}
+
+void ActivateScript(int place) {
+  Trapped("ActivateScript", [place] { place == AllPlaces ? ActivateAll() : ActivateOne(place); });
+}
+
+void InitializeScripts() {
+  Trapped("InitializeScripts", [] {
+    const RaisedFlags flags{&AutoBet.NewSessionBegins};
+    RunFirstCycle();
+  });
+}
+
+void RunHotKeyScript(const std::string& path) {
+  if (AutoBet.ScriptRunning != 0 || Table.RollInProgress != 0) return;
+  Trapped("RunHotKeyScript", [&path] { RunHotKey(path); });
+  // What was compiled is not the program of the active scripts.
+  Scripts.ProgramReady = false;
+}
+
+}  // namespace tessarel

@@ -34,7 +34,7 @@ void ActivateScript(int place);
 // Runs the active scripts for one cycle as a new session does: initialising, if they compile.
 void InitializeScripts();
 
-// Runs a script file once as a hot key does.
+// Runs a script file once as a hot key does; not during a roll.
 void RunHotKeyScript(const std::string& path);
 
 }  // namespace tessarel

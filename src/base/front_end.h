@@ -27,11 +27,15 @@ struct FrontEndCallbacks {
   void (*PlaySound)(Sound sound) = [](Sound) {};
   void (*AnimateDice)() = [] {};
   void (*PlaySoundFile)(const std::string& path) = [](const std::string&) {};
-  // A statement of a script in place `place` has ended with a run-time error.
+  // A statement of a script in place `place` has ended with a run-time error; carriage returns
+  // stand between the lines of `text`.
   void (*ReportScriptError)(int place, int line, const std::string& text) =
       [](int, int, const std::string&) {};
   // A step of a script that runs step by step: shows it and waits until the next one may run.
   void (*ShowStep)(const ScriptStep& step) = [](const ScriptStep&) {};
+  // Asks for the file to save to, the offered one at first; empty when the user gives up.
+  std::string (*AskSaveFile)(const std::string& title, const std::string& offered) =
+      [](const std::string&, const std::string&) { return std::string(); };
   // How long a status text has to stay readable; nobody looks at it by default.
   int StatusMilliseconds = 0;
 };

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -290,6 +291,7 @@ bool ChangeBetAvailability(LayoutOption option, bool use) {
     });
   }
   Settings.*row.Flag = use ? -1 : 0;
+  Scripts.ProgramReady = false;  // scripts may name only bets of the layout
   FrontEnd.DrawTable();
   return true;
 }

@@ -22,4 +22,7 @@ void SetAppFolder(std::string folder);
 // A file name as a path: absolute names stand, others are taken from `folder`.
 std::string InFolder(const std::string& folder, std::string_view name);
 
+// The name by which InFolder finds a path again: relative to `folder` when it lies there.
+std::string NameInFolder(const std::string& folder, std::string_view path);
+
 }  // namespace tessarel

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "autobet/script_store.h"
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
@@ -22,6 +23,7 @@ namespace {
 
 using S = SettingsState;
 using T = TableState;
+using Rights = ScriptStoreState;
 
 template <class Value>
 constexpr bool IsSingle = std::is_same_v<Value, Money> || std::is_same_v<Value, int32_t>;
@@ -34,13 +36,15 @@ FieldValue Element(Value& value, int key) {
     return &At(value, key);
 }
 
-// A member of the settings, of the dice, or of the table for a place.
+// A member of the settings, of the dice, or of the scripts or the table for a place.
 template <auto Member>
 FieldValue Of(int place, int key) {
   if constexpr (requires { Settings.*Member; })
     return Element(Settings.*Member, key);
   else if constexpr (requires { Dice.*Member; })
     return Element(Dice.*Member, key);
+  else if constexpr (requires { Scripts.*Member; })
+    return Element(At(Scripts.*Member, place), key);
   else
     return Element(At(Table.*Member, place), key);
 }
@@ -206,6 +210,9 @@ constexpr SettingField Fields[] = {
     {"LayBias", WholeNumber, UpTo(2), Of<&T::LayBias>, true},
     {"DeclinesDice", Flag, Flags, Of<&T::DeclinesDice>, true},
     {"BetWorkingDefault", Mark, Flags, Of<&T::BetWorkingDefault>, true, nullptr, ByBet, 1, bet::Midway},
+    {"AllowReset", Flag, Flags, Of<&Rights::AllowReset>, true},
+    {"AllowAct4Others", Flag, Flags, Of<&Rights::AllowAct4Others>, true},
+    {"AllowActProb", Flag, Flags, Of<&Rights::AllowActProb>, true},
 };
 // clang-format on
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "autobet/player_name.h"
+#include "autobet/script_store.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
@@ -115,6 +116,7 @@ void ClearPlace(int place) {
   });
   for (auto& bankrolls : Table.GraphBankroll)
     At(bankrolls, place) = Money();
+  NewScript(place);
   OpenPlaceDefaults(place);
   RebuildDerived();
 }
@@ -189,6 +191,7 @@ bool MovePlayer(int from, int to) {
     Follow(*place, from, to);
   }
   FollowInViews(from, to);
+  Scripts.ProgramReady = false;
   RebuildDerived();
   LogPlayerMoved(to);
   FrontEnd.DrawTable();

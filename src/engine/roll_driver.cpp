@@ -251,6 +251,7 @@ void SnapshotAfterRoll() {
     });
     changed.Clear();
   });
+  Scripts.ScriptActiveAfterRoll = Scripts.ScriptActive;
 }
 
 bool StoppedByBankroll() {

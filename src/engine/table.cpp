@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "autobet/script_store.h"
 #include "config/settings.h"
 
 namespace tessarel {
@@ -29,6 +30,7 @@ void SetPlayerName(int place, std::string name) {
   Table.TakenPlaces = name.empty() ? Table.TakenPlaces & ~bit : Table.TakenPlaces | bit;
   Table.PlayerCount = std::popcount(Table.TakenPlaces);
   At(Table.PlayerName, place) = std::move(name);
+  Scripts.ProgramReady = false;  // scripts know the players by their names
 }
 
 void RebuildDerived() {

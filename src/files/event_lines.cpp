@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "autobet/script_store.h"
 #include "base/clock.h"
 #include "config/language.h"
 #include "engine/table.h"
@@ -11,6 +12,7 @@ namespace tessarel {
 
 namespace {
 
+constexpr std::string_view ScriptsHeading = "    AutoBets:";
 constexpr std::string_view BankrollHeading = "    Bankroll:";
 constexpr std::string_view BetsHeading = "    Bets:";
 constexpr std::string_view StacksHeading = "    CheckStacks:";
@@ -40,6 +42,17 @@ void WriteNote(int place, std::string_view text) {
 void WriteItem(std::string_view heading, int place, std::string_view text) {
   WriteSection(heading);
   WriteEvent(Join("      ", NameOf(place), text));
+}
+
+void LogScript(int place) {
+  const std::string& file = At(Scripts.Places, place).ScriptFile;
+  if (At(Scripts.ScriptActive, place) == 0) {
+    WriteItem(ScriptsHeading, place, " deactivated script");
+  } else if (file.empty()) {
+    WriteItem(ScriptsHeading, place, " activated untitled script");
+  } else {
+    WriteItem(ScriptsHeading, place, Join(" activated script (", file, ")"));
+  }
 }
 
 // The item of a bankroll that moved from `before`, with the word for what moved it.
@@ -115,6 +128,10 @@ constexpr std::string_view NoShooterLine = "----New hand, come-out roll---------
 void LogChangesSinceLastRoll() {
   if (EventsLog.LogOn == 0) return;
   EndSections();
+  ForEachPlayer([](int place) {
+    const bool before = At(Scripts.ScriptActiveAfterRoll, place) != 0;
+    if (before != (At(Scripts.ScriptActive, place) != 0)) LogScript(place);
+  });
   if (Logs(&EventsLogState::LogBankroll)) {
     ForEachPlayer([](int place) {
       LogBankroll(place, At(Table.BankrollAfterRoll, place), " ATM withdrawal", " ATM deposit");
@@ -246,6 +263,10 @@ void LogFirstHand(std::string_view playedFile) {
   if (!playedFile.empty()) {
     WriteEvent(Join("    Dice roll file playback actived (", playedFile, ")"));
   }
+  ForEachPlayer([](int place) {
+    if (At(Scripts.ScriptActive, place) != 0) LogScript(place);
+  });
+  EndSections();
   // Nobody shot before in this session, so that a shooter is always a new one.
   LogNextHand(0);
 }

@@ -9,8 +9,8 @@
 
 namespace tessarel {
 
-// Before a roll: what the players changed since the snapshot after the last roll. Bankroll, Bets
-// and CheckStacks, each under its heading. Walks only over what changed.
+// Before a roll: what the players changed since the snapshot after the last roll. AutoBets,
+// Bankroll, Bets and CheckStacks, each under its heading. Walks only over what changed.
 void LogChangesSinceLastRoll();
 
 // The line of a roll: its number (from 1), its faces and where they come from, as " from roll
@@ -44,8 +44,8 @@ void LogCashOut(int place, Money abandoned);
 void LogSeed(int32_t generator, int32_t seed);
 
 // The opening lines of a session in two parts, between which the dice may be seeded: the heading
-// with the players, then what the first hand starts with. `playedFile` is the roll file that is
-// playing, empty for none.
+// with the players, then what the first hand starts with, active scripts and the shooter.
+// `playedFile` is the roll file that is playing, empty for none.
 void LogNewSession();
 void LogFirstHand(std::string_view playedFile);
 

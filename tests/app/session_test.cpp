@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "autobet/actions.h"
+#include "autobet/script_store.h"
 #include "base/clock.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -369,6 +371,46 @@ TEST_F(Session, LeavingAsksToStopAnUnattendedRun) {
                             ? "Hyper-Drive Active: Do you want to stop the Hyper-Drive?"
                             : "Auto-Roll Active: Do you want to stop auto-rolling?");
   }
+}
+
+TEST_F(Session, LeavingOffersToSaveChangedScripts) {
+  SeatPlayer(2, "Ann", 100);
+  SeatPlayer(6, "Bob", 100);
+  Scripts.Places[2] = {{"bet 5 on field"}, "ann.bet", "", true};
+  Scripts.Places[6] = {{"bet 6 on field"}, "", "", true};
+  Answers = {"-"};
+  EXPECT_FALSE(AskToLeave());
+  EXPECT_EQ(Shown, std::vector<std::string>{
+                       "Save Auto-Bets?: Would you like to save Ann's auto-bet script?"});
+  EXPECT_FALSE(AskToLeave());  // the untitled one gets no name
+  EXPECT_FALSE(Scripts.Places[2].changed);
+  EXPECT_TRUE(Scripts.Places[6].changed);
+  FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
+    return title + "-" + offered;
+  };
+  EXPECT_TRUE(AskToLeave());
+  EXPECT_EQ(Scripts.Places[6].ScriptFile, "Save Auto-Bet File As-Bob.bet");
+  std::ifstream saved(Folder.Path() + "ann.bet");
+  std::string line;
+  std::getline(saved, line);
+  EXPECT_EQ(line, "bet 5 on field");
+}
+
+TEST_F(Session, ANewGameKeepsOrEmptiesTheScripts) {
+  SeatPlayer(2, "Ann", 100);
+  Scripts.Places[2].lines = {"'nothing"};
+  SetScriptActive(2, true);
+  std::ofstream(Folder.Path() + "rollcopyfile.rll") << "x";
+  Table.HyperDriveOn = -1;
+  EXPECT_FALSE(StartNewGame({}, false));
+  Table.HyperDriveOn = 0;
+  EXPECT_TRUE(StartNewGame({}, true));
+  EXPECT_EQ(Scripts.Places[2].lines.size(), 1u);
+  EXPECT_EQ(Scripts.ScriptActiveAfterRoll[2], -1);
+  EXPECT_FALSE(std::filesystem::exists(Folder.Path() + "rollcopyfile.rll"));
+  EXPECT_TRUE(StartNewGame({}, false));
+  EXPECT_EQ(Scripts.Places[2], ScriptPlace());
+  EXPECT_EQ(Scripts.ScriptActive[0], 0);
 }
 
 TEST_F(Session, StartsAlthoughItsLogCannotBeWritten) {

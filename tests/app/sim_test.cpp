@@ -92,9 +92,17 @@ TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
     const char* says;
   };
   const Case cases[] = {
-      {"check a.bet", "check is not available"},
+      {"check a.bet", "The script \"a.bet\" does not exist"},
+      {"check folder", "The script \"folder\" does not exist"},
+      {"check --player 'Hard 8' bad.rol", "can't be used as a player's name."},
+      {"check --player Ann@2 --player Bob@2 bad.rol", "Place 2 is taken by Ann"},
+      {"check --set UseFireBet=2 bad.rol", "UseFireBet must be"},
       {"run --new", "--new is not available"},
-      {"run --script=a.bet", "--script is not available"},
+      {"run --script=a.bet", "The script \"a.bet\" does not exist"},
+      {"run --script bad.rol@9", "Place 9 does not exist"},
+      {"run --player Ann --script bad.rol@2", "no player at place 2 for the script"},
+      {"run --script bad.rol --script bad.rol@1", "place 1 has a script already"},
+      {"run --script bad.rol --record bad.rol", "cannot be the script as well"},
       {"run --probability a.prb", "\"a.prb\" does not exist"},
       {"dice --rng 1 --seed 1 --count 1 --probability a.prb", "\"a.prb\" does not exist"},
       {"advantage --probability bad.rol", "not a true Tessarel Probability File"},
@@ -189,6 +197,11 @@ TEST_F(Sim, AnswersAWrongCommandLineWithTheUsageLine) {
       "run --json ''",
       "run --player Ann@x",
       "run --player Ann=much",
+      "run --script a.bet@one",
+      "run --script ''",
+      "check",
+      "check a.bet b.bet",
+      "check --tokens=all a.bet",
       "run --bet Field",
       "run --bet Field=",
       "run --bet Field=5@here",
@@ -213,17 +226,31 @@ TEST_F(Sim, AnswersAWrongCommandLineWithTheUsageLine) {
 
 TEST_F(Sim, HelpNamesEveryOptionThatWorks) {
   const std::string run = Run("run --help").out, dice = Run("dice --help").out;
-  for (const char* option :
-       {"--home DIR", "--player NAME[@PLACE][=BANKROLL]", "--set FIELD[@PLACE]=VALUE",
-        "--payoff ROW=NUM:DEN", "--bet NAME=AMOUNT[@PLACE]", "--rolls N", "--hands N", "--rng N",
-        "--seed N", "--dice FILE.rol", "--record FILE.rol", "--mode hyper|table", "--answers FILE",
-        "--events-log FILE", "--json FILE", "--quiet", "--sessions N", "--probability FILE.prb",
-        "--report FILE"}) {
+  for (const char* option : {"--home DIR",
+                             "--player NAME[@PLACE][=BANKROLL]",
+                             "--set FIELD[@PLACE]=VALUE",
+                             "--payoff ROW=NUM:DEN",
+                             "--bet NAME=AMOUNT[@PLACE]",
+                             "--rolls N",
+                             "--hands N",
+                             "--rng N",
+                             "--seed N",
+                             "--dice FILE.rol",
+                             "--record FILE.rol",
+                             "--mode hyper|table",
+                             "--answers FILE",
+                             "--events-log FILE",
+                             "--json FILE",
+                             "--quiet",
+                             "--sessions N",
+                             "--probability FILE.prb",
+                             "--report FILE",
+                             "--script FILE.bet[@PLACE]"}) {
     EXPECT_NE(run.find(option), std::string::npos) << option;
   }
   for (const char* option : {"--rng N", "--seed N", "--count N", "--raw"})
     EXPECT_NE(dice.find(option), std::string::npos) << option;
-  EXPECT_EQ(run.find("--script"), std::string::npos);
+  EXPECT_EQ(run.find("--save"), std::string::npos);
   const Outcome top = Run("--help");
   EXPECT_EQ(top.status, 0);
   EXPECT_NE(top.out.find("dice"), std::string::npos);
@@ -386,6 +413,46 @@ TEST_F(Sim, PromptsTakeTheAnswersInOrder) {
   EXPECT_EQ(answered[0]["Bankroll"].dump(), "2500.5");
   EXPECT_EQ(answered[1]["Bankroll"], 70);
   EXPECT_EQ(Result(ask + "--mode table")["players"][0]["Bankroll"], 1000);
+}
+
+TEST_F(Sim, CheckPrintsTokensOrWhereTheScriptIsWrong) {
+  Write("good.bet", "bet 2.5 on passline\r\n'1 / 3\n");
+  EXPECT_EQ(Run("check good.bet").out, "");
+  const std::string stream = "-3 0\n101 0\n-61 481\n-31 2.5\n57 0\n-11 43\n";
+  const Outcome translated = Run("check --tokens=translated good.bet");
+  EXPECT_EQ(translated.out.substr(0, stream.size()), stream);
+  EXPECT_EQ(Run("check --tokens=translated --player Ann@6 good.bet").out.substr(0, 5), "-3 6\n");
+  Write("bad.bet", "'first\nbet 5 on nonsense\n");
+  for (const char* tokens : {"", "--tokens ", "--tokens=translated "}) {
+    const Outcome bad = Run(std::string("check ") + tokens + "./bad.bet");
+    EXPECT_EQ(bad.status, 1) << tokens;
+    EXPECT_EQ(bad.out.substr(0, 22), "./bad.bet:2:10: error:") << tokens;
+    EXPECT_EQ(std::ranges::count(bad.out, '\n'), 1) << bad.out;
+    EXPECT_EQ(bad.err, "") << tokens;
+  }
+  const Outcome run = Run("run --script good.bet --player Ann --player Bob --script bad.bet@2");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err.substr(0, 34), "tessarel-sim: bad.bet:2:10: error:");
+}
+
+TEST_F(Sim, EverySessionInitialisesTheScripts) {
+  std::filesystem::create_directory(Path("a@b.c"));
+  Write("a@b.c/count.bet",
+        "if initializing script then\nadd 1 to checkstack5\nelse\nadd 1 to checkstack6\nendif\n");
+  const Json result = Result(
+      "--player Ann --player Bob@3 --script count.bet --home a@b.c --script count.bet@3 "
+      "--sessions 4 --rolls 2 --set BetNeededToShoot=0");
+  const Json stacks =
+      Json::parse(R"([{"stack":5,"name":"","amount":4},{"stack":6,"name":"","amount":8}])");
+  for (const Json& player : result["players"])
+    EXPECT_EQ(player["checkstacks"], stacks);
+}
+
+TEST_F(Sim, ScriptErrorsAreToldAtTheTable) {
+  Write("bad.bet", "'nobody is there\nadd 1 to checkstack5 player(7)\n");
+  const std::string run = "run --rolls 1 --set BetNeededToShoot=0 --quiet --script bad.bet --mode ";
+  EXPECT_NE(Run(run + "table").err.find("[Auto-Bet] bad.bet:2: "), std::string::npos);
+  EXPECT_EQ(Run(run + "hyper").err, "");
 }
 
 TEST_F(Sim, FilesComeFromTheHomeFolderAndAppearWhole) {

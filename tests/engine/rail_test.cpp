@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "app/session.h"
+#include "autobet/script_store.h"
 #include "base/front_end.h"
 #include "base/message.h"
+#include "config/configuration.h"
 #include "config/settings.h"
 #include "engine/atm.h"
 #include "engine/bets.h"
@@ -158,7 +160,12 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   Ask(3, bet::PassLine, 10);
   ViewSelections.SummaryPlayer = 1u << 3 | 1u << 2;
   ViewSelections.CSPlayer = 3;
+  Scripts.Places[3].ScriptFile = "ann.bet";
+  Scripts.AllowReset[3] = -1;
+  SetScriptActive(3, true);
+  Scripts.ProgramReady = true;
   EXPECT_FALSE(MovePlayer(3, 9));
+  EXPECT_TRUE(Scripts.ProgramReady);
   EXPECT_TRUE(MovePlayer(3, 8));
   EXPECT_EQ(Table.PlayerName[3], "");
   EXPECT_EQ(Bet(8, bet::PassLine), 20);
@@ -171,6 +178,28 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   EXPECT_EQ(Table.Shooter, 8);
   EXPECT_EQ(ViewSelections.SummaryPlayer, 1u << 8 | 1u << 2);
   EXPECT_EQ(ViewSelections.CSPlayer, 8);
+  EXPECT_EQ(Scripts.Places[3], ScriptPlace());
+  EXPECT_EQ(Scripts.Places[8].ScriptFile, "ann.bet");
+  EXPECT_EQ(Scripts.AllowReset[8], -1);
+  EXPECT_EQ(Scripts.ScriptActive, (PerPlace<int32_t>{-1, 0, 0, 0, 0, 0, 0, 0, -1}));
+  EXPECT_FALSE(Scripts.ProgramReady);
+}
+
+TEST_F(Rail, AScriptLeavesWithItsPlayerAndKnowsThePlayersByName) {
+  SeatPlayer(2, "Ann", 100);
+  SeatPlayer(5, "Bob", 100);
+  Scripts.Places[2].lines = {"bet 5 on field"};
+  SetScriptActive(2, true);
+  Scripts.ProgramReady = true;
+  Talk.answers = {"Cid"};
+  EXPECT_TRUE(RenamePlayer(5));
+  EXPECT_FALSE(Scripts.ProgramReady);
+  Scripts.ProgramReady = true;
+  EXPECT_TRUE(ChangeBetAvailability(LayoutOption::Fire, false));
+  EXPECT_FALSE(Scripts.ProgramReady);
+  EXPECT_TRUE(DeletePlayer(2, false));
+  EXPECT_EQ(Scripts.Places[2], ScriptPlace());
+  EXPECT_EQ(Scripts.ScriptActive, PerPlace<int32_t>());
 }
 
 TEST_F(Rail, CallsOfAMoverAreNotNewsTwice) {

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "autobet/script_store.h"
 #include "base/clock.h"
 #include "files/events_log_fixture.h"
 
@@ -16,6 +17,7 @@ class EventLines : public EventsLogTest {
  protected:
   void SetUp() override {
     EventsLogTest::SetUp();
+    Scripts = {};
     Seat(2, "Ann", 500);
     Seat(8, "Bob", 1000);
   }
@@ -122,7 +124,13 @@ TEST_F(EventLines, ChangesBeforeARollStandUnderTheirHeadingsInOrder) {
   SetBetAmount(8, bet::Hard4, 0);
   SetBetAmount(2, FirstStack, Cents);
   SetBetAmount(8, 199, 0);
+  Scripts.Places[2].ScriptFile = "ann.bet";
+  Scripts.ScriptActive = {-1, 0, -1};
+  Scripts.ScriptActiveAfterRoll = {-1, 0, 0, 0, 0, 0, 0, 0, -1};
   const Strings expected = {
+      "    AutoBets:",
+      "      Ann activated script (ann.bet)",
+      "      Bob deactivated script",
       "    Bankroll:",
       "      Ann decreased to $450 ($50 ATM deposit)",
       "      Bob increased to $1001.25 ($1.25 ATM withdrawal)",
@@ -140,6 +148,7 @@ TEST_F(EventLines, ChangesBeforeARollStandUnderTheirHeadingsInOrder) {
   EXPECT_EQ(Written(LogChangesSinceLastRoll), expected);
 
   TakeSnapshots();
+  Scripts.ScriptActiveAfterRoll = Scripts.ScriptActive;
   SetBetAmount(2, bet::PassLine, 10);
   SetBetAmount(2, bet::PassLine, 5);
   EXPECT_EQ(Written(LogChangesSinceLastRoll), Strings());
@@ -252,10 +261,13 @@ TEST_F(EventLines, ANewSession) {
   EXPECT_EQ(Lines(), again);
   ReleaseClock();
 
+  SetScriptActive(8, true);
   EXPECT_EQ(Written([] { LogFirstHand("night.rll"); }),
             (Strings{"    Dice roll file playback actived (night.rll)",
+                     "    AutoBets:", "      Bob activated untitled script",
                      "----New shooter (Cid) coming out----------"}));
   Table.LastShooter = 0;
+  SetScriptActive(8, false);
   EXPECT_EQ(Written([] { LogFirstHand(""); }), Strings{"----New hand, come-out roll----------"});
 }
 

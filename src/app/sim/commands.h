@@ -7,11 +7,24 @@
 #include <string>
 #include <vector>
 
+#include "app/sim/failure.h"
 #include "app/sim/run_options.h"
 
 namespace tessarel::sim {
 
 void RunCommand(const RunOptions& options);
+
+enum class TokensShown { None, Translated, Checked };
+
+struct CheckOptions {
+  std::vector<PlayerArgument> players;
+  std::vector<FieldArgument> settings;
+  TokensShown tokens = TokensShown::None;
+  std::string file;
+};
+
+// Prints the error of a script that cannot run.
+ExitStatus CheckCommand(const CheckOptions& options);
 
 struct DiceOptions {
   int64_t generator = 1;

@@ -9,6 +9,7 @@
 #include <optional>
 #include <sstream>
 
+#include "autobet/script_store.h"
 #include "base/clock.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
@@ -76,6 +77,15 @@ void ShowOnConsole() {
   TakeAnswer();
 }
 
+// At the table a script's errors are part of what is shown; a fast run has no time for them.
+void ReportScriptErrorOnConsole(int place, int line, const std::string& text) {
+  if (!Console.tableMode) return;
+  const std::string& file = At(Scripts.Places, place).ScriptFile;
+  const std::string report = file + ":" + std::to_string(line) + ": " + text;
+  Console.messages.push_back({"Auto-Bet", report});
+  Notice("[Auto-Bet] " + OnOneLine(report));
+}
+
 // "Ann Won", then the rows, each caption with its figure.
 std::string TextOf(const SettlePrompt& prompt) {
   std::string text;
@@ -133,6 +143,7 @@ std::string TimeLeft(double seconds) {
 void OpenConsole() {
   FrontEnd.ShowMessage = ShowOnConsole;
   FrontEnd.SettleBet = SettleOnConsole;
+  FrontEnd.ReportScriptError = ReportScriptErrorOnConsole;
   struct sigaction action = {};
   action.sa_handler = [](int) { StopAsked = 1; };
   // A second Ctrl-C ends the program, and the first one cuts no write short.

@@ -18,13 +18,11 @@ namespace {
 constexpr int64_t MaxSessions = 1'000'000;
 
 constexpr const char* UsageText =
-    "Usage: tessarel-sim run [OPTIONS] | advantage [OPTIONS] | dice --rng N --seed N --count N  "
-    "(--help tells more)\n";
+    "Usage: tessarel-sim run [OPTIONS] | check [OPTIONS] FILE.bet | advantage [OPTIONS] | "
+    "dice --rng N --seed N --count N  (--help tells more)\n";
 
 // What a later version brings; until then it is refused by name.
-constexpr std::array<std::string_view, 4> OptionsNotYet = {"--script", "--new", "--sessions-log",
-                                                           "--save"};
-constexpr std::array<std::string_view, 1> CommandsNotYet = {"check"};
+constexpr std::array<std::string_view, 3> OptionsNotYet = {"--new", "--sessions-log", "--save"};
 
 void RefuseWhatIsMissing(int argc, char** argv) {
   const auto refuse = [](std::string_view what) {
@@ -34,7 +32,6 @@ void RefuseWhatIsMissing(int argc, char** argv) {
     const std::string_view word = argv[k];
     const std::string_view option = word.substr(0, word.find('='));
     if (std::ranges::find(OptionsNotYet, option) != OptionsNotYet.end()) refuse(option);
-    if (k == 1 && std::ranges::find(CommandsNotYet, word) != CommandsNotYet.end()) refuse(word);
   }
 }
 
@@ -79,13 +76,17 @@ class Values {
   std::vector<Found> found_;
 };
 
+void DescribeSettings(Values& values, std::vector<FieldArgument>& settings) {
+  values.Repeatable("--set", "FIELD[@PLACE]=VALUE",
+                    "A table setting by its field name, or one of a place (default: every player)",
+                    [&](const std::string& text) { settings.push_back(ReadField(text)); });
+}
+
 void DescribeRules(Values& values,
                    std::vector<FieldArgument>& settings,
                    std::vector<std::string>& payoffs,
                    std::string& probability) {
-  values.Repeatable("--set", "FIELD[@PLACE]=VALUE",
-                    "A table setting by its field name, or one of a place (default: every player)",
-                    [&](const std::string& text) { settings.push_back(ReadField(text)); });
+  DescribeSettings(values, settings);
   values.Repeatable("--payoff", "ROW=NUM:DEN", "A payoff by the name of its row: \"Place 6=7:6\"",
                     [&](const std::string& text) { payoffs.push_back(ReadPayoff(text)); });
   values.Once("--probability", "FILE.prb", "Skew the dice by a probability matrix",
@@ -99,6 +100,10 @@ void DescribeTable(Values& values, RunOptions& options) {
                     "Seat a player (default: the lowest open place, 1000)",
                     [&](const std::string& text) { options.players.push_back(ReadPlayer(text)); });
   DescribeRules(values, options.settings, options.payoffs, options.probability);
+  values.Repeatable("--script", "FILE.bet[@PLACE]",
+                    "A betting system for a player (default: the first seated one; with no "
+                    "--player, Player One sits at place 1)",
+                    [&](const std::string& text) { options.scripts.push_back(ReadScript(text)); });
   values.Repeatable("--bet", "NAME=AMOUNT[@PLACE]",
                     "A wager asked for before every roll (default: by every player; with no "
                     "--player, Player One sits at place 1)",
@@ -129,7 +134,8 @@ void DescribeOutput(Values& values, RunOptions& options) {
   values.Once("--mode", "hyper|table",
               "hyper (default): one fast run; table: roll by roll, with messages",
               [&](const std::string& text) { options.mode = ReadMode(text); });
-  values.Once("--answers", "FILE", "Answers to the prompts, in order, one a line",
+  values.Once("--answers", "FILE",
+              "Answers to the prompts of the table and of scripts, in order, one a line",
               [&](const std::string& text) { options.answers = ReadFileName(text); });
   values.Once("--events-log", "FILE", "Log every kind of event at the end of this file",
               [&](const std::string& text) { options.eventsLog = ReadFileName(text); });
@@ -137,6 +143,23 @@ void DescribeOutput(Values& values, RunOptions& options) {
               [&](const std::string& text) { options.report = ReadFileName(text); });
   values.Once("--json", "FILE", "The result as JSON; - is standard output, then without summary",
               [&](const std::string& text) { options.json = ReadFileName(text); });
+}
+
+TokensShown ReadTokens(const std::string& text) {
+  if (text == "translated") return TokensShown::Translated;
+  if (text == "checked") return TokensShown::Checked;
+  throw Failure(WrongCommandLine, "The tokens are translated or checked, not \"" + text + "\".");
+}
+
+void DescribeCheck(Values& values, CheckOptions& options) {
+  values.Repeatable("--player", "NAME[@PLACE]",
+                    "Seat a player, so that the script may name him; the first place is its own",
+                    [&](const std::string& text) { options.players.push_back(ReadPlayer(text)); });
+  DescribeSettings(values, options.settings);
+  values
+      .Once("file", "FILE.bet", "The script",
+            [&](const std::string& text) { options.file = ReadFileName(text); })
+      ->required();
 }
 
 void DescribeDice(Values& values, DiceOptions& options) {
@@ -185,6 +208,14 @@ int Play(int argc, char** argv) {
       ->disable_flag_override();
   run->allow_extras();
 
+  CLI::App* check = app.add_subcommand("check", "Check a script as Check Script does");
+  CheckOptions checkOptions;
+  Values checkValues(check);
+  DescribeCheck(checkValues, checkOptions);
+  std::string tokens;
+  check->add_flag("--tokens{checked}", tokens,
+                  "Print the script as tokens: translated, or checked (the default)");
+
   CLI::App* dice = app.add_subcommand(
       "dice", "Print the dice that a generator gives from a seed, one roll a line");
   DiceOptions diceOptions;
@@ -218,6 +249,10 @@ int Play(int argc, char** argv) {
     RefuseRest(*run);
     runValues.ReadAll();
     RunCommand(runOptions);
+  } else if (app.got_subcommand(check)) {
+    checkValues.ReadAll();
+    if (!tokens.empty()) checkOptions.tokens = ReadTokens(tokens);
+    return CheckCommand(checkOptions);
   } else if (app.got_subcommand(advantage)) {
     advantageValues.ReadAll();
     AdvantageCommand(advantageOptions);

@@ -13,6 +13,8 @@
 #include "app/sim/reporting.h"
 #include "app/sim/result.h"
 #include "app/sim/run_files.h"
+#include "app/sim/scripts.h"
+#include "app/sim/seating.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -22,7 +24,6 @@
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
-#include "engine/rail.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
 #include "stats/store.h"
@@ -54,31 +55,12 @@ SessionInPlay Session;
 
 // --- Setting up --------------------------------------------------------------------------------
 
-void CheckName(const std::string& name) {
-  if (name.empty()) throw Failure(CannotBeDone, "A player needs a name.");
-  if (const auto refusal = NameRefusal(name, 0)) {
-    throw Failure(CannotBeDone, *refusal + (refusal->ends_with('.') ? "" : "."));
-  }
-}
-
-int OpenPlace(int wanted) {
-  if (wanted != 0 && IsTaken(Table, wanted)) {
-    throw Failure(CannotBeDone, "Place " + std::to_string(wanted) + " is taken by " +
-                                    At(Table.PlayerName, wanted) + ".");
-  }
-  for (int place = wanted != 0 ? wanted : 1; place <= LastPlace; ++place) {
-    if (!IsTaken(Table, place)) return place;
-  }
-  throw Failure(CannotBeDone, "The table has only eight places.");
-}
-
 void SeatPlayers(const RunOptions& options) {
   std::vector<PlayerArgument> players = options.players;
-  if (players.empty() && !options.bets.empty()) players.push_back({"Player One", 1, 1000});
-  for (const PlayerArgument& player : players) {
-    CheckName(player.name);
-    SeatPlayer(OpenPlace(player.place), player.name, player.bankroll);
-  }
+  const bool idle = options.bets.empty() && options.scripts.empty();
+  if (players.empty() && !idle) players.push_back({"Player One", 1, 1000});
+  for (const PlayerArgument& player : players)
+    Seat(player);
 }
 
 void RequireBettable(int place, int number) {
@@ -199,9 +181,10 @@ int64_t StepsToDo() {
   return Session.rolls ? *Session.rolls : RollFile.RollCountInFile;
 }
 
-// A new session that keeps what earlier ones left and goes on in the roll file.
+// A new session that keeps what earlier ones left and goes on in the roll file. Its scripts are
+// initialised.
 void StartSession() {
-  NewSession({-1, -1, -1, ContinueRollFile});
+  StartNewGame({-1, -1, -1, ContinueRollFile}, true);
   if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
 }
 
@@ -265,6 +248,7 @@ void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& r
 void SetUp(const RunOptions& options) {
   SeatPlayers(options);
   ApplyRules(options.settings, options.payoffs);
+  LoadScripts(options.scripts);
   Session = {BetsByPlace(options.bets), options.rolls, options.hands};
   if (!options.rolls && !options.hands && options.dice.empty()) Session.rolls = DefaultRolls;
   SelectAndSeed(options.generator, options.seed);

@@ -3,9 +3,9 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <filesystem>
+#include <vector>
 
 #include "app/sim/failure.h"
 #include "base/fault.h"
@@ -76,7 +76,7 @@ void CheckFiles(const RunOptions& options) {
     throw Failure(WrongCommandLine, "Standard output takes either the result or the report.");
   }
   const std::string none;
-  const std::array<RunFile, 7> files = {{
+  std::vector<RunFile> files = {
       {"dice roll file", &options.dice, false},
       {"answers file", &options.answers, false},
       {"probability file", &options.probability, false},
@@ -84,7 +84,9 @@ void CheckFiles(const RunOptions& options) {
       {"events log", &options.eventsLog, true},
       {"report", options.report == "-" ? &none : &options.report, true},
       {"result", options.json == "-" ? &none : &options.json, true},
-  }};
+  };
+  for (const ScriptArgument& script : options.scripts)
+    files.push_back({"script", &script.file, false});
   for (const RunFile& file : files) {
     if (file.name->empty() || !file.written) continue;
     RefuseUnwritable(file);

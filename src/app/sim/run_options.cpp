@@ -67,6 +67,20 @@ PlayerArgument ReadPlayer(const std::string& text) {
   return player;
 }
 
+ScriptArgument ReadScript(const std::string& text) {
+  ScriptArgument script;
+  script.file = text;
+  // The '@' of a folder or in front of the ending belongs to the name.
+  const size_t at = text.rfind('@');
+  const bool hasPlace =
+      at != std::string::npos && text.find_first_of("./", at) == std::string::npos;
+  if (hasPlace) script.place = CutPlace(script.file, text);
+  if (script.file.empty()) {
+    throw Failure(WrongCommandLine, "A script reads FILE.bet[@PLACE], not \"" + text + "\".");
+  }
+  return script;
+}
+
 BetArgument ReadBet(const std::string& text) {
   BetArgument bet;
   std::string rest = text;

@@ -23,6 +23,11 @@ struct BetArgument {
   int place = 0;  // 0: every seated player
 };
 
+struct ScriptArgument {
+  std::string file;
+  int place = 0;  // 0: the first seated player
+};
+
 struct FieldArgument {
   std::string field;
   int place = 0;  // 0: every seated player
@@ -36,6 +41,7 @@ struct RunOptions {
   std::vector<PlayerArgument> players;
   std::vector<FieldArgument> settings;
   std::vector<std::string> payoffs;
+  std::vector<ScriptArgument> scripts;
   std::vector<BetArgument> bets;
   std::optional<int64_t> rolls, hands;
   int64_t sessions = 1;
@@ -47,9 +53,10 @@ struct RunOptions {
   bool quiet = false;
 };
 
-// "NAME[@PLACE][=BANKROLL]", "NAME=AMOUNT[@PLACE]", "FIELD[@PLACE]=VALUE" and "ROW=NUM:DEN", which
-// stays a text. Failure when the form is wrong or a name does not exist.
+// "NAME[@PLACE][=BANKROLL]", "FILE[@PLACE]", "NAME=AMOUNT[@PLACE]", "FIELD[@PLACE]=VALUE" and
+// "ROW=NUM:DEN", which stays a text. Failure when the form is wrong or a name does not exist.
 PlayerArgument ReadPlayer(const std::string& text);
+ScriptArgument ReadScript(const std::string& text);
 BetArgument ReadBet(const std::string& text);
 FieldArgument ReadField(const std::string& text);
 std::string ReadPayoff(const std::string& text);

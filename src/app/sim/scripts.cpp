@@ -1,0 +1,63 @@
+#include "app/sim/scripts.h"
+
+#include <bit>
+
+#include "app/sim/failure.h"
+#include "app/sim/run_files.h"
+#include "autobet/checker.h"
+#include "autobet/script_files.h"
+#include "base/message.h"
+#include "engine/table.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+// The place of the script's player; a place has one script.
+int PlaceOf(const ScriptArgument& script) {
+  const int place = script.place != 0 ? script.place : std::countr_zero(Table.TakenPlaces);
+  const std::string where = "place " + std::to_string(place);
+  if (!IsTaken(Table, place)) {
+    throw Failure(CannotBeDone,
+                  "There is no player at " + where + " for the script \"" + script.file + "\".");
+  }
+  if (At(Scripts.ScriptActive, place) != 0) {
+    throw Failure(CannotBeDone, "The player at " + where + " has a script already, so \"" +
+                                    script.file + "\" cannot be his.");
+  }
+  return place;
+}
+
+void RequireRunnable(int place, const std::string& file) {
+  CompiledScript compiled;
+  if (const auto error = CheckScript(place, compiled)) {
+    throw Failure(CannotBeDone, ErrorLine(file, *error));
+  }
+}
+
+}  // namespace
+
+void LoadScript(int slot, const std::string& file) {
+  bool there = false;
+  WithFile("script", file, "cannot be read", [&] { there = ReadScriptFile(slot, file); });
+  if (!there) throw Failure(CannotBeDone, "The script \"" + file + "\" does not exist.");
+}
+
+std::string ErrorLine(const std::string& file, const ScriptError& error) {
+  return file + ":" + std::to_string(error.line) + ":" + std::to_string(error.startColumn + 1) +
+         ": error: " + OnOneLine(error.text);
+}
+
+void LoadScripts(const std::vector<ScriptArgument>& scripts) {
+  std::vector<ScriptArgument> loaded;
+  for (const ScriptArgument& script : scripts) {
+    const int place = PlaceOf(script);
+    LoadScript(place, script.file);
+    SetScriptActive(place, true);
+    loaded.push_back({script.file, place});
+  }
+  for (const ScriptArgument& script : loaded)
+    RequireRunnable(script.place, script.file);
+}
+
+}  // namespace tessarel::sim

@@ -1,0 +1,39 @@
+#include "app/sim/seating.h"
+
+#include <string>
+
+#include "app/sim/failure.h"
+#include "engine/players.h"
+#include "engine/rail.h"
+#include "engine/table.h"
+
+namespace tessarel::sim {
+
+namespace {
+
+void CheckName(const std::string& name) {
+  if (name.empty()) throw Failure(CannotBeDone, "A player needs a name.");
+  if (const auto refusal = NameRefusal(name, 0)) {
+    throw Failure(CannotBeDone, *refusal + (refusal->ends_with('.') ? "" : "."));
+  }
+}
+
+int OpenPlace(int wanted) {
+  if (wanted != 0 && IsTaken(Table, wanted)) {
+    throw Failure(CannotBeDone, "Place " + std::to_string(wanted) + " is taken by " +
+                                    At(Table.PlayerName, wanted) + ".");
+  }
+  for (int place = wanted != 0 ? wanted : 1; place <= LastPlace; ++place) {
+    if (!IsTaken(Table, place)) return place;
+  }
+  throw Failure(CannotBeDone, "The table has only eight places.");
+}
+
+}  // namespace
+
+void Seat(const PlayerArgument& player) {
+  CheckName(player.name);
+  SeatPlayer(OpenPlace(player.place), player.name, player.bankroll);
+}
+
+}  // namespace tessarel::sim
