@@ -12,8 +12,10 @@
 #include "config/payoffs.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/popup_roll.h"
 #include "dice/probability.h"
 #include "dice/roll_file.h"
+#include "dice/roll_file_edit.h"
 #include "engine/bet_handling.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
@@ -162,6 +164,8 @@ void ResetModules() {
   Dice = DiceState{};
   Probability = ProbabilityState{};
   RollFile = RollFileState{};
+  RollFileEdit = RollFileEditState{};
+  PopupRoll = PopupRollState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};
   Message = MessageState{};
@@ -210,7 +214,8 @@ bool AskToLeave() {
 }
 
 void ShutDown() {
-  Trapped("ShutDown", [] { CloseRollFile(); });
+  Trapped("ShutDown", CloseRollFile);
+  if (RollFileEdit.ClipboardInUse) Trapped("ShutDown", DeleteRollClipboard);
 }
 
 }  // namespace tessarel
