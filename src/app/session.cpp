@@ -18,8 +18,10 @@
 #include "config/payoffs.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/popup_roll.h"
 #include "dice/probability.h"
 #include "dice/roll_file.h"
+#include "dice/roll_file_edit.h"
 #include "engine/bet_handling.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
@@ -177,6 +179,8 @@ void ResetModules() {
   Dice = DiceState{};
   Probability = ProbabilityState{};
   RollFile = RollFileState{};
+  RollFileEdit = RollFileEditState{};
+  PopupRoll = PopupRollState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};
   Scripts = ScriptStoreState{};
@@ -190,10 +194,6 @@ void SetTableDefaults() {
   }
   for (int place = 1; place <= LastPlace; ++place)
     OpenPlaceDefaults(place);
-}
-
-void DeleteRollClipboard() {
-  Attempt([] { DeleteFileIfPresent(InFolder(Folders.AppFolder, "rollcopyfile.rll")); });
 }
 
 void EmptyScripts() {
@@ -266,7 +266,7 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts) {
   if (restart && !Scripts.ProgramReady) Trapped("CheckScriptErrors", CheckScriptErrors);
   NewSession(options);
   if (!restart) return true;
-  DeleteRollClipboard();
+  Trapped("StartNewGame", DeleteRollClipboard);
   if (Scripts.ProgramReady) InitializeScripts();
   return true;
 }
@@ -291,7 +291,8 @@ bool AskToLeave() {
 }
 
 void ShutDown() {
-  Trapped("ShutDown", [] { CloseRollFile(); });
+  Trapped("ShutDown", CloseRollFile);
+  if (RollFileEdit.ClipboardInUse) Trapped("ShutDown", DeleteRollClipboard);
 }
 
 }  // namespace tessarel

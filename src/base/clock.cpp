@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <ctime>
+#include <thread>
 
 namespace tessarel {
 
@@ -93,6 +94,14 @@ int64_t TickMilliseconds() {
   if (Clock.Held) return Clock.Moment.time_since_epoch().count();
   const auto running = std::chrono::steady_clock::now().time_since_epoch();
   return floor<milliseconds>(running).count();
+}
+
+void Rest(int64_t count) {
+  if (Clock.Held) {
+    AdvanceClock(count);
+  } else {
+    std::this_thread::sleep_for(milliseconds(count));
+  }
 }
 
 std::string DateTimeText(const LocalTime& time) {

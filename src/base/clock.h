@@ -26,6 +26,10 @@ float SecondsSinceMidnight(const LocalTime& time);
 // those of the held time, so that a run repeats exactly; holding and releasing begin a new count.
 int64_t TickMilliseconds();
 
+// Leaves the machine to others for a while, as every wait does between two looks; a held clock
+// moves on instead.
+void Rest(int64_t milliseconds);
+
 // "2026-11-22 19:04:05", the form of date and time in files.
 std::string DateTimeText(const LocalTime& time);
 // "2026-11-22" and "19:04:05".

@@ -128,6 +128,29 @@ void WriteAll(int handle, std::string_view bytes) {
   }
 }
 
+// The handle of an ordinary file, opened for reading.
+int OpenOrdinary(const std::string& path, struct stat& status) {
+  if (!IsName(path)) RaiseSystemError(ENOENT);
+  // Opening a pipe would otherwise wait for somebody to write to it.
+  const int handle = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (handle < 0) RaiseSystemError(errno);
+  const bool known = fstat(handle, &status) == 0;
+  if (known && S_ISREG(status.st_mode)) return handle;
+  const int error = known ? EACCES : errno;
+  close(handle);
+  RaiseSystemError(error);
+}
+
+void ReadBlocks(int handle, const std::function<bool(std::string_view)>& take) {
+  std::array<char, 65536> block;
+  for (;;) {
+    const ssize_t count = read(handle, block.data(), block.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) RaiseSystemError(errno);
+    if (count == 0 || !take({block.data(), static_cast<size_t>(count)})) return;
+  }
+}
+
 // Makes a rename last; a folder that cannot be synchronised is no failure of the file.
 void SyncFolder(const std::string& folder) {
   const OpenFile file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -137,6 +160,11 @@ void SyncFolder(const std::string& folder) {
 }  // namespace
 
 void WriteFileAtomically(const std::string& path, std::string_view bytes) {
+  WriteFileAtomically(path, [bytes](const ByteSink& sink) { sink(bytes); });
+}
+
+void WriteFileAtomically(const std::string& path,
+                         const std::function<void(const ByteSink&)>& write) {
   if (!IsName(path)) RaiseFileAccess();
   const std::string target = ResolvedPath(path);
   const auto old = StatusOf(target);
@@ -146,7 +174,7 @@ void WriteFileAtomically(const std::string& path, std::string_view bytes) {
   std::string temporaryPath;
   OpenFile file(CreateTemporary(folder, old ? 0600 : 0666, temporaryPath));
   TemporaryFile temporary(temporaryPath);
-  WriteAll(file.Handle(), bytes);
+  write([&file](std::string_view bytes) { WriteAll(file.Handle(), bytes); });
   if (old && fchmod(file.Handle(), old->st_mode & 07777) != 0) RaiseSystemError(errno);
   if (fsync(file.Handle()) != 0) RaiseSystemError(errno);
   file.Close();
@@ -156,26 +184,24 @@ void WriteFileAtomically(const std::string& path, std::string_view bytes) {
 }
 
 std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
-  if (!IsName(path)) RaiseSystemError(ENOENT);
-  // Opening a pipe would otherwise wait for somebody to write to it.
-  const OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};
-  if (file.Handle() < 0 || fstat(file.Handle(), &status) != 0) RaiseSystemError(errno);
-  if (!S_ISREG(status.st_mode)) RaiseFileAccess();
-
+  const OpenFile file(OpenOrdinary(path, status));
   const auto raiseTooLarge = [] { throw Fault(FaultNumber::FileAccess, "File too large"); };
   if (static_cast<uint64_t>(status.st_size) > maxBytes) raiseTooLarge();
   std::string bytes;
   bytes.reserve(static_cast<size_t>(status.st_size));
-  std::array<char, 65536> block;
-  for (;;) {
-    const ssize_t count = read(file.Handle(), block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) RaiseSystemError(errno);
-    if (count == 0) return bytes;
-    bytes.append(block.data(), static_cast<size_t>(count));
+  ReadBlocks(file.Handle(), [&](std::string_view block) {
+    bytes.append(block);
     if (bytes.size() > maxBytes) raiseTooLarge();  // it grew meanwhile
-  }
+    return true;
+  });
+  return bytes;
+}
+
+void ReadFileInBlocks(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  struct stat status {};
+  const OpenFile file(OpenOrdinary(path, status));
+  ReadBlocks(file.Handle(), take);
 }
 
 bool FileExists(const std::string& path) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -13,8 +14,17 @@ namespace tessarel {
 // Only ordinary files that may be written to are replaced; a link stays and its target changes.
 void WriteFileAtomically(const std::string& path, std::string_view bytes);
 
+// The same for a file that is too long to hold: `write` hands its bytes to the sink, piece by
+// piece. A fault that it raises leaves the old file too.
+using ByteSink = std::function<void(std::string_view)>;
+void WriteFileAtomically(const std::string& path,
+                         const std::function<void(const ByteSink&)>& write);
+
 // The bytes of an ordinary file. A file of more than `maxBytes` raises the file access fault.
 std::string ReadWholeFile(const std::string& path, size_t maxBytes);
+
+// Hands the bytes of an ordinary file on in blocks, until `take` returns false or the file ends.
+void ReadFileInBlocks(const std::string& path, const std::function<bool(std::string_view)>& take);
 
 // Whether an ordinary file of this name is there.
 bool FileExists(const std::string& path);

@@ -368,6 +368,15 @@ SelectResult SelectRNG(int32_t number) {
   return Selected;
 }
 
+bool PickGenerator(int32_t number) {
+  const SelectResult result = SelectRNG(number);
+  if (result == Unavailable) {
+    ShowMessage("Unfortunately, RNG #" + std::to_string(number) + " is currently unavailable.",
+                std::string(GetTitle(TitleRandomNumberGenerator)), msg::OkAlert);
+  }
+  return result == Selected;
+}
+
 void SeedAllGenerators() {
   for (const int32_t generator : {3, 4, 5, 2, 1}) {
     if (SelectRNG(generator) != Selected) continue;

@@ -79,6 +79,10 @@ enum SelectResult : int { Selected = 0, Unavailable = -1, OutOfLimits = -2 };
 // Makes a generator (0 to 8) current; nothing is reseeded.
 SelectResult SelectRNG(int32_t number);
 
+// The same for a user, who is told when the generator's support file is missing. Returns whether it
+// is current now.
+bool PickGenerator(int32_t number);
+
 // Selects and seeds each generator with a clock seed of its own, in the order of start-up.
 void SeedAllGenerators();
 

@@ -4,10 +4,10 @@
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "base/fault.h"
-#include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "config/folders.h"
@@ -30,8 +30,6 @@ constexpr std::string_view InvalidRoll =
     "A dice roll value has been found to be out of limits. \r\r"
     "Playback of this Dice Roll File has stopped so that you can check the file or continue "
     "without it.";
-constexpr std::string_view StoppedByInvalidRoll =
-    "Stopped due to Dice Roll File value out of limits.";
 constexpr std::string_view StoppedByEnd = "Stopped due to end of Dice Roll File reached.";
 
 [[noreturn]] void RaiseFileFault(std::string what, const std::string& path) {
@@ -112,6 +110,28 @@ void MovePastRoll() {
 
 bool IsFace(int32_t die) {
   return die >= 1 && die <= 6;
+}
+
+// Writes out the rolls from `first` to `last`, or to the end of the file.
+void PutRolls(int64_t first, int64_t last, const ByteSink& sink) {
+  while (first <= last) {
+    const auto count = std::min<int64_t>(BlockLength, last - first + 1);
+    const std::string rolls = ReadRolls(first, static_cast<int32_t>(count));
+    if (rolls.empty()) return;
+    sink(rolls);
+    first += std::ssize(rolls);
+  }
+}
+
+// Opens the file again after another has taken its place; recorder and positions stay.
+void ReopenRollFile() {
+  const auto [mode, next, display, last] =
+      std::tuple(RollFile.RollFileMode, RollFile.NextRoll, RollFile.DisplayRoll, RollFile.LastRoll);
+  OpenRollFile(std::string(RollFile.RollFileName));
+  RollFile.RollFileMode = mode;
+  RollFile.NextRoll = next;
+  RollFile.DisplayRoll = display;
+  RollFile.LastRoll = last;
 }
 
 void StopAtInvalidRoll() {
@@ -212,23 +232,49 @@ void RecordToRollFile(Faces faces) {
   MovePastRoll();
 }
 
+std::string ReadRolls(int64_t first, int32_t count) {
+  FlushRollFile();
+  std::string rolls(static_cast<size_t>(count), '\0');
+  RollFile.File.clear();
+  errno = 0;
+  RollFile.File.seekg(first - 1);
+  RollFile.File.read(rolls.data(), count);
+  if (RollFile.File.bad()) RaiseFileFault(UnableToRead, RollFile.RollFileName);
+  rolls.resize(static_cast<size_t>(RollFile.File.gcount()));
+  return rolls;
+}
+
+int32_t SpliceRolls(int32_t at,
+                    int32_t removed,
+                    const std::function<void(const ByteSink&)>& insert) {
+  constexpr int64_t End = std::numeric_limits<int64_t>::max();
+  FlushRollFile();
+  int64_t written = 0, inserted = 0;
+  WriteFileAtomically(RollFile.RollFileName, [&](const ByteSink& file) {
+    const ByteSink counted = [&](std::string_view rolls) {
+      written += std::ssize(rolls);
+      if (written > MaxRollsInFile) RaiseOverflow();
+      file(rolls);
+    };
+    PutRolls(1, at - 1, counted);
+    inserted = -written;
+    insert(counted);
+    inserted += written;
+    PutRolls(int64_t{at} + removed, End, counted);
+  });
+  ReopenRollFile();
+  return static_cast<int32_t>(inserted);
+}
+
 bool IsRollFile(const std::string& name) {
   const std::string path = InFolder(Folders.AppFolder, name);
   CheckFileName(path);
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  if (!file.is_open() && errno == ENOENT) {
-    throw Fault(FaultNumber::FileNotFound, "File not found: " + path);
-  }
-  if (!file.is_open()) RaiseFileFault(UnableToRead, path);
-  std::vector<char> block(BlockLength);
-  do {
-    file.read(block.data(), BlockLength);
-    const auto end = block.begin() + file.gcount();
-    if (std::any_of(block.begin(), end, [](char byte) { return (byte & 3) != 0; })) return false;
-  } while (file);
-  if (file.bad()) RaiseFileFault(UnableToRead, path);
-  return true;
+  bool passes = true;
+  ReadFileInBlocks(path, [&passes](std::string_view block) {
+    passes = std::none_of(block.begin(), block.end(), [](char byte) { return (byte & 3) != 0; });
+    return passes;
+  });
+  return passes;
 }
 
 }  // namespace tessarel

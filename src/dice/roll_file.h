@@ -5,11 +5,14 @@
 
 #include <cstdint>
 #include <fstream>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "base/file_io.h"
 #include "dice/generators.h"
 
 namespace tessarel {
@@ -20,6 +23,10 @@ enum RollFileUse : int32_t { RollFileOff = 0, RollFileRecord = 1, RollFilePlay =
 // The most rolls of a file that are played or recorded: NextRoll has to be able to stand behind the
 // last one.
 inline constexpr int32_t MaxRollsInFile = std::numeric_limits<int32_t>::max() - 1;
+
+// Why a roll stops whose dice, from whichever file, are none.
+inline constexpr std::string_view StoppedByInvalidRoll =
+    "Stopped due to Dice Roll File value out of limits.";
 
 struct RollFileState {
   std::string RollFileName;  // full name of the open file; empty if none
@@ -75,6 +82,19 @@ std::optional<Faces> PlayBackRoll();
 // written. Overflow fault behind MaxRollsInFile and file fault when the file may only be read; the
 // recorder is then off.
 void RecordToRollFile(Faces faces);
+
+// Up to `count` rolls from `first` (from 1) on, a byte each as they stand in the file; fewer at its
+// end. The recorder and the positions stay. File fault when they cannot be read, with the file
+// still open.
+std::string ReadRolls(int64_t first, int32_t count);
+
+// Puts the bytes that `insert` writes, a roll each, in the place of `removed` rolls from `at` on
+// (1 to one past the end), and returns how many they are. The file is rewritten as a whole, so that
+// whatever fails leaves it as it was; overflow fault when it would hold more than MaxRollsInFile.
+// NextRoll and its kin stay as numbers: the caller moves them.
+int32_t SpliceRolls(int32_t at,
+                    int32_t removed,
+                    const std::function<void(const ByteSink&)>& insert);
 
 // The roll file test: no byte has bit 0 or 1 set. File faults when it cannot be read.
 bool IsRollFile(const std::string& name);

@@ -13,11 +13,14 @@
 #include "config/language.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/popup_roll.h"
 #include "dice/probability.h"
 #include "dice/roll_file.h"
+#include "dice/roll_file_edit.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
+#include "engine/roll_pace.h"
 #include "engine/settlement.h"
 #include "engine/special_bets.h"
 #include "engine/table.h"
@@ -89,7 +92,22 @@ void FigureAvailableBankrolls() {
 }
 
 // Where a roll's dice come from.
-enum class DiceSource { None, ManualPad, RollFile, Generator };
+enum class DiceSource { None, ManualPad, PopupRoll, RollFile, Generator };
+
+// Whether the roll may begin: a pop-up roll file that does not come leaves it unmade.
+bool PopupRollIsThere() {
+  if (PopupRoll.PopupRollActive == 0 || Roll.ManualRollPending != 0) return true;
+  if (WaitForPopupRoll()) return true;
+  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  return false;
+}
+
+// The dice of a source that may stop the roll.
+DiceSource DiceFrom(DiceSource source, std::optional<Faces> taken, Faces& faces) {
+  if (!taken) return DiceSource::None;
+  faces = *taken;
+  return source;
+}
 
 // The dice of the next roll from the first source that has them. Nothing of the table has changed
 // yet, so a source that stops the roll leaves no trace. A face that no die has raises the index
@@ -100,11 +118,11 @@ DiceSource TakeDice(Faces& faces) {
     faces = {Roll.ManualDie1, Roll.ManualDie2};
     return DiceSource::ManualPad;
   }
+  if (PopupRoll.PopupRollActive != 0) {
+    return DiceFrom(DiceSource::PopupRoll, TakePopupRoll(), faces);
+  }
   if (RollFile.RollFileMode == RollFilePlay) {
-    const std::optional<Faces> played = PlayBackRoll();
-    if (!played) return DiceSource::None;
-    faces = *played;
-    return DiceSource::RollFile;
+    return DiceFrom(DiceSource::RollFile, PlayBackRoll(), faces);
   }
   faces = MakeDice(RollsInSession());
   if (faces.die1 == 0) {
@@ -142,9 +160,10 @@ std::string GeneratorText() {
 
 void LogRollLine(DiceSource source) {
   if (!Logs(&EventsLogState::LogRolls)) return;
-  const std::string from = source == DiceSource::ManualPad  ? " from manual roll pad"
-                           : source == DiceSource::RollFile ? " from roll file"
-                                                            : GeneratorText();
+  const std::string from = source == DiceSource::ManualPad   ? " from manual roll pad"
+                           : source == DiceSource::PopupRoll ? " from pop-up roll file"
+                           : source == DiceSource::RollFile  ? " from roll file"
+                                                             : GeneratorText();
   LogRoll(RollsInSession() + 1, Table.Die1, Table.Die2, from);
 }
 
@@ -308,6 +327,7 @@ bool OneRoll() {
   Table.StopReason.clear();
   Table.RollInProgress = -1;
   if (!RequiredBetStands() || !BelowMaximumRolls()) return false;
+  if (!PopupRollIsThere()) return false;
   Table.BetChangedThisRoll = 0;
   FigureAvailableBankrolls();
   Faces faces{};
@@ -323,15 +343,19 @@ bool GoOnRolling() {
   if (Table.HyperDriveOn == 0) return false;
   FrontEnd.RunPendingEvents();
   StopAtCount();
-  return Table.HyperDriveOn != 0 && Table.StopReason.empty();
+  if (Table.HyperDriveOn == 0 || !Table.StopReason.empty()) return false;
+  if (Settings.Throttle > 0) ThrottleRoll();
+  return true;
 }
 
-// A fault ends the roll where it stands; under the Hyper-Drive the next one begins.
-void RollUntilStopped() {
+// A fault ends the roll where it stands; an unattended run goes on with the next one. Returns
+// whether rolls can be made.
+bool RollUntilStopped() {
   bool rolled = true;
   do {
     Trapped("MakeRoll", [&rolled] { rolled = OneRoll(); });
   } while (rolled && GoOnRolling());
+  return rolled;
 }
 
 // Whether the active scripts, if there are any, are compiled as they stand now.
@@ -341,13 +365,61 @@ bool ScriptsCanRun() {
   return Scripts.ProgramReady;
 }
 
-void EndRolling() {
-  Table.LastStopReason = Table.StopReason;
+// Between two rolls of Auto-Roll: the table stands as it is until the next one may begin.
+void PauseAutoRoll() {
+  if (Table.AutoRollOn == 0 || Table.HyperDriveOn != 0 || !Table.StopReason.empty()) return;
+  FrontEnd.DrawStatus();
+  if (AutoStopIsDue()) {
+    StopUnattended();
+    ShowMessage("Stopped by Auto-Stop", "Auto-Roll Stopped", msg::OkAlert);
+  } else {
+    WaitForNextRoll();
+  }
+}
+
+void CallComeOut() {
+  if (Table.Point != 0 || Settings.DisableAllSound != 0) return;
+  if (RollsInSession() == 1) FrontEnd.PlaySound(Sound::FirstComeOut);
+  FrontEnd.PlaySound(Sound::ComeOut);
+}
+
+// The end of play asks what becomes of the roll file: the end of a person's run, and that of the
+// file itself. A Hyper-Drive that no one at the table has started asks nobody.
+void EndPlay(bool ranUnattended) {
+  const bool fileEnded = !Table.StopReason.empty() && RollFile.EndReached;
+  const bool asksNobody = Table.HyperDriveOn != 0 && Table.AutoRollOn == 0;
   if (!Table.StopReason.empty()) StopUnattended();
+  const bool runEnded = ranUnattended && Table.AutoRollOn == 0;
+  if (!asksNobody && (fileEnded || runEnded)) Trapped("StopRollFile", StopRollFile);
+}
+
+void EndRolling(bool ranUnattended, bool rolled) {
+  Table.LastStopReason = Table.StopReason;
+  EndPlay(ranUnattended);
   Table.StopReason.clear();
-  if (Table.Point == 0 && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::ComeOut);
+  if (rolled) CallComeOut();
   Table.RollInProgress = 0;
   FrontEnd.DrawStatus();
+}
+
+// A roll, or all those of the Hyper-Drive, with the end of play. Returns whether the Auto-Roll goes
+// on with the next one.
+bool RollAndEnd() {
+  ReplaceMissingGenerator();
+  if (Table.BankrollStopPlace != 0) {
+    BankrollLimitStop(Table.BankrollStopPlace);
+    return false;
+  }
+  if (!ScriptsCanRun()) {
+    if (Table.AutoRollOn != 0) StopUnattended();
+    return false;
+  }
+  const int32_t rollsBefore = RollsInSession();
+  const bool ranUnattended = Table.AutoRollOn != 0;
+  const bool goesOn = RollUntilStopped();
+  if (goesOn) PauseAutoRoll();
+  EndRolling(ranUnattended, RollsInSession() != rollsBefore);
+  return goesOn && Table.AutoRollOn != 0;
 }
 
 }  // namespace
@@ -359,17 +431,8 @@ bool AutoStopIsDue() {
 
 void MakeRoll() {
   if (Table.RollInProgress != 0) return;
-  ReplaceMissingGenerator();
-  if (Table.BankrollStopPlace != 0) {
-    BankrollLimitStop(Table.BankrollStopPlace);
-    return;
+  while (RollAndEnd()) {
   }
-  if (!ScriptsCanRun()) {
-    if (Table.AutoRollOn != 0) StopUnattended();
-    return;
-  }
-  RollUntilStopped();
-  EndRolling();
 }
 
 }  // namespace tessarel

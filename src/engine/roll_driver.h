@@ -1,6 +1,6 @@
 // The roll driver: one call makes one roll, from the checks that may refuse it to the moment
-// control goes back to the user. Under the Hyper-Drive the same call keeps rolling until something
-// stops it.
+// control goes back to the user. Under the Hyper-Drive and under Auto-Roll the same call keeps
+// rolling until something stops it.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,8 @@ struct RollState {
 
 extern RollState Roll;
 
-// Makes a roll; see the steps in the source. It reads and writes the state of the tables.
+// Makes a roll; see the steps in the source. It reads and writes the state of the tables. A call
+// from within a roll does nothing.
 void MakeRoll();
 
 // Whether an unattended run stops after the rolls made so far because of AutoStopRolls.

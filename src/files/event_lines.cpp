@@ -244,6 +244,11 @@ void LogSeed(int32_t generator, int32_t seed) {
   WriteEvent(Join("    RNG #", std::to_string(generator), " seeded: ", std::to_string(seed)));
 }
 
+void LogPlayback(std::string_view file) {
+  if (EventsLog.LogOn == 0) return;
+  WriteEvent(Join("    Dice roll file playback activated (", file, ")"));
+}
+
 void LogNewSession() {
   if (EventsLog.LogOn == 0) return;
   EndSections();

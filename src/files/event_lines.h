@@ -43,6 +43,9 @@ void LogPlayerRenamed(std::string_view before, std::string_view after);
 void LogCashOut(int place, Money abandoned);
 void LogSeed(int32_t generator, int32_t seed);
 
+// A roll file is set to play while the session goes on.
+void LogPlayback(std::string_view file);
+
 // The opening lines of a session in two parts, between which the dice may be seeded: the heading
 // with the players, then what the first hand starts with, active scripts and the shooter.
 // `playedFile` is the roll file that is playing, empty for none.

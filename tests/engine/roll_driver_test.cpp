@@ -136,10 +136,11 @@ TEST_F(RollDriver, GraphOfAnOpenPlaceKeepsNothingOfWhoLeft) {
 TEST_F(RollDriver, AutoRollGoesOnUntilSomethingStopsIt) {
   Seat(1);
   Table.AutoRollOn = -1;
+  FrontEnd.RunPendingEvents = [] {
+    if (RollsInSession() == 3) Settings.BetNeededToShoot = 2;
+  };
   Throw(1, 2);
-  EXPECT_NE(Table.AutoRollOn, 0);
-  Settings.BetNeededToShoot = 2;
-  Throw(1, 2);
+  EXPECT_EQ(RollsInSession(), 3);
   EXPECT_EQ(Table.AutoRollOn, 0);
   EXPECT_EQ(Table.LastStopReason, "Shooter has no bet.");
 }

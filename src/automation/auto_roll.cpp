@@ -1,0 +1,106 @@
+#include "automation/auto_roll.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "autobet/values.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/money.h"
+#include "base/single_byte_text.h"
+#include "config/language.h"
+#include "config/settings.h"
+#include "engine/roll_driver.h"
+#include "engine/table.h"
+#include "engine/unattended.h"
+
+namespace tessarel {
+
+namespace {
+
+// Numbers of the general text table.
+constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114, StartAutoRollText = 115,
+              AutoRollActiveText = 117, AutoBetActiveText = 121, StopAutoBettingText = 145,
+              RollDelayText = 155;
+
+constexpr Money LongestDelay = 300;  // seconds
+
+constexpr const char* AskAutoStop =
+    "How often (number of rolls) would you like Auto-Roll / Hyper-Drive to automatically stop?  "
+    "(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
+    "automatic stopping.)";
+
+bool Runs() {
+  return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
+}
+
+void Start(UnattendedMode mode) {
+  if (Runs() || Table.RollInProgress != 0) return;
+  Table.AutoRollOn = -1;
+  Table.HyperDriveOn = mode == UnattendedMode::HyperDrive ? -1 : 0;
+  FrontEnd.DrawStatus();
+  MakeRoll();
+  StopUnattended();
+}
+
+// The number that the user types over the present one.
+std::optional<Money> AskForNumber(std::string_view question, std::string_view title, Money now) {
+  if (!AskForText(std::string(question), std::string(title), PlainText(now))) return std::nullopt;
+  return ParseMoney(TrimSpaces(Message.MsgInput));
+}
+
+}  // namespace
+
+void ToggleAutoRoll(UnattendedMode mode) {
+  Runs() ? StopAutoRoll() : Start(mode);
+}
+
+void StartAutoRoll() {
+  Start(UnattendedMode::AutoRoll);
+}
+
+void StartHyperDrive() {
+  Start(UnattendedMode::HyperDrive);
+}
+
+void StopAutoRoll() {
+  StopUnattended();
+}
+
+std::string_view HyperDriveCaption() {
+  return GetText(Table.HyperDriveOn != 0 ? HyperDriveActiveText : StartHyperDriveText);
+}
+
+std::string_view AutoRollCaption() {
+  const bool active = Table.AutoRollOn != 0 && Table.HyperDriveOn == 0;
+  return GetText(active ? AutoRollActiveText : StartAutoRollText);
+}
+
+void AskSetAutoStop() {
+  const auto rolls =
+      AskForNumber(AskAutoStop, "Set Auto-Roll / Hyper-Drive Auto-Stop", Settings.AutoStopRolls);
+  if (!rolls) return;
+  Settings.AutoStopRolls = Money::FromWhole(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
+}
+
+void AskSetTimeDelay() {
+  const auto delay =
+      AskForNumber(GetText(RollDelayText), GetTitle(TitleAutoRollDelay), Settings.RollDelay);
+  if (delay) Settings.RollDelay = std::clamp(*delay, Money(), LongestDelay);
+}
+
+bool ConfirmScriptActive() {
+  if (AutoBet.ScriptRunning == 0) return true;
+  const std::string question = std::string(GetText(StopAutoBettingText)) + "\r\r" +
+                               At(Table.PlayerName, AutoBet.CurrentScriptPlayer) +
+                               "'s script processing.";
+  const int32_t answer =
+      ShowMessage(question, std::string(GetText(AutoBetActiveText)), msg::AskNoDefault);
+  if (answer != AnswerYes) return false;
+  AutoBet.ScriptRunning = 0;
+  StopUnattended();
+  return true;
+}
+
+}  // namespace tessarel
