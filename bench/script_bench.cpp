@@ -62,11 +62,11 @@ void Sample(benchmark::State& state) {
 }
 BENCHMARK(Sample)->DenseRange(1, 9);
 
-void EightPlayers(benchmark::State& state) {
+void EightScripts(benchmark::State& state) {
   SetTable(static_cast<int>(state.range(0)), LastPlace);
   Roll(state);
 }
-BENCHMARK(EightPlayers)->DenseRange(1, 9);
+BENCHMARK(EightScripts)->DenseRange(1, 9);
 
 void CheckLongScript(benchmark::State& state) {
   StartUp("/tmp");
