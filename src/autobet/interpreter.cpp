@@ -251,19 +251,21 @@ void Execute(const Instruction& instruction) {
   }
 }
 
+// The texts of a statement end with it: whatever keeps one has taken a copy.
+inline void DropMadeStrings() {
+  if (AutoBet.Strings.size() > Interpreter.LastingStrings)
+    AutoBet.Strings.resize(Interpreter.LastingStrings);
+}
+
 // Runs the instructions of a statement up to its end or its first error.
 void Evaluate(const Statement& statement) {
+  DropMadeStrings();
   AutoBet.ScriptError = 0;
   Interpreter.Stack.clear();
   Interpreter.Marks.clear();
   const std::span code(Interpreter.Program.code);
   for (int32_t k = statement.code; k < statement.codeEnd && AutoBet.ScriptError == 0; ++k)
     Execute(At(code, k));
-}
-
-void DropMadeStrings() {
-  if (AutoBet.Strings.size() > Interpreter.LastingStrings)
-    AutoBet.Strings.resize(Interpreter.LastingStrings);
 }
 
 constexpr std::string_view JumpText = "A jump will be made to the designated label.\rLabel.";
@@ -276,10 +278,10 @@ class Cycle {
  private:
   void RunStatements();
   void RunStatement(const Statement& statement);
-  void RunCondition(const Statement& statement);
+  void RunCondition();
   void RunAction(const Statement& statement);
   void Then(const Statement& statement);
-  void FallOutOrBegin(const Statement& statement, std::string_view begins);
+  bool BeginsHere(const Statement& statement, std::string_view text);
   void Return();
   void StartOver();
   void Fail(const Fault& fault);
@@ -311,15 +313,21 @@ void Cycle::ReportError(std::string_view outcome) const {
   if (Table.HyperDriveOn != 0) return;
   const std::string text = ScriptErrorText(AutoBet.ScriptError);
   FrontEnd.ReportScriptError(AutoBet.CurrentScriptPlayer, Current().line, text);
-  Step(std::string(outcome) + "\r" + text);
+  if (AutoBet.ShowSteps != 0) ShowStep(std::string(outcome) + "\r" + text);
 }
 
-void Cycle::RunCondition(const Statement& statement) {
+// The condition and the then behind it, at which the pointer stands when it goes on or jumps.
+void Cycle::RunCondition() {
   conditionIsTrue_ = false;
-  Evaluate(statement);
-  if (AutoBet.ScriptError != 0) return ReportError("Unable to evaluate.");
-  conditionIsTrue_ = PopNumber() != 0;
-  Step(conditionIsTrue_ ? "Condition is true." : "Condition is false.");
+  Evaluate(Current());
+  if (AutoBet.ScriptError != 0) {
+    ReportError("Unable to evaluate.");
+  } else {
+    conditionIsTrue_ = PopNumber() != 0;
+    Step(conditionIsTrue_ ? "Condition is true." : "Condition is false.");
+  }
+  ++pointer_;
+  Then(Current());
 }
 
 // The script of the session that a statement has started begins with its first statement.
@@ -344,26 +352,31 @@ void Cycle::RunAction(const Statement& statement) {
 }
 
 void Cycle::Then(const Statement& statement) {
-  const std::string_view begins = "End of condition block and beginning of action block.\r";
   if (conditionIsTrue_) {
-    Step(std::string(begins) + "Conditions were true, so next action block will be performed.");
+    Step(
+        "End of condition block and beginning of action block.\r"
+        "Conditions were true, so next action block will be performed.");
     ++pointer_;
     return;
   }
-  Step(std::string(begins) + "Conditions were false, so next action block will be skipped.");
+  Step(
+      "End of condition block and beginning of action block.\r"
+      "Conditions were false, so next action block will be skipped.");
   jumpedHere_ = true;
   JumpTo(statement.target);
 }
 
 // An else or elseif: reached out of a block it ends the structure, else it begins the next part.
-void Cycle::FallOutOrBegin(const Statement& statement, std::string_view begins) {
+// Returns whether it begins it.
+bool Cycle::BeginsHere(const Statement& statement, std::string_view text) {
   if (std::exchange(jumpedHere_, false)) {
-    Step(begins);
+    Step(text);
     ++pointer_;
-    return;
+    return true;
   }
   Step("End of action block.\rEnd of If/Then structure.");
   JumpTo(statement.target);
+  return false;
 }
 
 void Cycle::Return() {
@@ -383,16 +396,17 @@ void Cycle::RunStatement(const Statement& statement) {
       break;
     case StatementKind::If:
       Step("Beginning of condition block.");
-      break;
-    case StatementKind::Condition:
-      RunCondition(statement);
-      break;
-    case StatementKind::Then:
-      return Then(statement);
-    case StatementKind::Else:
-      return FallOutOrBegin(statement, "Beginning of last action block.");
+      ++pointer_;
+      return RunCondition();
     case StatementKind::ElseIf:
-      return FallOutOrBegin(statement, "Beginning of condition block.");
+      if (!BeginsHere(statement, "Beginning of condition block.")) return;
+      return RunCondition();
+    case StatementKind::Condition:
+    case StatementKind::Then:
+      break;  // run with their if
+    case StatementKind::Else:
+      BeginsHere(statement, "Beginning of last action block.");
+      return;
     case StatementKind::EndIf:
       jumpedHere_ = false;
       Step("End of If/Then structure.");
@@ -427,7 +441,6 @@ void Cycle::RunStatement(const Statement& statement) {
 void Cycle::RunStatements() {
   while (pointer_ < Interpreter.Program.statements.size() && AutoBet.ScriptRunning != 0) {
     RunStatement(Current());
-    DropMadeStrings();
     if (--untilEvents_ > 0) continue;
     untilEvents_ = StatementsBetweenEvents;
     FrontEnd.RunPendingEvents();
@@ -439,9 +452,14 @@ void Cycle::Fail(const Fault& fault) {
   AutoBet.ScriptError = FaultError;
   AutoBet.FaultText =
       fault.Description + ", Error #" + std::to_string(fault.Number) + "\r occurred at: RunAutoBet";
-  ReportError(Current().kind == StatementKind::Condition ? "Unable to evaluate."
-                                                         : "No action taken.");
+  if (Current().kind != StatementKind::Condition) {
+    ReportError("No action taken.");
+    ++pointer_;
+    return;
+  }
+  ReportError("Unable to evaluate.");
   ++pointer_;
+  Then(Current());
 }
 
 void Cycle::Run() {

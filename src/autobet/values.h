@@ -64,7 +64,7 @@ struct ListItem {
 };
 
 struct AutoBetState {
-  // The strings of the compiled scripts, and behind them those made in this cycle; from 1.
+  // The strings of the compiled scripts, and behind them those made by the running statement; from 1.
   std::vector<ScriptString> Strings = std::vector<ScriptString>(1);
 
   int32_t ScriptRunning = 0;        // -1 in a cycle; set to 0, the cycle stops
@@ -104,7 +104,7 @@ std::string TextOf(const ScriptValue& value);
 double NumberOf(const ScriptValue& value);
 double LeadingNumber(std::string_view text);
 
-// A text made at run time; it lives until the cycle ends.
+// A text made at run time; it lives until the statement ends.
 ScriptValue MakeText(std::string text);
 
 // a op b, op LogicEqual to LogicGreaterOrEqual: as numbers if a is a number, else as texts byte by

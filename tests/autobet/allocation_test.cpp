@@ -1,0 +1,72 @@
+// Scripts that make no texts allocate nothing on the road of a roll. The counting replaces the
+// program's allocation, which the address sanitizer does itself.
+#include <gtest/gtest.h>
+
+#ifndef __SANITIZE_ADDRESS__
+
+#include <cstdlib>
+#include <new>
+#include <string>
+
+#include "app/session.h"
+#include "autobet/interpreter.h"
+#include "autobet/script_files.h"
+#include "base/front_end.h"
+#include "config/settings.h"
+#include "engine/players.h"
+#include "engine/roll_driver.h"
+#include "engine/table.h"
+
+namespace {
+
+long Allocations = 0;
+
+}  // namespace
+
+void* operator new(size_t size) {
+  ++Allocations;
+  if (void* const memory = std::malloc(size)) return memory;
+  throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, size_t) noexcept {
+  std::free(memory);
+}
+
+namespace tessarel {
+namespace {
+
+int RollsLeft = 0;
+
+void RollFor(int rolls) {
+  RollsLeft = rolls;
+  Table.HyperDriveOn = -1;
+  MakeRoll();
+}
+
+TEST(ScriptsUnderTheHyperDrive, AllocateNothing) {
+  StartUp("/tmp/");
+  Settings.BetNeededToShoot = 0;
+  for (int place = 1; place <= LastPlace; ++place) {
+    SeatPlayer(place, "Player " + std::to_string(place), 1'000'000);
+    ASSERT_TRUE(ReadScriptFile(place, TESSAREL_SAMPLES "/sample" + std::to_string(place) + ".bet"));
+    SetScriptActive(place, true);
+  }
+  InitializeScripts();
+  FrontEnd.RunPendingEvents = [] {
+    if (--RollsLeft == 0) Table.HyperDriveOn = 0;
+  };
+  RollFor(2'000);
+  const long before = Allocations;
+  RollFor(2'000);
+  EXPECT_EQ(Allocations - before, 0);
+  EXPECT_EQ(RollsLeft, 0);
+  FrontEnd = {};
+}
+
+}  // namespace
+}  // namespace tessarel
+
+#endif
