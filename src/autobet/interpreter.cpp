@@ -344,13 +344,16 @@ void Cycle::RunAction(const Statement& statement) {
 }
 
 void Cycle::Then(const Statement& statement) {
-  const std::string_view begins = "End of condition block and beginning of action block.\r";
   if (conditionIsTrue_) {
-    Step(std::string(begins) + "Conditions were true, so next action block will be performed.");
+    Step(
+        "End of condition block and beginning of action block.\rConditions were true, so next "
+        "action block will be performed.");
     ++pointer_;
     return;
   }
-  Step(std::string(begins) + "Conditions were false, so next action block will be skipped.");
+  Step(
+      "End of condition block and beginning of action block.\rConditions were false, so next "
+      "action block will be skipped.");
   jumpedHere_ = true;
   JumpTo(statement.target);
 }
