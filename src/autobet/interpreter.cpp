@@ -9,6 +9,7 @@
 #include "autobet/actions.h"
 #include "autobet/calculation.h"
 #include "autobet/checker.h"
+#include "autobet/function_call.h"
 #include "autobet/functions.h"
 #include "autobet/program.h"
 #include "autobet/script_errors.h"
@@ -26,6 +27,7 @@ namespace {
 
 constexpr int32_t FaultError = 10000;
 constexpr int32_t PlayerError = 50;
+constexpr int32_t TextError = 998;
 
 // A reference on the stack is packed into the value of a variable token.
 static_assert(sizeof(Reference) == sizeof(double));
@@ -182,13 +184,21 @@ void Command(int32_t action) {
   if (AutoBet.ScriptError == 0) RunCommand({action, values, targets});
 }
 
+// Within the limit of all texts, so that a script cannot double one without end.
+ScriptValue Joined(const ScriptValue& left, const ScriptValue& right) {
+  std::string text = TextOf(left) + TextOf(right);
+  if (text.size() <= MaxTextLength) return MakeText(std::move(text));
+  FailScript(TextError);
+  return Number(0);
+}
+
 // The instructions that work on two values.
 void Combine(const Instruction& instruction) {
   const ScriptValue right = Pop().value;
   ScriptValue& left = Interpreter.Stack.back().value;
   switch (instruction.operation) {
     case Operation::Join:
-      left = MakeText(TextOf(left) + TextOf(right));
+      left = Joined(left, right);
       break;
     case Operation::Compare:
       left = Truth(CompareValues(left, instruction.argument, right));
