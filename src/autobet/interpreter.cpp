@@ -300,6 +300,8 @@ class Cycle {
   void ShowStep(std::string text) const;
   const Statement& Current() const { return Interpreter.Program.statements[pointer_]; }
   void JumpTo(int32_t statement) { pointer_ = static_cast<size_t>(statement); }
+  // For jumps whose own step text speaks for the label, endif or loop they lead to.
+  void JumpBehind(int32_t statement) { JumpTo(statement + 1); }
 
   // After so many statements waiting events run, so that an endless script can be stopped.
   static constexpr int StatementsBetweenEvents = 4096;
@@ -376,7 +378,7 @@ void Cycle::FallOutOrBegin(const Statement& statement, std::string_view begins) 
     return;
   }
   Step("End of action block.\rEnd of If/Then structure.");
-  JumpTo(statement.target);
+  JumpBehind(statement.target);
 }
 
 void Cycle::Return() {
@@ -418,14 +420,14 @@ void Cycle::RunStatement(const Statement& statement) {
       return JumpTo(statement.target);
     case StatementKind::ExitDo:
       Step("Exit from DO/LOOP structure.");
-      return JumpTo(statement.target + 1);
+      return JumpBehind(statement.target);
     case StatementKind::Goto:
       Step(JumpText);
-      return JumpTo(statement.target);
+      return JumpBehind(statement.target);
     case StatementKind::Gosub:
       Step("A jump will be made to the designated subroutine.\rLabel.");
       Interpreter.SubroutineStack.push_back(static_cast<int32_t>(pointer_));
-      return JumpTo(statement.target);
+      return JumpBehind(statement.target);
     case StatementKind::Return:
       return Return();
     case StatementKind::Label:

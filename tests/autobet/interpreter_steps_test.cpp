@@ -1,0 +1,57 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "app/session.h"
+#include "autobet/interpreter.h"
+#include "autobet/script_store.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/temporary_folder.h"
+#include "engine/players.h"
+
+namespace tessarel {
+namespace {
+
+std::vector<std::string> Shown;
+
+// The line and the text of each step of a script of one player.
+std::vector<std::string> StepsOf(std::vector<std::string> lines) {
+  const TemporaryFolder folder;
+  StartUp(folder.Path());
+  SeatPlayer(1, "Ann", 1000);
+  Scripts.Places[1].lines = std::move(lines);
+  SetScriptActive(1, true);
+  CheckScriptErrors();
+  Shown.clear();
+  FrontEnd = {};
+  FrontEnd.ShowStep = [](const ScriptStep& step) {
+    Shown.push_back(std::to_string(step.line) + " " + OnOneLine(step.text));
+  };
+  AutoBet.ShowSteps = -1;
+  RunAutoBet();
+  FrontEnd = {};
+  AutoBet.ShowSteps = 0;
+  return Shown;
+}
+
+TEST(ScriptSteps, TellOnceWhereAJumpLeads) {
+  const std::vector<std::string> wanted = {
+      "1 Beginning of condition block.",
+      "1 Condition is true.",
+      "1 End of condition block and beginning of action block. / Conditions were true, so next "
+      "action block will be performed.",
+      "2 A jump will be made to the designated subroutine. / Label.",
+      "8 Action taken.",
+      "9 Return to place where subroutine was initiated.",
+      "3 End of action block. / End of If/Then structure.",
+      "6 A jump will be made to the designated label. / Label.",
+  };
+  EXPECT_EQ(StepsOf({"if 1 = 1 then", "gosub 5", "else", "cs1 = 2", "endif", "goto \"end\"",
+                     "5:", "cs1 = 1", "return", "\"end\""}),
+            wanted);
+}
+
+}  // namespace
+}  // namespace tessarel
