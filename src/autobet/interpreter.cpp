@@ -518,6 +518,7 @@ void TellOfFaultyScript(int place) {
 
 void CheckScriptErrors() {
   Scripts.ProgramReady = false;
+  if (AutoBet.ScriptRunning != 0) return;
   ScriptProgram program;
   std::vector<ScriptString> strings(1);
   for (int place = 1; place <= LastPlace; ++place) {
@@ -528,6 +529,7 @@ void CheckScriptErrors() {
 }
 
 bool CompileHotKeyScript() {
+  if (AutoBet.ScriptRunning != 0) return false;
   Scripts.ProgramReady = false;
   ScriptProgram program;
   std::vector<ScriptString> strings(1);

@@ -10,22 +10,27 @@
 #include "base/message.h"
 #include "base/temporary_folder.h"
 #include "engine/players.h"
+#include "engine/table.h"
 
 namespace tessarel {
 namespace {
 
 std::vector<std::string> Shown;
 
-// The line and the text of each step of a script of one player.
-std::vector<std::string> StepsOf(std::vector<std::string> lines) {
-  const TemporaryFolder folder;
+void ActivateScript(const TemporaryFolder& folder, std::vector<std::string> lines) {
   StartUp(folder.Path());
+  FrontEnd = {};
   SeatPlayer(1, "Ann", 1000);
   Scripts.Places[1].lines = std::move(lines);
   SetScriptActive(1, true);
   CheckScriptErrors();
+}
+
+// The line and the text of each step of a script of one player.
+std::vector<std::string> StepsOf(std::vector<std::string> lines) {
+  const TemporaryFolder folder;
+  ActivateScript(folder, std::move(lines));
   Shown.clear();
-  FrontEnd = {};
   FrontEnd.ShowStep = [](const ScriptStep& step) {
     Shown.push_back(std::to_string(step.line) + " " + OnOneLine(step.text));
   };
@@ -36,7 +41,7 @@ std::vector<std::string> StepsOf(std::vector<std::string> lines) {
   return Shown;
 }
 
-TEST(ScriptSteps, TellOnceWhereAJumpLeads) {
+TEST(ScriptCycle, TellsOnceWhereAJumpLeads) {
   const std::vector<std::string> wanted = {
       "1 Beginning of condition block.",
       "1 Condition is true.",
@@ -51,6 +56,20 @@ TEST(ScriptSteps, TellOnceWhereAJumpLeads) {
   EXPECT_EQ(StepsOf({"if 1 = 1 then", "gosub 5", "else", "cs1 = 2", "endif", "goto \"end\"",
                      "5:", "cs1 = 1", "return", "\"end\""}),
             wanted);
+}
+
+TEST(ScriptCycle, RunsTheProgramItBeganWith) {
+  const TemporaryFolder folder;
+  ActivateScript(folder, {"show message \"a\"", "csn1 = \"a text that has its own memory\""});
+  FrontEnd.ShowMessage = [] {
+    Scripts.Places[1].lines = {"cs1 = 1"};
+    CheckScriptErrors();
+    EXPECT_FALSE(CompileHotKeyScript());
+  };
+  RunAutoBet();
+  FrontEnd = {};
+  EXPECT_EQ(Table.CheckStackName[1][1], "a text that has its own memory");
+  EXPECT_FALSE(Scripts.ProgramReady);
 }
 
 }  // namespace
