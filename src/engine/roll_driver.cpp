@@ -317,11 +317,20 @@ bool OneRoll() {
   return !StoppedByBankroll();
 }
 
-// Between two rolls of the Hyper-Drive. Returns whether it goes on.
+// Whether the active scripts, if there are any, are compiled as they stand now.
+bool ScriptsCanRun() {
+  if (Scripts.ScriptActive[0] == 0) return true;
+  if (!Scripts.ProgramReady) CheckScriptErrors();
+  return Scripts.ProgramReady;
+}
+
+// Between two rolls of the Hyper-Drive. Returns whether it goes on. The events may have changed the
+// scripts.
 bool GoOnRolling() {
   if (Table.HyperDriveOn == 0) return false;
   FrontEnd.RunPendingEvents();
   StopAtCount();
+  if (Table.HyperDriveOn != 0 && !ScriptsCanRun()) StopUnattended();
   return Table.HyperDriveOn != 0 && Table.StopReason.empty();
 }
 
@@ -331,13 +340,6 @@ void RollUntilStopped() {
   do {
     Trapped("MakeRoll", [&rolled] { rolled = OneRoll(); });
   } while (rolled && GoOnRolling());
-}
-
-// Whether the active scripts, if there are any, are compiled as they stand now.
-bool ScriptsCanRun() {
-  if (Scripts.ScriptActive[0] == 0) return true;
-  if (!Scripts.ProgramReady) CheckScriptErrors();
-  return Scripts.ProgramReady;
 }
 
 void EndRolling() {

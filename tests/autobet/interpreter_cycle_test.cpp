@@ -9,8 +9,11 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
+#include "config/settings.h"
 #include "engine/players.h"
+#include "engine/roll_driver.h"
 #include "engine/table.h"
+#include "stats/store.h"
 
 namespace tessarel {
 namespace {
@@ -70,6 +73,29 @@ TEST(ScriptCycle, RunsTheProgramItBeganWith) {
   FrontEnd = {};
   EXPECT_EQ(Table.CheckStackName[1][1], "a text that has its own memory");
   EXPECT_FALSE(Scripts.ProgramReady);
+}
+
+TEST(ScriptCycle, TakesUpWhatChangesDuringTheHyperDrive) {
+  const TemporaryFolder folder;
+  ActivateScript(folder, {"cs1 = 1"});
+  Settings.BetNeededToShoot = 0;
+  Table.HyperDriveOn = -1;
+  FrontEnd.RunPendingEvents = [] {
+    if (RollsInSession() == 1) {
+      Scripts.Places[1].lines = {"cs2 = 2"};
+      SetScriptActive(1, true);
+    } else if (RollsInSession() == 3) {
+      Scripts.Places[1].lines = {"cs2 ="};
+      SetScriptActive(1, true);
+    }
+  };
+  MakeRoll();
+  FrontEnd = {};
+  EXPECT_EQ(Bet(1, FirstStack + 1), Money(1));
+  EXPECT_EQ(Bet(1, FirstStack + 2), Money(2));
+  EXPECT_EQ(RollsInSession(), 3);
+  EXPECT_EQ(Table.HyperDriveOn, 0);
+  NewScript(1);
 }
 
 }  // namespace
