@@ -140,11 +140,11 @@ class TargetMarker {
     return false;
   }
 
-  // Gathers the variables of a list, with or without the words "any" and "all", qualifiers between
-  // them left out. Returns where what is no part of such a list begins.
+  // Gathers the variables of a list, with or without brackets and the words "any" and "all",
+  // qualifiers between them left out. Returns where what is no part of such a list begins.
   size_t FindTargets(size_t from, size_t to) {
     targets_.clear();
-    int lists = 0;
+    int brackets = 0;
     bool itemBegins = true;
     size_t k = from;
     while (k < to) {
@@ -156,12 +156,12 @@ class TargetMarker {
         targets_.push_back(k);
         k = walk_.End(k);
         itemBegins = false;
-      } else if (itemBegins && code == ListToken) {
-        ++lists;
-        k += 2;
-      } else if (!itemBegins && lists > 0 && code == LogicClose) {
-        --lists;
-        k += 2;
+      } else if (itemBegins && (code == ListToken || code == LogicOpen)) {
+        ++brackets;
+        k += code == ListToken ? 2 : 1;
+      } else if (!itemBegins && brackets > 0 && code == LogicClose) {
+        --brackets;
+        k += k + 1 < to && stream_[k + 1].code == EmptyToken ? 2 : 1;
       } else if (!itemBegins && (code == LogicSeparator || code == LogicThru)) {
         itemBegins = true;
         ++k;

@@ -212,9 +212,11 @@ class StatementCompiler {
   void NamedReference();
   Found ReferenceValue();
   Found FunctionValue();
-  void Arguments(const Signature& signature, const std::string& name);
+  void Arguments(const Signature& signature, const std::string& name, bool namesSet);
   Found ListOf(int32_t* word);
   bool ItemIsThru() const;
+  bool AtAllRolls() const;
+  void AllRolls();
   void Thru(Operation operation);
   void ListItems(int32_t function);
   void QualifierItem(int32_t function);
@@ -227,12 +229,14 @@ class StatementCompiler {
   void PlaybackArguments();
   void SwapArguments();
   void BetArithmetic();
-  void CheckBoughtBets(size_t first) const;
+  [[noreturn]] void RefuseTarget() const;
+  static void CheckBoughtBet(const Reference& reference);
 
   std::span<const ScriptToken> tokens_;
   size_t at_ = 0, end_;
   int32_t shift_;
   int depth_ = 0;
+  bool buys_ = false;  // the targets are Place bets to be bought
   ScriptProgram& program_;
 };
 
@@ -406,11 +410,13 @@ Reference StatementCompiler::Qualifiers(int count) {
 
 void StatementCompiler::ReferenceOnStack() {
   if (Code() == FunctionToken || Code() == FunctionTarget) return NamedReference();
+  const bool isTarget = Code() == VariableTarget;
   const auto number = static_cast<int32_t>(tokens_[at_++].value);
   if (IsBet(number) && !OnLayout(number)) Refuse(LackingBetsText(number));
   const size_t push = Emit(Operation::PushReference);
   Reference reference = Qualifiers(QualifierCount(number));
   reference.number = number;
+  if (buys_ && isTarget) CheckBoughtBet(reference);
   program_.code[push].argument = Keep(reference);
 }
 
@@ -442,11 +448,12 @@ Found StatementCompiler::FunctionValue() {
   const Signature* const signature = SignatureOf(function);
   if (signature == nullptr) Refuse(std::string(LeftOver));
   const size_t push = Emit(Operation::PushReference);
-  program_.code[push].argument = Keep(Qualifiers(FunctionQualifierCount(function)));
+  const Reference reference = Qualifiers(FunctionQualifierCount(function));
+  program_.code[push].argument = Keep(reference);
   Emit(Operation::Mark);
   const Nesting nesting(depth_);
   if (Code() == LogicOpen) {
-    Arguments(*signature, name);
+    Arguments(*signature, name, IsRollStatistic(function) && reference.first >= ModBasicNumbers);
   } else if (signature->least > 1 || Primary() != Found::Value) {
     Refuse("Missing expression in " + name + " function.");
   }
@@ -454,11 +461,17 @@ Found StatementCompiler::FunctionValue() {
   return Found::Value;
 }
 
-void StatementCompiler::Arguments(const Signature& signature, const std::string& name) {
+// A set of rolls alone in the brackets (`namesSet`) means all of its rolls.
+void StatementCompiler::Arguments(const Signature& signature,
+                                  const std::string& name,
+                                  bool namesSet) {
   const std::string in = " in " + name + " function.";
   ++at_;
-  if (Code() == LogicClose) Refuse("Missing expression" + in);
-  if (signature.most == AnyNumber) {
+  if (Code() == LogicClose && namesSet) {
+    AllRolls();
+  } else if (Code() == LogicClose) {
+    Refuse("Missing expression" + in);
+  } else if (signature.most == AnyNumber) {
     ListItems(signature.function);
   } else {
     for (int count = 1;; ++count) {
@@ -529,6 +542,19 @@ void StatementCompiler::QualifierItem(int32_t function) {
   Refuse(missing + "Acceptable qualifier format:\r" + std::string(QualifierSamples));
 }
 
+// The words "all rolls" have become the number 0.
+bool StatementCompiler::AtAllRolls() const {
+  if (Code() != NumberToken || tokens_[at_].value != 0 || at_ + 1 >= end_) return false;
+  const int32_t behind = tokens_[at_ + 1].code;
+  return behind == LogicSeparator || behind == LogicClose;
+}
+
+// Every roll of the set is above 0.
+void StatementCompiler::AllRolls() {
+  Emit(Operation::PushNumber);
+  Emit(Operation::Qualify, LogicGreater);
+}
+
 // The items of a list, or of a function that takes one, up to the closing bracket.
 void StatementCompiler::ListItems(int32_t function) {
   const std::string improper =
@@ -537,6 +563,9 @@ void StatementCompiler::ListItems(int32_t function) {
   while (true) {
     if (IsRelation(Code())) {
       QualifierItem(function);
+    } else if (IsRollStatistic(function) && AtAllRolls()) {
+      ++at_;
+      AllRolls();
     } else if (ItemIsThru()) {
       Thru(Operation::ReadThru);
     } else if (Code() == ListToken || Binary(Lowest) != Found::Value) {
@@ -590,9 +619,14 @@ void StatementCompiler::Target() {
     if (Code() == EmptyToken) ++at_;
     return;
   }
-  if (!AtReference()) Refuse(AtEnd() ? "Missing operand." : std::string(NoStatement));
+  if (!AtReference()) RefuseTarget();
   if (ItemIsThru()) return Thru(Operation::Thru);
   ReferenceOnStack();
+}
+
+void StatementCompiler::RefuseTarget() const {
+  if (buys_) Refuse(BuyingHelp());
+  Refuse(AtEnd() ? "Missing operand." : std::string(NoStatement));
 }
 
 // Bets and variables to be changed, with qualifiers.
@@ -622,13 +656,12 @@ void StatementCompiler::Action() {
   } else if (number >= action::FirstArithmetic && number <= action::LastArithmetic) {
     BetArithmetic();
   } else {
-    const size_t first = program_.references.size();
-    if (AtEnd())
-      Refuse(number == action::BuyPlaceBet ? BuyingHelp() : std::string("Missing argument."));
+    buys_ = number == action::BuyPlaceBet;
+    if (AtEnd()) Refuse(buys_ ? BuyingHelp() : std::string("Missing argument."));
     Emit(Operation::Mark);
     Emit(Operation::Mark);
     Targets();
-    if (number == action::BuyPlaceBet) CheckBoughtBets(first);
+    if (buys_ && !AtEnd()) Refuse(BuyingHelp());
   }
   Emit(Operation::Command, number);
 }
@@ -707,17 +740,12 @@ void StatementCompiler::BetArithmetic() {
   at_ = end_ = end;
 }
 
-// Of the references from `first` on: only Place bets are bought, and only now.
-void StatementCompiler::CheckBoughtBets(size_t first) const {
-  if (!AtEnd()) Refuse(BuyingHelp());
-  for (size_t k = first; k < program_.references.size(); ++k) {
-    const Reference& reference = program_.references[k];
-    const bool place = InFamily(reference.number, PlaceFamily);
-    if (IsBet(reference.number) && !place) Refuse(BuyingHelp());
-    if (place && reference.hand != HandCurrent && reference.hand != HandCurrentSession)
-      Refuse(std::string(NoStatement) +
-             "\r\rYou can only buy bets in the current hand or current session.");
-  }
+// Only Place bets are bought, and only now.
+void StatementCompiler::CheckBoughtBet(const Reference& reference) {
+  if (!InFamily(reference.number, PlaceFamily)) Refuse(BuyingHelp());
+  if (reference.hand != HandCurrent && reference.hand != HandCurrentSession)
+    Refuse(std::string(NoStatement) +
+           "\r\rYou can only buy bets in the current hand or current session.");
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "autobet/actions.h"
 #include "autobet/calculation.h"
 #include "autobet/checker.h"
+#include "autobet/function_call.h"
 #include "autobet/functions.h"
 #include "autobet/program.h"
 #include "autobet/script_errors.h"
@@ -26,6 +27,7 @@ namespace {
 
 constexpr int32_t FaultError = 10000;
 constexpr int32_t PlayerError = 50;
+constexpr int32_t TextError = 998;
 
 // A reference on the stack is packed into the value of a variable token.
 static_assert(sizeof(Reference) == sizeof(double));
@@ -182,13 +184,21 @@ void Command(int32_t action) {
   if (AutoBet.ScriptError == 0) RunCommand({action, values, targets});
 }
 
+// Within the limit of all texts, so that a script cannot double one without end.
+ScriptValue Joined(const ScriptValue& left, const ScriptValue& right) {
+  std::string text = TextOf(left) + TextOf(right);
+  if (text.size() <= MaxTextLength) return MakeText(std::move(text));
+  FailScript(TextError);
+  return Number(0);
+}
+
 // The instructions that work on two values.
 void Combine(const Instruction& instruction) {
   const ScriptValue right = Pop().value;
   ScriptValue& left = Interpreter.Stack.back().value;
   switch (instruction.operation) {
     case Operation::Join:
-      left = MakeText(TextOf(left) + TextOf(right));
+      left = Joined(left, right);
       break;
     case Operation::Compare:
       left = Truth(CompareValues(left, instruction.argument, right));
@@ -292,6 +302,8 @@ class Cycle {
   void ShowStep(std::string text) const;
   const Statement& Current() const { return Interpreter.Program.statements[pointer_]; }
   void JumpTo(int32_t statement) { pointer_ = static_cast<size_t>(statement); }
+  // For jumps whose own step text speaks for the label, endif or loop they lead to.
+  void JumpBehind(int32_t statement) { JumpTo(statement + 1); }
 
   // After so many statements waiting events run, so that an endless script can be stopped.
   static constexpr int StatementsBetweenEvents = 4096;
@@ -375,7 +387,7 @@ bool Cycle::BeginsHere(const Statement& statement, std::string_view text) {
     return true;
   }
   Step("End of action block.\rEnd of If/Then structure.");
-  JumpTo(statement.target);
+  JumpBehind(statement.target);
   return false;
 }
 
@@ -419,14 +431,14 @@ void Cycle::RunStatement(const Statement& statement) {
       return JumpTo(statement.target);
     case StatementKind::ExitDo:
       Step("Exit from DO/LOOP structure.");
-      return JumpTo(statement.target + 1);
+      return JumpBehind(statement.target);
     case StatementKind::Goto:
       Step(JumpText);
-      return JumpTo(statement.target);
+      return JumpBehind(statement.target);
     case StatementKind::Gosub:
       Step("A jump will be made to the designated subroutine.\rLabel.");
       Interpreter.SubroutineStack.push_back(static_cast<int32_t>(pointer_));
-      return JumpTo(statement.target);
+      return JumpBehind(statement.target);
     case StatementKind::Return:
       return Return();
     case StatementKind::Label:
@@ -521,6 +533,7 @@ void TellOfFaultyScript(int place) {
 
 void CheckScriptErrors() {
   Scripts.ProgramReady = false;
+  if (AutoBet.ScriptRunning != 0) return;
   ScriptProgram program;
   std::vector<ScriptString> strings(1);
   for (int place = 1; place <= LastPlace; ++place) {
@@ -531,6 +544,7 @@ void CheckScriptErrors() {
 }
 
 bool CompileHotKeyScript() {
+  if (AutoBet.ScriptRunning != 0) return false;
   Scripts.ProgramReady = false;
   ScriptProgram program;
   std::vector<ScriptString> strings(1);

@@ -19,11 +19,13 @@ struct ScriptStep {
 };
 
 // Compiles the program of all active scripts; Scripts.ProgramReady tells whether it can run. The
-// first script in error is reported with its player's name, and nothing is ready.
+// first script in error is reported with its player's name, and nothing is ready. While a cycle
+// runs (a message of a script serves events) nothing is compiled and nothing is ready.
 void CheckScriptErrors();
 
 // Makes the script of slot 0 the whole program. Returns false, with the error kept for nobody, when
-// it does not compile. The active scripts have to be compiled again afterwards.
+// it does not compile, and while a cycle runs. The active scripts have to be compiled again
+// afterwards.
 bool CompileHotKeyScript();
 
 // One cycle of the program, which has to be ready. Run-time errors end their statement only.

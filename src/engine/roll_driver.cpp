@@ -338,11 +338,20 @@ bool OneRoll() {
   return !StoppedByBankroll();
 }
 
-// Between two rolls of the Hyper-Drive. Returns whether it goes on.
+// Whether the active scripts, if there are any, are compiled as they stand now.
+bool ScriptsCanRun() {
+  if (Scripts.ScriptActive[0] == 0) return true;
+  if (!Scripts.ProgramReady) CheckScriptErrors();
+  return Scripts.ProgramReady;
+}
+
+// Between two rolls of the Hyper-Drive. Returns whether it goes on. The events may have changed the
+// scripts.
 bool GoOnRolling() {
   if (Table.HyperDriveOn == 0) return false;
   FrontEnd.RunPendingEvents();
   StopAtCount();
+  if (Table.HyperDriveOn != 0 && !ScriptsCanRun()) StopUnattended();
   if (Table.HyperDriveOn == 0 || !Table.StopReason.empty()) return false;
   if (Settings.Throttle > 0) ThrottleRoll();
   return true;
@@ -356,13 +365,6 @@ bool RollUntilStopped() {
     Trapped("MakeRoll", [&rolled] { rolled = OneRoll(); });
   } while (rolled && GoOnRolling());
   return rolled;
-}
-
-// Whether the active scripts, if there are any, are compiled as they stand now.
-bool ScriptsCanRun() {
-  if (Scripts.ScriptActive[0] == 0) return true;
-  if (!Scripts.ProgramReady) CheckScriptErrors();
-  return Scripts.ProgramReady;
 }
 
 // Between two rolls of Auto-Roll: the table stands as it is until the next one may begin.

@@ -118,7 +118,11 @@ class ScriptFiles : public ::testing::Test {
     FrontEnd.ShowMessage = AnswerQuestion;
     Settings.BetNeededToShoot = 0;
   }
-  void TearDown() override { FrontEnd = {}; }
+  void TearDown() override {
+    FrontEnd = {};
+    Scripts = {};
+    AutoBet = {};
+  }
 
   void ObeyDirective(const std::string& line);
   void ReadExpectations(const std::vector<std::string>& lines);
