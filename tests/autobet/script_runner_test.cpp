@@ -40,10 +40,12 @@
 #include "base/temporary_folder.h"
 #include "config/setting_fields.h"
 #include "config/settings.h"
+#include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
+#include "stats/store.h"
 
 namespace tessarel {
 namespace {
@@ -251,6 +253,38 @@ TEST_F(ScriptFiles, AreRefusedWithTheMessageBehindThem) {
         script.push_back(line);
       }
     }
+  }
+}
+
+// The systems that come with the program, each for an evening that most of them would not last on
+// less money.
+TEST_F(ScriptFiles, OfTheSamplesRunWithoutAnError) {
+  const auto paths = ScriptsIn(TESSAREL_SAMPLES);
+  ASSERT_FALSE(paths.empty());
+  for (const auto& path : paths) {
+    SCOPED_TRACE(path.filename().string());
+    SetUp();
+    FrontEnd.ReportScriptError = [](int, int32_t line, const std::string& text) {
+      ADD_FAILURE() << "line " << line << ": " << text;
+    };
+    SeatPlayer(1, "Ann", 1'000'000);
+    Scripts.Places[1].lines = LinesOf(path);
+    SetScriptActive(1, true);
+    Dice.SeedRequest = 4711;
+    ASSERT_TRUE(SeedRNG(-1));
+    CompiledScript script;
+    ASSERT_EQ(Described(CheckScript(1, script)), "no error");
+    CheckScriptErrors();
+    AutoBet.Initializing = AutoBet.NewSessionBegins = -1;
+    RunAutoBet();
+    AutoBet.Initializing = 0;
+    Settings.AutoStopRolls = 2'000;
+    Table.HyperDriveOn = -1;
+    MakeRoll();
+    EXPECT_EQ(At(Stats.RollCount, AllSessions)[0], 2'000);
+    EXPECT_GT(At(Stats.Bets, AllSessions + 1)[bet::PassLine].Tendered.Count +
+                  At(Stats.Bets, AllSessions + 1)[bet::DontPass].Tendered.Count,
+              Money());
   }
 }
 
