@@ -718,9 +718,11 @@ void StatementCompiler::BetArithmetic() {
   const auto isTarget = [](const ScriptToken& token) {
     return token.code == VariableTarget || token.code == FunctionTarget;
   };
+  const auto before = tokens_.subspan(begin, separator - begin);
   const auto behind = tokens_.subspan(separator + 1, end - separator - 1);
   const bool targetsBehind = std::any_of(behind.begin(), behind.end(), isTarget) ||
-                             (!behind.empty() && behind.front().code == ListToken);
+                             (!behind.empty() && behind.front().code == ListToken) ||
+                             std::none_of(before.begin(), before.end(), isTarget);
   const size_t amountFrom = targetsBehind ? begin : separator + 1;
   const size_t targetsFrom = targetsBehind ? separator + 1 : begin;
 

@@ -5,16 +5,21 @@
 //   '@ set FIELD@PLACE=VALUE  a setting
 //   '@ owner 2                the place of the script; 1 by default
 //   '@ answer yes             to the next question: yes, no or a text
+//   '@ rights                 every right for the script, which it is not given else
+//   '@ rolls NAME 3-4 6-6     a dice roll file in the folder of the program
 //   '@ dice 3-4 6-6           the rolls; the script runs once before them and after each
 //
 // and an expectation stands in a comment behind its statement: '= A | B | C for the cycle before
 // the first roll, the one after it and so on; the last one holds for all that follow, and "-" says
-// that the statement is not run. A condition comes to true or false, an action to "done" or "error
-// N"; a statement that sets csn0 comes to that name, which takes any number or text.
+// that the statement is not run. '=> A stands for the last cycle only. A condition comes to true or
+// false, an action to "done" or "error N"; a statement that sets csn0 comes to that name, which
+// takes any number or text.
 //
 // A file in tests/scripts/checker holds faulty scripts, each with its message behind it:
 //
-//   '! LINE:COLUMN TEXT      lines and columns from 1, the parts of the text joined by " / "
+//   '! LINE:COLUMN TEXT      lines and columns from 1 on, " / " between the lines of the text
+//
+// Comments ahead of a faulty script are no part of it.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -35,9 +40,12 @@
 #include "base/temporary_folder.h"
 #include "config/setting_fields.h"
 #include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/roll_file.h"
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
+#include "stats/store.h"
 
 namespace tessarel {
 namespace {
@@ -71,6 +79,7 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 struct RunnerState {
   std::string file;
   std::map<int, std::vector<std::string>> expected;  // by line
+  std::map<int, std::string> expectedAtLast;         // in the last cycle
   std::map<int, bool> setsName;                      // lines that set csn0
   std::vector<std::string> answers;
   size_t cycle = 0;
@@ -80,7 +89,6 @@ struct RunnerState {
 RunnerState Runner;
 
 void TakeStep(const ScriptStep& step) {
-  if (!Runner.expected.contains(step.line)) return;
   if (AutoBet.ScriptError != 0)
     Runner.outcome[step.line] = "error " + std::to_string(AutoBet.ScriptError);
   else if (step.text.starts_with("Condition is "))
@@ -98,21 +106,36 @@ void AnswerQuestion() {
   Message.MsgResult = answer == "yes" ? AnswerYes : answer == "no" ? AnswerNo : 0;
 }
 
-void CompareCycle() {
-  for (const auto& [line, values] : Runner.expected) {
-    const std::string& wanted = values[std::min(Runner.cycle, values.size() - 1)];
-    const auto got = Runner.outcome.find(line);
-    EXPECT_EQ(got == Runner.outcome.end() ? "-" : got->second, wanted)
-        << Runner.file << ":" << line << " in cycle " << Runner.cycle;
+void CompareLine(int line, const std::string& wanted) {
+  const auto got = Runner.outcome.find(line);
+  EXPECT_EQ(got == Runner.outcome.end() ? "-" : got->second, wanted)
+      << Runner.file << ":" << line << " in cycle " << Runner.cycle;
+}
+
+void CompareCycle(bool last) {
+  for (const auto& [line, values] : Runner.expected)
+    CompareLine(line, values[std::min(Runner.cycle, values.size() - 1)]);
+  if (last) {
+    for (const auto& [line, value] : Runner.expectedAtLast)
+      CompareLine(line, value);
   }
   Runner.outcome.clear();
   ++Runner.cycle;
+}
+
+std::vector<Faces> FacesIn(const std::string& text) {
+  std::vector<Faces> rolls;
+  for (const std::string& pair : Split(text, ' '))
+    rolls.push_back({pair[0] - '0', pair[2] - '0'});
+  return rolls;
 }
 
 class ScriptFiles : public ::testing::Test {
  protected:
   void SetUp() override {
     StartUp(folder_.Path());
+    Scripts = {};
+    AutoBet = {};
     FrontEnd = {};
     FrontEnd.ShowStep = TakeStep;
     FrontEnd.ShowMessage = AnswerQuestion;
@@ -130,7 +153,7 @@ class ScriptFiles : public ::testing::Test {
 
   TemporaryFolder folder_;
   int owner_ = 1;
-  std::vector<std::pair<int, int>> dice_;
+  std::vector<Faces> dice_;
 };
 
 void ScriptFiles::ObeyDirective(const std::string& line) {
@@ -146,8 +169,15 @@ void ScriptFiles::ObeyDirective(const std::string& line) {
   } else if (word == "answer") {
     Runner.answers.push_back(rest);
   } else if (word == "dice") {
-    for (const std::string& pair : Split(rest, ' '))
-      dice_.emplace_back(pair[0] - '0', pair[2] - '0');
+    dice_ = FacesIn(rest);
+  } else if (word == "rights") {
+    At(Scripts.AllowReset, owner_) = At(Scripts.AllowAct4Others, owner_) =
+        At(Scripts.AllowActProb, owner_) = -1;
+  } else if (word == "rolls") {
+    const size_t blank = rest.find(' ');
+    std::ofstream file(folder_.Path() + rest.substr(0, blank), std::ios::binary);
+    for (const Faces& faces : FacesIn(rest.substr(blank + 1)))
+      file << static_cast<char>(RollByte(faces));
   } else if (word == "set") {
     const std::vector<std::string> parts = Split(rest, '='), field = Split(parts[0], '@');
     const auto place = field.size() > 1 ? std::optional(std::stoi(field[1])) : std::nullopt;
@@ -160,16 +190,18 @@ void ScriptFiles::ObeyDirective(const std::string& line) {
 void ScriptFiles::ReadExpectations(const std::vector<std::string>& lines) {
   for (size_t k = 0; k < lines.size(); ++k) {
     if (lines[k].starts_with("'@ ")) ObeyDirective(lines[k]);
-    const size_t at = lines[k].rfind("'= ");
-    if (at == std::string::npos) continue;
     const int line = static_cast<int>(k) + 1;
-    Runner.expected[line] = Split(lines[k].substr(at + 3), '|');
+    if (const size_t at = lines[k].rfind("'=> "); at != std::string::npos)
+      Runner.expectedAtLast[line] = TrimSpaces(lines[k].substr(at + 4));
+    if (const size_t at = lines[k].rfind("'= "); at != std::string::npos)
+      Runner.expected[line] = Split(lines[k].substr(at + 3), '|');
     Runner.setsName[line] = TrimSpaces(lines[k]).starts_with("csn0 =");
   }
 }
 
 void ScriptFiles::Play(const std::filesystem::path& path) {
-  Runner = {path.filename().string(), {}, {}, {}, 0, {}};
+  Runner = {};
+  Runner.file = path.filename().string();
   const std::vector<std::string> lines = LinesOf(path);
   ReadExpectations(lines);
   At(Scripts.Places, owner_).lines = lines;
@@ -182,11 +214,11 @@ void ScriptFiles::Play(const std::filesystem::path& path) {
   AutoBet.Initializing = AutoBet.NewSessionBegins = -1;
   RunAutoBet();
   AutoBet.Initializing = 0;
-  CompareCycle();
-  for (const auto& [die1, die2] : dice_) {
-    Roll = {-1, die1, die2};
+  CompareCycle(dice_.empty());
+  for (size_t k = 0; k < dice_.size(); ++k) {
+    Roll = {-1, dice_[k].die1, dice_[k].die2};
     MakeRoll();
-    CompareCycle();
+    CompareCycle(k + 1 == dice_.size());
   }
 }
 
@@ -221,10 +253,42 @@ TEST_F(ScriptFiles, AreRefusedWithTheMessageBehindThem) {
         CompiledScript compiled;
         EXPECT_EQ(Described(CheckScript(1, compiled)), line.substr(3))
             << path.filename().string() << ":" << number;
-      } else {
+      } else if (!script.empty() || !line.starts_with("'")) {
         script.push_back(line);
       }
     }
+  }
+}
+
+// The systems that come with the program, each for an evening that most of them would not last on
+// less money.
+TEST_F(ScriptFiles, OfTheSamplesRunWithoutAnError) {
+  const auto paths = ScriptsIn(TESSAREL_SAMPLES);
+  ASSERT_FALSE(paths.empty());
+  for (const auto& path : paths) {
+    SCOPED_TRACE(path.filename().string());
+    SetUp();
+    FrontEnd.ReportScriptError = [](int, int32_t line, const std::string& text) {
+      ADD_FAILURE() << "line " << line << ": " << text;
+    };
+    SeatPlayer(1, "Ann", 1'000'000);
+    Scripts.Places[1].lines = LinesOf(path);
+    SetScriptActive(1, true);
+    Dice.SeedRequest = 4711;
+    ASSERT_TRUE(SeedRNG(-1));
+    CompiledScript script;
+    ASSERT_EQ(Described(CheckScript(1, script)), "no error");
+    CheckScriptErrors();
+    AutoBet.Initializing = AutoBet.NewSessionBegins = -1;
+    RunAutoBet();
+    AutoBet.Initializing = 0;
+    Settings.AutoStopRolls = 2'000;
+    Table.HyperDriveOn = -1;
+    MakeRoll();
+    EXPECT_EQ(At(Stats.RollCount, AllSessions)[0], 2'000);
+    EXPECT_GT(At(Stats.Bets, AllSessions + 1)[bet::PassLine].Tendered.Count +
+                  At(Stats.Bets, AllSessions + 1)[bet::DontPass].Tendered.Count,
+              Money());
   }
 }
 
