@@ -98,8 +98,9 @@ bool HasOperand(const std::vector<ScriptToken>& stream, const TokenWalk& walk, s
   }
   if (operand >= stream.size()) return false;
   const int32_t code = stream[operand].code;
-  return code == LogicOpen ||
-         (TakesBareOperand(function) && (code == NumberToken || code == VariableToken));
+  const bool plain = FunctionQualifierCount(function) == 0;
+  if (code == LogicOpen || (plain && code == StringToken)) return true;
+  return (plain || TakesBareOperand(function)) && (code == NumberToken || code == VariableToken);
 }
 
 std::optional<ScriptError> CheckFunctionOperands(const CompiledScript& script) {

@@ -257,7 +257,7 @@ TEST_F(CheckerTest, ReportsMistakesWithTheirStretch) {
       {"all = 5", "1:0-2:0 Lists defined by \"All\"" + list +
                       "      All(inside place bets)~      All[Field, PassLine, Hard4]"},
       {"cs1 = place last session", "1:0-2:0 Missing or inappropriate reference to \"Place\" bet."},
-      {"cs1 = sqr 4", "1:0-2:0 Missing or inappropriate reference to \"Sqr\"."},
+      {"cs1 = sqr + 4", "1:0-2:0 Missing or inappropriate reference to \"Sqr\"."},
       // References.
       {"cs1 = place6 place8", "1:0-2:0 Ambiguous variable references"},
       {"cs1 = place 6 place8", "1:0-2:0 Ambiguous variable references"},
