@@ -31,20 +31,6 @@ int CountOf(const QualifierRow (&rows)[N], int32_t number) {
   return 0;
 }
 
-std::optional<ScriptError> RunPasses(int slot,
-                                     CompiledScript& script,
-                                     std::vector<int32_t>* lineLevels) {
-  const auto& lines = At(Scripts.Places, slot).lines;
-  if (auto error = TranslateScript(slot, lines, script)) return error;
-  if (auto error = CheckLists(script)) return error;
-  if (auto error = CheckReferences(slot, script)) return error;
-  if (auto error = CheckThru(script)) return error;
-  ExpandGroups(script);
-  if (auto error = CheckAssignments(script)) return error;
-  if (auto error = CheckStructure(script, lineLevels)) return error;
-  return CheckExpressions(script);
-}
-
 }  // namespace
 
 int QualifierCount(int32_t variable) {
@@ -55,11 +41,25 @@ int FunctionQualifierCount(int32_t function) {
   return CountOf(FunctionRows, function);
 }
 
+std::optional<ScriptError> RewriteScript(int slot,
+                                         CompiledScript& script,
+                                         std::vector<int32_t>* lineLevels) {
+  const auto& lines = At(Scripts.Places, slot).lines;
+  if (auto error = TranslateScript(slot, lines, script)) return error;
+  if (auto error = CheckLists(script)) return error;
+  if (auto error = CheckReferences(slot, script)) return error;
+  if (auto error = CheckThru(script)) return error;
+  ExpandGroups(script);
+  if (auto error = CheckAssignments(script)) return error;
+  return CheckStructure(script, lineLevels);
+}
+
 std::optional<ScriptError> CheckScript(int slot,
                                        CompiledScript& script,
                                        std::vector<int32_t>* lineLevels) {
   try {
-    return RunPasses(slot, script, lineLevels);
+    if (auto error = RewriteScript(slot, script, lineLevels)) return error;
+    return CheckExpressions(script);
   } catch (const Fault& fault) {
     return ScriptError{.line = 1,
                        .endLine = 1,

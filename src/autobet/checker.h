@@ -31,6 +31,12 @@ std::optional<ScriptError> CheckScript(int slot,
                                        CompiledScript& script,
                                        std::vector<int32_t>* lineLevels = nullptr);
 
+// Translation and the passes that rewrite the stream to its normal form; overflow fault for groups
+// that would grow beyond all bounds.
+std::optional<ScriptError> RewriteScript(int slot,
+                                         CompiledScript& script,
+                                         std::vector<int32_t>* lineLevels = nullptr);
+
 // The passes in their order, after TranslateScript.
 std::optional<ScriptError> CheckLists(CompiledScript& script);
 std::optional<ScriptError> CheckReferences(int slot, CompiledScript& script);

@@ -66,25 +66,13 @@ std::string Shown(const std::vector<ScriptToken>& stream) {
   return text;
 }
 
-// The passes that rewrite the stream; what statements mean is the last pass, tested apart.
-std::optional<ScriptError> Rewrite(int slot, CompiledScript& script) {
-  const auto& lines = At(Scripts.Places, slot).lines;
-  if (auto error = TranslateScript(slot, lines, script)) return error;
-  if (auto error = CheckLists(script)) return error;
-  if (auto error = CheckReferences(slot, script)) return error;
-  if (auto error = CheckThru(script)) return error;
-  ExpandGroups(script);
-  if (auto error = CheckAssignments(script)) return error;
-  return CheckStructure(script);
-}
-
-// A script of slot 3 (or another) after those passes, or its error with lines and columns; "~" ends
-// a line of its text. The whole chain has to come to an end as well.
+// A script of slot 3 (or another) after the passes that rewrite it, or its error with lines and
+// columns; "~" ends a line of its text. The whole chain has to come to an end as well.
 std::string Checked(const std::string& text, int slot = 3) {
   Scripts.Places[static_cast<size_t>(slot)].lines = Lines(text);
   CompiledScript script;
   CheckScript(slot, script);
-  auto error = Rewrite(slot, script);
+  auto error = RewriteScript(slot, script);
   if (!error) return Shown(script.TokenStream);
   std::replace(error->text.begin(), error->text.end(), '\r', '~');
   return std::to_string(error->line) + ":" + std::to_string(error->startColumn) + "-" +
@@ -426,7 +414,7 @@ TEST_F(CheckerTest, StandsAnyOrderOfWords) {
     Scripts.Places[3].lines = Lines(text);
     CompiledScript script;
     CheckScript(3, script);
-    const auto error = Rewrite(3, script);
+    const auto error = RewriteScript(3, script);
     ++outcomes[error.has_value()];
     if (error) {
       EXPECT_FALSE(error->text.empty() || error->line < 1 ||
