@@ -597,6 +597,14 @@ TEST_F(Sim, CtrlCEndsAScriptThatGoesOnForEver) {
   }
 }
 
+TEST_F(Sim, RecursionWithoutAnEndIsAnErrorOfItsStatement) {
+  Write("deep.bet", "\"Down\":\nif # of rolls = 1 then\ngosub \"Down\"\nendif\n");
+  const Outcome outcome =
+      Run("run --script deep.bet --set BetNeededToShoot=0 --rolls 1 --quiet --mode table");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err.substr(0, 44), "[Auto-Bet] deep.bet:3: Overflow, Error #6 / ");
+}
+
 TEST_F(Sim, FixedWagersWaitForTheEndOfALongCycle) {
   Write("long.bet",
         "bet 0 on field\ncs1 = 0\ndo\nadd 1 to cs1\nif cs1 > 5000 then\nexitdo\nendif\nloop\n"
