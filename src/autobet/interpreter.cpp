@@ -29,6 +29,9 @@ constexpr int32_t FaultError = 10000;
 constexpr int32_t PlayerError = 50;
 constexpr int32_t TextError = 998;
 
+// Deeper than any recursion that ends, and little enough to hold in memory.
+constexpr size_t DeepestSubroutine = 10'000'000;
+
 // A reference on the stack is packed into the value of a variable token.
 static_assert(sizeof(Reference) == sizeof(double));
 
@@ -437,6 +440,7 @@ void Cycle::RunStatement(const Statement& statement) {
       return JumpBehind(statement.target);
     case StatementKind::Gosub:
       Step("A jump will be made to the designated subroutine.\rLabel.");
+      if (Interpreter.SubroutineStack.size() == DeepestSubroutine) RaiseOverflow();
       Interpreter.SubroutineStack.push_back(static_cast<int32_t>(pointer_));
       return JumpBehind(statement.target);
     case StatementKind::Return:

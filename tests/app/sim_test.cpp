@@ -432,7 +432,8 @@ TEST_F(Sim, CheckPrintsTokensOrWhereTheScriptIsWrong) {
   }
   const Outcome run = Run("run --script good.bet --player Ann --player Bob --script bad.bet@2");
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err.substr(0, 34), "tessarel-sim: bad.bet:2:10: error:");
+  EXPECT_EQ(run.err,
+            "tessarel-sim: bad.bet:2:10: error: Unknown or misplaced element: / nonsense\n");
 }
 
 TEST_F(Sim, EverySessionInitialisesTheScripts) {
@@ -579,6 +580,64 @@ TEST_F(Sim, CtrlCStopsAfterTheRollWithTheResultsSoFar) {
     EXPECT_GT(result["rolls"], 0);
     EXPECT_EQ(result["rolls"], Read("run.rol").size());
   }
+}
+
+TEST_F(Sim, CtrlCEndsAScriptThatGoesOnForEver) {
+  const std::string before = "{ ( sleep 0.3; kill -INT $$ ) & }; exec";
+  Write("at once.bet", "do\nadd 1 to checkstack1\nloop\n");
+  Write("later.bet", "bet 5 on passline\nif # of rolls > 5 then\ndo\nloop\nendif\n");
+  for (const auto& [script, rolls] : {std::pair("at once", 0), std::pair("later", 6)}) {
+    for (const char* mode : {"hyper", "table"}) {
+      const Outcome outcome =
+          Run("run --rolls 10 --json - --script '" + std::string(script) + ".bet' --mode " + mode,
+              before);
+      EXPECT_EQ(outcome.status, 0) << script << mode;
+      EXPECT_EQ(Json::parse(outcome.out, nullptr, false)["rolls"], rolls) << script << mode;
+    }
+  }
+}
+
+TEST_F(Sim, RecursionWithoutAnEndIsAnErrorOfItsStatement) {
+  Write("deep.bet", "\"Down\":\nif # of rolls = 1 then\ngosub \"Down\"\nendif\n");
+  const Outcome outcome =
+      Run("run --script deep.bet --set BetNeededToShoot=0 --rolls 1 --quiet --mode table");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err.substr(0, 44), "[Auto-Bet] deep.bet:3: Overflow, Error #6 / ");
+}
+
+TEST_F(Sim, FixedWagersWaitForTheEndOfALongCycle) {
+  Write("long.bet",
+        "bet 0 on field\ncs1 = 0\ndo\nadd 1 to cs1\nif cs1 > 5000 then\nexitdo\nendif\nloop\n"
+        "if field > 0 then\nadd 1 to cs2\nendif\n");
+  const Json player = Result(
+      "--script long.bet --bet Field=5 --rolls 3 --set BetNeededToShoot=0 "
+      "--player Ann --seed 1")["players"][0];
+  EXPECT_EQ(player["checkstacks"].size(), 1u) << player["checkstacks"];
+  EXPECT_EQ(player["results"][0]["tendered"]["count"], 3);
+}
+
+TEST_F(Sim, CountsGoOnInTheSessionsThatAScriptStarts) {
+  Write("again.bet", "bet 5 on passline\nif # of rolls = 50 then\nstart new session\nendif\n");
+  const std::string run =
+      "--script again.bet --set AllowReset=1 --seed 1 --record run.rol --rolls ";
+  const Json result = Result(run + "120");
+  EXPECT_EQ(result["rolls"], 120);
+  EXPECT_EQ(result["sessions"], 3);
+  EXPECT_EQ(result["by_session"].size(), 3u);
+  EXPECT_EQ(Read("run.rol").size(), 120u);
+  const Json played = Result("--script again.bet --set AllowReset=1 --dice run.rol");
+  EXPECT_EQ(played["rolls"], 50) << "the session that the script starts closes the file";
+}
+
+TEST_F(Sim, AScriptThatTakesTheRecorderEndsTheRecordedRun) {
+  Write("other.rol", "\x90");
+  Write("take.bet", "bet 5 on passline\nplayback dice roll file \"other.rol\"\n");
+  const Outcome outcome =
+      Run("run --script take.bet --set AllowActProb=1 --record run.rol --rolls 9 --set "
+          "BetNeededToShoot=0");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.err.find("a script has ended the recording"), std::string::npos) << outcome.err;
+  EXPECT_FALSE(std::filesystem::exists(Path("run.rol")));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "autobet/script_store.h"
+#include "autobet/values.h"
 #include "base/clock.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
@@ -144,6 +145,7 @@ void OpenConsole() {
   FrontEnd.ShowMessage = ShowOnConsole;
   FrontEnd.SettleBet = SettleOnConsole;
   FrontEnd.ReportScriptError = ReportScriptErrorOnConsole;
+  FrontEnd.RunPendingEvents = StopScriptWhenInterrupted;
   struct sigaction action = {};
   action.sa_handler = [](int) { StopAsked = 1; };
   // A second Ctrl-C ends the program, and the first one cuts no write short.
@@ -153,6 +155,10 @@ void OpenConsole() {
 
 bool Interrupted() {
   return StopAsked != 0;
+}
+
+void StopScriptWhenInterrupted() {
+  if (Interrupted()) AutoBet.ScriptRunning = 0;
 }
 
 void LoadAnswers(const std::string& path) {

@@ -23,11 +23,14 @@ struct ConsoleState {
 
 extern ConsoleState Console;
 
-// Fills the front end's callbacks for messages, and makes Ctrl-C ask for a stop.
+// Fills the front end's callbacks for messages and waiting events, and makes Ctrl-C ask for a stop.
 void OpenConsole();
 
 // Whether Ctrl-C was pressed.
 bool Interrupted();
+
+// The waiting events of a script's cycle: one that would go on for ever is ended by Ctrl-C.
+void StopScriptWhenInterrupted();
 
 // Takes the answers from a file, one a line. File fault when it cannot be read.
 void LoadAnswers(const std::string& path);

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/session.h"
@@ -15,6 +16,8 @@
 #include "app/sim/run_files.h"
 #include "app/sim/scripts.h"
 #include "app/sim/seating.h"
+#include "autobet/actions.h"
+#include "autobet/values.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -41,13 +44,21 @@ struct SessionInPlay {
   ProgressBar* progress = nullptr;
   int64_t stepsBefore = 0;  // steps of the sessions before this one
   const Recording* recording = nullptr;
-  int32_t rollsBefore = 0, faultsBefore = 0;  // at the last look
-  int32_t failures = 0;                       // at the roll now tried
+  RunFacts* facts = nullptr;
+  void (*startForScript)(bool keepStacks, bool keepRollFile) = nullptr;
+  int64_t rollsEarlier = 0, handsEarlier = 0;  // before a script has started a session anew
+  int64_t rollsBefore = 0;                     // at the last look
+  int32_t faultsBefore = 0;
+  int32_t failures = 0;  // at the roll now tried
   bool stuck = false;
 
+  int64_t Rolls() const { return rollsEarlier + RollsInSession(); }
+  int64_t Hands() const { return handsEarlier + Stats.Hands[CurrentSession].HandCount; }
+  // With no count the dice roll file is played, which a script may switch off or close.
+  bool FileIsOver() const { return !rolls && !hands && RollFile.RollFileMode != RollFilePlay; }
   bool Over() const {
-    return (rolls && RollsInSession() >= *rolls) ||
-           (hands && Stats.Hands[CurrentSession].HandCount >= *hands) || Interrupted();
+    return (rolls && Rolls() >= *rolls) || (hands && Hands() >= *hands) || FileIsOver() ||
+           Interrupted();
   }
 };
 
@@ -114,9 +125,9 @@ bool DiceFileEnds() {
 // roll and no more, but a second failure at the same roll is there to stay, and a roll that failed
 // on the way leaves results that cannot be trusted.
 bool Stuck() {
-  const bool rolled = RollsInSession() != Session.rollsBefore;
+  const bool rolled = Session.Rolls() != Session.rollsBefore;
   const bool failed = Console.faults != Session.faultsBefore;
-  Session.rollsBefore = RollsInSession();
+  Session.rollsBefore = Session.Rolls();
   Session.faultsBefore = Console.faults;
   Session.failures = failed && !rolled ? Session.failures + 1 : 0;
   Session.stuck = Session.recording->Lost() || (failed && rolled) || Session.failures > 1;
@@ -124,12 +135,12 @@ bool Stuck() {
 }
 
 void ShowProgress() {
-  const int64_t done = Session.hands ? Stats.Hands[CurrentSession].HandCount : RollsInSession();
-  Session.progress->Show(Session.stepsBefore + done);
+  Session.progress->Show(Session.stepsBefore + (Session.hands ? Session.Hands() : Session.Rolls()));
 }
 
-// Between two rolls of the Hyper-Drive.
+// Between two rolls of the Hyper-Drive, or within a long cycle of a script.
 void BetweenRolls() {
+  if (AutoBet.ScriptRunning != 0) return StopScriptWhenInterrupted();
   ShowProgress();
   if (Stuck() || Session.Over()) {
     Table.HyperDriveOn = 0;
@@ -146,7 +157,7 @@ void PlayHyperDrive() {
     PlaceFixedBets();
     FrontEnd.RunPendingEvents = BetweenRolls;
     MakeRoll();
-    FrontEnd.RunPendingEvents = [] {};
+    FrontEnd.RunPendingEvents = StopScriptWhenInterrupted;
   }
   Table.HyperDriveOn = 0;
 }
@@ -172,29 +183,11 @@ std::string StopReason() {
 
 void FailWhenStuck() {
   if (!Session.stuck) return;
-  throw Failure(CannotBeDone, "The run ended after roll " + std::to_string(RollsInSession()) +
-                                  ": " + Console.lastFault);
-}
-
-int64_t StepsToDo() {
-  if (Session.hands) return *Session.hands;
-  return Session.rolls ? *Session.rolls : RollFile.RollCountInFile;
-}
-
-// A new session that keeps what earlier ones left and goes on in the roll file. Its scripts are
-// initialised.
-void StartSession() {
-  StartNewGame({-1, -1, -1, ContinueRollFile}, true);
-  if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
-}
-
-// Plays the session that has just been started to its end.
-void PlaySession(const RunOptions& options) {
-  Session.rollsBefore = Session.failures = 0;
-  Session.faultsBefore = Console.faults;
-  Table.LastStopReason.clear();
-  if (!Session.Over()) options.mode == Mode::Hyper ? PlayHyperDrive() : PlayRollByRoll();
-  FailWhenStuck();
+  const std::string reason = Console.faults != 0
+                                 ? Console.lastFault
+                                 : "a script has ended the recording with its own dice roll file.";
+  throw Failure(CannotBeDone,
+                "The run ended after roll " + std::to_string(RollsInSession()) + ": " + reason);
 }
 
 void AddSession(RunFacts& facts) {
@@ -209,10 +202,42 @@ void AddSession(RunFacts& facts) {
   });
 }
 
+// A script that starts a new session goes on with the same counts, and the run with its recording.
+void StartSessionOfScript(bool keepStacks, bool keepRollFile) {
+  if (RollsInSession() > 0) AddSession(*Session.facts);
+  Session.rollsEarlier = Session.Rolls();
+  Session.handsEarlier = Session.Hands();
+  Session.startForScript(keepStacks, keepRollFile || Session.recording->Runs());
+}
+
+int64_t StepsToDo() {
+  if (Session.hands) return *Session.hands;
+  return Session.rolls ? *Session.rolls : RollFile.RollCountInFile;
+}
+
+// A new session that keeps what earlier ones left and goes on in the roll file. Its scripts are
+// initialised.
+void StartSession() {
+  Session.rollsEarlier = Session.handsEarlier = 0;
+  StartNewGame({-1, -1, -1, ContinueRollFile}, true);
+  if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
+}
+
+// Plays the session that has just been started to its end.
+void PlaySession(const RunOptions& options) {
+  Session.rollsBefore = Session.failures = 0;
+  Session.faultsBefore = Console.faults;
+  Table.LastStopReason.clear();
+  if (!Session.Over()) options.mode == Mode::Hyper ? PlayHyperDrive() : PlayRollByRoll();
+  FailWhenStuck();
+}
+
 RunFacts Play(const RunOptions& options, const Recording& recording) {
   RunFacts facts;
   facts.diceFile = options.dice;
   Session.recording = &recording;
+  Session.facts = &facts;
+  Session.startForScript = std::exchange(StartSessionForScript, StartSessionOfScript);
   const auto began = std::chrono::steady_clock::now();
   ProgressBar progress(!options.quiet, StepsToDo() * options.sessions);
   Session.progress = &progress;

@@ -38,6 +38,8 @@ class Recording {
 
   // Whether the disk failed, so that no more is recorded.
   bool Lost() const;
+  // Whether the dice are recorded.
+  bool Runs() const { return !part_.empty(); }
   // Brings all that is recorded to the disk.
   void Finish();
   // Puts the recording in its place; after Finish.

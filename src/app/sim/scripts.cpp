@@ -1,5 +1,6 @@
 #include "app/sim/scripts.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "app/sim/failure.h"
@@ -35,6 +36,16 @@ void RequireRunnable(int place, const std::string& file) {
   }
 }
 
+// The parts of an error's text stand apart by an empty line.
+std::string WithoutEmptyLines(std::string text) {
+  const auto isBreak = [](char c) { return c == '\r' || c == '\n'; };
+  const auto rest = std::unique(text.begin(), text.end(), [&](char before, char now) {
+    return isBreak(before) && isBreak(now);
+  });
+  text.erase(rest, text.end());
+  return text;
+}
+
 }  // namespace
 
 void LoadScript(int slot, const std::string& file) {
@@ -45,7 +56,7 @@ void LoadScript(int slot, const std::string& file) {
 
 std::string ErrorLine(const std::string& file, const ScriptError& error) {
   return file + ":" + std::to_string(error.line) + ":" + std::to_string(error.startColumn + 1) +
-         ": error: " + OnOneLine(error.text);
+         ": error: " + OnOneLine(WithoutEmptyLines(error.text));
 }
 
 void LoadScripts(const std::vector<ScriptArgument>& scripts) {
