@@ -54,20 +54,21 @@ void Remove(const std::string& name) {
   if (error) RaiseFileAccess();
 }
 
-void PutPosition(std::ostream& index, int64_t position) {
+// A position as it stands in the index.
+std::array<char, PositionSize> PositionBytes(int64_t position) {
   if (position > LastPosition) RaiseOverflow();
   std::array<char, PositionSize> bytes{};
   for (size_t k = 0; k < bytes.size(); ++k)
     bytes[k] = static_cast<char>(position >> (8 * k) & 0xFF);
-  index.write(bytes.data(), bytes.size());
+  return bytes;
 }
 
-// Walks over the bytes of a log in blocks of any size and writes down where its lines start.
+// Walks over the bytes of a log in blocks of any size and finds where its lines start.
 class LineFinder {
  public:
-  explicit LineFinder(std::ostream& index) : index_(index) {}
-
-  void Take(std::string_view block) {
+  // Returns the index of the lines that start in the block; good until the next one.
+  std::string_view Take(std::string_view block) {
+    index_.clear();
     for (size_t at = 0; at < block.size();) {
       if (atLineStart_) StartLine(position_ + static_cast<int64_t>(at));
       at = MatchRoll(block, at);
@@ -76,13 +77,15 @@ class LineFinder {
       at = atLineStart_ ? end + 1 : block.size();
     }
     position_ += static_cast<int64_t>(block.size());
+    return index_;
   }
 
   int32_t LatestRoll() const { return latestRoll_; }
 
  private:
   void StartLine(int64_t position) {
-    PutPosition(index_, position);
+    const auto bytes = PositionBytes(position);
+    index_.append(bytes.data(), bytes.size());
     ++lines_;
     matched_ = 0;
     matching_ = true;
@@ -105,7 +108,7 @@ class LineFinder {
     return at;
   }
 
-  std::ostream& index_;
+  std::string index_;
   int64_t position_ = 1;
   int32_t lines_ = 0, latestRoll_ = 0;
   bool atLineStart_ = true, matching_ = false;
@@ -119,10 +122,10 @@ int32_t IndexLog(const std::string& indexName) {
   if (!log) throw Fault(FaultNumber::FileNotFound, "File not found");
   std::ofstream index(indexName, std::ios::binary | std::ios::trunc);
   if (!index) RaiseFileAccess();
-  LineFinder finder(index);
+  LineFinder finder;
   std::string block(BlockSize, '\0');
   while (log.read(block.data(), static_cast<std::streamsize>(block.size())), log.gcount() > 0) {
-    finder.Take(std::string_view(block).substr(0, static_cast<size_t>(log.gcount())));
+    index << finder.Take(std::string_view(block).substr(0, static_cast<size_t>(log.gcount())));
   }
   if (log.bad()) RaiseFileAccess();
   Close(index);
@@ -165,7 +168,8 @@ void WriteEvent(std::string_view line) {
     std::filesystem::resize_file(indexName, static_cast<uintmax_t>(lines * PositionSize), error);
     if (error) RaiseFileAccess();
   }
-  PutPosition(index, static_cast<int64_t>(log.tellp()) + 1);
+  const auto position = PositionBytes(static_cast<int64_t>(log.tellp()) + 1);
+  index.write(position.data(), position.size());
   log << ToSingleByte(line) << LineEnd;
   Close(index);
   Close(log);

