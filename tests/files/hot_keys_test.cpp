@@ -28,11 +28,10 @@ class HotKeyTable : public ::testing::Test {
     text.resize(width, ' ');
     return text;
   }
-  static std::vector<HotKey> RowsOf(const std::string& count, int records) {
+  static size_t RowCount(const std::string& count, int records) {
     std::string bytes = " " + Padded("Tessarel Hot-Key File", 100) + Padded(count, 155);
-    for (int k = 0; k < records; ++k)
-      bytes += Padded("Aa.bet", Record::Size);
-    return HotKeysOfRecords(RecordFile::OfBytes(bytes));
+    bytes += std::string(static_cast<size_t>(records * Record::Size), 'a');
+    return HotKeysOfRecords(RecordFile::OfBytes(bytes)).size();
   }
 
   TemporaryFolder folder_;
@@ -79,21 +78,11 @@ TEST_F(HotKeyTable, WithoutAFileTheTableIsEmptyAndTheFileIsMade) {
 }
 
 TEST_F(HotKeyTable, CountIsNoMoreThanThereIs) {
-  const struct {
-    const char* count;
-    int records;
-    size_t rows;
-  } cases[] = {{"2", 3, 2},
-               {"9", 3, 3},
-               {"-4", 3, 0},
-               {"", 3, 0},
-               {"many", 3, 0},
-               {"2 or so", 3, 2},
-               {"999999999999", 3, 3},
-               {"-99999999999", 3, 0},
-               {"300", 300, MaxHotKeys}};
-  for (const auto& c : cases)
-    EXPECT_EQ(RowsOf(c.count, c.records).size(), c.rows) << c.count;
+  for (const auto* count : {"-4", "", "many", "-99999999999"})
+    EXPECT_EQ(RowCount(count, 3), 0u) << count;
+  for (const auto* count : {"3", "9", "3 or so", "999999999999"})
+    EXPECT_EQ(RowCount(count, 3), 3u) << count;
+  EXPECT_EQ(RowCount("300", 300), size_t{MaxHotKeys});
   EXPECT_TRUE(HotKeysOfRecords(RecordFile()).empty());
 }
 
