@@ -129,7 +129,7 @@ constexpr bool IsRollStatistic(int32_t function) {
 // The command words by number, as far as compiling them goes.
 namespace action {
 constexpr int32_t ActivateProbabilityFile = 213, Swap = 300, PlaybackRollFile = 310;
-constexpr int32_t BuyPlaceBet = 450, CallOff = 451, RemoveButton = 453, TakeDown = 460;
+constexpr int32_t BuyPlaceBet = 450;
 constexpr int32_t FirstArithmetic = 481, LastArithmetic = 489;
 }  // namespace action
 

@@ -36,11 +36,13 @@ std::string_view FileWindow::Bytes(int64_t at, size_t most) {
   return offset < held_.size() ? std::string_view(held_).substr(offset, most) : std::string_view();
 }
 
-// Who asks for what lies ahead of the window is walking backward: most of the new one lies ahead.
+// A walk backward needs what lies before, a walk forward what lies behind; a small file is held as
+// a whole.
 void FileWindow::MoveTo(int64_t at) {
   const bool backward = at < start_;
-  start_ = backward ? std::max<int64_t>(at - static_cast<int64_t>(WindowSize / 2), 0) : at;
-  held_.resize(WindowSize);
+  start_ = backward ? at - static_cast<int64_t>(WindowSize / 2) : at;
+  start_ = std::max<int64_t>(std::min(start_, size_ - static_cast<int64_t>(WindowSize)), 0);
+  held_.resize(static_cast<size_t>(std::min<int64_t>(WindowSize, size_ - start_)));
   file_.clear();
   file_.seekg(start_);
   file_.read(held_.data(), static_cast<std::streamsize>(held_.size()));
