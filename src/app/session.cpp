@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "autobet/actions.h"
+#include "autobet/find_replace.h"
 #include "autobet/interpreter.h"
 #include "autobet/script_files.h"
 #include "autobet/script_store.h"
@@ -32,6 +33,9 @@
 #include "engine/unattended.h"
 #include "files/event_lines.h"
 #include "files/events_log.h"
+#include "files/events_log_view.h"
+#include "files/file_dialog.h"
+#include "files/hot_keys.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/store.h"
@@ -183,6 +187,10 @@ void ResetModules() {
   PopupRoll = PopupRollState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};
+  EventsLogView = EventsLogViewState{};
+  FileDialog = FileDialogState{};
+  HotKeys = HotKeysState{};
+  FindReplace = FindReplaceState{};
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
   Message = MessageState{};

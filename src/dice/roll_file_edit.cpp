@@ -396,13 +396,16 @@ void DeleteRollClipboard() {
   RollFileEdit.ClipboardInUse = false;
 }
 
+bool RefusesOpenRollFile(const std::string& name, bool asText) {
+  if (!RollFile.File.is_open() || !IsOpenFile(InProgramFolder(name))) return false;
+  ShowMessage(asText ? TextTargetIsOpen : TargetIsOpen, asText ? CopyTextTitle : CopyTitle,
+              msg::OkAlert);
+  return true;
+}
+
 bool CopyRollsToFile(RollRange selection, const std::string& name) {
-  if (!FileIsOpen()) return false;
+  if (!FileIsOpen() || RefusesOpenRollFile(name, false)) return false;
   const std::string path = InProgramFolder(name);
-  if (IsOpenFile(path)) {
-    ShowMessage(TargetIsOpen, CopyTitle, msg::OkAlert);
-    return false;
-  }
   return Trapped("CopyRollsToFile", [&] { WriteRolls(Within(selection), path); });
 }
 
@@ -435,11 +438,8 @@ std::string RollText(std::string_view format, int32_t number, Faces faces) {
 
 bool CopyRollsToTextFile(RollRange selection, const std::string& name) {
   if (!FileIsOpen() || !FormatShowsRolls(CopyTextTitle)) return false;
+  if (RefusesOpenRollFile(name, true)) return false;
   const std::string path = InProgramFolder(name);
-  if (IsOpenFile(path)) {
-    ShowMessage(TextTargetIsOpen, CopyTextTitle, msg::OkAlert);
-    return false;
-  }
   const RollRange range = Within(selection);
   const int32_t number = AskFirstNumber(range);
   return Trapped("CopyRollsToTextFile", [&] { WriteText(range, number, path); });

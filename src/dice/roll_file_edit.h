@@ -53,6 +53,10 @@ bool PasteRolls();
 // Deletes the clipboard's file.
 void DeleteRollClipboard();
 
+// Whether `name` is the open file, onto which nothing can be copied, neither rolls nor, `asText`,
+// their text; that is said.
+bool RefusesOpenRollFile(const std::string& name, bool asText);
+
 bool CopyRollsToFile(RollRange selection, const std::string& name);
 // Pastes a dice roll file; one that is none is refused.
 bool PasteRollFile(const std::string& name);

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "base/fault.h"
+#include "base/single_byte_text.h"
 #include "config/folders.h"
 
 namespace tessarel {
@@ -22,8 +23,6 @@ constexpr std::string_view RollStart = "Roll";
 constexpr int64_t PositionSize = 4;
 // Positions in the index are signed 32-bit numbers from 1, so no line may start behind this.
 constexpr int64_t LastPosition = std::numeric_limits<int32_t>::max();
-// A damaged log may hold no line end at all; what is longer than this is no line of ours.
-constexpr size_t LongestLine = 65536;
 constexpr size_t BlockSize = 65536;
 
 constexpr std::array AllKinds = {
@@ -55,34 +54,21 @@ void Remove(const std::string& name) {
   if (error) RaiseFileAccess();
 }
 
-void PutPosition(std::ostream& index, int64_t position) {
+// A position as it stands in the index.
+std::array<char, PositionSize> PositionBytes(int64_t position) {
   if (position > LastPosition) RaiseOverflow();
   std::array<char, PositionSize> bytes{};
   for (size_t k = 0; k < bytes.size(); ++k)
     bytes[k] = static_cast<char>(position >> (8 * k) & 0xFF);
-  index.write(bytes.data(), bytes.size());
+  return bytes;
 }
 
-int32_t GetPosition(std::istream& index) {
-  std::array<char, PositionSize> bytes{};
-  if (!index.read(bytes.data(), bytes.size())) return 0;
-  uint32_t position = 0;
-  for (size_t k = 0; k < bytes.size(); ++k)
-    position |= static_cast<uint32_t>(static_cast<uint8_t>(bytes[k])) << (8 * k);
-  return static_cast<int32_t>(position);
-}
-
-bool IsRollLine(std::string_view line) {
-  const size_t start = line.find_first_not_of(' ');
-  return start != std::string_view::npos && line.substr(start).starts_with(RollStart);
-}
-
-// Walks over the bytes of a log in blocks of any size and writes down where its lines start.
+// Walks over the bytes of a log in blocks of any size and finds where its lines start.
 class LineFinder {
  public:
-  explicit LineFinder(std::ostream& index) : index_(index) {}
-
-  void Take(std::string_view block) {
+  // Returns the index of the lines that start in the block; good until the next one.
+  std::string_view Take(std::string_view block) {
+    index_.clear();
     for (size_t at = 0; at < block.size();) {
       if (atLineStart_) StartLine(position_ + static_cast<int64_t>(at));
       at = MatchRoll(block, at);
@@ -91,13 +77,15 @@ class LineFinder {
       at = atLineStart_ ? end + 1 : block.size();
     }
     position_ += static_cast<int64_t>(block.size());
+    return index_;
   }
 
   int32_t LatestRoll() const { return latestRoll_; }
 
  private:
   void StartLine(int64_t position) {
-    PutPosition(index_, position);
+    const auto bytes = PositionBytes(position);
+    index_.append(bytes.data(), bytes.size());
     ++lines_;
     matched_ = 0;
     matching_ = true;
@@ -120,28 +108,24 @@ class LineFinder {
     return at;
   }
 
-  std::ostream& index_;
+  std::string index_;
   int64_t position_ = 1;
   int32_t lines_ = 0, latestRoll_ = 0;
   bool atLineStart_ = true, matching_ = false;
   size_t matched_ = 0;
 };
 
-std::string LogName() {
-  return EventsLog.EventLogName.empty() ? DefaultEventLogName() : EventsLog.EventLogName;
-}
-
 // Reads the log through and writes its index to the file `indexName`. Answers with the number of
 // the latest line of a roll.
 int32_t IndexLog(const std::string& indexName) {
-  std::ifstream log(LogName(), std::ios::binary);
+  std::ifstream log(EventsLogPath(), std::ios::binary);
   if (!log) throw Fault(FaultNumber::FileNotFound, "File not found");
   std::ofstream index(indexName, std::ios::binary | std::ios::trunc);
   if (!index) RaiseFileAccess();
-  LineFinder finder(index);
+  LineFinder finder;
   std::string block(BlockSize, '\0');
   while (log.read(block.data(), static_cast<std::streamsize>(block.size())), log.gcount() > 0) {
-    finder.Take(std::string_view(block).substr(0, static_cast<size_t>(log.gcount())));
+    index << finder.Take(std::string_view(block).substr(0, static_cast<size_t>(log.gcount())));
   }
   if (log.bad()) RaiseFileAccess();
   Close(index);
@@ -158,15 +142,24 @@ std::string EventsIndexName() {
   return Folders.AppFolder + "Events Log.ref";
 }
 
+std::string EventsLogPath() {
+  return EventsLog.EventLogName.empty() ? DefaultEventLogName() : EventsLog.EventLogName;
+}
+
+bool IsRollLine(std::string_view line) {
+  const size_t start = line.find_first_not_of(' ');
+  return start != std::string_view::npos && line.substr(start).starts_with(RollStart);
+}
+
 bool EventsLogExists() {
   std::error_code error;
-  return std::filesystem::exists(LogName(), error);
+  return std::filesystem::exists(EventsLogPath(), error);
 }
 
 void WriteEvent(std::string_view line) {
   const std::string indexName = EventsIndexName();
   std::ofstream index = OpenToAppend(indexName);
-  std::ofstream log = OpenToAppend(LogName());
+  std::ofstream log = OpenToAppend(EventsLogPath());
   const int64_t indexSize = index.tellp();
   const int64_t lines = indexSize / PositionSize;
   // A record that was cut off in the middle gives way to the new one.
@@ -175,8 +168,9 @@ void WriteEvent(std::string_view line) {
     std::filesystem::resize_file(indexName, static_cast<uintmax_t>(lines * PositionSize), error);
     if (error) RaiseFileAccess();
   }
-  PutPosition(index, static_cast<int64_t>(log.tellp()) + 1);
-  log << line << LineEnd;
+  const auto position = PositionBytes(static_cast<int64_t>(log.tellp()) + 1);
+  index.write(position.data(), position.size());
+  log << ToSingleByte(line) << LineEnd;
   Close(index);
   Close(log);
   if (EventsLog.KeepLatestRollOnTop != 0 && IsRollLine(line)) {
@@ -201,7 +195,7 @@ void SelectAllEvents(bool on) {
 
 void ClearEventsLog() {
   Remove(EventsIndexName());
-  Remove(LogName());
+  Remove(EventsLogPath());
   EventsLog.LatestRollLine = 0;
   EndSections();
 }
@@ -218,30 +212,6 @@ void RebuildEventsIndex() {
   std::error_code error;
   std::filesystem::rename(unfinished, EventsIndexName(), error);
   if (error) RaiseFileAccess();
-}
-
-int32_t EventLineCount() {
-  std::error_code error;
-  const uintmax_t size = std::filesystem::file_size(EventsIndexName(), error);
-  if (error) return 0;
-  return static_cast<int32_t>(
-      std::min<uintmax_t>(size / PositionSize, std::numeric_limits<int32_t>::max()));
-}
-
-std::string EventLine(int32_t number) {
-  if (number < 1) return {};
-  std::ifstream index(EventsIndexName(), std::ios::binary);
-  index.seekg(PositionSize * (int64_t{number} - 1));
-  const int32_t position = GetPosition(index);
-  if (position < 1) return {};
-  std::ifstream log(LogName(), std::ios::binary);
-  log.seekg(int64_t{position} - 1);
-  std::string line(LongestLine + 1, '\0');
-  log.getline(line.data(), static_cast<std::streamsize>(line.size()));
-  // A line end that was met is counted among the bytes taken.
-  line.resize(static_cast<size_t>(log.gcount()) - (log.good() ? 1 : 0));
-  if (line.ends_with('\r')) line.pop_back();
-  return line;
 }
 
 }  // namespace tessarel

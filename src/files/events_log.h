@@ -1,6 +1,6 @@
 // The events log: a running text record of the game, one line an event, with an index file that
 // finds each line. Callers ask Logs(...) before they build any text, so that a log that is switched
-// off costs one test.
+// off costs one test. What reads it is files/events_log_reader.h.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +26,7 @@ inline bool Logs(int32_t EventsLogState::*kind) {
   return EventsLog.LogOn != 0 && EventsLog.*kind != 0;
 }
 
-// Appends one line (without its line end) to the log and its position to the index. Both files are
+// Appends one line (UTF-8, without its line end) to the log and its position to the index. Both are
 // closed again when it returns. A file that cannot be written raises the file fault; a log too long
 // for a 32-bit position raises the overflow fault and stays as it is.
 void WriteEvent(std::string_view line);
@@ -46,6 +46,12 @@ void ClearEventsLog();
 // "Events Log.txt" in the program's folder: the log while EventLogName is empty.
 std::string DefaultEventLogName();
 
+// The full name of the log in use, whether it has a name of its own or not.
+std::string EventsLogPath();
+
+// Whether the line, blanks aside, starts with "Roll".
+bool IsRollLine(std::string_view line);
+
 // "Events Log.ref" in the program's folder, whatever the log is called: for each line 4 bytes, its
 // position in the log from 1, lowest byte first.
 std::string EventsIndexName();
@@ -56,10 +62,5 @@ bool EventsLogExists();
 // Reads the log through once, writes its index anew and finds LatestRollLine. On a fault (no log, a
 // disk that is full, a line behind the last 32-bit position) the old index stays.
 void RebuildEventsIndex();
-
-// The number of lines the index knows, and one line (from 1) without its line end; empty when the
-// line does not exist. A line is shown up to 65,536 bytes. Both files may hold anything.
-int32_t EventLineCount();
-std::string EventLine(int32_t number);
 
 }  // namespace tessarel

@@ -17,9 +17,14 @@ class EventLines : public EventsLogTest {
  protected:
   void SetUp() override {
     EventsLogTest::SetUp();
+    HoldClock({.year = 2026, .month = 11, .day = 22});
     Scripts = {};
     Seat(2, "Ann", 500);
     Seat(8, "Bob", 1000);
+  }
+  void TearDown() override {
+    ReleaseClock();
+    EventsLogTest::TearDown();
   }
 
   static void Seat(int place, const std::string& name, Money bankroll) {

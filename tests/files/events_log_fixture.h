@@ -14,6 +14,7 @@
 #include "config/folders.h"
 #include "engine/table.h"
 #include "files/events_log.h"
+#include "files/events_log_reader.h"
 
 namespace tessarel {
 

@@ -1,0 +1,291 @@
+#include "files/file_dialog.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <span>
+#include <system_error>
+
+#include "base/file_io.h"
+#include "base/message.h"
+#include "base/single_byte_text.h"
+#include "base/trap.h"
+#include "config/folders.h"
+#include "config/language.h"
+#include "dice/roll_file_edit.h"
+#include "engine/table.h"
+#include "files/events_log.h"
+
+namespace tessarel {
+
+FileDialogState FileDialog;
+
+namespace {
+
+constexpr int UnableToOpenFile = 55, FileNotFoundText = 56;
+
+// What an action asks of a file.
+enum class Purpose { MustExist, MayExist, Save };
+
+struct FilterRow {
+  int label;  // of the general text table
+  std::string_view pattern;
+};
+// clang-format off
+constexpr FilterRow SessionFilter[]     = {{137, "*.tsg"}};
+constexpr FilterRow RollFilter[]        = {{126, "*.rol"}};
+constexpr FilterRow TextFilter[]        = {{130, "*.txt"}};
+constexpr FilterRow ProbabilityFilter[] = {{149, "*.prb"}};
+constexpr FilterRow SessionsLogFilter[] = {{129, "*.slg"}};
+constexpr FilterRow ScriptFilters[]     = {{128, "*.bet"}, {144, "*.bet;*.txt"}, {130, "*.txt"},
+                                           {138, "*.*"}};
+
+struct ActionRow {
+  FileAction action;
+  FileKind kind;
+  Purpose purpose;
+  std::span<const FilterRow> filters;
+  std::string_view title;
+};
+
+using enum FileAction;
+constexpr std::array<ActionRow, FileActionCount> ActionRows = {{
+    {OpenSession,        SessionFiles,     Purpose::MustExist, SessionFilter,     "Open session file"},
+    {SaveSession,        SessionFiles,     Purpose::Save,      SessionFilter,     "Save session file as"},
+    {OpenRolls,          RollFiles,        Purpose::MayExist,  RollFilter,        "New/open dice roll file"},
+    {OpenPopupRolls,     RollFiles,        Purpose::MayExist,  TextFilter,        "Open pop-up roll file"},
+    {CopyRolls,          RollFiles,        Purpose::Save,      RollFilter,        "Copy to dice roll file"},
+    {CopyRollsAsText,    RollFiles,        Purpose::Save,      TextFilter,        "Copy dice rolls to text file"},
+    {PasteRolls,         RollFiles,        Purpose::MustExist, RollFilter,        "Paste from dice roll file"},
+    {PasteText,          RollFiles,        Purpose::MustExist, TextFilter,        "Paste from ascii/text file"},
+    {OpenScript,         AutoBetFiles,     Purpose::MustExist, ScriptFilters,     "Open auto-bet file"},
+    {PasteScript,        AutoBetFiles,     Purpose::MustExist, ScriptFilters,     "Paste from auto-bet file"},
+    {SaveScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     "Save auto-bet file as"},
+    {CopyScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     "Copy to auto-bet file"},
+    {CopyScripts,        AutoBetFiles,     Purpose::Save,      ScriptFilters,     "Copy auto-bets to file"},
+    {SelectHotKeyScript, AutoBetFiles,     Purpose::MustExist, ScriptFilters,     "Select auto-bet file for hot-key"},
+    {OpenSessionsLog,    SessionsLogFiles, Purpose::MustExist, SessionsLogFilter, "Open sessions log"},
+    {SaveSessionsLog,    SessionsLogFiles, Purpose::Save,      SessionsLogFilter, "Save sessions log as"},
+    {RenameSessionsLog,  SessionsLogFiles, Purpose::Save,      SessionsLogFilter, "Rename sessions log"},
+    {OpenEventsLog,      EventsLogFiles,   Purpose::MustExist, TextFilter,        "Open events log"},
+    {SaveEventsLog,      EventsLogFiles,   Purpose::Save,      TextFilter,        "Save events log as"},
+    {OpenProbability,    ProbabilityFiles, Purpose::MustExist, ProbabilityFilter, "Open probability file"},
+    {SaveProbability,    ProbabilityFiles, Purpose::Save,      ProbabilityFilter, "Save probability file as"},
+}};
+
+struct KindRow {
+  FileKind kind;
+  std::string_view text;
+  std::string_view deleteWord;  // in the title of the question; empty for none
+  std::string FoldersState::*folder;
+};
+constexpr std::array<KindRow, FileKindCount> KindRows = {{
+    {SessionFiles,     "Session file",      "",            &FoldersState::GameFolder},
+    {AutoBetFiles,     "Auto-bet file",     "Auto-Bet",    &FoldersState::BetFolder},
+    {RollFiles,        "Roll file",         "Roll",        &FoldersState::AppFolder},
+    {ProbabilityFiles, "Prob file",         "Probability", &FoldersState::ProbabilityFolder},
+    {SessionsLogFiles, "Sessions log file", "Sessions",    &FoldersState::SessionsLogFolder},
+    {EventsLogFiles,   "Events log file",   "",            &FoldersState::EventsLogFolder},
+}};
+// clang-format on
+
+template <class Rows, class Label>
+constexpr bool AreInOrder(const Rows& rows, Label label) {
+  for (size_t k = 0; k < rows.size(); ++k) {
+    if (static_cast<size_t>(rows[k].*label) != k) return false;
+  }
+  return true;
+}
+static_assert(AreInOrder(ActionRows, &ActionRow::action));
+static_assert(AreInOrder(KindRows, &KindRow::kind));
+
+const ActionRow& RowOf(FileAction action) {
+  return At(ActionRows, static_cast<int>(action));
+}
+
+const KindRow& RowOf(FileKind kind) {
+  return At(KindRows, kind);
+}
+
+bool IsFolder(const std::string& path) {
+  std::error_code error;
+  return !path.empty() && std::filesystem::is_directory(path, error);
+}
+
+// As the program keeps folders: '/' between the names and at the end.
+std::string AsFolder(const std::string& path) {
+  std::string folder = std::filesystem::path(path).lexically_normal().generic_string();
+  if (!folder.ends_with('/')) folder += '/';
+  return folder;
+}
+
+std::string FolderOf(const std::string& path) {
+  return AsFolder(std::filesystem::path(path).parent_path().generic_string());
+}
+
+std::string_view ShortName(std::string_view path) {
+  return path.substr(path.find_last_of("/\\") + 1);
+}
+
+std::string StartFolder(FileKind kind) {
+  const std::string& last = At(FileDialog.LastFolder, kind);
+  const std::string folder = InFolder(Folders.AppFolder, last);
+  return AsFolder(!last.empty() && IsFolder(folder) ? folder : Folders.*RowOf(kind).folder);
+}
+
+// The first extension of the filter in use, with its dot; empty when it shows all files.
+std::string_view DefaultExtension() {
+  const auto filters = RowOf(FileDialog.Action).filters;
+  const auto last = static_cast<int32_t>(filters.size()) - 1;
+  std::string_view pattern =
+      filters[static_cast<size_t>(std::clamp(FileDialog.Filter, 0, last))].pattern;
+  pattern = pattern.substr(1, pattern.find(';') - 1);
+  return pattern == ".*" ? std::string_view() : pattern;
+}
+
+// A file to be opened that has no extension is found by its bare name too.
+std::string WithExtension(const std::string& path, Purpose purpose) {
+  if (std::filesystem::path(path).has_extension()) return path;
+  if (purpose != Purpose::Save && FileExists(path)) return path;
+  return path + std::string(DefaultExtension());
+}
+
+bool RefusesTarget(const std::string& path) {
+  const FileAction action = FileDialog.Action;
+  return (action == CopyRolls || action == CopyRollsAsText) &&
+         RefusesOpenRollFile(path, action == CopyRollsAsText);
+}
+
+bool MayTake(const std::string& path, const ActionRow& row) {
+  if (row.purpose == Purpose::MayExist) return true;
+  const bool exists = FileExists(path);
+  if (row.purpose == Purpose::Save) {
+    if (RefusesTarget(path)) return false;
+    return !exists || ShowMessage(path + "\r\rDo you want to overwrite it?", std::string(row.title),
+                                  msg::AskNoDefault) == AnswerYes;
+  }
+  if (!exists) {
+    ShowMessage(std::string(GetText(FileNotFoundText)) + "\r\r" + path,
+                std::string(GetText(UnableToOpenFile)), msg::OkAlert);
+  }
+  return exists;
+}
+
+// --- Deleting -----------------------------------------------------------------------------------
+
+bool AskToDelete(const std::string& name, FileKind kind) {
+  const std::string word(RowOf(kind).deleteWord);
+  const std::string title = word.empty() ? "Delete File" : "Delete " + word + " File";
+  return ShowMessage("Are you sure you want to delete:\r\r" + name, title, msg::AskNoDefault) ==
+         AnswerYes;
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+  std::error_code error;
+  return a == b || std::filesystem::equivalent(a, b, error);
+}
+
+std::vector<int> PlayersWithSessionsLog(const std::string& path) {
+  std::vector<int> places;
+  ForEachPlayer([&](int place) {
+    const std::string& log = At(Table.SessionLogName, place);
+    if (!log.empty() && IsSameFile(InFolder(Folders.AppFolder, log), path)) places.push_back(place);
+  });
+  return places;
+}
+
+void BackToDefaultSessionsLog(int place) {
+  const std::string& name = At(Table.PlayerName, place);
+  std::string& log = At(Table.SessionLogName, place);
+  log = Folders.SessionsLogFolder + LowerCase(name) + ".slg";
+  const std::string text =
+      FileExists(log) ? "The following existing Sessions Log will be opened instead:"
+                      : "The following new Sessions Log will be created and opened instead:";
+  ShowMessage(text + "\r\r" + log, "Sessions Log (" + name + ")", msg::OkAlert);
+}
+
+void GiveUpAndDelete(const std::string& path) {
+  if (!RollFile.RollFileName.empty() && IsSameFile(path, RollFile.RollFileName)) CloseRollFile();
+  if (IsSameFile(path, EventsLogPath())) {
+    ClearEventsLog();
+  } else {
+    DeleteFileIfPresent(path);
+  }
+}
+
+}  // namespace
+
+std::string_view FileKindText(FileKind kind) {
+  return RowOf(kind).text;
+}
+
+std::string_view FileActionTitle(FileAction action) {
+  return RowOf(action).title;
+}
+
+std::optional<FileAction> FileActionOfTitle(std::string_view title) {
+  for (const ActionRow& row : ActionRows) {
+    if (EqualIgnoringCase(row.title, title)) return row.action;
+  }
+  return std::nullopt;
+}
+
+bool SavesFile(FileAction action) {
+  return RowOf(action).purpose == Purpose::Save;
+}
+
+std::vector<FileFilter> FileFilters(FileAction action) {
+  std::vector<FileFilter> filters;
+  for (const FilterRow& row : RowOf(action).filters) {
+    const std::string pattern(row.pattern);
+    filters.push_back({std::string(GetText(row.label)) + " (" + pattern + ")", pattern});
+  }
+  return filters;
+}
+
+void LoadFileDialog(FileAction action, std::string_view offered) {
+  FileDialog.Action = action;
+  FileDialog.FileDialogKind = RowOf(action).kind;
+  FileDialog.Folder = StartFolder(FileDialog.FileDialogKind);
+  FileDialog.Filter = 0;
+  FileDialog.FileDialogFileName = ShortName(offered);
+}
+
+bool ChangeFileDialogFolder(std::string_view folder) {
+  const std::string path = InFolder(FileDialog.Folder, folder);
+  if (!IsFolder(path)) return false;
+  FileDialog.Folder = AsFolder(path);
+  return true;
+}
+
+bool AcceptFileName(std::string_view typed) {
+  const std::string_view name = TrimSpaces(typed);
+  if (name.empty() || ChangeFileDialogFolder(name)) return false;
+  const ActionRow& row = RowOf(FileDialog.Action);
+  const std::string path = WithExtension(InFolder(FileDialog.Folder, name), row.purpose);
+  if (!MayTake(path, row)) return false;
+  FileDialog.FileDialogFileName = path;
+  FileDialog.Folder = FolderOf(path);
+  Message.MsgResult = 0;
+  return true;
+}
+
+void CancelFileDialog() {
+  FileDialog.FileDialogFileName.clear();
+  Message.MsgResult = AnswerCancel;
+}
+
+void UnloadFileDialog() {
+  At(FileDialog.LastFolder, FileDialog.FileDialogKind) = FileDialog.Folder;
+}
+
+bool DeleteListedFile(std::string_view name) {
+  const std::string path = InFolder(FileDialog.Folder, name);
+  if (!FileExists(path) || !AskToDelete(std::string(name), FileDialog.FileDialogKind)) return false;
+  const std::vector<int> players = PlayersWithSessionsLog(path);
+  if (!Trapped("DeleteListedFile", [&path] { GiveUpAndDelete(path); })) return false;
+  for (const int place : players)
+    BackToDefaultSessionsLog(place);
+  return true;
+}
+
+}  // namespace tessarel
