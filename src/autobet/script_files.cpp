@@ -23,6 +23,8 @@ constexpr size_t LargestScriptFile = 4 << 20;
 constexpr int AllPlaces = LastPlace + 1;
 
 std::vector<std::string> TextLines(std::string_view bytes) {
+  constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(ByteOrderMark)) bytes.remove_prefix(ByteOrderMark.size());
   std::vector<std::string> lines;
   while (!bytes.empty()) {
     const size_t end = bytes.find('\n');

@@ -77,6 +77,9 @@ TEST_F(FilesOfScripts, EndOfTheLastLineBeginsNoOther) {
       {"a\n", {"a"}},
       {"a\n\n  b ", {"a", "", "  b "}},
       {"a\r\nb\r\n\r\n", {"a", "b", ""}},
+      {"\xEF\xBB\xBF"
+       "a",
+       {"a"}},
       {"a\rb\n", {"a\rb"}},
       {std::string_view("\0\xff\x80 \xc3\xa9\n\0", 8),
        {std::string("\0\xff\x80 \xc3\xa9", 6), {'\0'}}},

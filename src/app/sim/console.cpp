@@ -74,7 +74,9 @@ void ShowOnConsole() {
     Console.lastFault = Message.MsgText;
   }
   if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
-  Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  // A script under the Hyper-Drive may ask at every roll.
+  if (Table.HyperDriveOn == 0 || !IsPrompt(Message.MsgFlags))
+    Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
   TakeAnswer();
 }
 
