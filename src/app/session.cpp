@@ -32,8 +32,10 @@
 #include "engine/unattended.h"
 #include "files/event_lines.h"
 #include "files/events_log.h"
+#include "files/sessions_log.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
+#include "stats/session_statistics.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -64,6 +66,13 @@ void LoseAbandonedBets() {
   for (int number = bet::Come4; number <= bet::Come10; ++number)
     LoseAbandoned(number);
   Table.HandleLosingBets = modes;
+}
+
+// Every player's session goes into his log, unless the logs go with it.
+void CloseSessionsLogs(bool keepLogs) {
+  ForEachPlayer([keepLogs](int place) {
+    Attempt([=] { keepLogs ? WriteSession(place) : DeleteSessionsLog(place); });
+  });
 }
 
 void CloseStatistics(bool keepSessions) {
@@ -138,6 +147,7 @@ void ApplyRollFileAction(int32_t action) {
 
 void StartNewSession(const SessionOptions& options) {
   LoseAbandonedBets();
+  CloseSessionsLogs(options.keepLogs != 0);
   CloseStatistics(options.keepSessions != 0);
   ClearSpecialBets();
   ClearLayout(options.keepStacks != 0);
@@ -183,6 +193,8 @@ void ResetModules() {
   PopupRoll = PopupRollState{};
   Roll = RollState{};
   EventsLog = EventsLogState{};
+  SessionsLog = SessionsLogState{};
+  SessionsView = SessionsViewState{};
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
   Message = MessageState{};
