@@ -138,7 +138,8 @@ void OpenEventsLog(const std::string& name) {
 
 void UseSessionsLogs(const std::string& folder) {
   SessionsLog.KeepLogs = folder.empty() ? 0 : -1;
-  if (!folder.empty()) Folders.SessionsLogFolder = fs::absolute(PathOf(folder)).lexically_normal().string() + "/";
+  if (!folder.empty())
+    Folders.SessionsLogFolder = fs::absolute(PathOf(folder)).lexically_normal().string() + "/";
 }
 
 void CheckSessionsLogs(const RunOptions& options) {
