@@ -46,20 +46,12 @@ TEST(SessionStatistics, FiguresOfSessionsBesideTheirValuesByHand) {
 }
 
 TEST(SessionStatistics, EveryStatisticReadsItsOwnFigure) {
-  Session session;
-  for (int slot = 0; slot < SessionFigures; ++slot)
-    At(session, slot) = Money::FromRaw(12'340'000 + slot * 10'000);
-  const SessionsViewState usual;
-  const Strings texts = {"1,234", "1,235", "1,236", "1,237",  "1,238", "1239",
-                         "1240",  "1241",  "1242",  "124300", "1"};
-  for (int stat = 0; stat <= CountOfSessions; ++stat) {
-    SessionsViewState view = usual;
-    view.Stat = stat;
-    const SessionStatistics statistics = FigureSessions({session}, std::nullopt, view);
-    EXPECT_EQ(SessionValueText(statistics.Total, stat), At(texts, stat)) << stat;
-  }
-  session[SessionAdvantage] = Money::FromRaw(-141);
-  EXPECT_EQ(SessionValueText(SessionValue(session, SessionAdvantage), SessionAdvantage), "-1.41");
+  const Session session{1234, 1235, 1236, 1237,  -1238,
+                        1239, 1240, 1241, -1242, Money::FromRaw(-141)};
+  const char* const texts[] = {"1,234", "1,235", "1,236", "1,237", "-1,238", "1239",
+                               "1240",  "1241",  "-1242", "-1.41", "1"};
+  for (int stat = 0; stat <= CountOfSessions; ++stat)
+    EXPECT_EQ(SessionValueText(SessionValue(session, stat), stat), texts[stat]) << stat;
 }
 
 TEST(SessionStatistics, IncludedAreTheSessionsOfTheChosenKinds) {
@@ -102,38 +94,16 @@ TEST(SessionStatistics, SharesCountTheEndsThatBelongToThem) {
 }
 
 TEST(SessionStatistics, BarsAreOfRoundWidthWithAnEdgeAtZero) {
-  const struct {
-    std::vector<Money> Nets;
-    int32_t Stat;
-    BarWidth Bars;
-    double Width, First;
-    std::vector<int64_t> Counts;
-  } cases[] = {
-      {{-130, -1, 0, 99, 100, 470},
-       SessionNet,
-       ExtraWideBars,
-       50,
-       -150,
-       {1, 0, 1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 1}},
-      {{7, 7}, SessionNet, FineBars, 0.01, 7, {2}},
-      {{1, 1}, CountOfSessions, FineBars, 1, 1, {2}},
-      {{}, SessionNet, FineBars, 1, 0, {}},
-  };
-  for (const auto& test : cases) {
-    SessionsViewState view;
-    view.Stat = test.Stat;
-    const SessionHistogram bars = BarsOfSessions(Figures(test.Nets, view), test.Bars);
-    EXPECT_EQ(bars.Width.ToDouble(), test.Width);
-    EXPECT_DOUBLE_EQ(bars.LowerEdge(0), test.First);
-    EXPECT_EQ(bars.Counts, test.Counts);
-  }
-  const SessionStatistics wide = Figures({-5'000, 5'000});
-  const double widths[] = {100, 200, 500, 1000};
-  for (int width = FineBars; width <= ExtraWideBars; ++width) {
-    const SessionHistogram bars = BarsOfSessions(wide, static_cast<BarWidth>(width));
-    EXPECT_EQ(bars.Width.ToDouble(), widths[width]);
-    EXPECT_EQ(bars.PositionOf(0), 5'000 / widths[width]);
-  }
+  const SessionHistogram bars = BarsOfSessions(Figures({-130, -1, 0, 99, 100, 470}), ExtraWideBars);
+  EXPECT_EQ(bars.Width, Money(50));
+  EXPECT_EQ(bars.LowerEdge(0), -150);
+  EXPECT_EQ(bars.PositionOf(25), 3.5);
+  EXPECT_EQ(bars.Counts, (std::vector<int64_t>{1, 0, 1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 1}));
+  EXPECT_EQ(BarsOfSessions(Figures({7, 7}), FineBars).Counts, std::vector<int64_t>{2});
+  EXPECT_TRUE(BarsOfSessions(Figures({}), FineBars).Counts.empty());
+  const int widths[] = {100, 200, 500, 1000};
+  for (const BarWidth width : {FineBars, MediumBars, WideBars, ExtraWideBars})
+    EXPECT_EQ(BarsOfSessions(Figures({-5'000, 5'000}), width).Width, widths[width]);
 }
 
 TEST(SessionStatistics, AmountsOfAnySizeDoNoHarm) {
