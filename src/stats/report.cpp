@@ -119,7 +119,7 @@ std::string BankrollSection(const ReportInputs& inputs) {
   TextRows bankrolls = {{""}}, comps = {{""}};
   ForEachPlayer([&](int place) {
     const SummaryView view = Summary(inputs.Of, 1u << place, inputs.Expected, inputs.Comps);
-    const auto addColumn = [&view, place](TextRows& rows, const std::vector<SummaryRow>& column) {
+    const auto addColumn = [place](TextRows& rows, const std::vector<SummaryRow>& column) {
       rows.resize(column.size() + 1);
       rows[0].push_back(At(Table.PlayerName, place));
       for (size_t k = 0; k < column.size(); ++k) {
