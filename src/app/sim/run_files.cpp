@@ -151,7 +151,10 @@ void CheckSessionsLogs(const RunOptions& options) {
   }
   std::vector<RunFile> files = FilesOf(options);
   ForEachPlayer([&files](int place) {
-    const RunFile log = {"sessions log", &SessionsLogNameOf(place), true};
+    // Whoever was at the table already may come with a log of his own elsewhere.
+    std::string& name = At(Table.SessionLogName, place);
+    name = DefaultSessionsLogName(At(Table.PlayerName, place));
+    const RunFile log = {"sessions log", &name, true};
     RefuseUnwritable(log);
     RefuseDoubleUse(log, files);
     if (FileExists(*log.name) && !IsSessionsLog(*log.name)) {
