@@ -36,8 +36,10 @@
 #include "files/events_log_view.h"
 #include "files/file_dialog.h"
 #include "files/hot_keys.h"
+#include "files/sessions_log.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
+#include "stats/session_statistics.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -68,6 +70,13 @@ void LoseAbandonedBets() {
   for (int number = bet::Come4; number <= bet::Come10; ++number)
     LoseAbandoned(number);
   Table.HandleLosingBets = modes;
+}
+
+// Every player's session goes into his log, unless the logs go with it.
+void CloseSessionsLogs(bool keepLogs) {
+  ForEachPlayer([keepLogs](int place) {
+    Attempt([=] { keepLogs ? WriteSession(place) : DeleteSessionsLog(place); });
+  });
 }
 
 void CloseStatistics(bool keepSessions) {
@@ -142,6 +151,7 @@ void ApplyRollFileAction(int32_t action) {
 
 void StartNewSession(const SessionOptions& options) {
   LoseAbandonedBets();
+  CloseSessionsLogs(options.keepLogs != 0);
   CloseStatistics(options.keepSessions != 0);
   ClearSpecialBets();
   ClearLayout(options.keepStacks != 0);
@@ -191,6 +201,8 @@ void ResetModules() {
   FileDialog = FileDialogState{};
   HotKeys = HotKeysState{};
   FindReplace = FindReplaceState{};
+  SessionsLog = SessionsLogState{};
+  SessionsView = SessionsViewState{};
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
   Message = MessageState{};

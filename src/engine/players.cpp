@@ -6,13 +6,13 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
-#include "config/folders.h"
 #include "config/language.h"
 #include "config/settings.h"
 #include "engine/bets.h"
 #include "engine/table.h"
 #include "engine/unattended.h"
 #include "files/event_lines.h"
+#include "files/sessions_log.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -145,7 +145,7 @@ void SeatPlayer(int place, const std::string& name, Money bankroll) {
   BeginBankroll(place + AllSessions, bankroll);
   SetBankroll(place, bankroll);
   At(Table.BankrollInitAmount, place) = bankroll;
-  At(Table.SessionLogName, place) = Folders.SessionsLogFolder + LowerCase(name) + ".slg";
+  At(Table.SessionLogName, place) = DefaultSessionsLogName(name);
   OpenPlaceDefaults(place);
   if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
   LogPlayerJoined(place, bankroll);

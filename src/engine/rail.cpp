@@ -9,6 +9,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
+#include "base/trap.h"
 #include "config/folders.h"
 #include "config/language.h"
 #include "engine/bet_refusals.h"
@@ -16,6 +17,8 @@
 #include "engine/players.h"
 #include "engine/table.h"
 #include "files/event_lines.h"
+#include "files/sessions_commands.h"
+#include "files/sessions_log.h"
 #include "stats/selection.h"
 #include "stats/store.h"
 
@@ -157,6 +160,7 @@ bool RenamePlayer(int place) {
   if (name.empty()) return false;
   SetPlayerName(place, name);
   LogPlayerRenamed(before, name);
+  OfferToRenameSessionsLog(place);
   FrontEnd.DrawTable();
   return true;
 }
@@ -167,6 +171,7 @@ bool DeletePlayer(int place, bool ask) {
   if (ask && !ConfirmRemoval(place, abandoned)) return false;
   LoseAbandoned(place, abandoned);
   LogCashOut(place, Total(abandoned));
+  Trapped("DeletePlayer", [place] { WriteSession(place); });
   ClearPlace(place);
   FollowInViews(place, 0);
   Follow(Table.LastShooter, place, 0);

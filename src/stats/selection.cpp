@@ -81,7 +81,9 @@ void FollowInViews(int from, int to) {
         &ViewSelections.RollTotalsPlayer}) {
     if ((*selection & before) != 0) *selection = (*selection & ~before) | after;
   }
-  if (ViewSelections.CSPlayer == from) ViewSelections.CSPlayer = to;
+  for (int32_t* place : {&ViewSelections.CSPlayer, &ViewSelections.SessionsPlayer}) {
+    if (*place == from) *place = to;
+  }
 }
 
 }  // namespace tessarel

@@ -20,7 +20,8 @@ inline constexpr PlaceSelection WholeTable = 1;
 struct ViewSelectionState {
   PlaceSelection BetResultsPlayer = 0, BetTrendsPlayer = 0, HandsPlayer = 0, SummaryPlayer = 0,
                  RollTotalsPlayer = 0;
-  int32_t CSPlayer = 0;  // the place whose check stacks are listed
+  int32_t CSPlayer = 0;        // the place whose check stacks are listed
+  int32_t SessionsPlayer = 0;  // the place whose sessions log is shown
 };
 
 extern ViewSelectionState ViewSelections;

@@ -107,7 +107,9 @@ TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
       {"dice --rng 1 --seed 1 --count 1 --probability a.prb", "\"a.prb\" does not exist"},
       {"advantage --probability bad.rol", "not a true Tessarel Probability File"},
       {"advantage --set NoSuchField=1", "NoSuchField"},
-      {"run --sessions-log .", "--sessions-log is not available"},
+      {"run --bet Field=5 --sessions-log bad.rol", "The folder \"bad.rol\" cannot be made"},
+      {"run --player a/b --player a_b --sessions-log .", "cannot be the sessions log as well"},
+      {"run --player A --sessions-log . --json a.slg", "cannot be the result as well"},
       {"run --save a.tsg", "--save is not available"},
       {"run a.tsg", "Game files (\"a.tsg\")"},
       {"run --home nowhere", "The folder \"nowhere\" does not exist"},
@@ -243,6 +245,7 @@ TEST_F(Sim, HelpNamesEveryOptionThatWorks) {
                              "--json FILE",
                              "--quiet",
                              "--sessions N",
+                             "--sessions-log DIR",
                              "--probability FILE.prb",
                              "--report FILE",
                              "--script FILE.bet[@PLACE]"}) {
@@ -515,6 +518,24 @@ TEST_F(Sim, SessionsFollowOneAnotherWithTheirEnds) {
   EXPECT_EQ(last["session"], 40);
   EXPECT_EQ(last["Bankroll"], result["players"][1]["Bankroll"]);
   EXPECT_FALSE(Result("--rolls 0").contains("by_session"));
+}
+
+TEST_F(Sim, EverySessionGoesIntoTheLogOfEachPlayerIfLogsAreAskedFor) {
+  const std::string run =
+      "run --quiet --player 'Ann B' --player C --bet Field=5 --set BetNeededToShoot=0 "
+      "--sessions 3 --rolls 20 --home .";
+  EXPECT_EQ(Run(run).status, 0);
+  EXPECT_FALSE(std::filesystem::exists(Path("ann b.slg")));
+  for (const size_t sessions : {3, 6}) {
+    EXPECT_EQ(Run(run + " --sessions-log new/logs").status, 0);
+    for (const auto* log : {"new/logs/ann b.slg", "new/logs/c.slg"})
+      EXPECT_EQ(Read(log).size(), 256 * (sessions + 1));
+  }
+  Write("new/logs/c.slg", "precious");
+  const Outcome refused = Run(run + " --sessions-log new/logs");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_NE(refused.err.find("is not a true Tessarel Sessions Log"), std::string::npos);
+  EXPECT_EQ(Read("new/logs/c.slg"), "precious");
 }
 
 TEST_F(Sim, ProbabilityFileSkewsDiceAndAdvantage) {

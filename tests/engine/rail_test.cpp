@@ -19,6 +19,7 @@
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
+#include "files/sessions_log.h"
 #include "stats/books.h"
 #include "stats/selection.h"
 #include "stats/store.h"
@@ -51,6 +52,7 @@ class Rail : public testing::Test {
  protected:
   void SetUp() override {
     StartUp("/tmp");
+    SessionsLog.KeepLogs = 0;
     Settings.BetNeededToShoot = 0;
     Talk = {};
     FrontEnd.ShowMessage = AnswerDialog;

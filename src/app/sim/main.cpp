@@ -22,7 +22,7 @@ constexpr const char* UsageText =
     "dice --rng N --seed N --count N  (--help tells more)\n";
 
 // What a later version brings; until then it is refused by name.
-constexpr std::array<std::string_view, 3> OptionsNotYet = {"--new", "--sessions-log", "--save"};
+constexpr std::array<std::string_view, 2> OptionsNotYet = {"--new", "--save"};
 
 void RefuseWhatIsMissing(int argc, char** argv) {
   const auto refuse = [](std::string_view what) {
@@ -139,6 +139,9 @@ void DescribeOutput(Values& values, RunOptions& options) {
               [&](const std::string& text) { options.answers = ReadFileName(text); });
   values.Once("--events-log", "FILE", "Log every kind of event at the end of this file",
               [&](const std::string& text) { options.eventsLog = ReadFileName(text); });
+  values.Once("--sessions-log", "DIR",
+              "Add every session, the last one too, to the players' sessions logs in this folder",
+              [&](const std::string& text) { options.sessionsLog = ReadFileName(text); });
   values.Once("--report", "FILE", "The text report: all views of the run; - is standard output",
               [&](const std::string& text) { options.report = ReadFileName(text); });
   values.Once("--json", "FILE", "The result as JSON; - is standard output, then without summary",

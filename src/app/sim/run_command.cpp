@@ -299,10 +299,13 @@ void RunCommand(const RunOptions& options) {
     WithFile("answers file", options.answers, "cannot be read",
              [&options] { LoadAnswers(PathOf(options.answers)); });
   }
+  UseSessionsLogs(options.sessionsLog);
   SetUp(options);
+  CheckSessionsLogs(options);
   Recording recording(options.record);
   OpenEventsLog(options.eventsLog);
   const RunFacts facts = Play(options, recording);
+  LogLastSession();
   WriteResults(options, facts, recording);
   ShutDown();
 }

@@ -12,7 +12,9 @@
 #include "base/file_io.h"
 #include "config/folders.h"
 #include "dice/roll_file.h"
+#include "engine/table.h"
 #include "files/events_log.h"
+#include "files/sessions_log.h"
 
 namespace tessarel::sim {
 
@@ -53,6 +55,32 @@ void RefuseUnwritable(const RunFile& file) {
   if (access(folder.c_str(), W_OK | X_OK) != 0) refuse("its folder may not be changed.");
 }
 
+const std::string NoName;
+
+std::vector<RunFile> FilesOf(const RunOptions& options) {
+  std::vector<RunFile> files = {
+      {"dice roll file", &options.dice, false},
+      {"answers file", &options.answers, false},
+      {"probability file", &options.probability, false},
+      {"recording", &options.record, true},
+      {"events log", &options.eventsLog, true},
+      {"report", options.report == "-" ? &NoName : &options.report, true},
+      {"result", options.json == "-" ? &NoName : &options.json, true},
+  };
+  for (const ScriptArgument& script : options.scripts)
+    files.push_back({"script", &script.file, false});
+  return files;
+}
+
+void RefuseDoubleUse(const RunFile& file, const std::vector<RunFile>& files) {
+  const fs::path path = Resolved(*file.name);
+  for (const RunFile& other : files) {
+    if (other.name == file.name || other.name->empty() || Resolved(*other.name) != path) continue;
+    throw Failure(CannotBeDone,
+                  Quoted(file.what, *file.name) + " cannot be the " + other.what + " as well.");
+  }
+}
+
 }  // namespace
 
 std::string PathOf(const std::string& name) {
@@ -75,28 +103,11 @@ void CheckFiles(const RunOptions& options) {
   if (options.json == "-" && options.report == "-") {
     throw Failure(WrongCommandLine, "Standard output takes either the result or the report.");
   }
-  const std::string none;
-  std::vector<RunFile> files = {
-      {"dice roll file", &options.dice, false},
-      {"answers file", &options.answers, false},
-      {"probability file", &options.probability, false},
-      {"recording", &options.record, true},
-      {"events log", &options.eventsLog, true},
-      {"report", options.report == "-" ? &none : &options.report, true},
-      {"result", options.json == "-" ? &none : &options.json, true},
-  };
-  for (const ScriptArgument& script : options.scripts)
-    files.push_back({"script", &script.file, false});
+  const std::vector<RunFile> files = FilesOf(options);
   for (const RunFile& file : files) {
     if (file.name->empty() || !file.written) continue;
     RefuseUnwritable(file);
-    for (const RunFile& other : files) {
-      if (&other == &file || other.name->empty() || Resolved(*other.name) != Resolved(*file.name)) {
-        continue;
-      }
-      throw Failure(CannotBeDone,
-                    Quoted(file.what, *file.name) + " cannot be the " + other.what + " as well.");
-    }
+    RefuseDoubleUse(file, files);
   }
 }
 
@@ -123,6 +134,42 @@ void OpenEventsLog(const std::string& name) {
   });
   SelectAllEvents(true);
   EventsLog.LogOn = -1;
+}
+
+void UseSessionsLogs(const std::string& folder) {
+  SessionsLog.KeepLogs = folder.empty() ? 0 : -1;
+  if (!folder.empty())
+    Folders.SessionsLogFolder = fs::absolute(PathOf(folder)).lexically_normal().string() + "/";
+}
+
+void CheckSessionsLogs(const RunOptions& options) {
+  if (options.sessionsLog.empty()) return;
+  std::error_code error;
+  fs::create_directories(PathOf(options.sessionsLog), error);
+  if (error) {
+    throw Failure(CannotBeDone, "The folder \"" + options.sessionsLog + "\" cannot be made.");
+  }
+  std::vector<RunFile> files = FilesOf(options);
+  ForEachPlayer([&files](int place) {
+    // Whoever was at the table already may come with a log of his own elsewhere.
+    std::string& name = At(Table.SessionLogName, place);
+    name = DefaultSessionsLogName(At(Table.PlayerName, place));
+    const RunFile log = {"sessions log", &name, true};
+    RefuseUnwritable(log);
+    RefuseDoubleUse(log, files);
+    if (FileExists(*log.name) && !IsSessionsLog(*log.name)) {
+      throw Failure(CannotBeDone,
+                    Quoted(log.what, *log.name) + " is not a true Tessarel Sessions Log.");
+    }
+    files.push_back(log);
+  });
+}
+
+void LogLastSession() {
+  ForEachPlayer([](int place) {
+    WithFile("sessions log", SessionsLogNameOf(place), "cannot be continued",
+             [place] { WriteSession(place); });
+  });
 }
 
 Recording::Recording(const std::string& name) : name_(name) {

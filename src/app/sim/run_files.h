@@ -27,6 +27,14 @@ void PlayFrom(const std::string& name);
 // All events into the log from now on.
 void OpenEventsLog(const std::string& name);
 
+// Sessions go into logs in this folder; without a name they leave none. To be called before anybody
+// is seated. The check, with everybody seated, makes the folder if it is not there and gives every
+// player his log in it; Failure when a log cannot be continued or is a file of the run already.
+void UseSessionsLogs(const std::string& folder);
+void CheckSessionsLogs(const RunOptions& options);
+// Adds the session that has just been played.
+void LogLastSession();
+
 // Records to a file beside the named one, which takes its place when the run is done. Without a
 // name nothing is recorded and nothing here does anything.
 class Recording {

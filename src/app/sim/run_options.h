@@ -49,6 +49,7 @@ struct RunOptions {
   std::optional<int64_t> seed;
   // File names; empty: not asked for.
   std::string dice, record, answers, eventsLog, probability, report, json;
+  std::string sessionsLog;  // the folder of the sessions logs
   Mode mode = Mode::Hyper;
   bool quiet = false;
 };

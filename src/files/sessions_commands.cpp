@@ -1,0 +1,289 @@
+#include "files/sessions_commands.h"
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "base/file_io.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/single_byte_text.h"
+#include "base/trap.h"
+#include "config/folders.h"
+#include "config/language.h"
+#include "engine/table.h"
+#include "files/sessions_log.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int ErrorTitleText = 37;
+
+// Runs a command, which tells whether it was done, for the player of a place, if there is one.
+template <class Command>
+bool DoneFor(int place, const char* name, Command&& command) {
+  bool done = false;
+  if (IsTaken(Table, place)) Trapped(name, [&] { done = command(); });
+  return done;
+}
+
+const std::string& NameOf(int place) {
+  return At(Table.PlayerName, place);
+}
+
+bool AreOneFile(const std::string& one, const std::string& other) {
+  std::error_code error;
+  return one == other || std::filesystem::equivalent(one, other, error);
+}
+
+void Tell(const std::string& text, const std::string& title) {
+  ShowMessage(text, title, msg::OkAlert);
+}
+
+void RefuseFile() {
+  Tell(
+      "This file is either from an older version, has been corrupted, or is not a true Tessarel "
+      "Sessions Log.",
+      std::string(GetText(ErrorTitleText)));
+}
+
+// --- New logs ----------------------------------------------------------------------------------
+
+bool AgreesToSessionInProgress(const std::string& logs) {
+  if (RollsInSession() == 0) return true;
+  return ShowMessage(
+             "There's currently a session in progress which will be added to your new "
+             "Sessions " +
+                 logs +
+                 " when it's finished.\r\rIf you don't want this to happen, then you "
+                 "should select \"New\" from the Game menu on the game table.\r\rWould "
+                 "you like to continue with this action anyway?",
+             "Session in progress will be added to new Sessions " + logs,
+             msg::AskNoDefault) == AnswerYes;
+}
+
+// Whether a log may take this name: other players go on with theirs.
+bool MayTakeName(int place, const std::string& name, const std::string& title) {
+  bool free = true;
+  ForEachPlayer([&](int other) {
+    if (other != place && AreOneFile(SessionsLogNameOf(other), name)) free = false;
+  });
+  if (!free) Tell("This file is the sessions log of another player.", title);
+  return free;
+}
+
+// Gives the log `from` of a player a name that he chooses. Empty when he gives up.
+std::string MoveToChosenName(int place,
+                             const std::string& from,
+                             const std::string& offered,
+                             const std::string& dialog) {
+  const std::string chosen = FrontEnd.AskSaveFile(dialog, offered);
+  if (chosen.empty()) return "";
+  const std::string to = InFolder(Folders.SessionsLogFolder, chosen);
+  if (!MayTakeName(place, to, dialog)) return "";
+  if (FileExists(from)) MoveSessionsLog(from, to);
+  return to;
+}
+
+// Lets a player keep the sessions that stand under the name of his new log.
+bool MakesRoom(int place, const std::string& name) {
+  if (CountSessions(name) == 0) return true;
+  const int32_t answer = ShowMessage(
+      NameOf(place) +
+          "'s log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
+      "Save Sessions Log", msg::AskYesDefault | msg::Cancel);
+  if (answer == AnswerNo) return true;
+  if (answer != AnswerYes) return false;
+  const std::string kept = MoveToChosenName(place, name, name, "Save sessions log as");
+  return !kept.empty() && !AreOneFile(kept, name);
+}
+
+bool StartNewLog(int place) {
+  const std::string name = DefaultSessionsLogName(NameOf(place));
+  if (!MakesRoom(place, name)) return false;
+  ClearSessionsLog(name);
+  At(Table.SessionLogName, place) = name;
+  return true;
+}
+
+// --- Deleting ----------------------------------------------------------------------------------
+
+struct SessionRange {
+  int32_t first, last;
+};
+
+// "7", or two numbers with a dash, a comma, blanks or "to" between them. Empty for anything else.
+std::optional<SessionRange> ReadRange(std::string_view text) {
+  std::vector<int32_t> numbers;
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data(); at != end;) {
+    int32_t number = 0;
+    const auto [rest, error] = std::from_chars(at, end, number);
+    if (error != std::errc()) return std::nullopt;
+    numbers.push_back(number);
+    const char* const next = std::find_if(rest, end, [](char c) { return c >= '0' && c <= '9'; });
+    const std::string_view between = TrimSpaces({rest, static_cast<size_t>(next - rest)});
+    const bool separates = next != end && (between.empty() || between == "-" || between == "," ||
+                                           EqualIgnoringCase(between, "to"));
+    if (next != end ? !separates : !between.empty()) return std::nullopt;
+    at = next;
+  }
+  if (numbers.empty() || numbers.size() > 2) return std::nullopt;
+  return SessionRange{numbers.front(), numbers.back()};
+}
+
+// --- Finding -----------------------------------------------------------------------------------
+
+// A number as people type it, with its thousands and signs.
+std::optional<Money> ReadValue(std::string text) {
+  std::erase_if(text, [](char c) { return c == ',' || c == '$' || c == '%' || c == ' '; });
+  return ParseMoney(text);
+}
+
+std::string ChosenStatName() {
+  return std::string(At(SessionStatNames, SessionsView.Stat));
+}
+
+bool FindFrom(const SessionStatistics& statistics, int32_t from, int step) {
+  const std::optional<Money> value = ReadValue(SessionsView.FindText);
+  const int32_t row = value ? FindSessionRow(statistics, *value, from, step) : -1;
+  if (row < 0) {
+    Tell("The value " + SessionsView.FindText + " was not found.", "Find");
+    return false;
+  }
+  SessionsView.FoundRow = row;
+  return true;
+}
+
+}  // namespace
+
+SessionStatistics SessionStatisticsOf(int place) {
+  if (!IsTaken(Table, place)) return FigureSessions({}, std::nullopt, SessionsView);
+  std::optional<Session> inProgress;
+  if (RollsInSession() > 0) inProgress = SessionSoFar(place);
+  return FigureSessions(ReadSessions(SessionsLogNameOf(place)), inProgress, SessionsView);
+}
+
+bool OpenSessionsLog(int place, const std::string& name) {
+  return DoneFor(place, "OpenSessionsLog", [&] {
+    const std::string path = InFolder(Folders.SessionsLogFolder, name);
+    if (!FileExists(path)) return false;
+    if (!IsSessionsLog(path)) {
+      RefuseFile();
+      return false;
+    }
+    At(Table.SessionLogName, place) = path;
+    return true;
+  });
+}
+
+bool NewSessionsLog(int place) {
+  return DoneFor(place, "NewSessionsLog",
+                 [place] { return AgreesToSessionInProgress("Log") && StartNewLog(place); });
+}
+
+bool NewSessionsLogs() {
+  if (Table.TakenPlaces == 0 || !AgreesToSessionInProgress("Logs")) return false;
+  bool going = true;
+  ForEachPlayer([&going](int place) {
+    going = going && DoneFor(place, "NewSessionsLogs", [place] { return StartNewLog(place); });
+  });
+  return going;
+}
+
+bool AskToDeleteSessions(int place) {
+  return DoneFor(place, "DeleteSessions", [place] {
+    const std::string title = "Delete Sessions";
+    if (!AskForText("Enter the session number (or range of session numbers) that you'd like to "
+                    "delete:",
+                    title, "") ||
+        TrimSpaces(Message.MsgInput).empty()) {
+      return false;
+    }
+    const std::string& log = SessionsLogNameOf(place);
+    const auto range = ReadRange(TrimSpaces(Message.MsgInput));
+    if (!range || range->first < 1 || range->last < range->first ||
+        range->last > CountSessions(log)) {
+      Tell("No sessions deleted.  Entry out of range.", title);
+      return false;
+    }
+    DeleteSessions(log, range->first, range->last);
+    return true;
+  });
+}
+
+bool AskToDeleteAllSessions(int place) {
+  return DoneFor(place, "DeleteAllSessions", [place] {
+    const std::string question =
+        "Are you sure you want to delete ALL of " + NameOf(place) + "'s recorded sessions?";
+    if (ShowMessage(question, "Delete All Sessions", msg::AskNoDefault) != AnswerYes) return false;
+    ClearSessionsLog(SessionsLogNameOf(place));
+    return true;
+  });
+}
+
+bool MergeSessionsLog(int place, const std::string& name) {
+  return DoneFor(place, "MergeSessionsLog", [&] {
+    const std::string& log = SessionsLogNameOf(place);
+    const std::string other = InFolder(Folders.SessionsLogFolder, name);
+    if (!IsSessionsLog(other)) {
+      RefuseFile();
+      return false;
+    }
+    if (AreOneFile(log, other)) {
+      Tell("A sessions log cannot be merged with itself.", "Merge Sessions Logs");
+      return false;
+    }
+    AppendSessions(log, other);
+    return true;
+  });
+}
+
+bool OfferToRenameSessionsLog(int place) {
+  return DoneFor(place, "RenameSessionsLog", [place] {
+    const std::string log = SessionsLogNameOf(place);
+    const std::string question = "Would you also like to change " + NameOf(place) +
+                                 "'s sessions log filename?\r\rCurrently:\r\r" + log;
+    if (ShowMessage(question, "Rename Sessions Log", msg::AskYesDefault) != AnswerYes) return false;
+    const std::string name =
+        MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)), "Rename sessions log");
+    if (name.empty()) return false;
+    At(Table.SessionLogName, place) = name;
+    return true;
+  });
+}
+
+bool AskToFindSession(const SessionStatistics& statistics) {
+  const std::string question = "Enter the value you'd like to find for:\r\r" + ChosenStatName() +
+                               "\r\rIf found, the line will scroll to the top of the data box.";
+  if (!AskForText(question, "Find", SessionsView.FindText)) return false;
+  const std::string text(TrimSpaces(Message.MsgInput));
+  if (text.empty()) return false;
+  SessionsView.FindText = text;
+  return FindFrom(statistics, 0, 1);
+}
+
+bool FindNextSession(const SessionStatistics& statistics) {
+  if (SessionsView.FindText.empty()) return AskToFindSession(statistics);
+  return FindFrom(statistics, SessionsView.FoundRow + 1, 1);
+}
+
+bool FindPreviousSession(const SessionStatistics& statistics) {
+  if (SessionsView.FindText.empty()) return AskToFindSession(statistics);
+  return FindFrom(statistics, SessionsView.FoundRow - 1, -1);
+}
+
+bool AskBreakPoint() {
+  const std::string question = "Enter the break point for:\r\r" + ChosenStatName();
+  if (!AskForText(question, "Set Break Point", PlainText(SessionsView.BreakPoint))) return false;
+  const std::optional<Money> value = ReadValue(Message.MsgInput);
+  if (value) SessionsView.BreakPoint = *value;
+  return value.has_value();
+}
+
+}  // namespace tessarel
