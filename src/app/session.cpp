@@ -32,6 +32,8 @@
 #include "engine/unattended.h"
 #include "files/event_lines.h"
 #include "files/events_log.h"
+#include "files/game_file.h"
+#include "files/game_views.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/store.h"
@@ -185,6 +187,8 @@ void ResetModules() {
   EventsLog = EventsLogState{};
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
+  GameFile = GameFileState{};
+  GameViews = GameViewsState{};
   Message = MessageState{};
 }
 
@@ -248,6 +252,18 @@ bool OfferToSaveScripts() {
   return leave;
 }
 
+void SetUpNewTable(const std::string& appFolder) {
+  ResetModules();
+  StartSessionForScript = StartSessionOfScript;
+  SetAppFolder(appFolder);
+  SetLanguage(English);
+  DefaultPayoffs();
+  FigurePayoffUnits();
+  SetTableDefaults();
+  SeedAllGenerators();
+  NewSession({});
+}
+
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
   if (!text.empty()) ShowMessage(text, "Missing Support File", msg::Ok);
@@ -272,18 +288,16 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts) {
 }
 
 void StartUp(const std::string& appFolder) {
-  ResetModules();
-  StartSessionForScript = StartSessionOfScript;
   Trapped("StartUp", [&appFolder] {
-    SetAppFolder(appFolder);
-    SetLanguage(English);
-    DefaultPayoffs();
-    FigurePayoffUnits();
-    SetTableDefaults();
-    SeedAllGenerators();
-    NewSession({});
+    SetUpNewTable(appFolder);
     WarnOfMissingFiles();
   });
+}
+
+void OpenDefaultGame(std::string_view commandLine) {
+  if (LoadStartGame(commandLine)) return;
+  // What an opened file may have left of a game is not the defaults.
+  Trapped("OpenDefaultGame", [] { SetUpNewTable(std::string(Folders.AppFolder)); });
 }
 
 bool AskToLeave() {

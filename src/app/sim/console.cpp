@@ -73,7 +73,11 @@ void ShowOnConsole() {
     Console.lastFault = Message.MsgText;
   }
   if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
-  Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  std::string notice = "[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText);
+  if (Console.holdsNotices)
+    Console.heldNotices.push_back(std::move(notice));
+  else
+    Notice(notice);
   TakeAnswer();
 }
 

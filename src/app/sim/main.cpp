@@ -22,7 +22,7 @@ constexpr const char* UsageText =
     "dice --rng N --seed N --count N  (--help tells more)\n";
 
 // What a later version brings; until then it is refused by name.
-constexpr std::array<std::string_view, 3> OptionsNotYet = {"--new", "--sessions-log", "--save"};
+constexpr std::array<std::string_view, 1> OptionsNotYet = {"--sessions-log"};
 
 void RefuseWhatIsMissing(int argc, char** argv) {
   const auto refuse = [](std::string_view what) {
@@ -117,7 +117,7 @@ void DescribeDiceOfRun(Values& values, RunOptions& options) {
               [&](const std::string& text) { options.hands = ReadCount(text, MaxRolls); });
   values.Once("--sessions", "N", "Play N sessions, one after the other (default: 1)",
               [&](const std::string& text) { options.sessions = ReadCount(text, MaxSessions); });
-  values.Once("--rng", "N", "The generator, 1 to 8 (default: 1)",
+  values.Once("--rng", "N", "The generator, 1 to 8 (default: 1, or that of the game)",
               [&](const std::string& text) { options.generator = ReadWhole(text); });
   values.Once("--seed", "N", "Its seed, from 1 (default: from the clock)",
               [&](const std::string& text) { options.seed = ReadWhole(text); });
@@ -139,6 +139,8 @@ void DescribeOutput(Values& values, RunOptions& options) {
               [&](const std::string& text) { options.answers = ReadFileName(text); });
   values.Once("--events-log", "FILE", "Log every kind of event at the end of this file",
               [&](const std::string& text) { options.eventsLog = ReadFileName(text); });
+  values.Once("--save", "FILE.tsg", "Save the game at the end",
+              [&](const std::string& text) { options.save = ReadFileName(text); });
   values.Once("--report", "FILE", "The text report: all views of the run; - is standard output",
               [&](const std::string& text) { options.report = ReadFileName(text); });
   values.Once("--json", "FILE", "The result as JSON; - is standard output, then without summary",
@@ -179,20 +181,6 @@ void DescribeDice(Values& values, DiceOptions& options) {
               [&](const std::string& text) { options.probability = ReadFileName(text); });
 }
 
-// What is left over after the options: a misspelt one, or the name of a game.
-void RefuseRest(const CLI::App& run) {
-  const std::vector<std::string> rest = run.remaining();
-  for (const std::string& word : rest) {
-    if (word.starts_with('-')) {
-      throw Failure(WrongCommandLine, "There is no option \"" + word + "\".");
-    }
-  }
-  if (!rest.empty()) {
-    throw Failure(CannotBeDone,
-                  "Game files (\"" + rest.front() + "\") are not available in this version.");
-  }
-}
-
 int Play(int argc, char** argv) {
   CLI::App app{"Tessarel: what a craps betting system really does, without a window.",
                "tessarel-sim"};
@@ -204,9 +192,12 @@ int Play(int argc, char** argv) {
   DescribeTable(runValues, runOptions);
   DescribeDiceOfRun(runValues, runOptions);
   DescribeOutput(runValues, runOptions);
+  runValues.Once("game", "GAME.tsg", "A saved game to go on with (default: a new table)",
+                 [&](const std::string& text) { runOptions.game = ReadFileName(text); });
+  run->add_flag("--new", runOptions.newSession, "Start a new session in the game first")
+      ->disable_flag_override();
   run->add_flag("--quiet", runOptions.quiet, "No progress bar, no summary")
       ->disable_flag_override();
-  run->allow_extras();
 
   CLI::App* check = app.add_subcommand("check", "Check a script as Check Script does");
   CheckOptions checkOptions;
@@ -246,7 +237,6 @@ int Play(int argc, char** argv) {
     throw Failure(WrongCommandLine, error.what());
   }
   if (app.got_subcommand(run)) {
-    RefuseRest(*run);
     runValues.ReadAll();
     RunCommand(runOptions);
   } else if (app.got_subcommand(check)) {

@@ -8,6 +8,7 @@
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/failure.h"
+#include "app/sim/game.h"
 #include "app/sim/output.h"
 #include "app/sim/probability_option.h"
 #include "app/sim/reporting.h"
@@ -20,6 +21,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "config/language.h"
+#include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
@@ -39,15 +41,17 @@ struct SessionInPlay {
   std::vector<BetArgument> bets;
   std::optional<int64_t> rolls, hands;
   ProgressBar* progress = nullptr;
-  int64_t stepsBefore = 0;  // steps of the sessions before this one
+  int64_t stepsBefore = 0;                     // steps of the sessions before this one
+  int32_t rollsAtStart = 0, handsAtStart = 0;  // of a session that was begun in an earlier run
   const Recording* recording = nullptr;
   int32_t rollsBefore = 0, faultsBefore = 0;  // at the last look
   int32_t failures = 0;                       // at the roll now tried
   bool stuck = false;
 
+  int32_t RollsDone() const { return RollsInSession() - rollsAtStart; }
+  int32_t HandsDone() const { return Stats.Hands[CurrentSession].HandCount - handsAtStart; }
   bool Over() const {
-    return (rolls && RollsInSession() >= *rolls) ||
-           (hands && Stats.Hands[CurrentSession].HandCount >= *hands) || Interrupted();
+    return (rolls && RollsDone() >= *rolls) || (hands && HandsDone() >= *hands) || Interrupted();
   }
 };
 
@@ -57,7 +61,7 @@ SessionInPlay Session;
 
 void SeatPlayers(const RunOptions& options) {
   std::vector<PlayerArgument> players = options.players;
-  const bool idle = options.bets.empty() && options.scripts.empty();
+  const bool idle = !options.game.empty() || (options.bets.empty() && options.scripts.empty());
   if (players.empty() && !idle) players.push_back({"Player One", 1, 1000});
   for (const PlayerArgument& player : players)
     Seat(player);
@@ -124,7 +128,7 @@ bool Stuck() {
 }
 
 void ShowProgress() {
-  const int64_t done = Session.hands ? Stats.Hands[CurrentSession].HandCount : RollsInSession();
+  const int64_t done = Session.hands ? Session.HandsDone() : Session.RollsDone();
   Session.progress->Show(Session.stepsBefore + done);
 }
 
@@ -188,9 +192,11 @@ void StartSession() {
   if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
 }
 
-// Plays the session that has just been started to its end.
+// Plays the session that has just been started, or is gone on with, to its end.
 void PlaySession(const RunOptions& options) {
-  Session.rollsBefore = Session.failures = 0;
+  Session.rollsBefore = Session.rollsAtStart = RollsInSession();
+  Session.handsAtStart = Stats.Hands[CurrentSession].HandCount;
+  Session.failures = 0;
   Session.faultsBefore = Console.faults;
   Table.LastStopReason.clear();
   if (!Session.Over()) options.mode == Mode::Hyper ? PlayHyperDrive() : PlayRollByRoll();
@@ -199,8 +205,8 @@ void PlaySession(const RunOptions& options) {
 
 void AddSession(RunFacts& facts) {
   ++facts.sessions;
-  facts.rolls += RollsInSession();
-  facts.hands += Stats.Hands[CurrentSession].HandCount;
+  facts.rolls += Session.RollsDone();
+  facts.hands += Session.HandsDone();
   facts.stopReason = StopReason();
   ForEachPlayer([&facts](int place) {
     const int slot = place + CurrentSession;
@@ -218,7 +224,7 @@ RunFacts Play(const RunOptions& options, const Recording& recording) {
   Session.progress = &progress;
   for (int64_t session = 0; session < options.sessions && !Interrupted(); ++session) {
     if (session > 0 && DiceFileEnds()) break;
-    StartSession();
+    if (session > 0 || options.game.empty() || options.newSession) StartSession();
     Session.stepsBefore = session * StepsToDo();
     PlaySession(options);
     AddSession(facts);
@@ -235,6 +241,7 @@ void WriteResultFile(const std::string& what, const std::string& name, const std
 // Standard output comes last, so that it stays empty when a file fails.
 void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& recording) {
   recording.Finish();
+  SaveNamedGame(options.save);
   const std::string json = options.json.empty() ? "" : ResultJson(facts);
   const std::string report = options.report.empty() ? "" : RunReport(facts.stopReason);
   WriteResultFile("result", options.json, json);
@@ -245,13 +252,29 @@ void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& r
   if (!options.quiet) WriteOut(ResultSummary(facts));
 }
 
+// The dice of a game go on with its generator: from the running state that is kept of generator 3,
+// else from a new seed. A run without rolls leaves them alone.
+bool NeedsSeed(const RunOptions& options) {
+  if (options.game.empty() || options.seed || options.generator) return true;
+  constexpr int32_t KeepsItsState = 3;
+  const bool rolls = Session.rolls.value_or(1) > 0 && Session.hands.value_or(1) > 0;
+  return rolls && Dice.CurrentRNG != KeepsItsState && RollFile.RollFileMode != RollFilePlay;
+}
+
+void SelectDice(const RunOptions& options) {
+  if (!NeedsSeed(options)) return;
+  const int64_t inUse = options.game.empty() ? 1 : Dice.CurrentRNG;
+  SelectAndSeed(options.generator.value_or(inUse), options.seed);
+}
+
 void SetUp(const RunOptions& options) {
+  OpenNamedGame(options.game);
   SeatPlayers(options);
   ApplyRules(options.settings, options.payoffs);
   LoadScripts(options.scripts);
   Session = {BetsByPlace(options.bets), options.rolls, options.hands};
   if (!options.rolls && !options.hands && options.dice.empty()) Session.rolls = DefaultRolls;
-  SelectAndSeed(options.generator, options.seed);
+  SelectDice(options);
   if (!options.probability.empty()) ActivateProbability(options.probability);
   if (!options.dice.empty()) PlayFrom(options.dice);
 }

@@ -82,11 +82,16 @@ void CheckFiles(const RunOptions& options) {
       {"probability file", &options.probability, false},
       {"recording", &options.record, true},
       {"events log", &options.eventsLog, true},
+      {"game to be saved", &options.save, true},
       {"report", options.report == "-" ? &none : &options.report, true},
       {"result", options.json == "-" ? &none : &options.json, true},
   };
   for (const ScriptArgument& script : options.scripts)
     files.push_back({"script", &script.file, false});
+  // A game may be saved to its own file: it is read before anything is written.
+  const bool savedInPlace = !options.save.empty() && !options.game.empty() &&
+                            Resolved(options.save) == Resolved(options.game);
+  files.push_back({"game", savedInPlace ? &none : &options.game, false});
   for (const RunFile& file : files) {
     if (file.name->empty() || !file.written) continue;
     RefuseUnwritable(file);
