@@ -130,12 +130,13 @@ void TableRecord(GameRecords& records, GameCounts& counts) {
 void OptionRecord(GameRecords& records) {
   records.Moneys(OptionFields);
   int32_t generator = Dice.CurrentRNG;
-  Money rollsOutOf = Money::FromDouble(Probability.RollsOutOf);
+  constexpr double MostRollsOutOf = 1e12;
+  Money rollsOutOf = Money::FromDouble(std::min(Probability.RollsOutOf, MostRollsOutOf));
   records.Amount(GeneratorSlot, generator);
   records.Amount(RollsOutOfSlot, rollsOutOf);
   if (!records.Reading()) return;
   SelectRNG(generator);  // one that cannot be had leaves the one in use
-  Probability.RollsOutOf = rollsOutOf.ToDouble();
+  Probability.RollsOutOf = std::min(rollsOutOf.ToDouble(), MostRollsOutOf);
 }
 
 }  // namespace

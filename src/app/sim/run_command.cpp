@@ -205,8 +205,8 @@ void PlaySession(const RunOptions& options) {
 
 void AddSession(RunFacts& facts) {
   ++facts.sessions;
-  facts.rolls += Session.RollsDone();
-  facts.hands += Session.HandsDone();
+  facts.rolls += RollsInSession();
+  facts.hands += Stats.Hands[CurrentSession].HandCount;
   facts.stopReason = StopReason();
   ForEachPlayer([&facts](int place) {
     const int slot = place + CurrentSession;
