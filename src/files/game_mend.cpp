@@ -302,6 +302,7 @@ void MendSelections() {
         &ViewSelections.RollTotalsPlayer}) {
     *selection &= Places;
   }
+  if (GameViews.StatusBoxSize < 1 || GameViews.StatusBoxSize > 3) GameViews.StatusBoxSize = 2;
   if (ViewSelections.CSPlayer < 0 || ViewSelections.CSPlayer > LastPlace)
     ViewSelections.CSPlayer = 0;
 }

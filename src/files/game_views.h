@@ -27,11 +27,12 @@ struct GameViewsState {
   WordRow Table{};                   // the view now shown, and the places chosen in player lists
   WordRow Log{};                     // the font of the events log
   MoneyRow General{}, Comps{};
-  Money ReportAmount;     // by which the advantage list and the bet reports scale
-  WordRow Statistics{};   // roll totals, hands, summary, trends, bet results
-  WordRow Display{};      // the table's menus, check stacks, frequencies, sessions, roll files
-  WordRow Editor{};       // the script editor
-  WordRow RollColours{};  // highlights of the dice in the list of rolls
+  Money ReportAmount;         // by which the advantage list and the bet reports scale
+  WordRow Statistics{};       // roll totals, hands, summary, trends, bet results
+  WordRow Display{};          // the table's menus, check stacks, frequencies, sessions, roll files
+  int32_t StatusBoxSize = 2;  // 1 to 3
+  WordRow Editor{};           // the script editor
+  WordRow RollColours{};      // highlights of the dice in the list of rolls
   std::string BetResultsText, RollOutputFormat;
   std::vector<ChipEntry> Chips;  // up to MostChips; the columns have 16 bits each
 };

@@ -210,6 +210,8 @@ TEST_F(Sim, AnswersAWrongCommandLineWithTheUsageLine) {
       "run --payoff 'Place 6'",
       "run --dice a.rol --record b.rol",
       "run --quiet=5x",
+      "run --new",
+      "run a.tsg b.tsg",
       "dice --rng 1 --seed 1",
       "dice --rng 1 --seed 1 --count x",
       "dice --rng 1 --seed 1 --count 1 more",

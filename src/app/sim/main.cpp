@@ -192,10 +192,12 @@ int Play(int argc, char** argv) {
   DescribeTable(runValues, runOptions);
   DescribeDiceOfRun(runValues, runOptions);
   DescribeOutput(runValues, runOptions);
-  runValues.Once("game", "GAME.tsg", "A saved game to go on with (default: a new table)",
-                 [&](const std::string& text) { runOptions.game = ReadFileName(text); });
+  CLI::Option* game =
+      runValues.Once("game", "GAME.tsg", "A saved game to go on with (default: a new table)",
+                     [&](const std::string& text) { runOptions.game = ReadFileName(text); });
   run->add_flag("--new", runOptions.newSession, "Start a new session in the game first")
-      ->disable_flag_override();
+      ->disable_flag_override()
+      ->needs(game);
   run->add_flag("--quiet", runOptions.quiet, "No progress bar, no summary")
       ->disable_flag_override();
 
