@@ -35,6 +35,8 @@
 #include "files/events_log.h"
 #include "files/events_log_view.h"
 #include "files/file_dialog.h"
+#include "files/game_file.h"
+#include "files/game_views.h"
 #include "files/hot_keys.h"
 #include "files/sessions_log.h"
 #include "stats/bankroll_graph.h"
@@ -205,6 +207,8 @@ void ResetModules() {
   SessionsView = SessionsViewState{};
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
+  GameFile = GameFileState{};
+  GameViews = GameViewsState{};
   Message = MessageState{};
 }
 
@@ -268,6 +272,18 @@ bool OfferToSaveScripts() {
   return leave;
 }
 
+void SetUpNewTable(const std::string& appFolder) {
+  ResetModules();
+  StartSessionForScript = StartSessionOfScript;
+  SetAppFolder(appFolder);
+  SetLanguage(English);
+  DefaultPayoffs();
+  FigurePayoffUnits();
+  SetTableDefaults();
+  SeedAllGenerators();
+  NewSession({});
+}
+
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
   if (!text.empty()) ShowMessage(text, "Missing Support File", msg::Ok);
@@ -292,18 +308,16 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts) {
 }
 
 void StartUp(const std::string& appFolder) {
-  ResetModules();
-  StartSessionForScript = StartSessionOfScript;
   Trapped("StartUp", [&appFolder] {
-    SetAppFolder(appFolder);
-    SetLanguage(English);
-    DefaultPayoffs();
-    FigurePayoffUnits();
-    SetTableDefaults();
-    SeedAllGenerators();
-    NewSession({});
+    SetUpNewTable(appFolder);
     WarnOfMissingFiles();
   });
+}
+
+void OpenDefaultGame(std::string_view commandLine) {
+  if (LoadStartGame(commandLine)) return;
+  // What an opened file may have left of a game is not the defaults.
+  Trapped("OpenDefaultGame", [] { SetUpNewTable(std::string(Folders.AppFolder)); });
 }
 
 bool AskToLeave() {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace tessarel {
 
@@ -29,6 +30,10 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts);
 // payoffs and units, every generator seeded from the clock, an empty table. Warns of missing
 // support files. Nothing is read from disk.
 void StartUp(const std::string& appFolder);
+
+// Opens the game file named on the command line, else the automatic one of the program's folder;
+// with neither, the table is as StartUp leaves it. What cannot be opened is told.
+void OpenDefaultGame(std::string_view commandLine);
 
 // Before the program ends: asks whether an unattended run and running scripts may be stopped, and
 // stops them; then which changed scripts to save, and saves them. Returns false as soon as an

@@ -9,9 +9,22 @@ namespace tessarel {
 
 FoldersState Folders;
 
-void SetAppFolder(std::string folder) {
+std::string AsFolder(std::string folder) {
   std::replace(folder.begin(), folder.end(), '\\', '/');
   if (folder.empty() || folder.back() != '/') folder += '/';
+  return folder;
+}
+
+std::string FullName(const std::string& path) {
+  namespace fs = std::filesystem;
+  if (path.empty()) return "";
+  std::error_code error;
+  const fs::path full = fs::absolute(path, error);
+  return (error ? fs::path(path) : full).lexically_normal().generic_string();
+}
+
+void SetAppFolder(std::string folder) {
+  folder = AsFolder(std::move(folder));
   Folders = {folder, folder, folder, folder, folder, folder, folder};
 }
 
@@ -23,13 +36,8 @@ std::string InFolder(const std::string& folder, std::string_view name) {
 
 std::string NameInFolder(const std::string& folder, std::string_view path) {
   namespace fs = std::filesystem;
-  const auto fullName = [](const std::string& name) {
-    std::error_code error;
-    const fs::path full = fs::absolute(name, error);
-    return (error ? fs::path(name) : full).lexically_normal();
-  };
   const std::string whole = InFolder(folder, path);
-  const fs::path inside = fullName(whole).lexically_relative(fullName(folder));
+  const fs::path inside = fs::path(FullName(whole)).lexically_relative(FullName(folder));
   const bool outside = inside.empty() || *inside.begin() == "..";
   return outside ? whole : inside.generic_string();
 }

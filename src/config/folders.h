@@ -19,6 +19,12 @@ extern FoldersState Folders;
 // final '/' is added.
 void SetAppFolder(std::string folder);
 
+// A folder's name with '/' as separator and at its end.
+std::string AsFolder(std::string folder);
+
+// The one absolute name of a path, whatever the folder the program runs in; empty for none.
+std::string FullName(const std::string& path);
+
 // A file name as a path: absolute names stand, others are taken from `folder`.
 std::string InFolder(const std::string& folder, std::string_view name);
 

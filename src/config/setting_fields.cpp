@@ -328,6 +328,26 @@ void Write(FieldValue where, Money value) {
     *std::get<int32_t*>(where) = static_cast<int32_t>(value.Floor());
 }
 
+Money Read(FieldValue where) {
+  if (Money* const* amount = std::get_if<Money*>(&where)) return **amount;
+  return *std::get<int32_t*>(where);
+}
+
+Money NearestAllowed(const SettingField& field, Money value) {
+  const auto [low, high, step] = field.Range;
+  if (field.Kind == Flag) return value >= low && value <= high ? value : Money(-1);
+  if (field.Kind == Mark) return value != Money() ? 1 : 0;
+  return low + FloorToMultiple(std::clamp(value, low, high) - low, step);
+}
+
+void BringIntoRange(const SettingField& field, int place) {
+  for (int key = field.FirstKey; key <= field.LastKey; ++key) {
+    const FieldValue where = field.Reach(place, key);
+    const Money value = Read(where), allowed = NearestAllowed(field, value);
+    if (value != allowed) Write(where, allowed);
+  }
+}
+
 Error Apply(const SettingField& field,
             const std::string& label,
             int place,
@@ -356,6 +376,13 @@ Error TestPlace(const SettingField& field, std::optional<int> place) {
 
 std::span<const SettingField> SettingFields() {
   return Fields;
+}
+
+void BringFieldsIntoRange() {
+  for (const SettingField& field : Fields) {
+    for (int place = field.PerPlace ? 1 : 0; place <= (field.PerPlace ? LastPlace : 0); ++place)
+      BringIntoRange(field, place);
+  }
 }
 
 std::optional<std::string> SetField(std::string_view name,

@@ -107,23 +107,6 @@ void LoseAbandoned(int place, const std::vector<AbandonedBet>& bets) {
   }
 }
 
-// Leaves a place as if nobody had ever stood there.
-void ClearPlace(int place) {
-  ClearPlayerStats(place);
-  ForEachPlaceField(
-      [place](auto& array) { At(array, place) = std::decay_t<decltype(At(array, place))>{}; });
-  ForEachSlotField([place](auto& array) {
-    for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
-      At(array, slot) = std::decay_t<decltype(At(array, slot))>{};
-    }
-  });
-  for (auto& bankrolls : Table.GraphBankroll)
-    At(bankrolls, place) = Money();
-  NewScript(place);
-  OpenPlaceDefaults(place);
-  RebuildDerived();
-}
-
 void Follow(int32_t& place, int from, int to) {
   if (place == from) place = to;
 }
@@ -163,6 +146,22 @@ bool RenamePlayer(int place) {
   OfferToRenameSessionsLog(place);
   FrontEnd.DrawTable();
   return true;
+}
+
+void ClearPlace(int place) {
+  ClearPlayerStats(place);
+  ForEachPlaceField(
+      [place](auto& array) { At(array, place) = std::decay_t<decltype(At(array, place))>{}; });
+  ForEachSlotField([place](auto& array) {
+    for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
+      At(array, slot) = std::decay_t<decltype(At(array, slot))>{};
+    }
+  });
+  for (auto& bankrolls : Table.GraphBankroll)
+    At(bankrolls, place) = Money();
+  NewScript(place);
+  OpenPlaceDefaults(place);
+  RebuildDerived();
 }
 
 bool DeletePlayer(int place, bool ask) {

@@ -20,6 +20,9 @@ bool AddPlayer(int place);
 // Asks for a new name. Returns whether it was given.
 bool RenamePlayer(int place);
 
+// Leaves a place as if nobody had ever stood there. Who has the dice is the caller's business.
+void ClearPlace(int place);
+
 // Removes a player, if `ask` after a question that names the bets he has to abandon. His bets come
 // off; abandoned ones count as lost. The dice pass if they were his. Returns whether he left.
 bool DeletePlayer(int place, bool ask);

@@ -52,9 +52,6 @@ void RebuildDerived() {
   Table.WorkingChanged.fill(-1);
 }
 
-namespace {
-
-// Up-front vig and bets of a place: what MoneyOnTable has to be.
 Money FigureMoneyOnTable(int place) {
   Money sum;
   for (int number = 1; number <= LastBet; ++number)
@@ -65,6 +62,8 @@ Money FigureMoneyOnTable(int place) {
   }
   return sum;
 }
+
+namespace {
 
 std::string CheckPlace(int place) {
   const std::string who = "place " + std::to_string(place) + ": ";

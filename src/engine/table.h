@@ -181,6 +181,9 @@ void SetPlayerName(int place, std::string name);
 // Figures every derived value again after the plain ones were written directly (a loaded game).
 void RebuildDerived();
 
+// A place's bets and the vig that is charged up front with them: what its MoneyOnTable has to be.
+Money FigureMoneyOnTable(int place);
+
 // Whether derived values, sums and bets agree; the fault found is described, empty when all is
 // well. Walks the whole table: for tests and debug builds.
 std::string CheckTable();

@@ -112,14 +112,12 @@ bool IsFolder(const std::string& path) {
 }
 
 // As the program keeps folders: '/' between the names and at the end.
-std::string AsFolder(const std::string& path) {
-  std::string folder = std::filesystem::path(path).lexically_normal().generic_string();
-  if (!folder.ends_with('/')) folder += '/';
-  return folder;
+std::string TidyFolder(const std::string& path) {
+  return AsFolder(std::filesystem::path(path).lexically_normal().generic_string());
 }
 
 std::string FolderOf(const std::string& path) {
-  return AsFolder(std::filesystem::path(path).parent_path().generic_string());
+  return TidyFolder(std::filesystem::path(path).parent_path().generic_string());
 }
 
 std::string_view ShortName(std::string_view path) {
@@ -129,7 +127,7 @@ std::string_view ShortName(std::string_view path) {
 std::string StartFolder(FileKind kind) {
   const std::string& last = At(FileDialog.LastFolder, kind);
   const std::string folder = InFolder(Folders.AppFolder, last);
-  return AsFolder(!last.empty() && IsFolder(folder) ? folder : Folders.*RowOf(kind).folder);
+  return TidyFolder(!last.empty() && IsFolder(folder) ? folder : Folders.*RowOf(kind).folder);
 }
 
 // The first extension of the filter in use, with its dot; empty when it shows all files.
@@ -253,7 +251,7 @@ void LoadFileDialog(FileAction action, std::string_view offered) {
 bool ChangeFileDialogFolder(std::string_view folder) {
   const std::string path = InFolder(FileDialog.Folder, folder);
   if (!IsFolder(path)) return false;
-  FileDialog.Folder = AsFolder(path);
+  FileDialog.Folder = TidyFolder(path);
   return true;
 }
 

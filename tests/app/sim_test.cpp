@@ -97,7 +97,6 @@ TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
       {"check --player 'Hard 8' bad.rol", "can't be used as a player's name."},
       {"check --player Ann@2 --player Bob@2 bad.rol", "Place 2 is taken by Ann"},
       {"check --set UseFireBet=2 bad.rol", "UseFireBet must be"},
-      {"run --new", "--new is not available"},
       {"run --script=a.bet", "The script \"a.bet\" does not exist"},
       {"run --script bad.rol@9", "Place 9 does not exist"},
       {"run --player Ann --script bad.rol@2", "no player at place 2 for the script"},
@@ -110,8 +109,10 @@ TEST_F(Sim, RefusesWhatCannotBeDoneInOneSentence) {
       {"run --bet Field=5 --sessions-log bad.rol", "The folder \"bad.rol\" cannot be made"},
       {"run --player a/b --player a_b --sessions-log .", "cannot be the sessions log as well"},
       {"run --player A --sessions-log . --json a.slg", "cannot be the result as well"},
-      {"run --save a.tsg", "--save is not available"},
-      {"run a.tsg", "Game files (\"a.tsg\")"},
+      {"run --save nowhere/a.tsg", "its folder does not exist"},
+      {"run --save a.tsg --json a.tsg", "cannot be the result as well"},
+      {"run --new a.tsg", "The game \"a.tsg\" does not exist"},
+      {"run bad.rol", "\"bad.rol\" cannot be opened: This is not a Tessarel game file."},
       {"run --home nowhere", "The folder \"nowhere\" does not exist"},
 
       {"run --player Ann --player aNN", "There's already a player named aNN."},
@@ -211,6 +212,8 @@ TEST_F(Sim, AnswersAWrongCommandLineWithTheUsageLine) {
       "run --payoff 'Place 6'",
       "run --dice a.rol --record b.rol",
       "run --quiet=5x",
+      "run --new",
+      "run a.tsg b.tsg",
       "dice --rng 1 --seed 1",
       "dice --rng 1 --seed 1 --count x",
       "dice --rng 1 --seed 1 --count 1 more",
@@ -248,15 +251,44 @@ TEST_F(Sim, HelpNamesEveryOptionThatWorks) {
                              "--sessions-log DIR",
                              "--probability FILE.prb",
                              "--report FILE",
-                             "--script FILE.bet[@PLACE]"}) {
+                             "--script FILE.bet[@PLACE]",
+                             "GAME.tsg",
+                             "--new",
+                             "--save FILE.tsg"}) {
     EXPECT_NE(run.find(option), std::string::npos) << option;
   }
   for (const char* option : {"--rng N", "--seed N", "--count N", "--raw"})
     EXPECT_NE(dice.find(option), std::string::npos) << option;
-  EXPECT_EQ(run.find("--save"), std::string::npos);
   const Outcome top = Run("--help");
   EXPECT_EQ(top.status, 0);
   EXPECT_NE(top.out.find("dice"), std::string::npos);
+}
+
+// The dice come from a roll file, whose place the game keeps; the script counts on in its stacks.
+TEST_F(Sim, SavedGameGoesOnWhereItStood) {
+  Write("a.bet",
+        "if cs0 is 0 then\n  cs0 = 5\nendif\ncs1 = cs1 + 1\n"
+        "if next roll is a comeout roll then\n  bet cs0 on passline\n  cs0 = cs0 + 1\nendif\n");
+  Result("--rolls 600 --set BetNeededToShoot=0 --record dice.rol --seed 3");
+  const std::string players = std::string(Bets) + "--set BetNeededToShoot=0 --player Cy=9000 " +
+                              "--script a.bet@2 --dice dice.rol ";
+  const std::string wagers = std::string(Bets).substr(std::string(Bets).find("--bet"));
+  const Json whole = Played(Result(players + "--rolls 600"));
+  Result(players + "--rolls 250 --save a.tsg");
+  const std::string saved = Read("a.tsg");
+  Result("a.tsg --rolls 0 --save b.tsg");
+  EXPECT_TRUE(Read("b.tsg") == saved);
+  EXPECT_EQ(Played(Result("a.tsg --rolls 350 " + wagers)), whole);
+  // Once in the initialising cycle and once a roll.
+  EXPECT_EQ(whole["players"][1]["checkstacks"][1]["amount"], 601);
+
+  const Json fresh = Result("--new a.tsg --rolls 10 --save a.tsg");
+  EXPECT_EQ(fresh["roll_counts"][0], 10);
+  EXPECT_EQ(fresh["players"].size(), 3u);
+  std::filesystem::remove(Path("a.bet"));
+  const Outcome outcome = Run("run b.tsg");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.err.find("Cy's script"), std::string::npos) << outcome.err;
 }
 
 TEST_F(Sim, DiceAreThoseOfTheTable) {

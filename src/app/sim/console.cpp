@@ -74,9 +74,13 @@ void ShowOnConsole() {
     Console.lastFault = Message.MsgText;
   }
   if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
+  std::string notice = "[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText);
   // A script under the Hyper-Drive may ask at every roll.
-  if (Table.HyperDriveOn == 0 || !IsPrompt(Message.MsgFlags))
-    Notice("[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText));
+  const bool silent = Table.HyperDriveOn != 0 && IsPrompt(Message.MsgFlags);
+  if (Console.holdsNotices)
+    Console.heldNotices.push_back(std::move(notice));
+  else if (!silent)
+    Notice(notice);
   TakeAnswer();
 }
 

@@ -19,6 +19,8 @@ struct ConsoleState {
   std::deque<std::string> answers;     // to the prompts that come
   int32_t faults = 0;                  // fault reports shown
   std::string lastFault;
+  bool holdsNotices = false;  // messages are kept back from standard error, to be told in one go
+  std::vector<std::string> heldNotices;
 };
 
 extern ConsoleState Console;

@@ -1,11 +1,11 @@
 // tessarel-sim: the table without a window.
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <functional>
-#include <string_view>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
@@ -20,20 +20,6 @@ constexpr int64_t MaxSessions = 1'000'000;
 constexpr const char* UsageText =
     "Usage: tessarel-sim run [OPTIONS] | check [OPTIONS] FILE.bet | advantage [OPTIONS] | "
     "dice --rng N --seed N --count N  (--help tells more)\n";
-
-// What a later version brings; until then it is refused by name.
-constexpr std::array<std::string_view, 2> OptionsNotYet = {"--new", "--save"};
-
-void RefuseWhatIsMissing(int argc, char** argv) {
-  const auto refuse = [](std::string_view what) {
-    throw Failure(CannotBeDone, std::string(what) + " is not available in this version.");
-  };
-  for (int k = 1; k < argc; ++k) {
-    const std::string_view word = argv[k];
-    const std::string_view option = word.substr(0, word.find('='));
-    if (std::ranges::find(OptionsNotYet, option) != OptionsNotYet.end()) refuse(option);
-  }
-}
 
 // The options of a command with their values as texts. The values are read when the whole line is
 // known to be made of options that exist, so that a wrong line is always told as such.
@@ -117,7 +103,7 @@ void DescribeDiceOfRun(Values& values, RunOptions& options) {
               [&](const std::string& text) { options.hands = ReadCount(text, MaxRolls); });
   values.Once("--sessions", "N", "Play N sessions, one after the other (default: 1)",
               [&](const std::string& text) { options.sessions = ReadCount(text, MaxSessions); });
-  values.Once("--rng", "N", "The generator, 1 to 8 (default: 1)",
+  values.Once("--rng", "N", "The generator, 1 to 8 (default: 1, or that of the game)",
               [&](const std::string& text) { options.generator = ReadWhole(text); });
   values.Once("--seed", "N", "Its seed, from 1 (default: from the clock)",
               [&](const std::string& text) { options.seed = ReadWhole(text); });
@@ -142,6 +128,8 @@ void DescribeOutput(Values& values, RunOptions& options) {
   values.Once("--sessions-log", "DIR",
               "Add every session, the last one too, to the players' sessions logs in this folder",
               [&](const std::string& text) { options.sessionsLog = ReadFileName(text); });
+  values.Once("--save", "FILE.tsg", "Save the game at the end",
+              [&](const std::string& text) { options.save = ReadFileName(text); });
   values.Once("--report", "FILE", "The text report: all views of the run; - is standard output",
               [&](const std::string& text) { options.report = ReadFileName(text); });
   values.Once("--json", "FILE", "The result as JSON; - is standard output, then without summary",
@@ -182,20 +170,6 @@ void DescribeDice(Values& values, DiceOptions& options) {
               [&](const std::string& text) { options.probability = ReadFileName(text); });
 }
 
-// What is left over after the options: a misspelt one, or the name of a game.
-void RefuseRest(const CLI::App& run) {
-  const std::vector<std::string> rest = run.remaining();
-  for (const std::string& word : rest) {
-    if (word.starts_with('-')) {
-      throw Failure(WrongCommandLine, "There is no option \"" + word + "\".");
-    }
-  }
-  if (!rest.empty()) {
-    throw Failure(CannotBeDone,
-                  "Game files (\"" + rest.front() + "\") are not available in this version.");
-  }
-}
-
 int Play(int argc, char** argv) {
   CLI::App app{"Tessarel: what a craps betting system really does, without a window.",
                "tessarel-sim"};
@@ -207,9 +181,14 @@ int Play(int argc, char** argv) {
   DescribeTable(runValues, runOptions);
   DescribeDiceOfRun(runValues, runOptions);
   DescribeOutput(runValues, runOptions);
+  CLI::Option* game =
+      runValues.Once("game", "GAME.tsg", "A saved game to go on with (default: a new table)",
+                     [&](const std::string& text) { runOptions.game = ReadFileName(text); });
+  run->add_flag("--new", runOptions.newSession, "Start a new session in the game first")
+      ->disable_flag_override()
+      ->needs(game);
   run->add_flag("--quiet", runOptions.quiet, "No progress bar, no summary")
       ->disable_flag_override();
-  run->allow_extras();
 
   CLI::App* check = app.add_subcommand("check", "Check a script as Check Script does");
   CheckOptions checkOptions;
@@ -241,7 +220,6 @@ int Play(int argc, char** argv) {
   advantage->add_flag("--json", advantageOptions.json, "The figures as JSON")
       ->disable_flag_override();
 
-  RefuseWhatIsMissing(argc, argv);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -249,7 +227,6 @@ int Play(int argc, char** argv) {
     throw Failure(WrongCommandLine, error.what());
   }
   if (app.got_subcommand(run)) {
-    RefuseRest(*run);
     runValues.ReadAll();
     RunCommand(runOptions);
   } else if (app.got_subcommand(check)) {

@@ -16,7 +16,7 @@ struct SessionEnd {
   Money bankroll, low, high;
 };
 
-// Sums over all sessions of the run.
+// Sums over all sessions of the run; one that was begun in an earlier run counts as a whole.
 struct RunFacts {
   int64_t rolls = 0;
   int64_t sessions = 0;

@@ -9,6 +9,7 @@
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/failure.h"
+#include "app/sim/game.h"
 #include "app/sim/output.h"
 #include "app/sim/probability_option.h"
 #include "app/sim/reporting.h"
@@ -23,6 +24,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "config/language.h"
+#include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
@@ -46,8 +48,9 @@ struct SessionInPlay {
   const Recording* recording = nullptr;
   RunFacts* facts = nullptr;
   void (*startForScript)(bool keepStacks, bool keepRollFile) = nullptr;
-  int64_t rollsEarlier = 0, handsEarlier = 0;  // before a script has started a session anew
-  int64_t rollsBefore = 0;                     // at the last look
+  // What sessions before a script's new start have made; less what an earlier run had made already.
+  int64_t rollsEarlier = 0, handsEarlier = 0;
+  int64_t rollsBefore = 0;  // at the last look
   int32_t faultsBefore = 0;
   int32_t failures = 0;  // at the roll now tried
   bool stuck = false;
@@ -68,7 +71,7 @@ SessionInPlay Session;
 
 void SeatPlayers(const RunOptions& options) {
   std::vector<PlayerArgument> players = options.players;
-  const bool idle = options.bets.empty() && options.scripts.empty();
+  const bool idle = !options.game.empty() || (options.bets.empty() && options.scripts.empty());
   if (players.empty() && !idle) players.push_back({"Player One", 1, 1000});
   for (const PlayerArgument& player : players)
     Seat(player);
@@ -218,13 +221,14 @@ int64_t StepsToDo() {
 // A new session that keeps what earlier ones left and goes on in the roll file. Its scripts are
 // initialised.
 void StartSession() {
-  Session.rollsEarlier = Session.handsEarlier = 0;
   StartNewGame({-1, -1, -1, ContinueRollFile}, true);
   if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
 }
 
-// Plays the session that has just been started to its end.
+// Plays the session that has just been started, or is gone on with, to its end.
 void PlaySession(const RunOptions& options) {
+  Session.rollsEarlier = -static_cast<int64_t>(RollsInSession());
+  Session.handsEarlier = -static_cast<int64_t>(Stats.Hands[CurrentSession].HandCount);
   Session.rollsBefore = Session.failures = 0;
   Session.faultsBefore = Console.faults;
   Table.LastStopReason.clear();
@@ -243,7 +247,7 @@ RunFacts Play(const RunOptions& options, const Recording& recording) {
   Session.progress = &progress;
   for (int64_t session = 0; session < options.sessions && !Interrupted(); ++session) {
     if (session > 0 && DiceFileEnds()) break;
-    StartSession();
+    if (session > 0 || options.game.empty() || options.newSession) StartSession();
     Session.stepsBefore = session * StepsToDo();
     PlaySession(options);
     AddSession(facts);
@@ -260,6 +264,7 @@ void WriteResultFile(const std::string& what, const std::string& name, const std
 // Standard output comes last, so that it stays empty when a file fails.
 void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& recording) {
   recording.Finish();
+  SaveNamedGame(options.save);
   const std::string json = options.json.empty() ? "" : ResultJson(facts);
   const std::string report = options.report.empty() ? "" : RunReport(facts.stopReason);
   WriteResultFile("result", options.json, json);
@@ -270,13 +275,29 @@ void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& r
   if (!options.quiet) WriteOut(ResultSummary(facts));
 }
 
+// The dice of a game go on with its generator: from the running state that is kept of generator 3,
+// else from a new seed. A run without rolls leaves them alone.
+bool NeedsSeed(const RunOptions& options) {
+  if (options.game.empty() || options.seed || options.generator) return true;
+  constexpr int32_t KeepsItsState = 3;
+  const bool rolls = Session.rolls.value_or(1) > 0 && Session.hands.value_or(1) > 0;
+  return rolls && Dice.CurrentRNG != KeepsItsState && RollFile.RollFileMode != RollFilePlay;
+}
+
+void SelectDice(const RunOptions& options) {
+  if (!NeedsSeed(options)) return;
+  const int64_t inUse = options.game.empty() ? 1 : Dice.CurrentRNG;
+  SelectAndSeed(options.generator.value_or(inUse), options.seed);
+}
+
 void SetUp(const RunOptions& options) {
+  OpenNamedGame(options.game);
   SeatPlayers(options);
   ApplyRules(options.settings, options.payoffs);
   LoadScripts(options.scripts);
   Session = {BetsByPlace(options.bets), options.rolls, options.hands};
   if (!options.rolls && !options.hands && options.dice.empty()) Session.rolls = DefaultRolls;
-  SelectAndSeed(options.generator, options.seed);
+  SelectDice(options);
   if (!options.probability.empty()) ActivateProbability(options.probability);
   if (!options.dice.empty()) PlayFrom(options.dice);
 }

@@ -64,11 +64,16 @@ std::vector<RunFile> FilesOf(const RunOptions& options) {
       {"probability file", &options.probability, false},
       {"recording", &options.record, true},
       {"events log", &options.eventsLog, true},
+      {"game to be saved", &options.save, true},
       {"report", options.report == "-" ? &NoName : &options.report, true},
       {"result", options.json == "-" ? &NoName : &options.json, true},
   };
   for (const ScriptArgument& script : options.scripts)
     files.push_back({"script", &script.file, false});
+  // A game may be saved to its own file: it is read before anything is written.
+  const bool savedInPlace = !options.save.empty() && !options.game.empty() &&
+                            Resolved(options.save) == Resolved(options.game);
+  files.push_back({"game", savedInPlace ? &NoName : &options.game, false});
   return files;
 }
 

@@ -38,6 +38,8 @@ enum class Mode { Hyper, Table };
 
 struct RunOptions {
   std::string home = ".";
+  std::string game;         // a game file to go on with; empty: a new table
+  bool newSession = false;  // in the game
   std::vector<PlayerArgument> players;
   std::vector<FieldArgument> settings;
   std::vector<std::string> payoffs;
@@ -45,10 +47,10 @@ struct RunOptions {
   std::vector<BetArgument> bets;
   std::optional<int64_t> rolls, hands;
   int64_t sessions = 1;
-  int64_t generator = 1;
+  std::optional<int64_t> generator;
   std::optional<int64_t> seed;
   // File names; empty: not asked for.
-  std::string dice, record, answers, eventsLog, probability, report, json;
+  std::string dice, record, answers, eventsLog, probability, save, report, json;
   std::string sessionsLog;  // the folder of the sessions logs
   Mode mode = Mode::Hyper;
   bool quiet = false;

@@ -9,6 +9,7 @@
 #include "autobet/script_files.h"
 #include "base/message.h"
 #include "engine/table.h"
+#include "files/game_file.h"
 
 namespace tessarel::sim {
 
@@ -69,6 +70,22 @@ void LoadScripts(const std::vector<ScriptArgument>& scripts) {
   }
   for (const ScriptArgument& script : loaded)
     RequireRunnable(script.place, script.file);
+}
+
+void ActivateSavedScripts() {
+  ForEachPlayer([](int place) {
+    if (At(GameFile.ScriptWasActive, place) == 0) return;
+    if (At(Scripts.Places, place).ScriptFile.empty()) {
+      throw Failure(CannotBeDone, At(Table.PlayerName, place) +
+                                      "'s script, which was active when the game was saved, is not "
+                                      "there any more.");
+    }
+    SetScriptActive(place, true);
+  });
+  ForEachPlayer([](int place) {
+    if (At(Scripts.ScriptActive, place) != 0)
+      RequireRunnable(place, At(Scripts.Places, place).ScriptFile);
+  });
 }
 
 }  // namespace tessarel::sim

@@ -20,4 +20,8 @@ std::string ErrorLine(const std::string& file, const ScriptError& error);
 // one that cannot run.
 void LoadScripts(const std::vector<ScriptArgument>& scripts);
 
+// Activates again the scripts that were active when the game was saved. Failure at the first one
+// that is gone or cannot run.
+void ActivateSavedScripts();
+
 }  // namespace tessarel::sim

@@ -1,0 +1,180 @@
+#include "files/game_file.h"
+
+#include "autobet/script_store.h"
+#include "base/fault.h"
+#include "base/file_io.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/record_file.h"
+#include "base/single_byte_text.h"
+#include "base/trap.h"
+#include "config/folders.h"
+#include "config/language.h"
+#include "dice/popup_roll.h"
+#include "dice/roll_file.h"
+#include "engine/rail.h"
+#include "engine/roll_driver.h"
+#include "files/game_blocks.h"
+#include "files/game_views.h"
+
+namespace tessarel {
+
+GameFileState GameFile;
+
+namespace {
+
+constexpr std::string_view ProgramName = "Tessarel";
+constexpr std::string_view Header = "Tessarel Pro Game File, Data Format 2.5";
+constexpr std::string_view GameFileEnding = ".tsg";
+constexpr int UnableToOpenText = 55;
+
+bool IsAutomatic(const std::string& path) {
+  return EqualIgnoringCase(ShortName(path), AutomaticGameFile);
+}
+
+std::string AutomaticGamePath() {
+  return Folders.AppFolder + std::string(AutomaticGameFile);
+}
+
+// All records behind the header, in either direction.
+void GameBody(GameRecords& records, FilesInUse& files, GameCounts& counts) {
+  GeneralRecords(records, files, counts);
+  RuleRecords(records);
+  StatisticsRecords(records);
+  ViewRecords(records, files);
+  PlaceRecords(records, files, counts);
+  ChipRecords(records, counts);
+}
+
+// The file is from now on the one that Save writes to; empty for none.
+void NameGame(const std::string& path) {
+  GameFile.GameFileName = path;
+  GameFile.WindowTitle = ProgramName;
+  if (!path.empty()) GameFile.WindowTitle += " (" + ShortName(path) + ")";
+  Table.TableDirty = 0;
+}
+
+// --- Opening -----------------------------------------------------------------------------------
+
+void Refuse(const std::string& why, const std::string& path) {
+  ShowMessage(why + "\r\r" + ShortName(path), Message.ErrorTitle, msg::OkAlert);
+}
+
+bool IsGameFile(const RecordFile& file, const std::string& path) {
+  const std::string header = file.At(1).LongText();
+  if (header.find(Header) != std::string::npos) return true;
+  if (header.find(ProgramName) == std::string::npos) {
+    Refuse("This is not a Tessarel game file.", path);
+  } else if (!IsAutomatic(path) || GameFile.MainWindowShown) {
+    Refuse("This file appears to be from an incompatible version.", path);
+  }
+  return false;
+}
+
+// Clears what a game file does not overwrite in any case.
+void ClearGame() {
+  Trapped("OpenGame", CloseRollFile);
+  ClosePopupRoll();
+  for (int place = 1; place <= LastPlace; ++place)
+    ClearPlace(place);
+  Roll = RollState{};
+  Table.StopReason.clear();
+  Table.LastStopReason.clear();
+  GameFile.ScriptWasActive = {};
+  GameViews.Chips.clear();
+}
+
+void ReadBody(RecordFile& file, FilesInUse& files) {
+  GameRecords records(file, GameRecords::Direction::Read);
+  std::string header;
+  records.Text(header);
+  GameCounts counts;
+  GameBody(records, files, counts);
+}
+
+void NoteActiveScripts(const FilesInUse& files) {
+  ForEachPlayer([&](int place) {
+    At(GameFile.ScriptWasActive, place) = At(files.ScriptActive, place) != 0 ? -1 : 0;
+  });
+}
+
+// A game that is cut off is played on as far as it was read, but its file is left alone.
+bool ReadGame(RecordFile& file, const std::string& path) {
+  ClearGame();
+  FilesInUse files;
+  const bool whole = Trapped("OpenGame", [&] { ReadBody(file, files); });
+  MendLoadedGame();
+  if (whole) {
+    TakeUpFiles(files);
+    NoteActiveScripts(files);
+  }
+  NameGame(!whole || IsAutomatic(path) ? "" : path);
+  FrontEnd.RefreshViews();
+  FrontEnd.DrawTable();
+  return whole;
+}
+
+// --- Starting ----------------------------------------------------------------------------------
+
+std::string WithoutQuotes(std::string_view commandLine) {
+  std::string_view argument = TrimSpaces(commandLine);
+  if (argument.size() >= 2 && argument.starts_with('"') && argument.ends_with('"'))
+    argument = argument.substr(1, argument.size() - 2);
+  return std::string(argument);
+}
+
+bool NamesGameFile(const std::string& argument) {
+  return LowerCase(argument).ends_with(GameFileEnding);
+}
+
+void TellUnrecognized(const std::string& argument, bool automaticFollows) {
+  std::string text = "This is not a recognized Tessarel game file.\r\r" + argument;
+  if (automaticFollows) text += "\r\rThe last default game file will be opened instead.";
+  ShowMessage(std::move(text), std::string(GetText(UnableToOpenText)), msg::OkAlert);
+}
+
+}  // namespace
+
+std::string ShortName(std::string_view path) {
+  return std::string(path.substr(path.rfind('/') + 1));
+}
+
+void SaveGame(const std::string& name) {
+  const std::string path = FullName(InFolder(Folders.AppFolder, name));
+  const bool automatic = ShortName(path) == AutomaticGameFile;
+  FilesInUse files = FilesNowInUse(automatic);
+  GameCounts counts{Table.PlayerCount, static_cast<int32_t>(GameViews.Chips.size())};
+  RecordFile file;
+  GameRecords records(file, GameRecords::Direction::Write);
+  std::string header(Header);
+  records.Text(header);
+  GameBody(records, files, counts);
+  file.Save(path);
+  NameGame(automatic ? "" : path);
+}
+
+bool SaveDefaultGame() {
+  return Trapped("SaveGame", [] { SaveGame(AutomaticGamePath()); });
+}
+
+bool OpenGame(const std::string& name) {
+  bool opened = false;
+  Trapped("OpenGame", [&] {
+    const std::string path = FullName(InFolder(Folders.AppFolder, name));
+    RecordFile file = RecordFile::Load(path);
+    opened = IsGameFile(file, path) && ReadGame(file, path);
+  });
+  return opened;
+}
+
+bool LoadStartGame(std::string_view commandLine) {
+  const std::string argument = WithoutQuotes(commandLine);
+  // What is typed in a shell is meant from its folder.
+  const std::string named = FileExists(argument) ? FullName(argument) : argument;
+  if (NamesGameFile(argument) && OpenGame(named)) return true;
+  const bool automatic = FileExists(AutomaticGamePath());
+  if (!argument.empty()) TellUnrecognized(argument, automatic);
+  return automatic && OpenGame(AutomaticGamePath());
+}
+
+}  // namespace tessarel

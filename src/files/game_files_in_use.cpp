@@ -1,0 +1,207 @@
+// The other files that a game uses, dice, matrix, logs and scripts, by name: as a save notes them,
+// and as a load takes them up again.
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "autobet/script_files.h"
+#include "autobet/script_store.h"
+#include "base/fault.h"
+#include "base/file_io.h"
+#include "base/message.h"
+#include "base/single_byte_text.h"
+#include "base/trap.h"
+#include "config/folders.h"
+#include "dice/popup_roll.h"
+#include "dice/probability.h"
+#include "dice/probability_file.h"
+#include "dice/roll_file.h"
+#include "files/events_log.h"
+#include "files/game_blocks.h"
+
+namespace tessarel {
+
+namespace {
+
+HeldFile Held(const std::string& name) {
+  const std::string path = FullName(name);
+  return {path, LastModifiedText(path)};
+}
+
+void NoteRollFile(FilesInUse& files) {
+  if (RollFile.RollFileName.empty()) return;
+  FlushRollFile();  // so that the date is that of all that was recorded
+  files.RollFile = Held(RollFile.RollFileName);
+  files.RollFileMode = RollFile.RollFileMode;
+  files.FirstRollShown = RollFile.DisplayRoll;
+  files.NextRoll = RollFile.NextRoll;
+  files.RollCount = RollFile.RollCountInFile;
+}
+
+// A matrix that differs from its file has no name in a game, unless it is saved with it.
+void NoteProbability(FilesInUse& files, bool automaticFile) {
+  if (Probability.ProbabilityChanged != 0) {
+    if (!automaticFile || Probability.ProbabilityMatrixActive == 0) return;
+    SaveProbabilityFile(Folders.AppFolder + std::string(AutomaticProbabilityFile));
+  }
+  if (!FileExists(Probability.ProbabilityFileName)) return;
+  files.Probability = Held(Probability.ProbabilityFileName);
+}
+
+void NoteEventsLog(FilesInUse& files) {
+  if (!EventsLog.EventLogName.empty()) {
+    files.EventsLog = Held(EventsLog.EventLogName);
+  } else if (EventsLogExists()) {
+    files.EventsLog = Held(DefaultEventLogName());
+  }
+}
+
+void NoteFilesOfPlace(FilesInUse& files, int place) {
+  const ScriptPlace& script = At(Scripts.Places, place);
+  if (!script.ScriptFile.empty()) {
+    const std::string path = InFolder(Folders.AppFolder, script.ScriptFile);
+    At(files.Script, place) = {script.ScriptFile, LastModifiedText(path)};
+  }
+  At(files.ScriptOutput, place) = script.OutputFile;
+  At(files.SessionsLog, place) = FullName(At(Table.SessionLogName, place));
+}
+
+// --- Taking up ---------------------------------------------------------------------------------
+
+// The texts that name a file, with the title of the box.
+struct FileNotice {
+  const char* text;
+  const char* title;
+};
+// clang-format off
+constexpr FileNotice RollFileGone = {
+    "The following Dice Roll file (that was in use when this game was saved) was not found:",
+    "Missing Dice Roll File"};
+constexpr FileNotice RollFileChanged = {
+    "The following Dice Roll file (that was in use when this game was saved) has been changed:",
+    "Altered Dice Roll File"};
+constexpr FileNotice MatrixGone = {
+    "The following Probability file (that was in use when this game was saved) was not found:",
+    "Missing Probability File"};
+constexpr FileNotice MatrixChanged = {
+    "The following Probability file (that was in use when this game was saved) has been changed:",
+    "Altered Probability File"};
+constexpr FileNotice EventsLogGone = {
+    "The following Events Log (that was open when this game was saved) was not found.",
+    "Missing Events Log"};
+// Behind the player's name.
+constexpr FileNotice ScriptGone = {"'s auto-bet file was not found:", "Auto-Bet File Not Found"};
+constexpr FileNotice ScriptChanged = {"'s auto-Bet file has been changed:", "Auto-Bet File Changed"};
+// clang-format on
+
+void Tell(std::string text, const std::string& file, const std::string& title) {
+  ShowMessage(text.append("\r\r").append(file), title, msg::OkAlert);
+}
+
+void Tell(const FileNotice& notice, const std::string& file, const std::string& name = "") {
+  Tell(name + notice.text, file, notice.title);
+}
+
+void TakeUpRollFile(const FilesInUse& files) {
+  const std::string& name = files.RollFile.Name;
+  if (name.empty()) return;
+  if (!FileExists(name)) return Tell(RollFileGone, name);
+  OpenRollFile(name);
+  if (LastModifiedText(name) != files.RollFile.Date) return Tell(RollFileChanged, name);
+  const int32_t mode = files.RollFileMode;
+  const bool records = mode == RollFileRecord && !RollFile.ReadOnly;
+  RollFile.RollFileMode = records || mode == RollFilePlay ? mode : RollFileOff;
+  RollFile.NextRoll = std::clamp(files.NextRoll, 1, RollFile.RollCountInFile + 1);
+  RollFile.DisplayRoll = std::clamp(files.FirstRollShown, 1, RollFile.RollCountInFile + 1);
+  RollFile.LastRoll = RollFile.NextRoll - 1;
+}
+
+void TakeUpProbability(const HeldFile& file) {
+  NewProbabilities();
+  if (file.Name.empty()) return;
+  if (!OpenProbabilityFile(file.Name)) return Tell(MatrixGone, file.Name);
+  if (LastModifiedText(file.Name) != file.Date) Tell(MatrixChanged, file.Name);
+}
+
+void TakeUpEventsLog(const std::string& name) {
+  const bool usual = name.empty() || name == FullName(DefaultEventLogName());
+  EventsLog.EventLogName = usual ? "" : name;
+  EndSections();
+  if (!name.empty() && !FileExists(name)) {
+    EventsLog.EventLogName.clear();
+    Tell(EventsLogGone, name);
+  }
+  // The index may be that of another log.
+  if (EventsLog.LogOn != 0 && EventsLogExists()) RebuildEventsIndex();
+}
+
+bool CanReadScript(int place, const std::string& path) {
+  try {
+    return ReadScriptFile(place, path);
+  } catch (const Fault&) {
+    return false;
+  }
+}
+
+void TakeUpScript(int place, const HeldFile& file) {
+  if (file.Name.empty()) return;
+  const std::string path = FullName(InFolder(Folders.AppFolder, file.Name));
+  const std::string& name = At(Table.PlayerName, place);
+  if (!FileExists(path)) {
+    NewScript(place);
+    Tell(ScriptGone, path, name);
+  } else if (!CanReadScript(place, path)) {
+    NewScript(place);
+    Tell("An error occurred while attempting to load " + name + "'s auto-bet file:", path,
+         Message.ErrorTitle);
+  } else if (LastModifiedText(path) != file.Date) {
+    Tell(ScriptChanged, path, name);
+  }
+}
+
+// A player without a log of his own goes on in the usual one, which need not be there yet.
+void TakeUpSessionsLog(int place, const std::string& log) {
+  const std::string& name = At(Table.PlayerName, place);
+  const std::string usual = FullName(Folders.AppFolder + LowerCase(name) + ".slg");
+  const bool there = FileExists(log);
+  At(Table.SessionLogName, place) = there ? log : usual;
+  if (there || log.empty() || log == usual) return;
+  const std::string kind = FileExists(usual) ? "existing" : "new";
+  const std::string next = kind == "new" ? "created and opened" : "opened";
+  Tell("The following Sessions Log for " + name + " was not found: \r\r" + log +
+           "\r\rThe following " + kind + " Sessions Log will be " + next + " instead:",
+       usual, "Sessions Log Not Found");
+}
+
+// What goes wrong with one file is reported and leaves the others.
+template <class Step>
+void Attempt(Step&& step) {
+  Trapped("OpenGame", std::forward<Step>(step));
+}
+
+}  // namespace
+
+FilesInUse FilesNowInUse(bool automaticFile) {
+  FilesInUse files;
+  NoteRollFile(files);
+  files.PopupRoll = FullName(PopupRoll.PopupRollFileName);
+  NoteProbability(files, automaticFile);
+  NoteEventsLog(files);
+  ForEachPlayer([&](int place) { NoteFilesOfPlace(files, place); });
+  files.ScriptActive = Scripts.ScriptActive;
+  return files;
+}
+
+void TakeUpFiles(const FilesInUse& files) {
+  Attempt([&] { TakeUpRollFile(files); });
+  if (!files.PopupRoll.empty()) OpenPopupRoll(files.PopupRoll);
+  Attempt([&] { TakeUpProbability(files.Probability); });
+  Attempt([&] { TakeUpEventsLog(files.EventsLog.Name); });
+  ForEachPlayer([&](int place) {
+    At(Scripts.Places, place).OutputFile = At(files.ScriptOutput, place);
+    Attempt([&] { TakeUpScript(place, At(files.Script, place)); });
+    Attempt([&] { TakeUpSessionsLog(place, At(files.SessionsLog, place)); });
+  });
+}
+
+}  // namespace tessarel

@@ -1,0 +1,197 @@
+// The block of a place in a game file: its player with name, files and options, the bets with all
+// that is kept for them, check stacks, the bankroll's course and the statistics of bets.
+#include "autobet/script_store.h"
+#include "config/settings.h"
+#include "engine/bet_handling.h"
+#include "files/game_blocks.h"
+#include "stats/store.h"
+
+namespace tessarel {
+
+namespace {
+
+// What is kept for each of the statistics' bets runs to this number.
+constexpr int LastCountedBet = 100;
+constexpr int LastContract = 99;
+
+// Returns false for a block of a place that does not exist.
+bool PlaceNumberRecord(GameRecords& records, FilesInUse& files, int32_t& place) {
+  records.Next();
+  records.Amount(0, place);
+  if (place < 1 || place > LastPlace) return false;
+  Money atmNet = records.Reading() ? Money()
+                                   : At(Table.InvestedBankroll, place) -
+                                         At(Table.BankrollBegin, place + CurrentSession);
+  const MoneyField fields[] = {
+      {1, &atmNet},
+      {2, &At(files.ScriptActive, place)},
+      {3, &At(Scripts.ScriptActiveAfterRoll, place)},
+      {6, &At(Table.VisibleStack, place)[1], 4},
+  };
+  records.MoneysHere(fields);
+  return true;
+}
+
+void NameRecords(GameRecords& records, FilesInUse& files, int place) {
+  HeldFile& script = At(files.Script, place);
+  records.Text(At(Table.PlayerName, place));
+  records.TextAndDate(script.Name, script.Date);
+  records.Text(At(files.ScriptOutput, place));
+  records.Text(At(files.SessionsLog, place));
+}
+
+void PlayerRecord(GameRecords& records, int place) {
+  const MoneyField fields[] = {
+      {0, &At(Table.AllowNegBankroll, place)},
+      {1, &At(Table.BankrollInitType, place)},
+      {2, &At(Table.BankrollInitAmount, place)},
+      {3, &Settings.AtmAmount},
+      {4, &At(Table.BankrollSum, place)},
+      {5, &At(Table.InvestedBankroll, place)},
+      {6, &At(Table.AutoAdjustBetAmounts, place)},
+      {7, &At(Table.AutoTakeFullOdds, place)},
+      {8, &At(Table.AutoLayFullOdds, place)},
+      {9, &At(Table.AutoDownPlaceBets, place)},
+      {10, &At(Table.DeclinesDice, place)},
+      {11, &At(Table.HandleWinningBets, place)},
+      {12, &At(Table.HandleLosingBets, place)},
+      {13, &At(Table.LayBias, place)},
+      {14, &At(Table.PlaceBias, place)},
+      {15, &At(Table.DoBias, place)},
+      {16, &At(Table.DontBias, place)},
+  };
+  records.Moneys(fields);
+}
+
+// An amount for each number, with another one of the place in the slot of number 0.
+void AmountRecords(GameRecords& records, PerNumber<Money>& amounts, Money& first) {
+  SlotRun run(records, Record::Moneys);
+  run.Amount(first);
+  for (int number = 1; number <= LastNumber; ++number)
+    run.Amount(At(amounts, number));
+}
+
+void VigRecord(GameRecords& records, int place) {
+  const MoneyField fields[] = {
+      {1, At(Table.LayVig, place).data(), FamilySize},
+      {7, At(Table.BuyVig, place).data(), FamilySize},
+  };
+  records.Moneys(fields);
+}
+
+void StreakRecords(GameRecords& records, int place) {
+  constexpr int SlotsUsed = 32;
+  SlotRun run(records, SlotsUsed);
+  for (auto* plane : {&Table.BetStreak, &Table.BetStreakBefore}) {
+    for (int number = 1; number <= LastCountedBet; ++number)
+      run.Word(At(At(*plane, place), number));
+  }
+}
+
+void WorkingRecords(GameRecords& records, int place) {
+  for (auto* table : {&Table.BetWorkingDefault, &Table.BetWorking}) {
+    SlotRun run(records, Record::Shorts);
+    for (int32_t& state : At(*table, place))
+      run.Short(state);
+  }
+}
+
+void BetRecords(GameRecords& records, int place) {
+  AmountRecords(records, At(Table.BetAmount, place), At(Table.BetAmount, place)[0]);
+  AmountRecords(records, At(Table.BetAmountBefore, place), At(Table.BankrollAtRoll, place));
+  AmountRecords(records, At(Table.BetAmountAfterRoll, place), At(Table.BankrollAfterRoll, place));
+  SlotRun contracts(records, Record::Moneys);
+  for (int number = 1; number <= LastContract; ++number)
+    contracts.Amount(At(At(Table.BetContract, place), number));
+  VigRecord(records, place);
+  StreakRecords(records, place);
+  WorkingRecords(records, place);
+}
+
+void StackNameRecords(GameRecords& records, int place) {
+  for (std::string& name : At(Table.CheckStackName, place))
+    records.LongText(name);
+}
+
+void GraphRecords(GameRecords& records, int place) {
+  SlotRun run(records, Record::Moneys);
+  for (auto& bankrolls : Table.GraphBankroll)
+    run.Amount(At(bankrolls, place));
+}
+
+void MeasureRecords(GameRecords& records, int place, BetMeasures BetRecord::*kind) {
+  SlotRun run(records, Record::Moneys);
+  for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
+    for (int number = 1; number <= LastCountedBet; ++number) {
+      BetMeasures& measures = At(At(Stats.Bets, slot), number).*kind;
+      for (Money BetMeasures::*measure :
+           {&BetMeasures::Count, &BetMeasures::Sum, &BetMeasures::High, &BetMeasures::Low,
+            &BetMeasures::LastRoll, &BetMeasures::Last}) {
+        run.Amount(measures.*measure);
+      }
+    }
+  }
+}
+
+void ComeRecords(GameRecords& records, int place) {
+  SlotRun travel(records, Record::Moneys);
+  for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
+    for (Money& amount : At(Stats.ComeTravel, slot))
+      travel.Amount(amount);
+  }
+  const MoneyField fields[] = {{1, At(Table.ComeOriginal, place).data(), FamilySize}};
+  records.Moneys(fields);
+}
+
+// By slot, so every place has the whole of them: the last one read stands.
+void BankrollRecords(GameRecords& records) {
+  for (PerSlot<Money>* bankrolls :
+       {&Table.BankrollBegin, &Table.Bankroll, &Table.BankrollHigh, &Table.BankrollLow}) {
+    SlotRun run(records, Record::Moneys);
+    for (Money& bankroll : *bankrolls)
+      run.Amount(bankroll);
+  }
+}
+
+void HandlingRecord(GameRecords& records, int place) {
+  auto& operators = At(Table.HandleOperator, place);
+  const MoneyField fields[] = {
+      {0, &operators[PromptWinModify]},
+      {1, &operators[PromptLossModify]},
+      {2, &operators[AutoWinModify]},
+      {3, &operators[AutoLossModify]},
+      {4, &At(Table.HandleAmount, place)[PromptWinModify], 8},
+      {12, &At(Table.HandleUnits, place)[PromptWinModify], 6},
+  };
+  records.Moneys(fields);
+}
+
+// Returns false for a block of a place that does not exist.
+bool PlaceBlock(GameRecords& records, FilesInUse& files, int32_t place) {
+  if (!PlaceNumberRecord(records, files, place)) return false;
+  NameRecords(records, files, place);
+  PlayerRecord(records, place);
+  BetRecords(records, place);
+  StackNameRecords(records, place);
+  GraphRecords(records, place);
+  for (BetMeasures BetRecord::*kind : {&BetRecord::Tendered, &BetRecord::Won, &BetRecord::Lost})
+    MeasureRecords(records, place, kind);
+  ComeRecords(records, place);
+  BankrollRecords(records);
+  HandlingRecord(records, place);
+  return true;
+}
+
+}  // namespace
+
+void PlaceRecords(GameRecords& records, FilesInUse& files, const GameCounts& counts) {
+  if (!records.Reading()) {
+    ForEachPlayer([&](int place) { PlaceBlock(records, files, place); });
+    return;
+  }
+  for (int block = 0; block < counts.Players; ++block) {
+    if (!PlaceBlock(records, files, 0)) return;
+  }
+}
+
+}  // namespace tessarel

@@ -1,0 +1,89 @@
+#include "files/game_records.h"
+
+namespace tessarel {
+
+Record& GameRecords::Next() {
+  if (!Reading()) file_.Add();
+  return file_.At(++number_);
+}
+
+void GameRecords::Words(std::span<const WordField> fields) {
+  Next();
+  for (const WordField& field : fields) {
+    std::visit(
+        [&](auto* values) {
+          for (int k = 0; k < field.Count; ++k)
+            Word(field.Slot + k, values[k]);
+        },
+        field.First);
+  }
+}
+
+void GameRecords::Moneys(std::span<const MoneyField> fields) {
+  Next();
+  MoneysHere(fields);
+}
+
+void GameRecords::MoneysHere(std::span<const MoneyField> fields) {
+  for (const MoneyField& field : fields) {
+    std::visit(
+        [&](auto* values) {
+          for (int k = 0; k < field.Count; ++k)
+            Amount(field.Slot + k, values[k]);
+        },
+        field.First);
+  }
+}
+
+void GameRecords::Text(std::string& text) {
+  Record& record = Next();
+  if (Reading())
+    text = record.Text();
+  else
+    record.PutText(text);
+}
+
+void GameRecords::LongText(std::string& text) {
+  Record& record = Next();
+  if (Reading())
+    text = record.LongText();
+  else
+    record.PutLongText(text);
+}
+
+void GameRecords::TextAndDate(std::string& text, std::string& date) {
+  Record& record = Next();
+  if (Reading()) {
+    text = record.Text();
+    date = record.DateText();
+  } else {
+    record.PutText(text);
+    record.PutDateText(date);
+  }
+}
+
+void GameRecords::Amount(int slot, Money& value) {
+  Record& record = file_.At(number_);
+  if (Reading())
+    value = record.Amount(slot);
+  else
+    record.PutAmount(slot, value);
+}
+
+void GameRecords::Amount(int slot, int32_t& value) {
+  Record& record = file_.At(number_);
+  if (Reading())
+    value = record.AmountAsInt(slot);
+  else
+    record.PutAmount(slot, value);
+}
+
+void GameRecords::Short(int slot, int32_t& value) {
+  Record& record = file_.At(number_);
+  if (Reading())
+    value = record.Short(slot);
+  else
+    record.PutShort(slot, static_cast<int16_t>(value));
+}
+
+}  // namespace tessarel

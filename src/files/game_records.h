@@ -1,0 +1,96 @@
+// The records of a game file in their order, written and read by the same calls: a list of fields
+// says which value stands in which slot, and the direction is the file's. The blocks of the game
+// file (files/game_blocks.h) are made of these.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <type_traits>
+#include <variant>
+
+#include "base/money.h"
+#include "base/record_file.h"
+
+namespace tessarel {
+
+// `Count` values that stand next to each other in the record, from `Slot` on, and in memory.
+template <class... Values>
+struct SlotField {
+  int Slot;
+  std::variant<Values*...> First;
+  int Count = 1;
+};
+using WordField = SlotField<int32_t, uint32_t, bool>;  // a bool is 0 or -1
+using MoneyField = SlotField<Money, int32_t>;          // whole numbers are kept as amounts
+
+class GameRecords {
+ public:
+  enum class Direction { Write, Read };
+
+  // Records are added behind the last one of the file, or taken from its first one on.
+  GameRecords(RecordFile& file, Direction direction) : file_(file), direction_(direction) {}
+
+  bool Reading() const { return direction_ == Direction::Read; }
+
+  // Moves on to the next record. Reading behind the last one raises "Input past end of file".
+  Record& Next();
+
+  // The next record, and the slots of it that the fields name; the others stay 0.
+  void Words(std::span<const WordField> fields);
+  void Moneys(std::span<const MoneyField> fields);
+  // The same with the record that Next has moved to.
+  void MoneysHere(std::span<const MoneyField> fields);
+
+  // The next record as a text, alone or with the date of the file that it names.
+  void Text(std::string& text);
+  void LongText(std::string& text);
+  void TextAndDate(std::string& text, std::string& date);
+
+  // One value and its slot in the record that Next has moved to.
+  template <class Value>
+  void Word(int slot, Value& value) {
+    Record& record = file_.At(number_);
+    if (Reading())
+      value = static_cast<Value>(record.Word(slot));
+    else if constexpr (std::is_same_v<Value, bool>)
+      record.PutWord(slot, value ? -1 : 0);
+    else
+      record.PutWord(slot, static_cast<int32_t>(value));
+  }
+  void Amount(int slot, Money& value);
+  void Amount(int slot, int32_t& value);
+  void Short(int slot, int32_t& value);
+
+ private:
+  RecordFile& file_;
+  Direction direction_;
+  int number_ = 0;
+};
+
+// Values one behind the other over as many records as they need: a record is begun when the one
+// before it holds its share.
+class SlotRun {
+ public:
+  SlotRun(GameRecords& records, int slotsInRecord)
+      : records_(records), slotsInRecord_(slotsInRecord), slot_(slotsInRecord) {}
+
+  void Word(int32_t& value) { records_.Word(NextSlot(), value); }
+  void Amount(Money& value) { records_.Amount(NextSlot(), value); }
+  void Amount(int32_t& value) { records_.Amount(NextSlot(), value); }
+  void Short(int32_t& value) { records_.Short(NextSlot(), value); }
+
+ private:
+  int NextSlot() {
+    if (slot_ == slotsInRecord_) {
+      records_.Next();
+      slot_ = 0;
+    }
+    return slot_++;
+  }
+
+  GameRecords& records_;
+  int slotsInRecord_, slot_;
+};
+
+}  // namespace tessarel

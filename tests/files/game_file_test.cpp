@@ -1,0 +1,506 @@
+#include "files/game_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <thread>
+
+#include "app/session.h"
+#include "autobet/script_files.h"
+#include "base/file_io.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/record_file.h"
+#include "base/temporary_folder.h"
+#include "config/folders.h"
+#include "config/payoffs.h"
+#include "config/settings.h"
+#include "dice/generators.h"
+#include "dice/popup_roll.h"
+#include "dice/probability.h"
+#include "dice/probability_file.h"
+#include "dice/roll_file.h"
+#include "engine/atm.h"
+#include "engine/bets.h"
+#include "engine/check_stacks.h"
+#include "engine/players.h"
+#include "engine/rail.h"
+#include "engine/roll_driver.h"
+#include "files/events_log.h"
+#include "files/game_views.h"
+#include "stats/books.h"
+#include "stats/store.h"
+
+namespace tessarel {
+namespace {
+
+constexpr int FixedRecords = 430, PlaceRecords = 467;
+
+// A program just started in a folder of its own; what it shows is kept as "TITLE: TEXT".
+class GameFileTest : public ::testing::Test {
+ protected:
+  void SetUp() override { Restart(); }
+  void TearDown() override {
+    EXPECT_EQ(CheckTable(), "");
+    Restart();
+    FrontEnd = {};
+    Folders = {};
+  }
+  void Restart() const {
+    FrontEnd = {};
+    StartUp(Folder.Path());
+    Settings.BetNeededToShoot = 0;
+    FrontEnd.ShowMessage = [] { Shown.push_back(Message.MsgTitle + ": " + Message.MsgText); };
+    Shown.clear();
+  }
+
+  std::string Path(const std::string& name) const { return Folder.Path() + name; }
+  std::string Bytes(const std::string& name) const { return ReadWholeFile(Path(name), 1 << 24); }
+  void Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(Path(name), std::ios::binary) << bytes;
+  }
+  std::string Saved(const std::string& name) const {
+    SaveGame(name);
+    return Bytes(name);
+  }
+  static void Seed(int seed) {
+    Dice.SeedRequest = seed;
+    ASSERT_TRUE(SeedRNG(-1));
+  }
+  static void Expect(bool sound) {
+    EXPECT_EQ(CheckTable(), "");
+    EXPECT_EQ(CheckBooks(), "");
+    EXPECT_TRUE(sound);
+  }
+
+  TemporaryFolder Folder;
+  inline static std::vector<std::string> Shown;
+};
+
+// Games as people and scripts play them, made from a seed.
+class RandomPlay {
+ public:
+  explicit RandomPlay(uint32_t seed) : random_(seed) {}
+
+  void SetTable() {
+    const int players = Upto(4);
+    for (int k = 0; k < players; ++k) {
+      const int place = 1 + Upto(7);
+      if (IsTaken(Table, place)) continue;
+      SeatPlayer(place, "Player " + std::to_string(place), 200 + Upto(5000));
+      At(Table.HandleWinningBets, place) = Upto(7);
+      At(Table.HandleLosingBets, place) = Upto(7);
+      for (int slot = FirstHandlingSlot; slot <= 10; ++slot) {
+        At(At(Table.HandleAmount, place), slot) = Upto(3);
+        At(At(Table.HandleUnits, place), slot) = Upto(6);
+      }
+      for (const int slot : {5, 7, 9, 10})
+        At(At(Table.HandleOperator, place), slot) = Upto(2);
+      for (auto* flag : {&Table.AutoTakeFullOdds, &Table.AutoLayFullOdds, &Table.AllowNegBankroll,
+                         &Table.DeclinesDice}) {
+        At(*flag, place) = -Upto(1);
+      }
+      for (int number = 1; number <= bet::Midway; ++number)
+        At(At(Table.BetWorkingDefault, place), number) = Upto(1);
+    }
+    Settings.OddsCalcMethod = Upto(5);
+    Settings.LayVigAllBets = -Upto(1);
+    Settings.BuyVigAllBets = -Upto(1);
+    Settings.Denomination[1] = Upto(1) == 0 ? Money(1) : Money::FromRaw(5000);
+    FigurePayoffUnits();
+  }
+
+  void Play(int rolls) {
+    const SilentBets silent;
+    for (int roll = 0; roll < rolls; ++roll) {
+      ForEachPlayer([this](int place) { Act(place); });
+      if (Upto(150) == 0) NewSession({-Upto(1), -Upto(1), -1, ContinueRollFile});
+      MakeRoll();
+    }
+  }
+
+ private:
+  int Upto(int last) { return static_cast<int>(random_() % static_cast<uint32_t>(last + 1)); }
+
+  void Act(int place) {
+    for (int k = Upto(3); k > 0; --k) {
+      Table.Amount = Money::FromRaw((Upto(80) - 15) * 5000);
+      ChangeBet(place, 1 + Upto(LastBet - 1));
+    }
+    if (Upto(20) == 0) SetStackValue(place, Upto(99), Money::FromRaw(Upto(1'000'000)));
+    if (Upto(20) == 0) SetStackName(place, Upto(99), "Step " + std::to_string(Upto(9)));
+    if (Upto(30) == 0) ATM(place, Upto(1) != 0, Upto(50), false);
+    if (Upto(10) == 0)
+      SetBetWorking(place, 1 + Upto(LastBet - 1), Upto(1) != 0 ? CalledOn : CalledOff);
+  }
+
+  std::mt19937 random_;
+};
+
+// With TESSAREL_GAMES=10000 in the environment, that many games.
+int GamesToPlay() {
+  const char* asked = std::getenv("TESSAREL_GAMES");
+  return asked != nullptr ? std::atoi(asked) : 150;
+}
+
+TEST_F(GameFileTest, SavedGameGoesOnAsOneThatWasNeverSaved) {
+  int midHand = 0, withBets = 0;
+  for (int game = 1; game <= GamesToPlay() && !HasFailure(); ++game) {
+    SCOPED_TRACE(game);
+    const auto seed = static_cast<uint32_t>(game);
+    Restart();
+    Seed(game);
+    RandomPlay before(seed);
+    before.SetTable();
+    before.Play(game % 97);
+    const std::string saved = Saved("saved.tsg");
+    midHand += Table.Point != 0 ? 1 : 0;
+    withBets += Table.Held.Empty() ? 0 : 1;
+    Seed(game + 1);
+    RandomPlay(seed + 1).Play(60);
+    const std::string live = Saved("live.tsg");
+
+    Restart();
+    ASSERT_TRUE(OpenGame("saved.tsg"));
+    Expect(Shown.empty());
+    EXPECT_TRUE(Saved("again.tsg") == saved);
+    Seed(game + 1);
+    RandomPlay(seed + 1).Play(60);
+    EXPECT_TRUE(Saved("reloaded.tsg") == live);
+  }
+  EXPECT_GT(midHand, GamesToPlay() / 3);
+  EXPECT_GT(withBets, GamesToPlay() / 2);
+}
+
+TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
+  SeatPlayer(3, "Ann", 1000);
+  SeatPlayer(8, "Bob", 500);
+  Settings.MaxFireBet = 7;
+  Table.Amount = 10;
+  ChangeBet(3, bet::PassLine);
+  Table.Amount = 20;
+  ChangeBet(3, bet::Buy4);
+  SetStackValue(3, 1, Money::FromRaw(15000));
+  SetStackName(3, 99, "Lost so far");
+  Roll = {-1, 2, 4};
+  MakeRoll();
+  Table.HandleUnits[3][10] = 5;
+  GameViews.Chips.assign(26, {1, 2, 3, 4, -5});
+  GameViews.Windows[4] = 640;
+  SaveGame("a.tsg");
+  const RecordFile file = RecordFile::Load(Path("a.tsg"));
+  ASSERT_EQ(file.Count(), FixedRecords + 2 * PlaceRecords + 2);
+
+  const int ann = FixedRecords + 1, bob = ann + PlaceRecords, chips = bob + PlaceRecords;
+  // clang-format off
+  const struct { int record; std::string text; } texts[] = {
+      {1, "Tessarel Pro Game File, Data Format 2.5"}, {5, Folder.Path()}, {12, ""},
+      {ann + 1, "Ann"}, {ann + 4, Path("ann.slg")}, {ann + 41 + 99, "Lost so far"}, {bob + 1, "Bob"}};
+  const struct { int record, slot, word; } words[] = {
+      {2, 4, 640}, {11, 0, 2}, {11, 2, 3}, {11, 4, 3}, {11, 5, 6}, {11, 8, 2}, {11, 9, 4},
+      {11, 19, 26}, {11, 13, Dice.CurrentSeed}, {16, 13, -1}, {19, 42, -1}, {19, 43, 0},
+      {41, 1, 0xFFFFFF}, {42, 5, 1}, {44, 0, 1}, {44, 6, 1}, {44 + 4, 17, 1}, {108, 0, 1},
+      {108, 6, 0}, {108, 7, 1}, {419, 0, 1}, {424, 10, 1}, {424, 18, 65280}, {426, 24, 1}, {426, 38, 2},
+      {426, 50, 120}, {ann + 32, 0, 0}};
+  const struct { int record, slot; Money amount; } amounts[] = {
+      {18, 2, 1000}, {18, 9, 12}, {18, 22, 7}, {21, 2, 30}, {21, 11, 500}, {22, 0, 1},
+      {23, 0, Payoffs.Payoff[33].PayNum}, {32, 1, 3}, {38, 5, 999}, {429, 2, 150}, {ann, 0, 3},
+      {ann, 6, 100}, {ann, 9, 103}, {bob, 0, 8}, {ann + 5, 5, 1000}, {ann + 6, 0, 0},
+      {ann + 7, 43 - 32, 10}, {ann + 6 + 3, 101 - 96, Money::FromRaw(15000)}, {ann + 13, 0, 1000},
+      {ann + 14, 43 - 32, 10}, {ann + 20, 0, 1000}, {ann + 28, 42 - 32, 10}, {ann + 31, 7, 1},
+      {ann + 141, 1, 1000}, {bob + 141, 1, 500}, {ann + 458, 3, 1000}, {ann + 460, 21, 1000},
+      {bob + 460, 8, 500}, {ann + 466, 17, 5}};
+  // clang-format on
+  for (const auto& [record, text] : texts)
+    EXPECT_EQ(file.At(record).Text(), text) << record;
+  for (const auto& [record, slot, word] : words)
+    EXPECT_EQ(file.At(record).Word(slot), word) << record << " " << slot;
+  for (const auto& [record, slot, amount] : amounts)
+    EXPECT_EQ(PlainText(file.At(record).Amount(slot)), PlainText(amount)) << record << " " << slot;
+  EXPECT_EQ(file.At(43).Short(bet::PassLine), 1);
+  EXPECT_EQ(file.At(ann + 40).Short(bet::Buy4), At(At(Table.BetWorking, 3), bet::Buy4));
+  EXPECT_EQ(file.At(chips + 1).Short(4), -5);
+
+  const RecordFile empty = [this] {
+    Restart();
+    SaveGame("empty.tsg");
+    return RecordFile::Load(Path("empty.tsg"));
+  }();
+  EXPECT_EQ(empty.Count(), FixedRecords);
+}
+
+TEST_F(GameFileTest, TitleAndNameFollowTheFile) {
+  Table.TableDirty = -1;
+  SaveGame("a.tsg");
+  EXPECT_EQ(GameFile.WindowTitle, "Tessarel (a.tsg)");
+  EXPECT_EQ(GameFile.GameFileName, Path("a.tsg"));
+  EXPECT_EQ(Table.TableDirty, 0);
+  SaveGame("DEFAULT.TSG");
+  EXPECT_EQ(GameFile.WindowTitle, "Tessarel (DEFAULT.TSG)");
+  ASSERT_TRUE(OpenGame("DEFAULT.TSG"));
+  EXPECT_EQ(GameFile.WindowTitle, "Tessarel");
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_TRUE(SaveDefaultGame());
+  EXPECT_EQ(GameFile.WindowTitle + GameFile.GameFileName, "Tessarel");
+}
+
+TEST_F(GameFileTest, CutOffFilesAreReportedOnceAndLeaveATableToPlayAt) {
+  RandomPlay play(7);
+  SeatPlayer(2, "Ann", 1000);
+  play.Play(40);
+  const std::string whole = Saved("whole.tsg");
+  for (size_t cut = 0; cut < whole.size(); cut += Record::Size) {
+    SCOPED_TRACE(cut / Record::Size);
+    Write("cut.tsg", whole.substr(0, cut + cut / Record::Size % 2 * 100));
+    Shown.clear();
+    const bool opened = OpenGame("cut.tsg");
+    // A part of the last record reads as the whole of it.
+    const bool lastOfAll = cut / Record::Size % 2 == 1 && cut + Record::Size == whole.size();
+    EXPECT_EQ(opened, lastOfAll);
+    const std::string report = "Error: Input past end of file, Error #62 occurred at: OpenGame";
+    EXPECT_EQ(Shown, opened ? std::vector<std::string>{} : std::vector{report});
+    MakeRoll();
+    Expect(true);
+    if (HasFailure()) break;
+  }
+}
+
+TEST_F(GameFileTest, AlteredFilesLeaveATableToPlayAt) {
+  SeatPlayer(2, "Ann", 1000);
+  SeatPlayer(5, "Bob", 1000);
+  RandomPlay(3).Play(50);
+  const std::string whole = Saved("whole.tsg");
+  constexpr int64_t Values[] = {INT64_MIN, INT64_MAX, -1,        0,        1,
+                                10'000,    990'000,   INT32_MIN, INT32_MAX};
+  for (uint32_t seed = 0; seed < 300 && !HasFailure(); ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    std::string bytes = whole;
+    for (auto k = random() % 200; k > 0; --k) {
+      const int64_t value =
+          random() % 4 == 0 ? static_cast<int64_t>(random()) : Values[random() % 9];
+      // The first records of the file hold what all the rest hangs on.
+      const size_t room = random() % 2 == 0 ? 45 * Record::Size : bytes.size();
+      const size_t at = Record::Size + random() % (room - Record::Size - 8) / 4 * 4;
+      for (size_t b = 0; b < 8; ++b)
+        bytes[at + b] = static_cast<char>(value >> (8 * b));
+    }
+    Restart();
+    Write("altered.tsg", bytes);
+    OpenGame("altered.tsg");
+    Expect(true);
+    ClosePopupRoll();  // which would be waited for
+    for (int roll = 0; roll < 3; ++roll)
+      MakeRoll();
+    EXPECT_EQ(CheckTable(), "");
+    SaveGame("altered again.tsg");
+  }
+}
+
+TEST_F(GameFileTest, ValuesOutsideTheirLimitsAreBroughtBack) {
+  Settings.Language = 6;
+  Settings.BasicFontSize = 20;
+  Settings.InfoTipLevel = 5;
+  Settings.RollDelay = 301;
+  Settings.Denomination[1] = 0;
+  Payoffs.Payoff[bet::Place6].PayDen = 0;
+  Table.Shooter = 99;
+  Dice.CurrentSeed = -5;
+  SaveGame("a.tsg");
+  Restart();
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(Settings.Language, 0);
+  EXPECT_EQ(Settings.BasicFontSize, 13);
+  EXPECT_EQ(Settings.InfoTipLevel, 0);
+  EXPECT_EQ(Settings.RollDelay, Money(300));
+  EXPECT_EQ(SmallestCheck(), Money(1));
+  EXPECT_EQ(Payoffs.Payoff[bet::Place6].PayDen, Money(6));
+  EXPECT_EQ(Table.Shooter, 0);
+  EXPECT_EQ(Dice.CurrentSeed, 0);
+}
+
+TEST_F(GameFileTest, RefusesFilesThatAreNoGames) {
+  SeatPlayer(1, "Ann", 1000);
+  const std::string none = "This is not a Tessarel game file.\r\r",
+                    other = "This file appears to be from an incompatible version.\r\r";
+  const struct {
+    std::string name, header, says;
+    bool windowShown;
+  } cases[] = {
+      {"a.tsg", "tessarel pro game file", none, true},
+      {"a.tsg", "My Tessarel notes", other, false},
+      {"Default.tsg", "Tessarel Pro Game File, Data Format 2.4", other, true},
+      {"Default.tsg", "Tessarel Pro Game File, Data Format 2.4", "", false},
+      {"default.tsg", "x", none, false},
+  };
+  for (const auto& each : cases) {
+    Shown.clear();
+    GameFile.MainWindowShown = each.windowShown;
+    Write(each.name, each.header);
+    EXPECT_FALSE(OpenGame(each.name));
+    const std::string said = each.says.empty() ? "" : "Error: " + each.says + each.name;
+    EXPECT_EQ(Shown, said.empty() ? std::vector<std::string>{} : std::vector{said});
+    EXPECT_EQ(Table.PlayerCount, 1);
+  }
+}
+
+TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
+  const auto later = [this](const std::string& name) {
+    std::filesystem::last_write_time(
+        Path(name), std::filesystem::file_time_type::clock::now() + std::chrono::hours(1));
+  };
+  SeatPlayer(1, "Ann", 1000);
+  Table.SessionLogName[1] = Path("other.slg");
+  for (const char* name : {"a.bet", "other.slg", "log.txt"})
+    Write(name, "");
+  Write("a.rol", "\x90\x90\x90\x90");
+  ASSERT_TRUE(ReadScriptFile(1, "a.bet"));
+  SetScriptActive(1, true);
+  EventsLog.EventLogName = Path("log.txt");
+  SaveProbabilityFile("a.prb");
+  Probability.ProbabilityMatrixActive = -1;
+  OpenRollFile("a.rol");
+  RewindForPlayback();
+  RollFile.NextRoll = 3;
+  OpenPopupRoll("pop.txt");
+  SaveGame("a.tsg");
+
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(Shown, std::vector<std::string>{});
+  EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
+  EXPECT_EQ(RollFile.NextRoll, 3);
+  EXPECT_EQ(PopupRoll.PopupRollFileName, Path("pop.txt"));
+  EXPECT_NE(PopupRoll.PopupRollActive, 0);
+  EXPECT_EQ(Probability.ProbabilityFileName, Path("a.prb"));
+  EXPECT_EQ(EventsLog.EventLogName, Path("log.txt"));
+  EXPECT_EQ(Scripts.Places[1].ScriptFile, "a.bet");
+  EXPECT_EQ(Scripts.ScriptActive[1], 0);
+  EXPECT_NE(GameFile.ScriptWasActive[1], 0);
+
+  for (const char* name : {"a.bet", "a.rol", "a.prb"})
+    later(name);
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(
+      Shown,
+      (std::vector<std::string>{
+          "Altered Dice Roll File: The following Dice Roll file (that was in use when this "
+          "game was saved) has been changed:\r\r" +
+              Path("a.rol"),
+          "Altered Probability File: The following Probability file (that was in use when "
+          "this game was saved) has been changed:\r\r" +
+              Path("a.prb"),
+          "Auto-Bet File Changed: Ann's auto-Bet file has been changed:\r\r" + Path("a.bet")}));
+  EXPECT_EQ(RollFile.RollFileMode + RollFile.NextRoll, RollFileOff + 1);
+  EXPECT_EQ(RollFile.RollFileName, Path("a.rol"));
+
+  for (const char* name : {"a.bet", "a.rol", "a.prb", "log.txt", "other.slg"})
+    std::filesystem::remove(Path(name));
+  Shown.clear();
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(Shown,
+            (std::vector<std::string>{
+                "Missing Dice Roll File: The following Dice Roll file (that was in use when this "
+                "game was saved) was not found:\r\r" +
+                    Path("a.rol"),
+                "Missing Probability File: The following Probability file (that was in use when "
+                "this game was saved) was not found:\r\r" +
+                    Path("a.prb"),
+                "Missing Events Log: The following Events Log (that was open when this game was "
+                "saved) was not found.\r\r" +
+                    Path("log.txt"),
+                "Auto-Bet File Not Found: Ann's auto-bet file was not found:\r\r" + Path("a.bet"),
+                "Sessions Log Not Found: The following Sessions Log for Ann was not found: \r\r" +
+                    Path("other.slg") +
+                    "\r\rThe following new Sessions Log will be created and opened instead:\r\r" +
+                    Path("ann.slg")}));
+  EXPECT_EQ(RollFile.RollFileName + EventsLog.EventLogName + Scripts.Places[1].ScriptFile, "");
+  EXPECT_EQ(Table.SessionLogName[1], Path("ann.slg"));
+}
+
+TEST_F(GameFileTest, UnsavedMatrixGoesWithTheAutomaticFileOnly) {
+  Probability.ProbabilityMatrixActive = Probability.ProbabilityChanged = -1;
+  Probability.ProbabilityMatrix.Shares[1][1] = 4242;
+  SaveGame("a.tsg");
+  EXPECT_FALSE(FileExists(Path("default.prb")));
+  ASSERT_TRUE(SaveDefaultGame());
+  Restart();
+  ASSERT_TRUE(OpenGame("default.tsg"));
+  EXPECT_EQ(Probability.ProbabilityMatrix.Shares[1][1], 4242);
+  EXPECT_EQ(Probability.ProbabilityFileName, Path("default.prb"));
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(Probability.ProbabilityMatrix, TrueMatrix());
+}
+
+TEST_F(GameFileTest, StartsWithTheNamedGameElseTheAutomaticOne) {
+  const std::string unknown = "This is not a recognized Tessarel game file.\r\r",
+                    instead = "\r\rThe last default game file will be opened instead.";
+  SeatPlayer(1, "Ann", 1000);
+  SaveGame("a.tsg");
+  Write("bad.tsg", "Tessarel");
+  const auto start = [this](const std::string& commandLine) {
+    Restart();
+    OpenDefaultGame(commandLine);
+    return Table.PlayerName[1] + "|" + (Shown.empty() ? "" : Shown.back());
+  };
+  EXPECT_EQ(start(""), "|");
+  EXPECT_EQ(start(" \"" + Path("a.tsg") + "\" "), "Ann|");
+  EXPECT_EQ(start("a.txt"), "|Unable to Open File: " + unknown + "a.txt");
+  Restart();
+  SeatPlayer(1, "Zoe", 1000);
+  ASSERT_TRUE(SaveDefaultGame());
+  EXPECT_EQ(start(""), "Zoe|");
+  EXPECT_EQ(start("bad.tsg"), "Zoe|Unable to Open File: " + unknown + "bad.tsg" + instead);
+  Write("default.tsg", Bytes("a.tsg").substr(0, (FixedRecords + 10) * Record::Size));
+  EXPECT_EQ(start("").substr(0, 1), "|");
+  EXPECT_EQ(Table.PlayerCount, 0);
+}
+
+TEST_F(GameFileTest, KilledOrWithoutRoomItLeavesTheOldFileOrTheNewOne) {
+  SeatPlayer(1, "Ann", 1000);
+  const std::string first = Saved("first.tsg");
+  SeatPlayer(2, "Bob", 1000);
+  const std::string second = Saved("second.tsg");
+  SaveGame("a.tsg");
+  std::mt19937 random(1);
+  for (int kill = 0; kill < 25; ++kill) {
+    const pid_t child = fork();
+    if (child == 0) {
+      for (;;) {
+        OpenGame("first.tsg");
+        SaveGame("a.tsg");
+        OpenGame("second.tsg");
+        SaveGame("a.tsg");
+      }
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(500 + random() % 20'000));
+    ::kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    const std::string left = Bytes("a.tsg");
+    EXPECT_TRUE(left == first || left == second);
+  }
+
+  const std::string before = Bytes("a.tsg");
+  const int files = Folder.EntryCount();
+  struct rlimit old = {};
+  getrlimit(RLIMIT_FSIZE, &old);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const struct rlimit full = {FixedRecords * Record::Size, old.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  const int fault = FaultOf([] { SaveGame("a.tsg"); });
+  setrlimit(RLIMIT_FSIZE, &old);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(fault, NumberOf(FaultNumber::DeviceFull));
+  EXPECT_TRUE(Bytes("a.tsg") == before);
+  EXPECT_EQ(Folder.EntryCount(), files);
+}
+
+}  // namespace
+}  // namespace tessarel
