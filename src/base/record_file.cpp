@@ -63,7 +63,7 @@ int32_t Record::AmountAsInt(int slot) const {
   constexpr int64_t Half = Money::Scale / 2;
   const Money amount = Amount(slot);
   int64_t whole = amount.Floor();
-  const int64_t rest = amount.Raw() - whole * Money::Scale;
+  const int64_t rest = (amount.Raw() % Money::Scale + Money::Scale) % Money::Scale;
   if (rest > Half || (rest == Half && whole % 2 != 0)) ++whole;
   if (whole < INT32_MIN || whole > INT32_MAX) RaiseOverflow();
   return static_cast<int32_t>(whole);

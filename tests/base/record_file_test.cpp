@@ -60,8 +60,10 @@ TEST(Record, WholeNumbersInAmountsRoundHalfToEven) {
     record.PutAmount(3, Money::FromRaw(raw));
     EXPECT_EQ(record.AmountAsInt(3), whole) << raw;
   }
-  record.PutAmount(3, Money::FromRaw(21474836475000));
-  EXPECT_EQ(FaultOf([&] { record.AmountAsInt(3); }), NumberOf(FaultNumber::Overflow));
+  for (const int64_t raw : {int64_t{21474836475000}, INT64_MIN, INT64_MAX}) {
+    record.PutAmount(3, Money::FromRaw(raw));
+    EXPECT_EQ(FaultOf([&] { record.AmountAsInt(3); }), NumberOf(FaultNumber::Overflow));
+  }
 }
 
 TEST(Record, TextsAreSingleByteAndPadded) {
