@@ -14,6 +14,7 @@
 #include "dice/roll_file_edit.h"
 #include "engine/table.h"
 #include "files/events_log.h"
+#include "files/sessions_log.h"
 
 namespace tessarel {
 
@@ -194,7 +195,7 @@ std::vector<int> PlayersWithSessionsLog(const std::string& path) {
 void BackToDefaultSessionsLog(int place) {
   const std::string& name = At(Table.PlayerName, place);
   std::string& log = At(Table.SessionLogName, place);
-  log = Folders.SessionsLogFolder + LowerCase(name) + ".slg";
+  log = DefaultSessionsLogName(name);
   const std::string text =
       FileExists(log) ? "The following existing Sessions Log will be opened instead:"
                       : "The following new Sessions Log will be created and opened instead:";

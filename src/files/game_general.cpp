@@ -4,11 +4,11 @@
 #include <array>
 
 #include "config/advantage.h"
-#include "config/folders.h"
 #include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/probability.h"
 #include "files/events_log.h"
+#include "files/file_dialog.h"
 #include "files/game_blocks.h"
 #include "files/game_views.h"
 #include "stats/selection.h"
@@ -110,13 +110,8 @@ constexpr int GeneratorSlot = 25, RollsOutOfSlot = 31;
 // clang-format on
 
 void FolderRecords(GameRecords& records) {
-  for (std::string* folder :
-       {&Folders.GameFolder, &Folders.BetFolder, &Folders.TextFolder, &Folders.ProbabilityFolder,
-        &Folders.SessionsLogFolder, &Folders.EventsLogFolder}) {
-    std::string name = FullName(*folder);
-    records.Text(name);
-    if (records.Reading()) *folder = name.empty() ? Folders.AppFolder : AsFolder(name);
-  }
+  for (std::string& folder : FileDialog.LastFolder)
+    records.Text(folder);
 }
 
 void TableRecord(GameRecords& records, GameCounts& counts) {

@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include "files/file_dialog.h"
 
 #include <chrono>
 #include <csignal>
@@ -195,6 +196,7 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   Table.HandleUnits[3][10] = 5;
   GameViews.Chips.assign(26, {1, 2, 3, 4, -5});
   GameViews.Windows[4] = 640;
+  FileDialog.LastFolder[1] = "/systems/";
   SaveGame("a.tsg");
   const RecordFile file = RecordFile::Load(Path("a.tsg"));
   ASSERT_EQ(file.Count(), FixedRecords + 2 * PlaceRecords + 2);
@@ -202,7 +204,7 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   const int ann = FixedRecords + 1, bob = ann + PlaceRecords, chips = bob + PlaceRecords;
   // clang-format off
   const struct { int record; std::string text; } texts[] = {
-      {1, "Tessarel Pro Game File, Data Format 2.5"}, {5, Folder.Path()}, {12, ""},
+      {1, "Tessarel Pro Game File, Data Format 2.5"}, {6, "/systems/"}, {12, ""},
       {ann + 1, "Ann"}, {ann + 4, Path("ann.slg")}, {ann + 41 + 99, "Lost so far"}, {bob + 1, "Bob"}};
   const struct { int record, slot, word; } words[] = {
       {2, 4, 640}, {11, 0, 2}, {11, 2, 3}, {11, 4, 3}, {11, 5, 6}, {11, 8, 2}, {11, 9, 4},
