@@ -9,7 +9,6 @@
 #include "base/fault.h"
 #include "base/file_io.h"
 #include "base/message.h"
-#include "base/single_byte_text.h"
 #include "base/trap.h"
 #include "config/folders.h"
 #include "dice/popup_roll.h"
@@ -18,6 +17,7 @@
 #include "dice/roll_file.h"
 #include "files/events_log.h"
 #include "files/game_blocks.h"
+#include "files/sessions_log.h"
 
 namespace tessarel {
 
@@ -162,7 +162,7 @@ void TakeUpScript(int place, const HeldFile& file) {
 // A player without a log of his own goes on in the usual one, which need not be there yet.
 void TakeUpSessionsLog(int place, const std::string& log) {
   const std::string& name = At(Table.PlayerName, place);
-  const std::string usual = FullName(Folders.AppFolder + LowerCase(name) + ".slg");
+  const std::string usual = FullName(DefaultSessionsLogName(name));
   const bool there = FileExists(log);
   At(Table.SessionLogName, place) = there ? log : usual;
   if (there || log.empty() || log == usual) return;

@@ -4,7 +4,6 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include "files/file_dialog.h"
 
 #include <chrono>
 #include <csignal>
@@ -29,6 +28,7 @@
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
+#include "dice/roll_file_edit.h"
 #include "engine/atm.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
@@ -36,8 +36,11 @@
 #include "engine/rail.h"
 #include "engine/roll_driver.h"
 #include "files/events_log.h"
+#include "files/file_dialog.h"
 #include "files/game_views.h"
 #include "stats/books.h"
+#include "stats/selection.h"
+#include "stats/session_statistics.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -237,6 +240,29 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
     return RecordFile::Load(Path("empty.tsg"));
   }();
   EXPECT_EQ(empty.Count(), FixedRecords);
+}
+
+TEST_F(GameFileTest, WindowsComeBackAsTheyWereSet) {
+  SessionsView.Include = include::Winning | include::Losing;
+  SessionsView.Stat = SessionHandle;
+  ViewSelections.SessionsPlayer = 7;
+  RollFileEdit.optInsertRolls = 1;
+  RollFileEdit.txtDiceRollOutputFormat = "Total";
+  const std::string saved = Saved("a.tsg");
+  const RecordFile file = RecordFile::Load(Path("a.tsg"));
+  constexpr int Expected[][3] = {{11, 28, 7}, {426, 11, 6}, {426, 12, 5}, {426, 16, 1}};
+  for (const auto& [record, slot, word] : Expected)
+    EXPECT_EQ(file.At(record).Word(slot), word) << record << " " << slot;
+  EXPECT_EQ(file.At(427).LongText(), "Total");
+  Restart();
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_TRUE(Saved("again.tsg") == saved);
+  SessionsView.Stat = 11;
+  ViewSelections.SessionsPlayer = -1;
+  SaveGame("a.tsg");
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(SessionsView.Stat, SessionNet);
+  EXPECT_EQ(ViewSelections.SessionsPlayer, 0);
 }
 
 TEST_F(GameFileTest, TitleAndNameFollowTheFile) {
