@@ -102,8 +102,13 @@ void Tell(const FileNotice& notice, const std::string& file, const std::string& 
   Tell(name + notice.text, file, notice.title);
 }
 
+// The path of a name in a game file, which may have '\' in it and be relative.
+std::string StoredPath(const std::string& name) {
+  return name.empty() ? "" : FullName(InFolder(Folders.AppFolder, name));
+}
+
 void TakeUpRollFile(const FilesInUse& files) {
-  const std::string& name = files.RollFile.Name;
+  const std::string name = StoredPath(files.RollFile.Name);
   if (name.empty()) return;
   if (!FileExists(name)) return Tell(RollFileGone, name);
   OpenRollFile(name);
@@ -119,8 +124,9 @@ void TakeUpRollFile(const FilesInUse& files) {
 void TakeUpProbability(const HeldFile& file) {
   NewProbabilities();
   if (file.Name.empty()) return;
-  if (!OpenProbabilityFile(file.Name)) return Tell(MatrixGone, file.Name);
-  if (LastModifiedText(file.Name) != file.Date) Tell(MatrixChanged, file.Name);
+  const std::string path = StoredPath(file.Name);
+  if (!OpenProbabilityFile(path)) return Tell(MatrixGone, path);
+  if (LastModifiedText(path) != file.Date) Tell(MatrixChanged, path);
 }
 
 void TakeUpEventsLog(const std::string& name) {
@@ -145,7 +151,7 @@ bool CanReadScript(int place, const std::string& path) {
 
 void TakeUpScript(int place, const HeldFile& file) {
   if (file.Name.empty()) return;
-  const std::string path = FullName(InFolder(Folders.AppFolder, file.Name));
+  const std::string path = StoredPath(file.Name);
   const std::string& name = At(Table.PlayerName, place);
   if (!FileExists(path)) {
     NewScript(place);
@@ -194,13 +200,13 @@ FilesInUse FilesNowInUse(bool automaticFile) {
 
 void TakeUpFiles(const FilesInUse& files) {
   Attempt([&] { TakeUpRollFile(files); });
-  if (!files.PopupRoll.empty()) OpenPopupRoll(files.PopupRoll);
+  if (!files.PopupRoll.empty()) OpenPopupRoll(StoredPath(files.PopupRoll));
   Attempt([&] { TakeUpProbability(files.Probability); });
-  Attempt([&] { TakeUpEventsLog(files.EventsLog.Name); });
+  Attempt([&] { TakeUpEventsLog(StoredPath(files.EventsLog.Name)); });
   ForEachPlayer([&](int place) {
     At(Scripts.Places, place).OutputFile = At(files.ScriptOutput, place);
     Attempt([&] { TakeUpScript(place, At(files.Script, place)); });
-    Attempt([&] { TakeUpSessionsLog(place, At(files.SessionsLog, place)); });
+    Attempt([&] { TakeUpSessionsLog(place, StoredPath(At(files.SessionsLog, place))); });
   });
 }
 

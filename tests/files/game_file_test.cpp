@@ -453,6 +453,31 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
   EXPECT_EQ(Table.SessionLogName[1], Path("ann.slg"));
 }
 
+TEST_F(GameFileTest, NamesOfOtherSystemsAndOfTheProgramsFolderAreFound) {
+  std::filesystem::create_directory(Path("sub"));
+  for (const char* name : {"sub/a.rol", "sub/log.txt", "sub/own.slg"})
+    Write(name, "");
+  SeatPlayer(1, "Ann", 1000);
+  OpenRollFile("sub/a.rol");
+  EventsLog.EventLogName = Path("sub/log.txt");
+  Table.SessionLogName[1] = Path("sub/own.slg");
+  SaveProbabilityFile("sub/a.prb");
+  SaveGame("a.tsg");
+  RecordFile file = RecordFile::Load(Path("a.tsg"));
+  const std::pair<int, const char*> names[] = {{12, "sub\\a.rol"},
+                                               {14, "sub\\a.prb"},
+                                               {15, "sub\\log.txt"},
+                                               {FixedRecords + 5, "sub\\own.slg"}};
+  for (const auto& [record, name] : names)
+    file.At(record).PutText(name);
+  file.Save(Path("a.tsg"));
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(Shown, std::vector<std::string>{});
+  EXPECT_EQ(RollFile.RollFileName, Path("sub/a.rol"));
+  EXPECT_EQ(EventsLog.EventLogName, Path("sub/log.txt"));
+  EXPECT_EQ(Table.SessionLogName[1], Path("sub/own.slg"));
+}
+
 TEST_F(GameFileTest, UnsavedMatrixGoesWithTheAutomaticFileOnly) {
   Probability.ProbabilityMatrixActive = Probability.ProbabilityChanged = -1;
   Probability.ProbabilityMatrix.Shares[1][1] = 4242;
