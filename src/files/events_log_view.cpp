@@ -141,12 +141,7 @@ int32_t LatestRollInLog() {
 }
 
 void MakeIndexFit() {
-  if (EventsLogReader().IndexFits()) return;
-  if (EventsLogExists()) {
-    RebuildEventsIndex();
-  } else {
-    DeleteFileIfPresent(EventsIndexName());
-  }
+  if (!EventsLogReader().IndexFits()) IndexEventsLog();
 }
 
 std::string HeadingRow(std::string& heading) {

@@ -16,6 +16,7 @@
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "files/events_log.h"
+#include "files/events_log_view.h"
 #include "files/game_blocks.h"
 #include "files/sessions_log.h"
 
@@ -130,6 +131,7 @@ void TakeUpProbability(const HeldFile& file) {
 }
 
 void TakeUpEventsLog(const std::string& name) {
+  const std::string before = EventsLogPath();
   const bool usual = name.empty() || name == FullName(DefaultEventLogName());
   EventsLog.EventLogName = usual ? "" : name;
   EndSections();
@@ -137,8 +139,9 @@ void TakeUpEventsLog(const std::string& name) {
     EventsLog.EventLogName.clear();
     Tell(EventsLogGone, name);
   }
-  // The index may be that of another log.
-  if (EventsLog.LogOn != 0 && EventsLogExists()) RebuildEventsIndex();
+  const bool another = !IsSameFile(EventsLogPath(), before);
+  if (another) EventsLogView = {};
+  if (another || EventsLog.LogOn != 0) IndexEventsLog();
 }
 
 bool CanReadScript(int place, const std::string& path) {

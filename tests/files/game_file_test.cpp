@@ -431,6 +431,7 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
 
   for (const char* name : {"a.bet", "a.rol", "a.prb", "log.txt", "other.slg"})
     std::filesystem::remove(Path(name));
+  Write("Events Log.ref", "of the lost log.");
   Shown.clear();
   ASSERT_TRUE(OpenGame("a.tsg"));
   EXPECT_EQ(Shown,
@@ -450,6 +451,7 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
                     "\r\rThe following new Sessions Log will be created and opened instead:\r\r" +
                     Path("ann.slg")}));
   EXPECT_EQ(RollFile.RollFileName + EventsLog.EventLogName + Scripts.Places[1].ScriptFile, "");
+  EXPECT_FALSE(FileExists(EventsIndexName()));
   EXPECT_EQ(Table.SessionLogName[1], Path("ann.slg"));
 }
 
