@@ -21,6 +21,7 @@
 #include "dice/generators.h"
 #include "dice/popup_roll.h"
 #include "dice/probability.h"
+#include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "dice/roll_file_edit.h"
 #include "engine/bet_handling.h"
@@ -266,10 +267,34 @@ bool OfferToSaveScript(int place) {
 }
 
 bool OfferToSaveScripts() {
-  bool leave = true;
-  for (int place = 1; place <= LastPlace && leave; ++place)
-    leave = OfferToSaveScript(place);
-  return leave;
+  bool goOn = true;
+  for (int place = 1; place <= LastPlace && goOn; ++place)
+    goOn = OfferToSaveScript(place);
+  return goOn;
+}
+
+bool SaveMatrix(const std::string& file) {
+  return !file.empty() && Trapped("SaveProbabilityFile", [&file] { SaveProbabilityFile(file); });
+}
+
+bool OfferToSaveMatrix() {
+  const std::string& file = Probability.ProbabilityFileName;
+  switch (AskToSaveOnExit()) {
+    case SaveChoice::SaveUnderItsName:
+      return SaveMatrix(std::string(file));
+    case SaveChoice::SaveUnderNewName:
+      return SaveMatrix(
+          FrontEnd.AskSaveFile(std::string(FileActionTitle(FileAction::SaveProbability)), file));
+    case SaveChoice::Cancel:
+      return false;
+    case SaveChoice::GoOn:
+      break;
+  }
+  return true;
+}
+
+bool SaveGameTo(const std::string& file) {
+  return !file.empty() && Trapped("SaveGame", [&file] { SaveGame(file); });
 }
 
 void SetUpNewTable(const std::string& appFolder) {
@@ -297,6 +322,8 @@ void NewSession(const SessionOptions& options) {
 
 bool StartNewGame(const SessionOptions& options, bool keepScripts) {
   if (Table.HyperDriveOn != 0) return false;
+  // The automatic game file is that of the program with a table to be seen.
+  if (GameFile.MainWindowShown && Table.TableDirty != 0) SaveDefaultGame();
   if (!keepScripts) EmptyScripts();
   const bool restart = Scripts.ScriptActive[0] != 0;
   if (restart && !Scripts.ProgramReady) Trapped("CheckScriptErrors", CheckScriptErrors);
@@ -305,6 +332,16 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts) {
   Trapped("StartNewGame", DeleteRollClipboard);
   if (Scripts.ProgramReady) InitializeScripts();
   return true;
+}
+
+bool SaveGameInUse() {
+  if (GameFile.GameFileName.empty()) return SaveGameAs();
+  return OfferToSaveScripts() && SaveGameTo(std::string(GameFile.GameFileName));
+}
+
+bool SaveGameAs() {
+  const std::string title(FileActionTitle(FileAction::SaveSession));
+  return SaveGameTo(FrontEnd.AskSaveFile(title, GameFile.GameFileName));
 }
 
 void StartUp(const std::string& appFolder) {
@@ -316,12 +353,23 @@ void StartUp(const std::string& appFolder) {
 
 void OpenDefaultGame(std::string_view commandLine) {
   if (LoadStartGame(commandLine)) return;
-  // What an opened file may have left of a game is not the defaults.
+  // What an opened file may have left of a game is not the defaults. The hot keys are of no game.
+  const HotKeysState hotKeys = HotKeys;
   Trapped("OpenDefaultGame", [] { SetUpNewTable(std::string(Folders.AppFolder)); });
+  HotKeys = hotKeys;
 }
 
 bool AskToLeave() {
-  return AskToStopUnattended() && AskToStopScripts() && OfferToSaveScripts();
+  return AskToStopUnattended() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
+}
+
+bool Leave() {
+  if (!AskToLeave()) return false;
+  SaveDefaultGame();
+  WriteHotKeys();
+  ShutDown();
+  Trapped("Leave", DeleteRollClipboard);
+  return true;
 }
 
 void ShutDown() {

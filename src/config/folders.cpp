@@ -42,4 +42,13 @@ std::string NameInFolder(const std::string& folder, std::string_view path) {
   return outside ? whole : inside.generic_string();
 }
 
+std::string ShortName(std::string_view path) {
+  return std::string(path.substr(path.find_last_of("/\\") + 1));
+}
+
+bool IsSameFile(const std::string& one, const std::string& other) {
+  std::error_code error;
+  return FullName(one) == FullName(other) || std::filesystem::equivalent(one, other, error);
+}
+
 }  // namespace tessarel

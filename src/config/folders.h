@@ -31,4 +31,10 @@ std::string InFolder(const std::string& folder, std::string_view name);
 // The name by which InFolder finds a path again: relative to `folder` when it lies there.
 std::string NameInFolder(const std::string& folder, std::string_view path);
 
+// A path without its folder.
+std::string ShortName(std::string_view path);
+
+// Whether two paths lead to one file, through links too.
+bool IsSameFile(const std::string& one, const std::string& other);
+
 }  // namespace tessarel

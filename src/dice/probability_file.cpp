@@ -1,7 +1,5 @@
 #include "dice/probability_file.h"
 
-#include <filesystem>
-
 #include "base/file_io.h"
 #include "base/message.h"
 #include "base/record_file.h"
@@ -53,10 +51,9 @@ SaveChoice AskToSave(const char* lost, int32_t flags) {
                                      "Save Probabilities?", flags);
   if (answer == AnswerCancel) return SaveChoice::Cancel;
   if (answer != AnswerYes) return SaveChoice::GoOn;
-  const std::string name =
-      std::filesystem::path(Probability.ProbabilityFileName).filename().string();
-  return EqualIgnoringCase(name, AutomaticProbabilityFile) ? SaveChoice::SaveUnderItsName
-                                                           : SaveChoice::SaveUnderNewName;
+  return EqualIgnoringCase(ShortName(Probability.ProbabilityFileName), AutomaticProbabilityFile)
+             ? SaveChoice::SaveUnderItsName
+             : SaveChoice::SaveUnderNewName;
 }
 
 }  // namespace

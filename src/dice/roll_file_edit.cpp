@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <filesystem>
 #include <utility>
 
 #include "base/clock.h"
@@ -105,12 +104,6 @@ int32_t CountOf(RollRange range) {
 
 std::string InProgramFolder(std::string_view name) {
   return InFolder(Folders.AppFolder, name);
-}
-
-bool IsOpenFile(const std::string& path) {
-  std::error_code failed;
-  return path == RollFile.RollFileName ||
-         std::filesystem::equivalent(path, RollFile.RollFileName, failed);
 }
 
 // --- Moving rolls -------------------------------------------------------------------------------
@@ -397,7 +390,8 @@ void DeleteRollClipboard() {
 }
 
 bool RefusesOpenRollFile(const std::string& name, bool asText) {
-  if (!RollFile.File.is_open() || !IsOpenFile(InProgramFolder(name))) return false;
+  if (!RollFile.File.is_open() || !IsSameFile(InProgramFolder(name), RollFile.RollFileName))
+    return false;
   ShowMessage(asText ? TextTargetIsOpen : TargetIsOpen, asText ? CopyTextTitle : CopyTitle,
               msg::OkAlert);
   return true;

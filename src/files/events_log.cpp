@@ -200,6 +200,12 @@ void ClearEventsLog() {
   EndSections();
 }
 
+void IndexEventsLog() {
+  if (EventsLogExists()) return RebuildEventsIndex();
+  Remove(EventsIndexName());
+  EventsLog.LatestRollLine = 0;
+}
+
 void RebuildEventsIndex() {
   // The new index replaces the old one only when it is whole.
   const std::string unfinished = EventsIndexName() + ".tmp";

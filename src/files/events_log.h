@@ -63,4 +63,7 @@ bool EventsLogExists();
 // disk that is full, a line behind the last 32-bit position) the old index stays.
 void RebuildEventsIndex();
 
+// Brings the index in line with the log in use: RebuildEventsIndex, or none without a log.
+void IndexEventsLog();
+
 }  // namespace tessarel

@@ -27,11 +27,6 @@ constexpr int EventsLogText = 163;
 constexpr const char* SaveAsTitle = "Save events log as";
 constexpr std::string_view PrintHeading = "Tessarel Events Log";
 
-bool IsSameFile(const std::string& a, const std::string& b) {
-  std::error_code error;
-  return a == b || std::filesystem::equivalent(a, b, error);
-}
-
 void UseLog(const std::string& path) {
   EventsLog.EventLogName = IsSameFile(path, DefaultEventLogName()) ? "" : path;
   EventsLogView = {};
@@ -146,12 +141,7 @@ int32_t LatestRollInLog() {
 }
 
 void MakeIndexFit() {
-  if (EventsLogReader().IndexFits()) return;
-  if (EventsLogExists()) {
-    RebuildEventsIndex();
-  } else {
-    DeleteFileIfPresent(EventsIndexName());
-  }
+  if (!EventsLogReader().IndexFits()) IndexEventsLog();
 }
 
 std::string HeadingRow(std::string& heading) {
@@ -172,7 +162,7 @@ EventLineKind KindOfEventLine(std::string_view line) {
 std::string EventsLogTitle() {
   const std::string title(GetText(EventsLogText));
   const std::string& name = EventsLog.EventLogName;
-  return name.empty() ? title : title + " (" + name.substr(name.find_last_of("/\\") + 1) + ")";
+  return name.empty() ? title : title + " (" + ShortName(name) + ")";
 }
 
 void LoadEventsLogView() {

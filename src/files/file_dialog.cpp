@@ -121,10 +121,6 @@ std::string FolderOf(const std::string& path) {
   return TidyFolder(std::filesystem::path(path).parent_path().generic_string());
 }
 
-std::string_view ShortName(std::string_view path) {
-  return path.substr(path.find_last_of("/\\") + 1);
-}
-
 std::string StartFolder(FileKind kind) {
   const std::string& last = At(FileDialog.LastFolder, kind);
   const std::string folder = InFolder(Folders.AppFolder, last);
@@ -176,11 +172,6 @@ bool AskToDelete(const std::string& name, FileKind kind) {
   const std::string title = word.empty() ? "Delete File" : "Delete " + word + " File";
   return ShowMessage("Are you sure you want to delete:\r\r" + name, title, msg::AskNoDefault) ==
          AnswerYes;
-}
-
-bool IsSameFile(const std::string& a, const std::string& b) {
-  std::error_code error;
-  return a == b || std::filesystem::equivalent(a, b, error);
 }
 
 std::vector<int> PlayersWithSessionsLog(const std::string& path) {

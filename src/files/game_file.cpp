@@ -135,10 +135,6 @@ void TellUnrecognized(const std::string& argument, bool automaticFollows) {
 
 }  // namespace
 
-std::string ShortName(std::string_view path) {
-  return std::string(path.substr(path.rfind('/') + 1));
-}
-
 void SaveGame(const std::string& name) {
   const std::string path = FullName(InFolder(Folders.AppFolder, name));
   const bool automatic = ShortName(path) == AutomaticGameFile;

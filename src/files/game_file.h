@@ -43,7 +43,4 @@ bool OpenGame(const std::string& path);
 // automatic one. Returns false when neither could be opened; the table is then to be set up anew.
 bool LoadStartGame(std::string_view commandLine);
 
-// A path without its folder.
-std::string ShortName(std::string_view path);
-
 }  // namespace tessarel

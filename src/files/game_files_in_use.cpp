@@ -9,7 +9,6 @@
 #include "base/fault.h"
 #include "base/file_io.h"
 #include "base/message.h"
-#include "base/single_byte_text.h"
 #include "base/trap.h"
 #include "config/folders.h"
 #include "dice/popup_roll.h"
@@ -17,7 +16,9 @@
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "files/events_log.h"
+#include "files/events_log_view.h"
 #include "files/game_blocks.h"
+#include "files/sessions_log.h"
 
 namespace tessarel {
 
@@ -102,8 +103,13 @@ void Tell(const FileNotice& notice, const std::string& file, const std::string& 
   Tell(name + notice.text, file, notice.title);
 }
 
+// The path of a name in a game file, which may have '\' in it and be relative.
+std::string StoredPath(const std::string& name) {
+  return name.empty() ? "" : FullName(InFolder(Folders.AppFolder, name));
+}
+
 void TakeUpRollFile(const FilesInUse& files) {
-  const std::string& name = files.RollFile.Name;
+  const std::string name = StoredPath(files.RollFile.Name);
   if (name.empty()) return;
   if (!FileExists(name)) return Tell(RollFileGone, name);
   OpenRollFile(name);
@@ -119,11 +125,13 @@ void TakeUpRollFile(const FilesInUse& files) {
 void TakeUpProbability(const HeldFile& file) {
   NewProbabilities();
   if (file.Name.empty()) return;
-  if (!OpenProbabilityFile(file.Name)) return Tell(MatrixGone, file.Name);
-  if (LastModifiedText(file.Name) != file.Date) Tell(MatrixChanged, file.Name);
+  const std::string path = StoredPath(file.Name);
+  if (!OpenProbabilityFile(path)) return Tell(MatrixGone, path);
+  if (LastModifiedText(path) != file.Date) Tell(MatrixChanged, path);
 }
 
 void TakeUpEventsLog(const std::string& name) {
+  const std::string before = EventsLogPath();
   const bool usual = name.empty() || name == FullName(DefaultEventLogName());
   EventsLog.EventLogName = usual ? "" : name;
   EndSections();
@@ -131,8 +139,9 @@ void TakeUpEventsLog(const std::string& name) {
     EventsLog.EventLogName.clear();
     Tell(EventsLogGone, name);
   }
-  // The index may be that of another log.
-  if (EventsLog.LogOn != 0 && EventsLogExists()) RebuildEventsIndex();
+  const bool another = !IsSameFile(EventsLogPath(), before);
+  if (another) EventsLogView = {};
+  if (another || EventsLog.LogOn != 0) IndexEventsLog();
 }
 
 bool CanReadScript(int place, const std::string& path) {
@@ -145,7 +154,7 @@ bool CanReadScript(int place, const std::string& path) {
 
 void TakeUpScript(int place, const HeldFile& file) {
   if (file.Name.empty()) return;
-  const std::string path = FullName(InFolder(Folders.AppFolder, file.Name));
+  const std::string path = StoredPath(file.Name);
   const std::string& name = At(Table.PlayerName, place);
   if (!FileExists(path)) {
     NewScript(place);
@@ -162,7 +171,7 @@ void TakeUpScript(int place, const HeldFile& file) {
 // A player without a log of his own goes on in the usual one, which need not be there yet.
 void TakeUpSessionsLog(int place, const std::string& log) {
   const std::string& name = At(Table.PlayerName, place);
-  const std::string usual = FullName(Folders.AppFolder + LowerCase(name) + ".slg");
+  const std::string usual = FullName(DefaultSessionsLogName(name));
   const bool there = FileExists(log);
   At(Table.SessionLogName, place) = there ? log : usual;
   if (there || log.empty() || log == usual) return;
@@ -194,13 +203,13 @@ FilesInUse FilesNowInUse(bool automaticFile) {
 
 void TakeUpFiles(const FilesInUse& files) {
   Attempt([&] { TakeUpRollFile(files); });
-  if (!files.PopupRoll.empty()) OpenPopupRoll(files.PopupRoll);
+  if (!files.PopupRoll.empty()) OpenPopupRoll(StoredPath(files.PopupRoll));
   Attempt([&] { TakeUpProbability(files.Probability); });
-  Attempt([&] { TakeUpEventsLog(files.EventsLog.Name); });
+  Attempt([&] { TakeUpEventsLog(StoredPath(files.EventsLog.Name)); });
   ForEachPlayer([&](int place) {
     At(Scripts.Places, place).OutputFile = At(files.ScriptOutput, place);
     Attempt([&] { TakeUpScript(place, At(files.Script, place)); });
-    Attempt([&] { TakeUpSessionsLog(place, At(files.SessionsLog, place)); });
+    Attempt([&] { TakeUpSessionsLog(place, StoredPath(At(files.SessionsLog, place))); });
   });
 }
 

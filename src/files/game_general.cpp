@@ -57,7 +57,8 @@ constexpr WordField TableFields[] = {
     {22, &ViewSelections.SummaryPlayer},
     {23, &ViewSelections.BetResultsPlayer},
     {24, &ViewSelections.CSPlayer},
-    Carried(GameViews.Table, 25, 28),  // configuration, bankroll graph, scripts, sessions
+    Carried(GameViews.Table, 25, 27),  // configuration, bankroll graph, scripts
+    {28, &ViewSelections.SessionsPlayer},
     {29, &ViewSelections.HandsPlayer},
     {30, &ViewSelections.BetTrendsPlayer},
     {31, &Table.MarkedNumbers},

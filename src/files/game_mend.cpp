@@ -13,6 +13,7 @@
 #include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/probability.h"
+#include "dice/roll_file_edit.h"
 #include "engine/rail.h"
 #include "engine/special_bets.h"
 #include "engine/table.h"
@@ -20,6 +21,7 @@
 #include "files/game_views.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
+#include "stats/session_statistics.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -303,8 +305,11 @@ void MendSelections() {
     *selection &= Places;
   }
   if (GameViews.StatusBoxSize < 1 || GameViews.StatusBoxSize > 3) GameViews.StatusBoxSize = 2;
-  if (ViewSelections.CSPlayer < 0 || ViewSelections.CSPlayer > LastPlace)
-    ViewSelections.CSPlayer = 0;
+  for (int32_t* place : {&ViewSelections.CSPlayer, &ViewSelections.SessionsPlayer}) {
+    if (*place < 0 || *place > LastPlace) *place = 0;
+  }
+  RepairSessionsView();
+  RollFileEdit.optInsertRolls = RollFileEdit.optInsertRolls != 0 ? 1 : 0;
 }
 
 }  // namespace

@@ -4,9 +4,11 @@
 
 #include "autobet/script_store.h"
 #include "config/settings.h"
+#include "dice/roll_file_edit.h"
 #include "files/game_blocks.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
+#include "stats/session_statistics.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -36,8 +38,12 @@ constexpr WordField StatisticsFields[] = {
 
 constexpr WordField DisplayFields[] = {
     Carried(Display, 0, 2),
-    Carried(Display, 4, 13),
-    Carried(Display, 16, 18),
+    Carried(Display, 4, 10),
+    {11, &SessionsView.Include},
+    {12, &SessionsView.Stat},
+    Carried(Display, 13, 13),
+    {16, &RollFileEdit.optInsertRolls},
+    Carried(Display, 17, 18),
     Carried(Display, 20, 21),
     {24, &Table.GraphIndex},
     {26, &BankrollGraph.GraphPlotType},
@@ -90,7 +96,7 @@ void ViewRecords(GameRecords& records, FilesInUse& files) {
   records.Word(FirstRollShownSlot, files.FirstRollShown);
   records.Word(NextRollSlot, files.NextRoll);
   records.Word(RollCountSlot, files.RollCount);
-  records.LongText(GameViews.RollOutputFormat);
+  records.LongText(RollFileEdit.txtDiceRollOutputFormat);
   records.Words(ScriptFields);
   records.Word(AnyScriptActiveSlot, files.ScriptActive[0]);
   records.Moneys(GraphFields);

@@ -29,11 +29,11 @@ struct GameViewsState {
   MoneyRow General{}, Comps{};
   Money ReportAmount;         // by which the advantage list and the bet reports scale
   WordRow Statistics{};       // roll totals, hands, summary, trends, bet results
-  WordRow Display{};          // the table's menus, check stacks, frequencies, sessions, roll files
+  WordRow Display{};          // the table's menus, check stacks, frequencies, roll files
   int32_t StatusBoxSize = 2;  // 1 to 3
   WordRow Editor{};           // the script editor
   WordRow RollColours{};      // highlights of the dice in the list of rolls
-  std::string BetResultsText, RollOutputFormat;
+  std::string BetResultsText;
   std::vector<ChipEntry> Chips;  // up to MostChips; the columns have 16 bits each
 };
 

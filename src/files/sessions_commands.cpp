@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -36,11 +35,6 @@ const std::string& NameOf(int place) {
   return At(Table.PlayerName, place);
 }
 
-bool AreOneFile(const std::string& one, const std::string& other) {
-  std::error_code error;
-  return one == other || std::filesystem::equivalent(one, other, error);
-}
-
 void Tell(const std::string& text, const std::string& title) {
   ShowMessage(text, title, msg::OkAlert);
 }
@@ -71,7 +65,7 @@ bool AgreesToSessionInProgress(const std::string& logs) {
 bool MayTakeName(int place, const std::string& name, const std::string& title) {
   bool free = true;
   ForEachPlayer([&](int other) {
-    if (other != place && AreOneFile(SessionsLogNameOf(other), name)) free = false;
+    if (other != place && IsSameFile(SessionsLogNameOf(other), name)) free = false;
   });
   if (!free) Tell("This file is the sessions log of another player.", title);
   return free;
@@ -100,7 +94,7 @@ bool MakesRoom(int place, const std::string& name) {
   if (answer == AnswerNo) return true;
   if (answer != AnswerYes) return false;
   const std::string kept = MoveToChosenName(place, name, name, "Save sessions log as");
-  return !kept.empty() && !AreOneFile(kept, name);
+  return !kept.empty() && !IsSameFile(kept, name);
 }
 
 bool StartNewLog(int place) {
@@ -235,7 +229,7 @@ bool MergeSessionsLog(int place, const std::string& name) {
       RefuseFile();
       return false;
     }
-    if (AreOneFile(log, other)) {
+    if (IsSameFile(log, other)) {
       Tell("A sessions log cannot be merged with itself.", "Merge Sessions Logs");
       return false;
     }

@@ -194,8 +194,7 @@ void AppendSessions(const std::string& name, const std::string& other) {
 }
 
 void MoveSessionsLog(const std::string& from, const std::string& to) {
-  std::error_code error;
-  if (from == to || fs::equivalent(from, to, error)) return;
+  if (IsSameFile(from, to)) return;
   WriteFileAtomically(to, [&from](const ByteSink& sink) { CopyBytes(from, 0, INT64_MAX, sink); });
   DeleteFileIfPresent(from);
 }

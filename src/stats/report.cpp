@@ -4,6 +4,7 @@
 #include <bit>
 
 #include "base/clock.h"
+#include "config/folders.h"
 #include "config/language.h"
 #include "stats/hands_view.h"
 #include "stats/roll_totals.h"
@@ -136,9 +137,9 @@ std::string BankrollSection(const ReportInputs& inputs) {
 }  // namespace
 
 std::string ReportHeader(std::string_view title, std::string_view gameFile) {
-  const std::string_view name = gameFile.substr(gameFile.find_last_of("/\\") + 1);
+  const std::string name = ShortName(gameFile);
   return std::string(title) + "\n" + MediumDate(Now()) +
-         "\nGame file:  " + std::string(name.empty() ? "untitled" : name) + "\n";
+         "\nGame file:  " + (name.empty() ? "untitled" : name) + "\n";
 }
 
 std::string SelectionHeader(Scope scope, PlaceSelection selection) {

@@ -17,12 +17,16 @@
 #include "config/payoffs.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/probability.h"
+#include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "engine/bets.h"
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
 #include "files/events_log.h"
+#include "files/game_file.h"
+#include "files/hot_keys.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -394,6 +398,67 @@ TEST_F(Session, LeavingOffersToSaveChangedScripts) {
   std::string line;
   std::getline(saved, line);
   EXPECT_EQ(line, "bet 5 on field");
+}
+
+TEST_F(Session, LeavingOffersToSaveTheMatrixAndKeepsTheGameWithItsRollFile) {
+  SeatPlayer(2, "Ann", 100);
+  SaveProbabilityFile("a.prb");
+  Probability.ProbabilityMatrix.Shares[1][1] = 4242;
+  Probability.ProbabilityChanged = -1;
+  OpenRollFile("a.rol");
+  HotKeys.Rows = {{"A", "a.bet", ""}};
+  std::ofstream(Folder.Path() + "rollcopyfile.rll") << "x";
+  const auto exists = [this](const char* name) {
+    return std::filesystem::exists(Folder.Path() + name);
+  };
+  Answers = {"-"};
+  EXPECT_FALSE(Leave());
+  EXPECT_FALSE(Leave());  // no name for the matrix
+  EXPECT_FALSE(exists("default.tsg"));
+  FrontEnd.AskSaveFile = [](const std::string& title, const std::string&) {
+    EXPECT_EQ(title, "Save probability file as");
+    return std::string("b.prb");
+  };
+  EXPECT_TRUE(Leave());
+  EXPECT_FALSE(exists("rollcopyfile.rll"));
+  StartUp(Folder.Path());
+  ReadHotKeys();
+  OpenDefaultGame("");
+  EXPECT_EQ(Probability.ProbabilityMatrix.Shares[1][1], 4242);
+  EXPECT_EQ(RollFile.RollFileName, Folder.Path() + "a.rol");
+  EXPECT_EQ(HotKeyCount(), 1);
+  std::filesystem::remove(Folder.Path() + "default.tsg");
+  OpenDefaultGame("");
+  EXPECT_EQ(Table.PlayerCount, 0);
+  EXPECT_EQ(HotKeyCount(), 1);
+}
+
+TEST_F(Session, SavingOffersTheScriptsFirstAndAsksForAName) {
+  SeatPlayer(2, "Ann", 100);
+  EXPECT_FALSE(SaveGameInUse());
+  FrontEnd.AskSaveFile = [](const std::string& title, const std::string&) {
+    return title + ".tsg";
+  };
+  EXPECT_TRUE(SaveGameInUse());
+  EXPECT_EQ(GameFile.GameFileName, Folder.Path() + "Save session file as.tsg");
+  Scripts.Places[2] = {{"bet 5 on field"}, "ann.bet", "", true};
+  Table.TableDirty = -1;
+  Answers = {"-"};
+  EXPECT_FALSE(SaveGameInUse());
+  EXPECT_NE(Table.TableDirty, 0);
+  EXPECT_TRUE(SaveGameInUse());
+  EXPECT_FALSE(Scripts.Places[2].changed);
+  EXPECT_EQ(Table.TableDirty, 0);
+}
+
+TEST_F(Session, ANewGameKeepsTheOneOnAShownTable) {
+  const std::string file = Folder.Path() + "default.tsg";
+  for (const bool shown : {false, true}) {
+    GameFile.MainWindowShown = shown;
+    Table.TableDirty = -1;
+    EXPECT_TRUE(StartNewGame({}, true));
+    EXPECT_EQ(std::filesystem::exists(file), shown);
+  }
 }
 
 TEST_F(Session, ANewGameKeepsOrEmptiesTheScripts) {

@@ -563,6 +563,12 @@ TEST_F(Sim, EverySessionGoesIntoTheLogOfEachPlayerIfLogsAreAskedFor) {
     for (const auto* log : {"new/logs/ann b.slg", "new/logs/c.slg"})
       EXPECT_EQ(Read(log).size(), 256 * (sessions + 1));
   }
+  // Going on with a game adds a session only when it rolls.
+  Run(run + " --save a.tsg --sessions-log saved");
+  for (const auto& [rolls, sessions] : {std::pair{"0", 3}, {"5", 4}}) {
+    EXPECT_EQ(Run(std::string("run a.tsg --sessions-log saved --rolls ") + rolls).status, 0);
+    EXPECT_EQ(Read("saved/c.slg").size(), 256u * static_cast<size_t>(sessions + 1));
+  }
   Write("new/logs/c.slg", "precious");
   const Outcome refused = Run(run + " --sessions-log new/logs");
   EXPECT_EQ(refused.status, 1);

@@ -4,7 +4,6 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include "files/file_dialog.h"
 
 #include <chrono>
 #include <csignal>
@@ -29,6 +28,7 @@
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
+#include "dice/roll_file_edit.h"
 #include "engine/atm.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
@@ -36,8 +36,11 @@
 #include "engine/rail.h"
 #include "engine/roll_driver.h"
 #include "files/events_log.h"
+#include "files/file_dialog.h"
 #include "files/game_views.h"
 #include "stats/books.h"
+#include "stats/selection.h"
+#include "stats/session_statistics.h"
 #include "stats/store.h"
 
 namespace tessarel {
@@ -239,6 +242,29 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   EXPECT_EQ(empty.Count(), FixedRecords);
 }
 
+TEST_F(GameFileTest, WindowsComeBackAsTheyWereSet) {
+  SessionsView.Include = include::Winning | include::Losing;
+  SessionsView.Stat = SessionHandle;
+  ViewSelections.SessionsPlayer = 7;
+  RollFileEdit.optInsertRolls = 1;
+  RollFileEdit.txtDiceRollOutputFormat = "Total";
+  const std::string saved = Saved("a.tsg");
+  const RecordFile file = RecordFile::Load(Path("a.tsg"));
+  constexpr int Expected[][3] = {{11, 28, 7}, {426, 11, 6}, {426, 12, 5}, {426, 16, 1}};
+  for (const auto& [record, slot, word] : Expected)
+    EXPECT_EQ(file.At(record).Word(slot), word) << record << " " << slot;
+  EXPECT_EQ(file.At(427).LongText(), "Total");
+  Restart();
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_TRUE(Saved("again.tsg") == saved);
+  SessionsView.Stat = 11;
+  ViewSelections.SessionsPlayer = -1;
+  SaveGame("a.tsg");
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(SessionsView.Stat, SessionNet);
+  EXPECT_EQ(ViewSelections.SessionsPlayer, 0);
+}
+
 TEST_F(GameFileTest, TitleAndNameFollowTheFile) {
   Table.TableDirty = -1;
   SaveGame("a.tsg");
@@ -405,6 +431,7 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
 
   for (const char* name : {"a.bet", "a.rol", "a.prb", "log.txt", "other.slg"})
     std::filesystem::remove(Path(name));
+  Write("Events Log.ref", "of the lost log.");
   Shown.clear();
   ASSERT_TRUE(OpenGame("a.tsg"));
   EXPECT_EQ(Shown,
@@ -424,7 +451,33 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
                     "\r\rThe following new Sessions Log will be created and opened instead:\r\r" +
                     Path("ann.slg")}));
   EXPECT_EQ(RollFile.RollFileName + EventsLog.EventLogName + Scripts.Places[1].ScriptFile, "");
+  EXPECT_FALSE(FileExists(EventsIndexName()));
   EXPECT_EQ(Table.SessionLogName[1], Path("ann.slg"));
+}
+
+TEST_F(GameFileTest, NamesOfOtherSystemsAndOfTheProgramsFolderAreFound) {
+  std::filesystem::create_directory(Path("sub"));
+  for (const char* name : {"sub/a.rol", "sub/log.txt", "sub/own.slg"})
+    Write(name, "");
+  SeatPlayer(1, "Ann", 1000);
+  OpenRollFile("sub/a.rol");
+  EventsLog.EventLogName = Path("sub/log.txt");
+  Table.SessionLogName[1] = Path("sub/own.slg");
+  SaveProbabilityFile("sub/a.prb");
+  SaveGame("a.tsg");
+  RecordFile file = RecordFile::Load(Path("a.tsg"));
+  const std::pair<int, const char*> names[] = {{12, "sub\\a.rol"},
+                                               {14, "sub\\a.prb"},
+                                               {15, "sub\\log.txt"},
+                                               {FixedRecords + 5, "sub\\own.slg"}};
+  for (const auto& [record, name] : names)
+    file.At(record).PutText(name);
+  file.Save(Path("a.tsg"));
+  ASSERT_TRUE(OpenGame("a.tsg"));
+  EXPECT_EQ(Shown, std::vector<std::string>{});
+  EXPECT_EQ(RollFile.RollFileName, Path("sub/a.rol"));
+  EXPECT_EQ(EventsLog.EventLogName, Path("sub/log.txt"));
+  EXPECT_EQ(Table.SessionLogName[1], Path("sub/own.slg"));
 }
 
 TEST_F(GameFileTest, UnsavedMatrixGoesWithTheAutomaticFileOnly) {

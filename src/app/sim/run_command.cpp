@@ -326,7 +326,8 @@ void RunCommand(const RunOptions& options) {
   Recording recording(options.record);
   OpenEventsLog(options.eventsLog);
   const RunFacts facts = Play(options, recording);
-  LogLastSession();
+  // A session of the game that this run has not gone on with was the last one of another run.
+  if (Session.Rolls() > 0) LogLastSession();
   WriteResults(options, facts, recording);
   ShutDown();
 }

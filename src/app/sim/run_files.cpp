@@ -130,13 +130,7 @@ void PlayFrom(const std::string& name) {
 void OpenEventsLog(const std::string& name) {
   if (name.empty()) return;
   EventsLog.EventLogName = PathOf(name);
-  WithFile("events log", name, "cannot be continued", [] {
-    if (EventsLogExists()) {
-      RebuildEventsIndex();
-    } else {
-      DeleteFileIfPresent(EventsIndexName());
-    }
-  });
+  WithFile("events log", name, "cannot be continued", IndexEventsLog);
   SelectAllEvents(true);
   EventsLog.LogOn = -1;
 }
