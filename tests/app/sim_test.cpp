@@ -285,6 +285,7 @@ TEST_F(Sim, SavedGameGoesOnWhereItStood) {
   const Json fresh = Result("--new a.tsg --rolls 10 --save a.tsg");
   EXPECT_EQ(fresh["roll_counts"][0], 10);
   EXPECT_EQ(fresh["players"].size(), 3u);
+  EXPECT_NE(Run("run a.tsg --rolls 0 --report -").out.find("Game file:  a.tsg"), std::string::npos);
   std::filesystem::remove(Path("a.bet"));
   const Outcome outcome = Run("run b.tsg");
   EXPECT_EQ(outcome.status, 1);

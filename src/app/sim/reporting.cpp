@@ -4,6 +4,7 @@
 #include "base/message.h"
 #include "config/advantage.h"
 #include "engine/table.h"
+#include "files/game_file.h"
 #include "stats/comps.h"
 #include "stats/report.h"
 
@@ -11,6 +12,7 @@ namespace tessarel::sim {
 
 std::string RunReport(const std::string& stopReason) {
   ReportInputs inputs;
+  inputs.GameFile = GameFile.GameFileName;
   inputs.StopReason = OnOneLine(stopReason);
   for (int number = 1; number <= LastBet; ++number) {
     At(inputs.Expected, number) = FigureAdvantage(number).EvPerDec;
