@@ -64,7 +64,8 @@ struct ListItem {
 };
 
 struct AutoBetState {
-  // The strings of the compiled scripts, and behind them those made by the running statement; from 1.
+  // The strings of the compiled scripts, and behind them those made by the running statement;
+  // from 1.
   std::vector<ScriptString> Strings = std::vector<ScriptString>(1);
 
   int32_t ScriptRunning = 0;        // -1 in a cycle; set to 0, the cycle stops

@@ -57,7 +57,8 @@ std::optional<std::string> SetField(std::string_view name,
                                     std::string_view value);
 
 // Brings every setting, those of all places included, into what its row allows: the nearest value,
-// flags that are neither on nor off to on. For settings that were read from a file; nothing is asked.
+// flags that are neither on nor off to on. For settings that were read from a file; nothing is
+// asked.
 void BringFieldsIntoRange();
 
 }  // namespace tessarel

@@ -108,8 +108,8 @@ struct TableState {
   int32_t RollInProgress = 0;
   int32_t TableDirty = 0;
   int32_t BetChangedThisRoll = 0;
-  int32_t HyperDriveOn = 0;  // rolls are made without being shown
-  int32_t AutoRollOn = 0;    // a run that a person has started, of either kind
+  int32_t HyperDriveOn = 0;    // rolls are made without being shown
+  int32_t AutoRollOn = 0;      // a run that a person has started, of either kind
   std::string StopReason;      // why an unattended run stops
   std::string LastStopReason;  // why the last call of the roll driver ended; empty: it just did
 
