@@ -10,11 +10,11 @@
 namespace tessarel {
 namespace {
 
-using Variants = std::array<std::string_view, LanguageCount>;  // empty: as in English
+using SixTexts = std::array<std::string_view, LanguageCount>;  // empty: as in English
 
 struct TextRow {
   int Id;
-  Variants Texts;
+  SixTexts Texts;
 };
 
 constexpr int ErrorTitleText = 37;
@@ -651,7 +651,7 @@ constexpr auto Texts = std::to_array<TextRow>({
            "Lanci totali"}},
 });
 
-constexpr std::array<Variants, TitleCount> Titles = {{
+constexpr std::array<SixTexts, TitleCount> Titles = {{
     {"Random Number Generator",
      "Generador de números aleatorios",
      "Zufallszahlengenerator",
@@ -683,7 +683,7 @@ constexpr int32_t KnownLanguage(int32_t language) {
   return language >= 0 && language < LanguageCount ? language : English;
 }
 
-constexpr std::string_view Pick(const Variants& variants, int32_t language) {
+constexpr std::string_view Pick(const SixTexts& variants, int32_t language) {
   const std::string_view text = At(variants, KnownLanguage(language));
   return text.empty() ? At(variants, English) : text;
 }
@@ -709,20 +709,33 @@ std::string_view GetTitle(TextTitle title) {
   return GetTitle(Settings.Language, title);
 }
 
-std::string FillIn(std::string_view text, std::string_view first, std::string_view second) {
+std::string_view Localized(const SixTexts& texts) {
+  return Pick(texts, Settings.Language);
+}
+
+std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values) {
   // One pass, so that a value with a "%" of its own (a player's name) is taken as it stands.
   std::string filled;
-  filled.reserve(text.size() + first.size() + second.size());
+  filled.reserve(text.size() + 32);
   for (size_t k = 0; k < text.size(); ++k) {
     const char mark = text[k] == '%' && k + 1 < text.size() ? text[k + 1] : '\0';
-    if (mark == '1' || mark == '2') {
-      filled += mark == '1' ? first : second;
+    if (mark >= '1' && mark <= '9') {
+      const size_t value = static_cast<size_t>(mark - '1');
+      if (value < values.size()) filled += values.begin()[value];
       ++k;
     } else {
       filled += text[k];
     }
   }
   return filled;
+}
+
+std::string FillIn(std::string_view text, std::string_view first, std::string_view second) {
+  return FillIn(text, {first, second});
+}
+
+std::string FillIn(const SixTexts& texts, std::initializer_list<std::string_view> values) {
+  return FillIn(Localized(texts), values);
 }
 
 void SetLanguage(int32_t language) {

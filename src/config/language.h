@@ -3,7 +3,9 @@
 // characters that Windows-1252 has; "&" marks the shortcut letter of a caption.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -27,8 +29,17 @@ inline constexpr int TitleCount = 2;
 std::string_view GetTitle(int32_t language, TextTitle title);
 std::string_view GetTitle(TextTitle title);
 
-// `text` with "%1" and "%2" replaced.
+// A text of one module's own table, in the order of LanguageNumber; an empty variant falls back to
+// the English one.
+using SixTexts = std::array<std::string_view, LanguageCount>;
+
+// The variant in the language in force.
+std::string_view Localized(const SixTexts& texts);
+
+// `text` with "%1" to "%9" replaced by the values in their order; a mark without a value goes.
+std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values);
 std::string FillIn(std::string_view text, std::string_view first, std::string_view second = {});
+std::string FillIn(const SixTexts& texts, std::initializer_list<std::string_view> values);
 
 // Puts a language in force (outside 0 to 5: English) together with the title of fault reports.
 void SetLanguage(int32_t language);

@@ -1,0 +1,23 @@
+// The roll-your-own-numbers console, the window of the dice and the status box: the small windows
+// that float over the table.
+#pragma once
+
+#include <QWidget>
+
+namespace tessarel {
+
+// The floating panel "Dice Rolls", on which the user picks the outcome of the next roll. It keeps
+// its display, options and colours in GameViews.
+QWidget* MakeRollConsole(QWidget* parent);
+
+// The window in which the dice are shown with DiceAction 3.
+QWidget* MakeDiceWindow(QWidget* parent);
+
+// The box with every player's bankroll, rail, bets and win or loss, in three sizes
+// (GameViews.StatusBoxSize).
+QWidget* MakeStatusBox(QWidget* parent);
+
+// Bring each of them up to date: new language, new figures, a changed dice picture.
+void RefreshSmallWindow(QWidget* window);
+
+}  // namespace tessarel
