@@ -133,11 +133,7 @@ void TellUnrecognized(const std::string& argument, bool automaticFollows) {
   ShowMessage(std::move(text), std::string(GetText(UnableToOpenText)), msg::OkAlert);
 }
 
-}  // namespace
-
-void SaveGame(const std::string& name) {
-  const std::string path = FullName(InFolder(Folders.AppFolder, name));
-  const bool automatic = ShortName(path) == AutomaticGameFile;
+void WriteGame(const std::string& path, bool automatic) {
   FilesInUse files = FilesNowInUse(automatic);
   GameCounts counts{Table.PlayerCount, static_cast<int32_t>(GameViews.Chips.size())};
   RecordFile file;
@@ -146,7 +142,19 @@ void SaveGame(const std::string& name) {
   records.Text(header);
   GameBody(records, files, counts);
   file.Save(path);
+}
+
+}  // namespace
+
+void SaveGame(const std::string& name) {
+  const std::string path = FullName(InFolder(Folders.AppFolder, name));
+  const bool automatic = ShortName(path) == AutomaticGameFile;
+  WriteGame(path, automatic);
   NameGame(automatic ? "" : path);
+}
+
+void SaveGameCopy(const std::string& path) {
+  WriteGame(path, true);
 }
 
 bool SaveDefaultGame() {

@@ -29,6 +29,10 @@ extern GameFileState GameFile;
 // faults when it cannot be written; an older file then stands.
 void SaveGame(const std::string& path);
 
+// Writes the game to another file, as it would stand in "default.tsg"; the game on the table keeps
+// its file and is as unsaved as before. File faults as SaveGame.
+void SaveGameCopy(const std::string& path);
+
 // Saves to "default.tsg" in the program's folder. Returns whether it could be written; a fault is
 // reported.
 bool SaveDefaultGame();

@@ -1,7 +1,42 @@
 // The desktop program: sets the core up, shows the table and leaves in order.
 #include <QApplication>
+#include <QIcon>
+
+#include "app/session.h"
+#include "base/front_end.h"
+#include "engine/roll_pace.h"
+#include "files/hot_keys.h"
+#include "ui/main_window.h"
+#include "ui/palette.h"
+#include "ui/program_folders.h"
+#include "ui/sound/sounds.h"
+#include "ui/windows/message_window.h"
+
+namespace {
+
+// The game named on the command line, with every word of an unquoted name.
+std::string CommandLine() {
+  return QCoreApplication::arguments().mid(1).join(' ').toStdString();
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
+  using namespace tessarel;
   QApplication application(argc, argv);
-  return 0;
+  QApplication::setApplicationName("Tessarel");
+  QApplication::setDesktopFileName("tessarel");
+  QApplication::setWindowIcon(QIcon(QString::fromStdString(DataFolder() + "/icons/tessarel.svg")));
+  SetCasinoLook(application);
+
+  const std::string folder = ProgramFolder();
+  FrontEnd.ShowMessage = [] { ShowMessageWindow(nullptr); };
+  StartUp(folder);
+  ReadHotKeys();
+  LoadSounds(DataFolder(), folder);
+  MeasureLoopRate();
+  MainWindow window(folder);
+  OpenDefaultGame(CommandLine());
+  window.Start();
+  return QApplication::exec();
 }

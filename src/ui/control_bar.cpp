@@ -1,0 +1,270 @@
+#include "ui/control_bar.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "automation/auto_roll.h"
+#include "base/number_format.h"
+#include "config/settings.h"
+#include "dice/popup_roll.h"
+#include "engine/table.h"
+#include "stats/store.h"
+#include "ui/check_drag.h"
+#include "ui/control_bar_texts.h"
+#include "ui/paint/check_paint.h"
+#include "ui/table_play.h"
+#include "ui/text.h"
+#include "ui/windows/rate_meter.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int CheckSide = 44, CheckGap = 8, DiceIconSide = 30;
+
+std::string Count(int64_t count) {
+  return FormatNumber(Money::FromWhole(count), "#,0");
+}
+
+int64_t RollsASecond() {
+  return static_cast<int64_t>(RollRate());
+}
+
+// The two dice as a picture for the roll button.
+QIcon DiceIcon(int die1, int die2, double pixelRatio) {
+  QPixmap picture(QSize(2 * DiceIconSide + 6, DiceIconSide) * pixelRatio);
+  picture.setDevicePixelRatio(pixelRatio);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  const double half = DiceIconSide / 2.0;
+  PaintDie(painter, QPointF(half, half), DiceIconSide - 4, die1, 0, 1);
+  PaintDie(painter, QPointF(half + DiceIconSide + 6, half), DiceIconSide - 4, die2, 0, 2);
+  return QIcon(picture);
+}
+
+QString PointText() {
+  return Table.Point == 0 ? Shown(texts::ComeOut)
+                          : Shown(FillIn(texts::PointIs, {std::to_string(Table.Point)}));
+}
+
+// What stands in the way of the next roll, else the point.
+QString StateText() {
+  if (PopupRoll.Waiting) return Shown(WaitingForRollFile);
+  return PointText();
+}
+
+}  // namespace
+
+// --- The checks --------------------------------------------------------------------------------
+
+CheckChooser::CheckChooser(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
+  setFixedSize(sizeHint());
+}
+
+QSize CheckChooser::sizeHint() const {
+  return {5 * CheckSide + 6 * CheckGap, CheckSide + 2 * CheckGap};
+}
+
+QPoint CheckChooser::CentreOf(int denomination) const {
+  return {CheckGap + (denomination - 1) * (CheckSide + CheckGap) + CheckSide / 2, height() / 2};
+}
+
+int CheckChooser::CheckAt(QPoint pixel) const {
+  for (int denomination = 1; denomination <= 5; ++denomination) {
+    if ((pixel - CentreOf(denomination)).manhattanLength() <= CheckSide * 2 / 3)
+      return denomination;
+  }
+  return 0;
+}
+
+void CheckChooser::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  for (int denomination = 1; denomination <= 5; ++denomination) {
+    PaintCheck(painter, CentreOf(denomination), CheckSide, denomination,
+               denomination == ChosenCheck());
+  }
+  if (!hasFocus()) return;
+  painter.setPen(QPen(QColor(255, 214, 90), 2));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
+}
+
+void CheckChooser::mousePressEvent(QMouseEvent* event) {
+  pressedAt_ = event->pos();
+  const int denomination = CheckAt(pressedAt_);
+  if (denomination == 0) return;
+  ChooseCheck(denomination);
+  update();
+}
+
+void CheckChooser::mouseMoveEvent(QMouseEvent* event) {
+  setCursor(CheckAt(event->pos()) != 0 ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  const bool far =
+      (event->pos() - pressedAt_).manhattanLength() >= QApplication::startDragDistance();
+  const int denomination = CheckAt(pressedAt_);
+  if ((event->buttons() & Qt::LeftButton) == 0 || !far || denomination == 0) return;
+  auto* drag = new QDrag(this);
+  auto* data = new QMimeData;
+  data->setData(CheckMimeType, QByteArray::number(denomination));
+  drag->setMimeData(data);
+  QPixmap picture(CheckSide + 4, CheckSide + 4);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  PaintCheck(painter, QPointF(picture.rect().center()), CheckSide, denomination, false);
+  painter.end();
+  drag->setPixmap(picture);
+  drag->setHotSpot(picture.rect().center());
+  drag->exec(Qt::CopyAction);
+}
+
+void CheckChooser::keyPressEvent(QKeyEvent* event) {
+  const int step = event->key() == Qt::Key_Right ? 1 : event->key() == Qt::Key_Left ? -1 : 0;
+  if (step == 0) return QWidget::keyPressEvent(event);
+  ChooseCheck((ChosenCheck() - 1 + step + 5) % 5 + 1);
+  update();
+}
+
+bool CheckChooser::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int denomination = CheckAt(help->pos());
+    const QString text =
+        denomination == 0 ? QString()
+                          : Shown(FillIn(texts::BetWithCheck,
+                                         {FormatMoney(At(Settings.Denomination, denomination))}));
+    QToolTip::showText(help->globalPos(), text, this);
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+// --- The bar -----------------------------------------------------------------------------------
+
+ControlBar::ControlBar(QWidget* parent)
+    : QWidget(parent),
+      checks_(new CheckChooser(this)),
+      enterBet_(new QLineEdit(this)),
+      roll_(new QPushButton(this)),
+      autoRoll_(new QPushButton(this)),
+      hyperDrive_(new QPushButton(this)),
+      state_(new QLabel(this)),
+      counts_(new QLabel(this)),
+      hint_(new QLabel(this)) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(10, 4, 10, 4);
+  row->setSpacing(12);
+  row->addWidget(checks_);
+  row->addWidget(enterBet_);
+  row->addWidget(roll_);
+  auto* figures = new QVBoxLayout;
+  figures->setSpacing(0);
+  figures->addStretch();
+  figures->addWidget(state_);
+  figures->addWidget(counts_);
+  figures->addStretch();
+  row->addLayout(figures);
+  row->addWidget(hint_, 1);
+  row->addWidget(autoRoll_);
+  row->addWidget(hyperDrive_);
+
+  enterBet_->setReadOnly(true);
+  enterBet_->setFocusPolicy(Qt::NoFocus);
+  enterBet_->setAlignment(Qt::AlignRight);
+  enterBet_->setFixedWidth(enterBet_->fontMetrics().horizontalAdvance("$9,999,999.99") + 12);
+  roll_->setIconSize({2 * DiceIconSide + 6, DiceIconSide});
+  for (QPushButton* button : {roll_, autoRoll_, hyperDrive_}) {
+    button->setMinimumHeight(CheckSide);
+    button->setAutoDefault(false);
+  }
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setMinimumWidth(60);
+  hint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  QFont bold = state_->font();
+  bold.setBold(true);
+  state_->setFont(bold);
+  SetCaptions();
+}
+
+void ControlBar::SetCaptions() {
+  roll_->setText(Shown(texts::Roll));
+  roll_->setToolTip(Shown(texts::RollTip));
+  autoRoll_->setToolTip(Shown(texts::AutoRollTip));
+  hyperDrive_->setToolTip(Shown(texts::HyperDriveTip));
+  checks_->setAccessibleName(Shown(texts::ChecksName));
+  enterBet_->setAccessibleName(Shown(texts::KeyedAmountName));
+  // The buttons keep the width of their longest caption, so that nothing moves when play starts.
+  const auto widest = [](QPushButton* button, std::initializer_list<int> ids, const QString& more) {
+    int width = button->fontMetrics().horizontalAdvance(more);
+    for (const int id : ids) {
+      const QString caption = WithoutMark(Shown(GetText(id)));
+      width = std::max(width, button->fontMetrics().horizontalAdvance(caption));
+    }
+    button->setFixedWidth(width + 28);
+  };
+  widest(autoRoll_, {115, 117}, {});
+  widest(hyperDrive_, {112, 114}, Shown(FillIn(texts::RollsASecond, {"99,999,999"})));
+  counts_->setMinimumWidth(counts_->fontMetrics().horizontalAdvance(
+      Shown(FillIn(texts::Counts, {"9,999,999", "999,999"}))));
+  Refresh();
+}
+
+void ControlBar::ShowState() {
+  state_->setText(StateText());
+  const int64_t hands = Stats.Hands[CurrentSession].HandCount + (RollsInHand() > 0 ? 1 : 0);
+  counts_->setText(Shown(FillIn(texts::Counts, {Count(RollsInSession()), Count(hands)})));
+}
+
+void ControlBar::Refresh() {
+  const bool hyper = Table.HyperDriveOn != 0;
+  const bool autoRoll = Table.AutoRollOn != 0 && !hyper;
+  ShowState();
+  const int die1 = Table.Die1 == 0 ? 3 : Table.Die1, die2 = Table.Die2 == 0 ? 4 : Table.Die2;
+  if (!hyper && (die1 != shownDie1_ || die2 != shownDie2_)) {
+    shownDie1_ = die1;
+    shownDie2_ = die2;
+    roll_->setIcon(DiceIcon(die1, die2, devicePixelRatioF()));
+  }
+  roll_->setEnabled(TableIsIdle());
+  autoRoll_->setEnabled(!hyper);
+  hyperDrive_->setEnabled(!autoRoll);
+  autoRoll_->setText(Shown(AutoRollCaption()));
+  QString drive = Shown(HyperDriveCaption());
+  if (hyper) drive += "\n" + Shown(FillIn(texts::RollsASecond, {Count(RollsASecond())}));
+  hyperDrive_->setText(drive);
+  enterBet_->setVisible(IsOn(TableOption::KeyInBetAmounts) || !TablePlay.EnteredAmount.empty());
+  enterBet_->setText(TablePlay.EnteredAmount.empty() ? QString()
+                                                     : "$" + Shown(TablePlay.EnteredAmount));
+  checks_->update();
+}
+
+void ControlBar::ShowHint(const QString& text, bool possible) {
+  hintText_ = text;
+  QPalette palette = hint_->palette();
+  palette.setColor(QPalette::WindowText,
+                   possible ? this->palette().color(QPalette::WindowText) : QColor(255, 176, 112));
+  hint_->setPalette(palette);
+  ShowElidedHint();
+}
+
+void ControlBar::ShowElidedHint() {
+  hint_->setText(hint_->fontMetrics().elidedText(hintText_, Qt::ElideRight, hint_->width()));
+  hint_->setToolTip(hint_->text() == hintText_ ? QString() : hintText_);
+}
+
+void ControlBar::resizeEvent(QResizeEvent*) {
+  ShowElidedHint();
+}
+
+}  // namespace tessarel

@@ -1,0 +1,502 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QThread>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "app/session.h"
+#include "autobet/values.h"
+#include "automation/auto_roll.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "config/folders.h"
+#include "config/settings.h"
+#include "engine/rail.h"
+#include "files/file_dialog.h"
+#include "files/game_file.h"
+#include "files/game_views.h"
+#include "files/hot_keys.h"
+#include "ui/main_texts.h"
+#include "ui/sound/sounds.h"
+#include "ui/table_presets.h"
+#include "ui/text.h"
+#include "ui/windows/game_dialogs.h"
+#include "ui/windows/message_window.h"
+#include "ui/windows/move_window.h"
+#include "ui/windows/roll_console.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int LeastWidth = 1024, LeastHeight = 700;
+constexpr qint64 PumpEveryNs = 16'000'000;
+
+// The window of the program, for the core's callbacks.
+MainWindow* Main = nullptr;
+
+// A window's state word and geometry in GameViews.Windows.
+enum WindowWords : int { MainWords = 0, ConsoleWords = 20, DiceWords = 25 };
+enum MainState : int32_t { StateNormal = 0, StateMinimised = 1, StateMaximised = 2 };
+
+QRect StoredPlace(int first) {
+  const auto& words = GameViews.Windows;
+  return {At(words, first + 1), At(words, first + 2), At(words, first + 3), At(words, first + 4)};
+}
+
+void StorePlace(int first, const QRect& place) {
+  auto& words = GameViews.Windows;
+  At(words, first + 1) = place.left();
+  At(words, first + 2) = place.top();
+  At(words, first + 3) = place.width();
+  At(words, first + 4) = place.height();
+}
+
+// Whether enough of a stored place is on a screen of today to take hold of the window.
+bool IsOnScreen(const QRect& place) {
+  const auto screens = QGuiApplication::screens();
+  return place.isValid() && std::any_of(screens.begin(), screens.end(), [&](QScreen* screen) {
+           const QRect seen = screen->availableGeometry().intersected(place);
+           return seen.width() >= 100 && seen.height() >= 50;
+         });
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const std::string& appFolder)
+    : view_(new TableView(this)), bar_(new ControlBar(this)), autosave_(appFolder) {
+  Main = this;
+  auto* middle = new QWidget(this);
+  auto* column = new QVBoxLayout(middle);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(view_, 1);
+  column->addWidget(bar_);
+  setCentralWidget(middle);
+  setMinimumSize(LeastWidth, LeastHeight);
+  BuildMenus();
+  ConnectTable();
+  FillFrontEnd();
+  qApp->installEventFilter(this);
+  sincePump_.start();
+}
+
+MainWindow::~MainWindow() {
+  FrontEnd = FrontEndCallbacks{};
+  Main = nullptr;
+}
+
+QAction* MainWindow::Entry(const QString& name) const {
+  for (const MenuEntry& entry : entries_) {
+    if (entry.action->objectName() == name) return entry.action;
+  }
+  return nullptr;
+}
+
+// --- The core's callbacks ----------------------------------------------------------------------
+
+void MainWindow::FillFrontEnd() {
+  FrontEnd.ShowMessage = [] {
+    Main->RefreshStatus();
+    ShowMessageWindow(Main);
+  };
+  FrontEnd.SettleBet = [](SettlePrompt& prompt) {
+    Main->RefreshStatus();
+    AskSettleBet(Main, prompt);
+  };
+  FrontEnd.RunPendingEvents = [] { Main->PumpEvents(); };
+  FrontEnd.DrawBet = [](int place, int number) {
+    if (Table.HyperDriveOn == 0) Main->view_->DrawBet(place, number);
+  };
+  FrontEnd.DrawTable = [] {
+    Main->view_->DrawTable();
+    Main->RefreshStatus();
+  };
+  FrontEnd.DrawStatus = [] {
+    if (Table.HyperDriveOn == 0) Main->view_->DrawTable();
+    Main->RefreshStatus();
+  };
+  FrontEnd.RefreshViews = [] { Main->RefreshStatus(); };
+  FrontEnd.PlaySound = [](Sound sound) {
+    PlayTableSound(sound);
+    if (sound == Sound::LimitBroken) Main->view_->ShowerChecks();
+  };
+  FrontEnd.AnimateDice = [] { Main->Animate(); };
+  FrontEnd.PlaySoundFile = PlaySoundOfFile;
+  FrontEnd.ReportScriptError = [](int, int, const std::string& text) {
+    if (Table.HyperDriveOn == 0)
+      ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert);
+  };
+  FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
+    return AskFile(Main, FileActionOfTitle(title).value_or(FileAction::SaveSession), offered);
+  };
+  FrontEnd.StatusMilliseconds = 300;
+}
+
+void MainWindow::Animate() {
+  PlayTableSound(Sound::DiceThrown);
+  bar_->Refresh();
+  ShowDiceWindowIfUsed();
+  if (diceWindow_ != nullptr) RefreshSmallWindow(diceWindow_);
+  view_->AnimateDice();
+}
+
+// Called once a roll under the Hyper-Drive, so that the clock is looked at only now and then: after
+// twice as many calls each time, until a sixtieth of a second is over.
+void MainWindow::PumpEvents() {
+  if (Table.HyperDriveOn == 0) {
+    QCoreApplication::processEvents();
+    QThread::usleep(500);
+  } else {
+    if (--untilLook_ > 0) return;
+    batch_ *= 2;
+    untilLook_ = batch_;
+    if (sincePump_.nsecsElapsed() < PumpEveryNs) return;
+    bar_->Refresh();
+    QCoreApplication::processEvents();
+    sincePump_.restart();
+    batch_ = untilLook_ = 1;
+  }
+  if (AutoBet.ScriptRunning == 0 && !view_->IsAnimating()) autosave_.SaveIfDue();
+}
+
+void MainWindow::RefreshStatus() {
+  bar_->Refresh();
+  setWindowTitle(Shown(GameFile.WindowTitle));
+  ShowSmallWindows();
+}
+
+void MainWindow::RefreshAll() {
+  UpdateEntries();
+  RefreshStatus();
+  ShowHint();
+}
+
+// --- Starting and leaving ----------------------------------------------------------------------
+
+void MainWindow::Start() {
+  TakeUpGame();
+  ReadWindowPlaces();
+  GameFile.MainWindowShown = true;
+  if (isHidden()) show();
+  view_->setFocus();
+  if (Table.BankrollStopPlace != 0) BankrollLimitStop(Table.BankrollStopPlace);
+  Message.MsgText.clear();
+  OfferUnfinishedTable();
+  autosave_.Start([this] { return Table.RollInProgress == 0 && AutoBet.ScriptRunning == 0; });
+}
+
+void MainWindow::TakeUpGame() {
+  TakeUpFontSize();
+  SetCaptions();
+  TablePlay = TablePlayState{};
+  view_->DrawTable();
+  ShowDiceWindowIfUsed();
+  RefreshAll();
+}
+
+void MainWindow::OfferUnfinishedTable() {
+  if (!autosave_.FindsTable()) return;
+  const std::string question = FillIn(texts::UnfinishedQuestion, {autosave_.TimeOfTable()});
+  const std::string title(Localized(texts::UnfinishedTitle));
+  const bool goOn = ShowMessage(question, title, msg::AskYesDefault) == AnswerYes;
+  if (!goOn) return autosave_.Discard();
+  if (autosave_.TakeUp() && OpenGame(std::string(AutomaticGameFile))) {
+    Table.TableDirty = -1;
+    TakeUpGame();
+  }
+}
+
+void MainWindow::ReadWindowPlaces() {
+  const QRect place = StoredPlace(MainWords);
+  const bool known = IsOnScreen(place) && place.width() >= LeastWidth / 2;
+  if (known) {
+    setGeometry(place);
+  } else {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(std::min(1500, screen.width() * 9 / 10), std::min(860, screen.height() * 9 / 10));
+  }
+  if (At(GameViews.Windows, MainWords) == StateMaximised) showMaximized();
+  for (const auto& [kind, first] : {std::pair{SmallWindowKind::Console, ConsoleWords},
+                                    std::pair{SmallWindowKind::Dice, DiceWords}}) {
+    if (At(GameViews.Windows, first) == 0) continue;
+    ToggleSmallWindow(kind);
+    const QRect stored = StoredPlace(first);
+    if (IsOnScreen(stored)) Small(kind)->move(stored.topLeft());
+  }
+}
+
+void MainWindow::KeepWindowPlaces() {
+  At(GameViews.Windows, MainWords) = isMaximized()   ? StateMaximised
+                                     : isMinimized() ? StateMinimised
+                                                     : StateNormal;
+  StorePlace(MainWords, isMaximized() || isMinimized() ? normalGeometry() : geometry());
+  for (const auto& [kind, first] : {std::pair{SmallWindowKind::Console, ConsoleWords},
+                                    std::pair{SmallWindowKind::Dice, DiceWords}}) {
+    QWidget* window = Small(kind);
+    const bool shown = window != nullptr && window->isVisible();
+    At(GameViews.Windows, first) = shown ? -1 : 0;
+    if (shown) StorePlace(first, QRect(window->pos(), window->size()));
+  }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (view_->IsAnimating() || QApplication::activeModalWidget() != nullptr) {
+    event->ignore();
+    if (view_->IsAnimating()) QTimer::singleShot(100, this, [this] { close(); });
+    return;
+  }
+  KeepWindowPlaces();
+  if (!Leave()) return event->ignore();
+  autosave_.End();
+  StopSounds();
+  event->accept();
+  QCoreApplication::quit();
+}
+
+// --- The table ---------------------------------------------------------------------------------
+
+void MainWindow::ConnectTable() {
+  view_->OutlookChanged = [this] { ShowHint(); };
+  view_->RightClick = [this] { RightClick(); };
+  view_->DiceClick = [this] {
+    if (TableIsIdle()) RollTheDice();
+    RefreshAll();
+  };
+  view_->PlayerMenu = [this](int place, QPoint at) { ShowPlayerMenu(place, at); };
+  connect(bar_->RollButton(), &QPushButton::clicked, this, [this] {
+    RollTheDice();
+    RefreshAll();
+  });
+  connect(bar_->AutoRollButton(), &QPushButton::clicked, this, [this] { ToggleRun(false); });
+  connect(bar_->HyperDriveButton(), &QPushButton::clicked, this, [this] { ToggleRun(true); });
+}
+
+void MainWindow::ShowHint() {
+  const ClickOutlook outlook = OutlookOfSpot(TablePlay.HotSpot);
+  bar_->ShowHint(Shown(outlook.text), outlook.possible);
+}
+
+// The right button rolls; during a run it asks to stop.
+void MainWindow::RightClick() {
+  if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
+    const bool hyper = Table.HyperDriveOn != 0;
+    const int32_t answer = ShowMessage(std::string(GetText(hyper ? 118 : 119)),
+                                       std::string(GetText(hyper ? 114 : 117)), msg::AskYesDefault);
+    if (answer == AnswerYes) StopAutoRoll();
+  } else {
+    RollTheDice();
+  }
+  RefreshAll();
+}
+
+void MainWindow::ShowPlayerMenu(int, QPoint at) {
+  QMenu menu(this);
+  UpdateEntries();
+  for (const char* name :
+       {"mnuRenamePlayer", "mnuBuyIn", "mnuMovePlayer", "mnuRemovePlayer", "mnuPassDice"})
+    menu.addAction(Entry(name));
+  menu.exec(at);
+}
+
+void MainWindow::ToggleRun(bool hyperDrive) {
+  if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
+    StopAutoRoll();
+  } else if (TableIsIdle() && ConfirmScriptActive()) {
+    batch_ = untilLook_ = 1;
+    ToggleAutoRoll(hyperDrive ? UnattendedMode::HyperDrive : UnattendedMode::AutoRoll);
+  }
+  RefreshAll();
+}
+
+// --- Commands ----------------------------------------------------------------------------------
+
+void MainWindow::NewGame() {
+  const auto answer = AskNewGame(this);
+  if (!answer) return;
+  StartNewGame(answer->options, answer->keepScripts);
+  TablePlay = TablePlayState{};
+  view_->DrawTable();
+}
+
+void MainWindow::OpenGameFile() {
+  const std::string file = AskFile(this, FileAction::OpenSession, GameFile.GameFileName);
+  if (file.empty() || !OpenGame(file)) return;
+  TakeUpGame();
+}
+
+void MainWindow::ChangeLanguage(int32_t language) {
+  SetLanguage(language);
+  Table.TableDirty = -1;
+  SetCaptions();
+  view_->DrawTable();
+  ShowSmallWindows();
+}
+
+void MainWindow::TakeUpFontSize() {
+  QFont font = QApplication::font();
+  font.setPointSize(std::clamp(Settings.BasicFontSize, 9, 13));
+  QApplication::setFont(font);
+  bar_->SetCaptions();
+}
+
+// --- Small windows -----------------------------------------------------------------------------
+
+QPointer<QWidget>& MainWindow::Small(SmallWindowKind kind) {
+  switch (kind) {
+    case SmallWindowKind::Console:
+      return console_;
+    case SmallWindowKind::Dice:
+      return diceWindow_;
+    default:
+      return statusBox_;
+  }
+}
+
+void MainWindow::ToggleSmallWindow(SmallWindowKind kind) {
+  QPointer<QWidget>& window = Small(kind);
+  if (window == nullptr) {
+    window = kind == SmallWindowKind::Console ? MakeRollConsole(this)
+             : kind == SmallWindowKind::Dice  ? MakeDiceWindow(this)
+                                              : MakeStatusBox(view_);
+  } else if (window->isVisible()) {
+    return window->hide();
+  }
+  RefreshSmallWindow(window);
+  window->show();
+}
+
+bool MainWindow::IsSmallWindowShown(SmallWindowKind kind) {
+  return Small(kind) != nullptr && Small(kind)->isVisible();
+}
+
+void MainWindow::ShowDiceWindowIfUsed() {
+  constexpr int32_t InWindow = 3;
+  const bool used = Settings.DiceAction == InWindow;
+  if (used != IsSmallWindowShown(SmallWindowKind::Dice) && (used || !diceWindow_.isNull()))
+    ToggleSmallWindow(SmallWindowKind::Dice);
+}
+
+void MainWindow::ShowSmallWindows() {
+  const bool status = IsOn(TableOption::StatusBox);
+  if (status != IsSmallWindowShown(SmallWindowKind::Status))
+    ToggleSmallWindow(SmallWindowKind::Status);
+  for (const QPointer<QWidget>& window : {console_, diceWindow_, statusBox_}) {
+    if (window != nullptr && window->isVisible()) RefreshSmallWindow(window);
+  }
+}
+
+void MainWindow::ShowMoveWindow() {
+  if (moveWindow_ == nullptr) moveWindow_ = MakeMoveWindow(this, view_);
+  moveWindow_->setVisible(!moveWindow_->isVisible());
+}
+
+// --- Keys --------------------------------------------------------------------------------------
+
+// A letter with Ctrl that has a script comes before the menus' shortcut of the same letter.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride || QApplication::activeModalWidget() != nullptr)
+    return QMainWindow::eventFilter(watched, event);
+  auto* key = static_cast<QKeyEvent*>(event);
+  const bool letter =
+      key->modifiers() == Qt::ControlModifier && key->key() >= Qt::Key_A && key->key() <= Qt::Key_Z;
+  if (letter && RowOfHotKey(static_cast<char>('A' + key->key() - Qt::Key_A)) != 0) {
+    event->accept();
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (view_->IsAnimating() || !HandleKey(event)) QMainWindow::keyPressEvent(event);
+}
+
+namespace {
+
+struct PlainKey {
+  int key;
+  const char* entry;
+};
+constexpr PlainKey PlainKeys[] = {
+    {Qt::Key_P, "mnuPassDice"},        {Qt::Key_Z, "mnuTableMove"}, {Qt::Key_Space, "mnuFlashBets"},
+    {Qt::Key_C, "mnuDisplayPropBets"}, {Qt::Key_R, "mnuAutoRoll"},  {Qt::Key_H, "mnuHyperDrive"},
+};
+
+// What Escape gives up: a keyed amount, then a command that waits for its bet.
+bool GiveUpSomething() {
+  if (!TablePlay.EnteredAmount.empty()) {
+    TablePlay.EnteredAmount.clear();
+    return true;
+  }
+  return std::exchange(TablePlay.TableAction, ActionNormal) != ActionNormal;
+}
+
+}  // namespace
+
+bool MainWindow::HandleKey(QKeyEvent* event) {
+  const int key = event->key();
+  const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  if (modifiers == Qt::ControlModifier && key >= Qt::Key_A && key <= Qt::Key_Z) {
+    const bool ran = TableIsIdle() && RunHotKey(static_cast<char>('A' + key - Qt::Key_A));
+    RefreshAll();
+    return ran;
+  }
+  if (modifiers != Qt::NoModifier) return false;
+  const bool handled = HandleTableKey(key);
+  if (handled) RefreshAll();
+  return handled;
+}
+
+bool MainWindow::HandleTableKey(int key) {
+  for (const PlainKey& plain : PlainKeys) {
+    if (plain.key != key) continue;
+    UpdateEntries();
+    Entry(plain.entry)->trigger();
+    return true;
+  }
+  switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+      view_->MoveHotSpot(key == Qt::Key_Left ? -1 : 1, 0);
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      view_->MoveHotSpot(0, key == Qt::Key_Up ? -1 : 1);
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      ClickSpot(TablePlay.HotSpot);
+      return true;
+    case Qt::Key_Backspace:
+      if (!KeyAmount(8)) ClickSpot(TablePlay.HotSpot, ClickKind::TakeOff);
+      return true;
+    case Qt::Key_Escape:
+      if (!GiveUpSomething() && Table.AutoRollOn != 0) StopAutoRoll();
+      return true;
+    case Qt::Key_Tab:
+      if (TablePlay.EnteredAmount.empty()) return false;
+      ClickSpot(TablePlay.HotSpot);
+      return true;
+  }
+  return HandleDigit(key);
+}
+
+// Digits make up an amount when amounts are keyed in; else 1 to 5 choose a check.
+bool MainWindow::HandleDigit(int key) {
+  if (IsOn(TableOption::KeyInBetAmounts)) {
+    const bool point = key == Qt::Key_Period || key == Qt::Key_Comma;
+    const bool taken = key < 128 && KeyAmount(point ? '.' : static_cast<char>(key));
+    return taken;
+  }
+  if (key < Qt::Key_1 || key > Qt::Key_5) return false;
+  ChooseCheck(key - Qt::Key_0);
+  return true;
+}
+
+}  // namespace tessarel

@@ -1,0 +1,534 @@
+#include "ui/table_play.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "automation/auto_roll.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/number_format.h"
+#include "base/single_byte_text.h"
+#include "config/language.h"
+#include "config/payoffs.h"
+#include "config/settings.h"
+#include "engine/atm.h"
+#include "engine/bet_limits.h"
+#include "engine/bets.h"
+#include "engine/players.h"
+#include "engine/rail.h"
+#include "engine/roll_driver.h"
+#include "files/game_views.h"
+#include "ui/layout/table_layout.h"
+#include "ui/table_texts.h"
+
+namespace tessarel {
+
+TablePlayState TablePlay;
+
+namespace {
+
+// Where a game keeps the choices of its window.
+constexpr int SelectedPlaceWord = 1, ChosenCheckInt = 1;
+constexpr int PropositionsWord = 5, StatusBoxWord = 6;
+
+int32_t& WordOf(TableOption option) {
+  switch (option) {
+    case TableOption::DisplayPropBets:
+      return At(GameViews.Display, PropositionsWord);
+    case TableOption::StatusBox:
+      return At(GameViews.Display, StatusBoxWord);
+    default:
+      return At(GameViews.Display, static_cast<int>(option));
+  }
+}
+
+std::string Text(int id) {
+  return std::string(GetText(id));
+}
+
+std::string NameOf(int place) {
+  return At(Table.PlayerName, place);
+}
+
+bool IsRailSpot(int spot) {
+  return spot >= RailSpot(1, 0) && spot < RailSpot(LastPlace + 1, 0);
+}
+
+int PlaceOfSpot(int spot) {
+  return spot / RailSpot(1, 0);
+}
+
+bool HasBet(int place, int number) {
+  return Bet(place, number) > Money();
+}
+
+// The amount that a bare click adds; with `from` no more than stands on the bet.
+Money CheckValue() {
+  return At(Settings.Denomination, ChosenCheck());
+}
+
+// --- What a change would do --------------------------------------------------------------------
+
+struct Trial {
+  Money delta;
+  std::string refusal;
+};
+
+std::string* HeardBy = nullptr;
+
+void Hear() {
+  if (HeardBy->empty()) *HeardBy = Message.MsgText;
+}
+
+// Lets `change` work on the table, keeps its BetDelta and the first message, and puts everything
+// back as it was.
+template <class Change>
+Trial TryOut(Change&& change) {
+  const auto table = std::make_unique<TableState>(Table);
+  const FrontEndCallbacks frontEnd = FrontEnd;
+  const MessageState message = Message;
+  const int32_t notices = std::exchange(Settings.Notices, NoticeActionsNotAllowed | NoticeLimits);
+  Trial trial;
+  HeardBy = &trial.refusal;
+  FrontEnd = FrontEndCallbacks{};
+  FrontEnd.ShowMessage = Hear;
+  change();
+  trial.delta = Table.BetDelta;
+  FrontEnd = frontEnd;
+  Message = message;
+  Settings.Notices = notices;
+  Table = *table;
+  return trial;
+}
+
+// --- Changing bets -----------------------------------------------------------------------------
+
+bool MayChange() {
+  return Table.HyperDriveOn == 0 && ConfirmScriptActive();
+}
+
+void ChangeAmount(int place, int number, Money amount) {
+  Table.Amount = amount;
+  Table.TableDirty = -1;
+  IsBet(number) ? PlaceBet(place, number) : ChangeBet(place, number);
+  if (!IsBet(number)) FrontEnd.DrawBet(place, number);
+}
+
+std::optional<Money> TakeEnteredAmount() {
+  const std::string entered = std::exchange(TablePlay.EnteredAmount, {});
+  if (entered.empty()) return std::nullopt;
+  return ParseMoney(entered);
+}
+
+// What a click on a bet changes: to the keyed amount, or by one check.
+Money ClickedChange(int place, int number, ClickKind kind) {
+  if (const auto entered = TakeEnteredAmount()) return *entered - Bet(place, number);
+  const Money check = CheckValue();
+  return kind == ClickKind::Add ? check : -std::min(check, Bet(place, number));
+}
+
+void TellNobodyHere() {
+  ShowMessage(Text(1), Text(2), msg::Ok);
+}
+
+void ClickBet(int spot, ClickKind kind) {
+  const int place = CurrentPlace();
+  if (place == 0) return TellNobodyHere();
+  if (!MayChange()) return;
+  const int number = NumberOfSpot(spot);
+  if (number != 0) ChangeAmount(place, number, ClickedChange(place, number, kind));
+}
+
+void ApplyAction(TableActionMode action, int spot) {
+  const int place = CurrentPlace();
+  int number = NumberOfSpot(spot);
+  if (place == 0 || number == 0 || !MayChange()) return;
+  if (number == bet::DontPassOdds && !HasBet(place, number)) number = bet::DontPass;
+  Table.TableDirty = -1;
+  switch (action) {
+    case ActionCallOn:
+      return CallBet(place, number, CallOn);
+    case ActionCallOff:
+      return CallBet(place, number, CallOff);
+    case ActionBuy:
+      return BuyPlaceBet(place, number);
+    default:
+      return ChangeAmount(place, number, -Bet(place, number));
+  }
+}
+
+// Whether the current player has a bet at a spot for the action to act on.
+bool Suits(int spot) {
+  const int place = CurrentPlace();
+  const int number = NumberOfSpot(spot);
+  if (place == 0 || number == 0) return false;
+  return HasBet(place, number) || (number == bet::DontPassOdds && HasBet(place, bet::DontPass));
+}
+
+// --- The rail ----------------------------------------------------------------------------------
+
+void FinishMove(int spot) {
+  const int from = TablePlay.TableAction - ActionMovePlayer;
+  const int to = PlaceOfSpot(spot);
+  if (!IsRailSpot(spot)) return;
+  TablePlay.TableAction = ActionNormal;
+  if (IsTaken(Table, from) && MovePlayer(from, to)) SelectPlace(to);
+  FrontEnd.DrawTable();
+}
+
+void ClickRail(int place) {
+  if (IsTaken(Table, place)) return SelectPlace(place);
+  if (Table.HyperDriveOn != 0 || !AddPlayer(place)) return;
+  Table.TableDirty = -1;
+  SelectPlace(place);
+}
+
+// The current player, after telling that there is none.
+int PlayerForCommand() {
+  const int place = CurrentPlace();
+  if (place == 0) TellNobodyHere();
+  return Table.HyperDriveOn != 0 ? 0 : place;
+}
+
+std::string OutlookOnRail(int place) {
+  if (TablePlay.TableAction > ActionMovePlayer) {
+    return FillIn(texts::MoveHere, {NameOf(TablePlay.TableAction - ActionMovePlayer)});
+  }
+  if (!IsTaken(Table, place)) return std::string(Localized(texts::JoinHere));
+  return FillIn(place == CurrentPlace() ? texts::PlayersMenu : texts::BetForPlayer,
+                {NameOf(place)});
+}
+
+// --- Saying what is there ----------------------------------------------------------------------
+
+std::string SpotName(int number) {
+  if (IsBet(number)) return std::string(At(BetName, number));
+  const int place = CurrentPlace();
+  const std::string& name = At(At(Table.CheckStackName, place), number - FirstStack);
+  return name.empty() ? "CheckStack #" + std::to_string(number - FirstStack) : name;
+}
+
+const SixTexts& ActionText(int action) {
+  switch (action) {
+    case ActionCallOn:
+      return texts::CallOnHere;
+    case ActionCallOff:
+      return texts::CallOffHere;
+    case ActionBuy:
+      return texts::BuyHere;
+    default:
+      return texts::RemoveHere;
+  }
+}
+
+ClickOutlook OutlookOfBet(int number) {
+  const int place = CurrentPlace();
+  if (place == 0) return {Text(1), false};
+  if (TablePlay.TableAction != ActionNormal) {
+    return {FillIn(ActionText(TablePlay.TableAction), {SpotName(number)}),
+            Suits(number < FirstStack ? number : 0)};
+  }
+  const std::optional<Money> entered =
+      TablePlay.EnteredAmount.empty() ? std::nullopt : ParseMoney(TablePlay.EnteredAmount);
+  const Money change = entered ? *entered - Bet(place, number) : CheckValue();
+  const Trial trial = TryOut([=] {
+    Table.Amount = change;
+    ChangeBet(place, number);
+  });
+  if (trial.delta == Money() && change != Money() && !trial.refusal.empty()) {
+    // The first line of a refusal is the player's name.
+    const size_t body = trial.refusal.find("\r\r");
+    const std::string why =
+        body == std::string::npos ? trial.refusal : trial.refusal.substr(body + 2);
+    return {OnOneLine(why), false};
+  }
+  const std::string amount = FormatMoney(entered ? *entered : trial.delta);
+  return {FillIn(entered ? texts::SetBetTo : texts::AddToBet, {SpotName(number), amount}), true};
+}
+
+bool PayoffVaries(int number) {
+  return number == bet::Field || number == bet::CAndE || number == bet::Horn ||
+         number == bet::World || number == bet::SevenPoint7 || number == bet::Midway ||
+         number == bet::SharpShooter || number == bet::RideTheLine || number == bet::Fire;
+}
+
+std::string PayoffText(int number) {
+  if (PayoffVaries(number)) return std::string(Localized(texts::PayoffVaries));
+  const PayoffRow& row = PayoffRowOf(number);
+  const bool isTo = row.PayForm == Money(FormTo);
+  const Money first = isTo ? row.PayNum : row.PayNum + row.PayDen;
+  return std::string(Localized(texts::Pays)) + FormatMoney(first) +
+         std::string(Localized(isTo ? texts::PaysTo : texts::PaysFor)) + FormatMoney(row.PayDen);
+}
+
+std::string StateText(int place, int number) {
+  switch (At(At(Table.BetWorking, place), number)) {
+    case CalledOff:
+      return std::string(Localized(texts::IsCalledOff));
+    case CalledOn:
+      return std::string(Localized(texts::IsCalledOn));
+    case NotWorking:
+      return std::string(Localized(texts::NotWorking));
+    default:
+      return std::string(Localized(texts::Working));
+  }
+}
+
+std::string TipAmount(Money amount) {
+  return FormatNumber(amount, "#,0.####");
+}
+
+// What goes with a standing bet besides its amount.
+void AddCompanions(std::string& tip, int place, int number) {
+  const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
+  if (lay || buy) {
+    const auto& vigs = lay ? At(Table.LayVig, place) : At(Table.BuyVig, place);
+    tip +=
+        "\r" + std::string(Localized(texts::Vig)) + TipAmount(At(vigs, (number - 1) % FamilySize));
+  }
+  const bool line = number == bet::PassLine || number == bet::DontPass;
+  if (line && HasBet(place, number + 1)) {
+    tip += "\r" + std::string(Localized(texts::TipOdds)) + TipAmount(Bet(place, number + 1));
+  }
+  tip += "\r" + std::string(TrimSpaces(StateText(place, number)));
+}
+
+std::string FullTip(int place, int number) {
+  std::string tip = SpotName(number) + ": " + TipAmount(Bet(place, number));
+  if (!IsBet(number)) return tip;
+  if (HasBet(place, number)) AddCompanions(tip, place, number);
+  return tip + "\r" + std::string(TrimSpaces(PayoffText(number)));
+}
+
+}  // namespace
+
+// --- Choices -----------------------------------------------------------------------------------
+
+bool IsOn(TableOption option) {
+  return WordOf(option) != 0;
+}
+
+void SetOption(TableOption option, bool on) {
+  WordOf(option) = on ? -1 : 0;
+}
+
+int CurrentPlace() {
+  int32_t& place = At(GameViews.Table, SelectedPlaceWord);
+  if (place >= 1 && place <= LastPlace && IsTaken(Table, place)) return place;
+  place = Table.TakenPlaces == 0 ? 0 : std::countr_zero(Table.TakenPlaces);
+  return place;
+}
+
+void SelectPlace(int place) {
+  if (place < 1 || place > LastPlace || !IsTaken(Table, place)) return;
+  At(GameViews.Table, SelectedPlaceWord) = place;
+  FrontEnd.DrawTable();
+}
+
+int ChosenCheck() {
+  const int32_t chosen = At(GameViews.General, ChosenCheckInt);
+  return chosen >= 1 && chosen <= 5 ? chosen : 2;
+}
+
+void ChooseCheck(int denomination) {
+  At(GameViews.General, ChosenCheckInt) = std::clamp(denomination, 1, 5);
+  FrontEnd.DrawStatus();
+}
+
+// --- Spots -------------------------------------------------------------------------------------
+
+int SpotOfPixel(int value) {
+  const int place = CurrentPlace();
+  if (place == 0) return value;
+  if (InFamily(value, DontComeOddsFamily)) {
+    const bool neither = !HasBet(place, value) && !HasBet(place, FlatUnder(value));
+    return neither ? FlatUnder(value) : value;
+  }
+  if (value == bet::DontPass && HasBet(place, value) && Table.Point != 0) return bet::DontPassOdds;
+  if (InFamily(value, PlaceFamily) && HasBet(place, value + FamilySize)) return value + FamilySize;
+  const int item = value % RailSpot(1, 0);
+  const bool ownStack = IsRailSpot(value) && PlaceOfSpot(value) == place &&
+                        item >= FirstRailStack && item <= LastRailStack;
+  return ownStack ? FirstStack + 1 + item - FirstRailStack : value;
+}
+
+int NumberOfSpot(int spot) {
+  if (IsBet(spot)) return spot;
+  if (spot <= FirstStack || spot > FirstStack + 4) return 0;
+  return At(At(Table.VisibleStack, CurrentPlace()), spot - FirstStack);
+}
+
+void ClickSpot(int spot, ClickKind kind) {
+  if (TablePlay.TableAction > ActionMovePlayer) return FinishMove(spot);
+  if (IsRailSpot(spot)) return ClickRail(PlaceOfSpot(spot));
+  if (spot == PropositionSwitch) {
+    SetOption(TableOption::DisplayPropBets, !IsOn(TableOption::DisplayPropBets));
+    return FrontEnd.DrawTable();
+  }
+  if (TablePlay.TableAction != ActionNormal) {
+    const auto action = static_cast<TableActionMode>(TablePlay.TableAction);
+    TablePlay.TableAction = ActionNormal;
+    ApplyAction(action, spot);
+    return FrontEnd.DrawTable();
+  }
+  if (spot != 0) ClickBet(spot, kind);
+}
+
+void DragBet(int from, int to) {
+  const int place = CurrentPlace();
+  const int source = NumberOfSpot(from), target = NumberOfSpot(to);
+  if (place == 0 || source == 0 || source == target || !MayChange()) return;
+  const Money amount = Bet(place, source);
+  if (target != 0) {
+    // What the rules would not take at its new spot is not taken down from the old one either.
+    const Trial trial = TryOut([=] {
+      SilentBets silent;
+      ChangeAmount(place, source, -amount);
+      Table.Amount = -Table.BetDelta;
+      ChangeBet(place, target);
+    });
+    if (trial.delta <= Money()) return ChangeAmount(place, target, amount);
+  }
+  ChangeAmount(place, source, -amount);
+  const Money taken = amount - Bet(place, source);
+  if (target != 0 && taken > Money()) ChangeAmount(place, target, taken);
+}
+
+// --- Commands ----------------------------------------------------------------------------------
+
+void PickBetFor(TableActionMode action) {
+  if (PlayerForCommand() == 0) return;
+  if (Suits(TablePlay.HotSpot)) {
+    ApplyAction(action, TablePlay.HotSpot);
+  } else {
+    TablePlay.TableAction = action;
+  }
+  FrontEnd.DrawTable();
+}
+
+void CallAllBets(bool on) {
+  const int place = PlayerForCommand();
+  if (place == 0 || !MayChange()) return;
+  Table.TableDirty = -1;
+  SilentBets silent;
+  for (int number = 1; number <= LastBet; ++number) {
+    if (HasBet(place, number)) CallBet(place, number, on ? CallOn : CallOff);
+  }
+}
+
+void RemoveAllBets() {
+  const int place = PlayerForCommand();
+  if (place == 0 || !MayChange()) return;
+  Table.TableDirty = -1;
+  SilentBets silent;
+  // Odds first: they would follow their flat bet, and stay when it has to.
+  for (const bool odds : {true, false}) {
+    for (int number = 1; number <= LastBet; ++number) {
+      if (IsOdds(number) == odds && HasBet(place, number)) RemoveBet(place, number);
+    }
+  }
+}
+
+void RenameCurrentPlayer() {
+  const int place = PlayerForCommand();
+  if (place != 0 && RenamePlayer(place)) FrontEnd.DrawTable();
+}
+
+void RemoveCurrentPlayer() {
+  const int place = PlayerForCommand();
+  if (place != 0 && MayChange() && DeletePlayer(place, true)) FrontEnd.DrawTable();
+}
+
+void MoveCurrentPlayer() {
+  const int place = PlayerForCommand();
+  if (place == 0 || !MayChange()) return;
+  TablePlay.TableAction = ActionMovePlayer + place;
+  FrontEnd.DrawTable();
+}
+
+void BuyInCurrentPlayer() {
+  const int place = PlayerForCommand();
+  if (place == 0) return;
+  const std::string question = FillIn(texts::BuyInQuestion, {NameOf(place)});
+  const std::string title(Localized(texts::BuyInTitle));
+  std::string offered = PlainText(Settings.AtmAmount);
+  while (AskForText(question, title, offered)) {
+    offered = Message.MsgInput;
+    const std::optional<Money> amount = ParseMoney(TrimSpaces(offered));
+    if (amount && *amount > Money()) {
+      ATM(place, false, *amount, true);
+      Table.TableDirty = -1;
+      return FrontEnd.DrawTable();
+    }
+    ShowMessage(std::string(Localized(texts::BuyInRefused)), title, msg::OkAlert);
+  }
+}
+
+void PassTheDice() {
+  if (Table.HyperDriveOn != 0 || !MayChange()) return;
+  Table.TableDirty = -1;
+  PassDice(PlayerAsked);
+  FrontEnd.DrawTable();
+}
+
+void RollTheDice() {
+  if (Table.RollInProgress == 0 && ConfirmScriptActive()) MakeRoll();
+}
+
+bool TableIsIdle() {
+  return Table.RollInProgress == 0 && Table.HyperDriveOn == 0 && Table.AutoRollOn == 0;
+}
+
+bool KeyAmount(char key) {
+  constexpr size_t MostDigits = 14;
+  std::string& entered = TablePlay.EnteredAmount;
+  if (key == 8) {
+    if (entered.empty()) return false;
+    entered.pop_back();
+    return true;
+  }
+  const bool point = key == '.' && entered.find('.') == std::string::npos;
+  if ((key < '0' || key > '9') && !point) return false;
+  if (entered.size() < MostDigits) entered += key;
+  return true;
+}
+
+// --- What is there -----------------------------------------------------------------------------
+
+ClickOutlook OutlookOfSpot(int spot) {
+  if (spot == 0) {
+    const bool picks = TablePlay.TableAction != ActionNormal;
+    return {picks ? std::string(Localized(texts::PickABet)) : std::string(), true};
+  }
+  if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
+  if (TablePlay.TableAction > ActionMovePlayer) return {};
+  if (spot == PropositionSwitch) {
+    return {std::string(Localized(IsOn(TableOption::DisplayPropBets) ? texts::HidePropositions
+                                                                     : texts::ShowPropositions)),
+            true};
+  }
+  const int number = NumberOfSpot(spot);
+  return number == 0 ? ClickOutlook{} : OutlookOfBet(number);
+}
+
+std::string InfoTipOf(int spot) {
+  const int number = NumberOfSpot(spot);
+  const int place = CurrentPlace();
+  if (number == 0 || place == 0) return {};
+  const Money amount = Bet(place, number);
+  switch (Settings.InfoTipLevel) {
+    case 1:
+      return amount == Money() ? std::string() : TipAmount(amount);
+    case 2:
+      return SpotName(number);
+    case 3:
+      return SpotName(number) + ": " + TipAmount(amount);
+    case 4:
+      return FullTip(place, number);
+    default:
+      return {};
+  }
+}
+
+}  // namespace tessarel
