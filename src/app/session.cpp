@@ -9,6 +9,7 @@
 #include "autobet/script_files.h"
 #include "autobet/script_store.h"
 #include "autobet/values.h"
+#include "automation/auto_roll.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -244,7 +245,7 @@ bool AskToStopUnattended() {
 bool AskToStopScripts() {
   if (AutoBet.ScriptRunning == 0) return true;
   if (ShowMessage(Text(145), Text(121), msg::AskYesDefault) != AnswerYes) return false;
-  AutoBet.ScriptRunning = 0;
+  InterruptAutoBetting();
   return true;
 }
 

@@ -560,6 +560,7 @@ bool CompileHotKeyScript() {
 void RunAutoBet() {
   if (!Scripts.ProgramReady || AutoBet.ScriptRunning != 0) return;
   AutoBet.ScriptRunning = -1;
+  AutoBet.AutoBetMessageStop = 0;
   const bool watched = Table.HyperDriveOn == 0;
   const int64_t began = watched ? TickMilliseconds() : 0;
   if (watched) FrontEnd.DrawStatus();

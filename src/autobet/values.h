@@ -69,6 +69,7 @@ struct AutoBetState {
   std::vector<ScriptString> Strings = std::vector<ScriptString>(1);
 
   int32_t ScriptRunning = 0;        // -1 in a cycle; set to 0, the cycle stops
+  int32_t AutoBetMessageStop = 0;   // -1: a user has stopped the cycle; a waiting step ends then
   int32_t CurrentScriptPlayer = 0;  // whose script runs
   int32_t Initializing = 0;         // the cycle is one before the first roll
   int32_t NewSessionBegins = 0;     // the cycle is the first of a session

@@ -98,9 +98,15 @@ bool ConfirmScriptActive() {
   const int32_t answer =
       ShowMessage(question, std::string(GetText(AutoBetActiveText)), msg::AskNoDefault);
   if (answer != AnswerYes) return false;
-  AutoBet.ScriptRunning = 0;
-  StopUnattended();
+  InterruptAutoBetting();
   return true;
+}
+
+void InterruptAutoBetting() {
+  AutoBet.ScriptRunning = 0;
+  AutoBet.AutoBetMessageStop = -1;
+  if (Table.HyperDriveOn != 0) Table.StopReason = "Auto-betting interrupted.";
+  StopUnattended();
 }
 
 }  // namespace tessarel

@@ -32,4 +32,8 @@ void AskSetTimeDelay();
 // Returns whether the action may be done; the cycle and an unattended run are stopped then.
 bool ConfirmScriptActive();
 
+// Ends the running cycle of the scripts, a step of it that waits to be shown, and an unattended
+// run; the Hyper-Drive tells why.
+void InterruptAutoBetting();
+
 }  // namespace tessarel

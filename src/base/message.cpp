@@ -15,8 +15,18 @@ int32_t DefaultAnswer(int32_t flags) {
   return (flags & msg::DefaultSecond) != 0 ? 1 : 0;
 }
 
+namespace {
+
+struct PendingAnswer {
+  PendingAnswer() { ++Message.AnswerPending; }
+  ~PendingAnswer() { --Message.AnswerPending; }
+};
+
+}  // namespace
+
 void ShowMessage() {
   Message.MsgResult = DefaultAnswer(Message.MsgFlags);
+  const PendingAnswer pending;
   FrontEnd.ShowMessage();
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessarel {
 
@@ -14,7 +15,7 @@ inline constexpr int32_t Button0 = 1, Button1 = 2, Button2 = 4, Button3 = 8, But
 inline constexpr int32_t YesNo = Button1 | Button2;
 inline constexpr int32_t Cancel = 32;
 inline constexpr int32_t Input = 64;
-inline constexpr int32_t List = 128;  // together with Input: a choice from a list
+inline constexpr int32_t List = 128;  // together with Input: a choice from MsgList
 inline constexpr int32_t PictureOk = 256, PictureAlert = 512, PictureQuestion = 1024,
                          PictureStop = 2048;
 inline constexpr int32_t DefaultFirst = 4096, DefaultSecond = 8192;
@@ -45,6 +46,8 @@ struct MessageState {
   int32_t MsgResult = 0;   // the answer: MessageAnswer, or the index of a button
   int32_t MsgTimeout = 0;  // milliseconds after which the box answers by itself; 0 never
   std::string MsgInput;    // with msg::Input: the text offered, and on return the text typed
+  std::vector<std::string> MsgList;  // with msg::List: the texts MsgInput may be
+  int32_t AnswerPending = 0;         // how many messages wait for an answer; no roll begins then
   std::string ErrorTitle = "Error";  // title of fault reports, in the language in force
   std::string PendingErrorText;      // collected by routines that cannot report at once
 };

@@ -432,7 +432,7 @@ bool AutoStopIsDue() {
 }
 
 void MakeRoll() {
-  if (Table.RollInProgress != 0) return;
+  if (Table.RollInProgress != 0 || Message.AnswerPending != 0) return;
   while (RollAndEnd()) {
   }
 }

@@ -14,7 +14,8 @@ RollPaceState RollPace;
 
 namespace {
 
-constexpr int64_t LookEvery = 1;  // milliseconds
+constexpr int64_t LookEvery = 1;         // milliseconds
+constexpr int64_t MessageCredit = 600;  // milliseconds
 
 void CountTo(int64_t steps) {
   for (volatile int64_t step = 0; step < steps;)
@@ -44,12 +45,16 @@ void ThrottleRoll() {
 
 void WaitForNextRoll() {
   const int64_t delay = (Settings.RollDelay * 1000).Floor();
-  const int64_t began = TickMilliseconds();
+  RollPace.RollStamp = TickMilliseconds();
   FrontEnd.RunPendingEvents();
-  while (Table.AutoRollOn != 0 && TickMilliseconds() - began < delay) {
+  while (Table.AutoRollOn != 0 && TickMilliseconds() - RollPace.RollStamp < delay) {
     Rest(LookEvery);
     FrontEnd.RunPendingEvents();
   }
+}
+
+void CreditMessageTime() {
+  RollPace.RollStamp = std::min(RollPace.RollStamp, TickMilliseconds() - MessageCredit);
 }
 
 }  // namespace tessarel

@@ -1,5 +1,5 @@
 // The pace of unattended rolling: the delay between two rolls of Auto-Roll, and the throttle that
-// slows the Hyper-Drive down. Only the roll driver calls these.
+// slows the Hyper-Drive down. The roll driver calls these; a front end credits its messages.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +12,8 @@ inline constexpr int32_t MaxThrottle = 100;
 struct RollPaceState {
   // Steps of the empty loop at throttle position 1; 0: not measured yet.
   int64_t LoopRate = 0;
+  // When the last roll ended, in TickMilliseconds: the next one waits from then on.
+  int64_t RollStamp = 0;
 };
 
 extern RollPaceState RollPace;
@@ -25,5 +27,9 @@ void ThrottleRoll();
 
 // Waits Settings.RollDelay seconds, running pending events at least once; ends when Auto-Roll does.
 void WaitForNextRoll();
+
+// After a message was answered: the time it took is no delay of the next roll, and 0.6 seconds of
+// the delay count as passed.
+void CreditMessageTime();
 
 }  // namespace tessarel

@@ -155,7 +155,37 @@ TEST_F(AutoRolling, RunningScriptIsStoppedOnlyOnYes) {
   FrontEnd.ShowMessage = [] { Message.MsgResult = AnswerYes; };
   EXPECT_TRUE(ConfirmScriptActive());
   EXPECT_EQ(AutoBet.ScriptRunning, 0);
+  EXPECT_EQ(AutoBet.AutoBetMessageStop, -1);
   EXPECT_EQ(Table.AutoRollOn, 0);
+}
+
+TEST_F(AutoRolling, InterruptedHyperDriveTellsWhy) {
+  Table.AutoRollOn = Table.HyperDriveOn = -1;
+  InterruptAutoBetting();
+  EXPECT_EQ(Table.HyperDriveOn, 0);
+  EXPECT_EQ(Shown, Shows({{"Hyper-Drive Stopped", "Auto-betting interrupted."}}));
+}
+
+TEST_F(AutoRolling, NoRollBeginsWhileAnAnswerIsPending) {
+  Seat(1);
+  Settings.BetNeededToShoot = 0;
+  Settings.AutoStopRolls = 1;
+  FrontEnd.ShowMessage = [] {
+    if (Message.MsgText == "Wait") StartAutoRoll();
+  };
+  ShowMessage("Wait", "", msg::Ok);
+  EXPECT_EQ(RollsInSession(), 0);
+  StartAutoRoll();
+  EXPECT_EQ(RollsInSession(), 1);
+}
+
+TEST_F(AutoRolling, MessageTimeIsNoDelay) {
+  RollPace.RollStamp = TickMilliseconds();
+  CreditMessageTime();
+  EXPECT_EQ(TickMilliseconds() - RollPace.RollStamp, 600);
+  AdvanceClock(5000);
+  CreditMessageTime();  // what has passed already counts in full
+  EXPECT_EQ(TickMilliseconds() - RollPace.RollStamp, 5600);
 }
 
 }  // namespace

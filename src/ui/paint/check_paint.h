@@ -10,6 +10,10 @@
 
 namespace tessarel {
 
+// Styles of Settings.CheckStyle and Settings.DiceStyle, from 0; any other number counts as the
+// start-up style.
+inline constexpr int CheckStyleCount = 5, DiceStyleCount = 4;
+
 // The colours of the ring that tells whose checks they are, for places 1 to 8.
 QColor PlaceColour(int place);
 
@@ -23,9 +27,12 @@ struct PileLook {
   bool flash = false;    // the ring is in its bright phase
   bool showAmount = false;
   PileButton button = PileButton::None;
+  double pixelsPerUnit = 1;  // of the screen, so that the lettering keeps its least size
 };
 
-// A pile for `amount`, its lowest check centred at `foot`.
+// A pile for `amount`, its lowest check centred at `foot`: up to three columns, each of up to
+// twelve checks, and a yellow marker for what is left below the smallest check. What does not fit
+// is taken from the most valuable checks, and then the amount stands with it in figures.
 void PaintPile(QPainter& painter, QPointF foot, Money amount, const PileLook& look);
 
 // What PaintPile covers for any of its looks, for repainting.

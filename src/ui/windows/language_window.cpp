@@ -1,0 +1,57 @@
+#include <QListWidget>
+
+#include "config/settings.h"
+#include "ui/text.h"
+#include "ui/windows/dialog_look.h"
+#include "ui/windows/dialog_texts.h"
+#include "ui/windows/game_dialogs.h"
+#include "ui/windows/language_texts.h"
+
+namespace tessarel {
+
+std::function<void()> LanguageChanged;
+
+namespace {
+
+using namespace language_text;
+
+class LanguageWindow : public QDialog {
+ public:
+  explicit LanguageWindow(QWidget* parent) : QDialog(parent) {
+    DressWindow(*this, Shown(Title));
+    QVBoxLayout* const column = MakeColumn(*this);
+    lstLanguages_ = new QListWidget;
+    lstLanguages_->setObjectName(QStringLiteral("lstLanguages"));
+    for (int32_t language = 0; language < LanguageCount; ++language) {
+      auto* const item =
+          new QListWidgetItem(Shown(NativeNames[static_cast<size_t>(language)]), lstLanguages_);
+      item->setData(Qt::UserRole, language);
+      item->setSizeHint({LookStep(44), LookStep(7)});
+    }
+    lstLanguages_->setCurrentRow(Settings.Language);
+    const int frame = 2 * lstLanguages_->frameWidth();
+    lstLanguages_->setFixedSize(LookStep(48), LanguageCount * LookStep(7) + frame);
+    column->addWidget(lstLanguages_);
+    QObject::connect(lstLanguages_, &QListWidget::itemClicked, this, &QDialog::accept);
+    QHBoxLayout* const row = AddButtonRow(column);
+    AddButton(row, Shown(Choose), [this] { accept(); })->setDefault(true);
+    AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    lstLanguages_->setFocus();
+  }
+
+  int32_t Picked() const { return lstLanguages_->currentItem()->data(Qt::UserRole).toInt(); }
+
+ private:
+  QListWidget* lstLanguages_;
+};
+
+}  // namespace
+
+void AskLanguage(QWidget* parent) {
+  LanguageWindow window(parent);
+  if (RunDialog(window) != QDialog::Accepted) return;
+  SetLanguage(window.Picked());
+  if (LanguageChanged) LanguageChanged();
+}
+
+}  // namespace tessarel

@@ -1,0 +1,136 @@
+#include <QCheckBox>
+#include <QRadioButton>
+
+#include "config/folders.h"
+#include "dice/roll_file.h"
+#include "ui/text.h"
+#include "ui/windows/dialog_look.h"
+#include "ui/windows/dialog_texts.h"
+#include "ui/windows/game_dialogs.h"
+#include "ui/windows/new_game_texts.h"
+
+namespace tessarel {
+
+NewGameChoicesState NewGameChoices;
+
+namespace {
+
+// How a roll file goes on "as it is": the words of what it does now.
+QString GoingOnCaption() {
+  const int text = RollFile.RollFileMode == RollFilePlay     ? 133
+                   : RollFile.RollFileMode == RollFileRecord ? 134
+                                                             : 135;
+  QString caption = Shown(GetText(text));
+  caption[0] = caption[0].toUpper();
+  return caption;
+}
+
+class NewGameWindow : public QDialog {
+ public:
+  explicit NewGameWindow(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmNew"));
+    DressWindow(*this, Shown(new_game_text::Title));
+    QVBoxLayout* const column = MakeColumn(*this);
+    column->addWidget(MakeHeading(Shown(new_game_text::Question)));
+    column->addSpacing(LookStep(1));
+    const NewGameChoicesState& last = NewGameChoices;
+    using namespace new_game_text;
+    chkPreserveCheckstacks_ =
+        AddBox(column, "chkPreserveCheckstacks", Checkstacks, last.PreserveCheckstacks);
+    chkPreservePrevSessions_ =
+        AddBox(column, "chkPreservePrevSessions", PrevSessions, last.PreservePrevSessions);
+    chkPreserveSessionsLogs_ =
+        AddBox(column, "chkPreserveSessionsLogs", SessionsLogs, last.PreserveSessionsLogs);
+    chkPreserveAutoBets_ = AddBox(column, "chkPreserveAutoBets", AutoBets, last.PreserveAutoBets);
+    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", new_game_text::RollFile,
+                                      last.PreserveDiceRollFile);
+    AddRollFileUses(column);
+    QHBoxLayout* const row = AddButtonRow(column);
+    QPushButton* const cmdOK = AddButton(row, Shown(Start), [this] { accept(); });
+    cmdOK->setDefault(true);
+    AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    chkPreserveCheckstacks_->setFocus();
+  }
+
+  // What is chosen of a roll file stays as it was when none is open.
+  void KeepChoices() const {
+    NewGameChoices.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
+    NewGameChoices.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
+    NewGameChoices.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
+    NewGameChoices.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
+    if (!hasRollFile_) return;
+    NewGameChoices.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
+    NewGameChoices.Rewind = optRewind_->isChecked();
+  }
+
+ private:
+  static QCheckBox* AddBox(QVBoxLayout* column,
+                           const char* name,
+                           const SixTexts& caption,
+                           bool checked) {
+    auto* const box = new QCheckBox(Shown(caption));
+    box->setObjectName(QLatin1String(name));
+    box->setChecked(checked);
+    column->addWidget(box);
+    return box;
+  }
+
+  QRadioButton* AddUse(QVBoxLayout* uses, const char* name, const QString& caption, bool chosen) {
+    auto* const button = new QRadioButton(caption);
+    button->setObjectName(QLatin1String(name));
+    button->setChecked(chosen);
+    uses->addWidget(button);
+    return button;
+  }
+
+  void AddRollFileUses(QVBoxLayout* column) {
+    const QString file = hasRollFile_ ? Shown(ShortName(tessarel::RollFile.RollFileName))
+                                      : Shown(new_game_text::NoRollFile);
+    chkPreserveDiceRollFile_->setText(chkPreserveDiceRollFile_->text() + " (" +
+                                      QString(file).replace("&", "&&") + ")");
+    chkPreserveDiceRollFile_->setEnabled(hasRollFile_);
+    if (!hasRollFile_) chkPreserveDiceRollFile_->setChecked(false);
+    auto* const uses = new QVBoxLayout;
+    uses->setContentsMargins(LookStep(6), 0, 0, 0);
+    uses->setSpacing(LookStep(2));
+    const bool rewinds = NewGameChoices.Rewind;
+    optRewind_ = AddUse(uses, "optRewind", Shown(new_game_text::Rewind), rewinds);
+    QRadioButton* const optContinue = AddUse(uses, "optContinue", GoingOnCaption(), !rewinds);
+    column->addLayout(uses);
+    const auto enableUses = [=, this] {
+      optRewind_->setEnabled(chkPreserveDiceRollFile_->isChecked());
+      optContinue->setEnabled(chkPreserveDiceRollFile_->isChecked());
+    };
+    enableUses();
+    QObject::connect(chkPreserveDiceRollFile_, &QCheckBox::toggled, this, enableUses);
+  }
+
+  const bool hasRollFile_ = !tessarel::RollFile.RollFileName.empty();
+  QCheckBox *chkPreserveCheckstacks_, *chkPreservePrevSessions_, *chkPreserveSessionsLogs_,
+      *chkPreserveAutoBets_, *chkPreserveDiceRollFile_;
+  QRadioButton* optRewind_;
+};
+
+NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
+  NewGameAnswer answer;
+  answer.keepScripts = choices.PreserveAutoBets;
+  answer.options.keepSessions = choices.PreservePrevSessions ? 1 : 0;
+  answer.options.keepStacks = choices.PreserveCheckstacks ? 1 : 0;
+  answer.options.keepLogs = choices.PreserveSessionsLogs ? 1 : 0;
+  const bool keepsRollFile = choices.PreserveDiceRollFile && !RollFile.RollFileName.empty();
+  answer.options.rollFileAction = !keepsRollFile   ? CloseRollFileNow
+                                  : choices.Rewind ? RewindRollFile
+                                                   : ContinueRollFile;
+  return answer;
+}
+
+}  // namespace
+
+std::optional<NewGameAnswer> AskNewGame(QWidget* parent) {
+  NewGameWindow window(parent);
+  if (RunDialog(window) != QDialog::Accepted) return std::nullopt;
+  window.KeepChoices();
+  return AnswerOf(NewGameChoices);
+}
+
+}  // namespace tessarel
