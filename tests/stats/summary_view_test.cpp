@@ -1,5 +1,6 @@
 #include "stats/summary_view.h"
 
+#include "config/language.h"
 #include "stats/stats_fixture.h"
 #include "stats/status_box.h"
 
@@ -83,6 +84,12 @@ TEST_F(SummaryTest, StatusBox) {
             (Strings{"Bankroll:  =950.00", "Rail:  =925.00", "1 Bet:  =25.00", "Lost:  =50.00"}));
   SetBankrollSlots(1, 1001);
   EXPECT_EQ(Lines(StatusBox(1))[3], "Won:  =1.00");
+  EXPECT_EQ(StatusBox(1)[3].Sign, 1);
+  SetLanguage(German);
+  PlaceBet(1, bet::Big6);
+  EXPECT_EQ(Lines(StatusBox(1)), (Strings{"Guthaben:  =1,001.00", "Tischrand:  =951.00",
+                                          "2 Wetten:  =50.00", "Gewonnen:  =1.00"}));
+  SetLanguage(English);
 }
 
 }  // namespace
