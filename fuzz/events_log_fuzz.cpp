@@ -2,12 +2,7 @@
 // printing end, a rebuilt index fits its log, and a line written afterwards is the last one. The
 // first two bytes say how many of the others are the index.
 
-#include <stdlib.h>
-
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "base/front_end.h"
@@ -16,19 +11,12 @@
 #include "files/events_log.h"
 #include "files/events_log_reader.h"
 #include "files/events_log_view.h"
+#include "fuzz_helpers.h"
 
 namespace tessarel {
 namespace {
 
 constexpr std::string_view NewLine = " Roll #1:  7 (3.4)";
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-void WriteBytes(const std::string& name, std::string_view bytes) {
-  std::ofstream(name, std::ios::binary) << bytes;
-}
 
 // The lines are the same one by one in either direction, and as a page.
 void ReadAll() {
@@ -78,12 +66,8 @@ void Run(std::string_view bytes) {
   Require(EventsLogView.TopLine == lines + 1);
 }
 
-// A folder of this process alone.
-void MakeFolder() {
-  std::string name = std::filesystem::temp_directory_path() / "tessarel-fuzz-XXXXXX";
-  Require(mkdtemp(name.data()) != nullptr);
-  SetAppFolder(name);
-  std::atexit([] { std::filesystem::remove_all(Folders.AppFolder); });
+void SetUp() {
+  SetAppFolder(FuzzFolder());
   FrontEnd.ShowMessage = [] { Message.MsgInput = "oll"; };
 }
 
@@ -92,7 +76,7 @@ void MakeFolder() {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tessarel;
-  if (Folders.AppFolder.empty()) MakeFolder();
-  Run({reinterpret_cast<const char*>(data), size});
+  if (Folders.AppFolder.empty()) SetUp();
+  Run(InputOf(data, size));
   return 0;
 }

@@ -5,9 +5,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
 #include <string>
 
 #include "app/session.h"
@@ -20,20 +17,14 @@
 #include "engine/roll_driver.h"
 #include "engine/table.h"
 #include "files/game_file.h"
+#include "fuzz_helpers.h"
 #include "stats/books.h"
 
 namespace tessarel {
 namespace {
 
 constexpr int Rolls = 4;
-constexpr const char* Folder = "/dev/shm/";
-constexpr const char* Name = "/dev/shm/tessarel-game-fuzz.tsg";
-
-void Require(const std::string& fault) {
-  if (fault.empty()) return;
-  std::fprintf(stderr, "%s\n", fault.c_str());
-  std::abort();
-}
+constexpr const char* Name = "fuzz.tsg";
 
 struct FuzzState {
   std::string savedGame;
@@ -42,7 +33,7 @@ struct FuzzState {
 FuzzState Fuzz;
 
 std::string MakeGame() {
-  StartUp(Folder);
+  StartUp(FuzzFolder());
   Dice.SeedRequest = 1;
   SeedRNG(-1);
   for (const int place : {1, 6})
@@ -56,12 +47,12 @@ std::string MakeGame() {
     MakeRoll();
   }
   SaveGame(Name);
-  return ReadWholeFile(Name, 1 << 22);
+  return ReadWholeFile(FuzzFolder() + Name, 1 << 22);
 }
 
 // Stretches of the input over the saved game; a first byte of 0 takes the input as a whole file.
 std::string GameOf(std::string game, const uint8_t* data, size_t size) {
-  if (size > 0 && data[0] == 0) return {reinterpret_cast<const char*>(data + 1), size - 1};
+  if (size > 0 && data[0] == 0) return std::string(InputOf(data + 1, size - 1));
   for (size_t at = 1; at + 4 < size;) {
     const size_t where = (data[at] | data[at + 1] << 8 | data[at + 2] << 16) % game.size() / 4 * 4;
     const size_t length = std::min<size_t>({data[at + 3], size - at - 4, game.size() - where});
@@ -72,16 +63,16 @@ std::string GameOf(std::string game, const uint8_t* data, size_t size) {
 }
 
 void Play(const uint8_t* data, size_t size) {
-  StartUp(Folder);
-  std::ofstream(Name, std::ios::binary) << GameOf(Fuzz.savedGame, data, size);
+  StartUp(FuzzFolder());
+  WriteBytes(FuzzFolder() + Name, GameOf(Fuzz.savedGame, data, size));
   OpenGame(Name);
-  Require(CheckTable());
-  Require(CheckBooks());
+  RequireNone(CheckTable());
+  RequireNone(CheckBooks());
   Settings.BetNeededToShoot = 0;
   Settings.Throttle = 0;
   for (int roll = 0; roll < Rolls; ++roll)
     MakeRoll();
-  Require(CheckTable());
+  RequireNone(CheckTable());
   ShutDown();
 }
 

@@ -3,17 +3,13 @@
 // the records behind it as they were.
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "files/hot_keys.h"
+#include "fuzz_helpers.h"
 
 namespace tessarel {
 namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 void CheckKeys() {
   for (int key = 0; key < 256; ++key)
@@ -40,7 +36,7 @@ void Run(const std::string& bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tessarel;
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  const std::string bytes(InputOf(data, size));
   Run(bytes);
   // Behind a true header of as many rows as there can be, the bytes get to be rows.
   std::string file = " Tessarel Hot-Key File";

@@ -1,24 +1,17 @@
 // Script files of either form with any bytes: whatever stands in them, they give lines of text, the
 // older wording comes out without a trace of how it was reworded, and no line grows out of hand.
 
-#include <unistd.h>
-
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "autobet/older_scripts.h"
 #include "autobet/script_files.h"
-#include "base/file_io.h"
+#include "fuzz_helpers.h"
 
 namespace tessarel {
 namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 // A new wording is longer than the old one by less than this factor.
 constexpr size_t Growth = 8;
@@ -30,8 +23,8 @@ void Upgrade(const std::string& line) {
 }
 
 void Read(std::string_view bytes) {
-  const std::string path = "/tmp/older_script_fuzz." + std::to_string(getpid()) + ".bet";
-  WriteFileAtomically(path, bytes);
+  const std::string path = FuzzFolder() + "fuzz.bet";
+  WriteBytes(path, bytes);
   std::vector<std::string> lines;
   Require(ReadScriptLines(path, lines));
   for (const std::string& line : lines) {
@@ -44,6 +37,6 @@ void Read(std::string_view bytes) {
 }  // namespace tessarel
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  tessarel::Read({reinterpret_cast<const char*>(data), size});
+  tessarel::Read(tessarel::InputOf(data, size));
   return 0;
 }

@@ -3,36 +3,19 @@
 // was written. The bytes behind the file's contents choose the edits.
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
-#include "base/fault.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
 #include "dice/probability_file.h"
+#include "fuzz_helpers.h"
 
 namespace tessarel {
 namespace {
 
 constexpr size_t ContentBytes = 1152, RecordBytes = 256;
 constexpr size_t EditBytes = 3, MostEdits = 8;
-
-template <class Body>
-void MayFail(Body&& body) {
-  try {
-    body();
-  } catch (const Fault&) {
-  }
-}
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-bool IsFace(int32_t die) {
-  return die >= 1 && die <= FaceCount;
-}
 
 void Draw() {
   for (const int32_t n : {0, 1, 2778, WholeShare, WholeShare + 1}) {
@@ -83,7 +66,7 @@ void Run(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tessarel;
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  const std::string bytes(InputOf(data, size));
   Run(bytes);
   // Behind a true format line the bytes get to be a matrix.
   std::string file = "Tessarel Probability File, Data Format 4.6";

@@ -3,7 +3,6 @@
 // A script that would go on for ever is stopped as a user would stop it.
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,15 +17,12 @@
 #include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
+#include "fuzz_helpers.h"
 
 namespace tessarel {
 namespace {
 
 constexpr int Rolls = 3;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 std::vector<std::string> LinesOf(std::string_view text) {
   std::vector<std::string> lines(1);
@@ -49,7 +45,7 @@ bool LeavesTheFolder(std::string_view text) {
 }
 
 void SetTable(std::vector<std::string> lines) {
-  StartUp("/tmp/");
+  StartUp(FuzzFolder());
   Dice.SeedRequest = 1;
   SeedRNG(-1);
   SeatPlayer(1, "Ann", 1000);
@@ -75,7 +71,7 @@ void Play(std::string_view text) {
   Require(Scripts.ProgramReady);
   for (int roll = 0; roll < Rolls; ++roll) {
     MakeRoll();
-    Require(CheckTable().empty());
+    RequireNone(CheckTable());
   }
 }
 
@@ -83,6 +79,6 @@ void Play(std::string_view text) {
 }  // namespace tessarel
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  tessarel::Play({reinterpret_cast<const char*>(data), size});
+  tessarel::Play(tessarel::InputOf(data, size));
   return 0;
 }

@@ -2,56 +2,22 @@
 // figured, sessions are deleted and logs merged and continued, at worst with a fault; the counts
 // agree with what was done and no file that is no log changes.
 
-#include <unistd.h>
-
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
-#include "base/fault.h"
 #include "base/file_io.h"
 #include "config/folders.h"
 #include "engine/table.h"
 #include "files/sessions_commands.h"
 #include "files/sessions_log.h"
+#include "fuzz_helpers.h"
 #include "stats/store.h"
 
 namespace tessarel {
 namespace {
 
 constexpr size_t LargestFile = 1 << 24;
-
-template <class Body>
-void MayFail(Body&& body) {
-  try {
-    body();
-  } catch (const Fault&) {
-  }
-}
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-// A folder in memory where there is one.
-std::string Folder() {
-  const std::string folder = std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp";
-  const std::string own = folder + "/tessarel-sessions-fuzz-" + std::to_string(getpid()) + "/";
-  std::filesystem::create_directories(own);
-  return own;
-}
-
-const std::string LogName = Folder() + "log.slg";
-
-void Put(const std::string& name, const std::string& bytes) {
-  DeleteFileIfPresent(name);
-  FILE* const file = std::fopen(name.c_str(), "wb");
-  Require(file != nullptr);
-  std::fwrite(bytes.data(), 1, bytes.size(), file);
-  std::fclose(file);
-}
 
 void CheckBars(const SessionStatistics& statistics) {
   for (const BarWidth width : {FineBars, MediumBars, WideBars, ExtraWideBars}) {
@@ -103,7 +69,7 @@ void Edit(const std::string& name, int32_t sessions, uint8_t choice) {
 }
 
 void Run(const std::string& bytes, int32_t view) {
-  const std::string& name = LogName;
+  const std::string name = FuzzFolder() + "log.slg";
   Table = {};
   SetPlayerName(1, "Ann");
   Table.SessionLogName[1] = name;
@@ -112,7 +78,7 @@ void Run(const std::string& bytes, int32_t view) {
   SessionsView.Include = SessionsView.Display = SessionsView.Width = view;
   SessionsView.BreakPoint = Money::FromRaw(int64_t{view} * INT32_MAX);
   RepairSessionsView();
-  Put(name, bytes);
+  WriteBytes(name, bytes);
   const int32_t sessions = CountSessions(name);
   Require(sessions >= 0 && static_cast<size_t>(sessions) <= bytes.size() / Record::Size);
   ReadThrough(sessions);
@@ -120,8 +86,8 @@ void Run(const std::string& bytes, int32_t view) {
     Edit(name, sessions, static_cast<uint8_t>(view));
   } else {
     MayFail([] { WriteSession(1); });
-    MayFail([] { ClearSessionsLog(LogName); });
-    MayFail([] { AppendSessions(LogName, LogName); });
+    MayFail([&name] { ClearSessionsLog(name); });
+    MayFail([&name] { AppendSessions(name, name); });
     DeleteSessionsLog(1);
     Require(ReadWholeFile(name, LargestFile) == bytes);
   }
@@ -132,7 +98,7 @@ void Run(const std::string& bytes, int32_t view) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tessarel;
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  const std::string bytes(InputOf(data, size));
   const int32_t view = size == 0 ? 15 : data[0];
   Run(bytes, view);
   // Behind a true header the bytes get to be the count and the sessions.

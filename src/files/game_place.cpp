@@ -161,7 +161,7 @@ void HandlingRecord(GameRecords& records, int place) {
       {2, &operators[AutoWinModify]},
       {3, &operators[AutoLossModify]},
       {4, &At(Table.HandleAmount, place)[PromptWinModify], 8},
-      {12, &At(Table.HandleUnits, place)[PromptWinModify], 6},
+      {12, &At(Table.HandleUnits, place)[PromptWinModify], 8},
   };
   records.Moneys(fields);
 }

@@ -1,6 +1,8 @@
 #include "files/game_file.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -84,6 +86,26 @@ class GameFileTest : public ::testing::Test {
     EXPECT_EQ(CheckBooks(), "");
     EXPECT_TRUE(sound);
   }
+  // A game that finds no room between `fill` and `makeRoom` is saved over a smaller one.
+  template <class Fill, class MakeRoom>
+  void ExpectOldGameToStand(Fill&& fill, MakeRoom&& makeRoom) const {
+    SeatPlayer(1, "Ann", 1000);
+    ASSERT_TRUE(SaveDefaultGame());
+    const std::string before = Bytes("default.tsg");
+    SeatPlayer(2, "Bob", 1000);
+    Table.TableDirty = -1;
+    fill();
+    const int files = Folder.EntryCount();
+    EXPECT_FALSE(SaveDefaultGame());
+    EXPECT_TRUE(Bytes("default.tsg") == before);
+    EXPECT_EQ(Folder.EntryCount(), files);
+    makeRoom();
+    EXPECT_EQ(Shown, std::vector<std::string>{"Error: Disk full, Error #61 occurred at: SaveGame"});
+    EXPECT_EQ(Table.TableDirty, -1);
+    EXPECT_TRUE(SaveDefaultGame());
+    ASSERT_TRUE(OpenGame("default.tsg"));
+    EXPECT_EQ(Table.PlayerName[2], "Bob");
+  }
 
   TemporaryFolder Folder;
   inline static std::vector<std::string> Shown;
@@ -102,7 +124,7 @@ class RandomPlay {
       SeatPlayer(place, "Player " + std::to_string(place), 200 + Upto(5000));
       At(Table.HandleWinningBets, place) = Upto(7);
       At(Table.HandleLosingBets, place) = Upto(7);
-      for (int slot = FirstHandlingSlot; slot <= 10; ++slot) {
+      for (int slot = FirstHandlingSlot; slot <= LastHandlingSlot; ++slot) {
         At(At(Table.HandleAmount, place), slot) = Upto(3);
         At(At(Table.HandleUnits, place), slot) = Upto(6);
       }
@@ -196,7 +218,8 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   SetStackName(3, 99, "Lost so far");
   Roll = {-1, 2, 4};
   MakeRoll();
-  Table.HandleUnits[3][10] = 5;
+  for (int slot = FirstHandlingSlot; slot <= LastHandlingSlot; ++slot)
+    At(Table.HandleUnits[3], slot) = (slot + 1) % 7;
   GameViews.Chips.assign(26, {1, 2, 3, 4, -5});
   GameViews.Windows[4] = 640;
   FileDialog.LastFolder[1] = "/systems/";
@@ -222,7 +245,8 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
       {ann + 7, 43 - 32, 10}, {ann + 6 + 3, 101 - 96, Money::FromRaw(15000)}, {ann + 13, 0, 1000},
       {ann + 14, 43 - 32, 10}, {ann + 20, 0, 1000}, {ann + 28, 42 - 32, 10}, {ann + 31, 7, 1},
       {ann + 141, 1, 1000}, {bob + 141, 1, 500}, {ann + 458, 3, 1000}, {ann + 460, 21, 1000},
-      {bob + 460, 8, 500}, {ann + 466, 17, 5}};
+      {bob + 460, 8, 500}, {ann + 466, 12, 6}, {ann + 466, 17, 4},
+      {ann + 466, 18, 5}, {ann + 466, 19, 6}, {ann + 466, 20, 0}};
   // clang-format on
   for (const auto& [record, text] : texts)
     EXPECT_EQ(file.At(record).Text(), text) << record;
@@ -353,6 +377,24 @@ TEST_F(GameFileTest, ValuesOutsideTheirLimitsAreBroughtBack) {
   EXPECT_EQ(Payoffs.Payoff[bet::Place6].PayDen, Money(6));
   EXPECT_EQ(Table.Shooter, 0);
   EXPECT_EQ(Dice.CurrentSeed, 0);
+}
+
+TEST_F(GameFileTest, UnitsOfHandledBetsAreMendedAndDollarsWhereNoneAreKept) {
+  SeatPlayer(3, "Ann", 1000);
+  constexpr int Slots[] = {12, 17, 18, 19};  // the last two are 0 in older files
+  constexpr std::pair<int, int> Units[] = {{0, 0}, {6, 6}, {7, 6}, {-1, 0}, {INT32_MAX, 6}};
+  for (const auto& [kept, read] : Units) {
+    SCOPED_TRACE(kept);
+    At(Table.HandleUnits, 3).fill(5);
+    SaveGame("a.tsg");
+    RecordFile file = RecordFile::Load(Path("a.tsg"));
+    for (const int slot : Slots)
+      file.At(FixedRecords + PlaceRecords).PutAmount(slot, kept);
+    file.Save(Path("a.tsg"));
+    ASSERT_TRUE(OpenGame("a.tsg"));
+    const PerHandlingSlot<Money> expected = {0, 0, 0, 0, 0, read, 5, 5, 5, 5, read, read, read};
+    EXPECT_EQ(At(Table.HandleUnits, 3), expected);
+  }
 }
 
 TEST_F(GameFileTest, RefusesFilesThatAreNoGames) {
@@ -518,7 +560,7 @@ TEST_F(GameFileTest, StartsWithTheNamedGameElseTheAutomaticOne) {
   EXPECT_EQ(Table.PlayerCount, 0);
 }
 
-TEST_F(GameFileTest, KilledOrWithoutRoomItLeavesTheOldFileOrTheNewOne) {
+TEST_F(GameFileTest, KilledItLeavesTheOldFileOrTheNewOne) {
   SeatPlayer(1, "Ann", 1000);
   const std::string first = Saved("first.tsg");
   SeatPlayer(2, "Bob", 1000);
@@ -541,20 +583,38 @@ TEST_F(GameFileTest, KilledOrWithoutRoomItLeavesTheOldFileOrTheNewOne) {
     const std::string left = Bytes("a.tsg");
     EXPECT_TRUE(left == first || left == second);
   }
+}
 
-  const std::string before = Bytes("a.tsg");
-  const int files = Folder.EntryCount();
+TEST_F(GameFileTest, FileThatMayNotGrowLeavesTheOldGame) {
   struct rlimit old = {};
   getrlimit(RLIMIT_FSIZE, &old);
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   const struct rlimit full = {FixedRecords * Record::Size, old.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &full);
-  const int fault = FaultOf([] { SaveGame("a.tsg"); });
-  setrlimit(RLIMIT_FSIZE, &old);
+  ExpectOldGameToStand([&full] { setrlimit(RLIMIT_FSIZE, &full); },
+                       [&old] { setrlimit(RLIMIT_FSIZE, &old); });
   std::signal(SIGXFSZ, handler);
-  EXPECT_EQ(fault, NumberOf(FaultNumber::DeviceFull));
-  EXPECT_TRUE(Bytes("a.tsg") == before);
-  EXPECT_EQ(Folder.EntryCount(), files);
+}
+
+// A child process has a disk of a megabyte for itself where the test's folder was.
+TEST_F(GameFileTest, FullDiskLeavesTheOldGame) {
+  constexpr int MayNotMount = 2;
+  const pid_t child = fork();
+  if (child == 0) {
+    const bool mounted = unshare(CLONE_NEWNS) == 0 &&
+                         mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                         mount("none", Folder.Path().c_str(), "tmpfs", 0, "size=1m") == 0;
+    if (!mounted) _exit(MayNotMount);
+    // Leaves room for a part of the second game.
+    ExpectOldGameToStand([this] { Write("other.txt", std::string(600'000, 'x')); },
+                         [this] { std::filesystem::remove(Path("other.txt")); });
+    _exit(HasFailure() ? EXIT_FAILURE : EXIT_SUCCESS);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (WIFEXITED(status) && WEXITSTATUS(status) == MayNotMount) {
+    GTEST_SKIP() << "No file systems can be mounted here.";
+  }
+  EXPECT_EQ(status, 0);
 }
 
 }  // namespace
