@@ -115,9 +115,9 @@ void CheckChooser::mouseMoveEvent(QMouseEvent* event) {
   const int denomination = CheckAt(pressedAt_);
   if ((event->buttons() & Qt::LeftButton) == 0 || !far || denomination == 0) return;
   auto* drag = new QDrag(this);
-  auto* data = new QMimeData;
-  data->setData(CheckMimeType, QByteArray::number(denomination));
-  drag->setMimeData(data);
+  auto* check = new QMimeData;
+  check->setData(CheckMimeType, QByteArray::number(denomination));
+  drag->setMimeData(check);
   QPixmap picture(CheckSide + 4, CheckSide + 4);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);

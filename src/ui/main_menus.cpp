@@ -9,7 +9,9 @@
 #include <initializer_list>
 
 #include "autobet/values.h"
+#include "app/session.h"
 #include "automation/auto_roll.h"
+#include "base/front_end.h"
 #include "base/message.h"
 #include "config/configuration.h"
 #include "config/settings.h"
@@ -22,6 +24,7 @@
 #include "ui/sound/sounds.h"
 #include "ui/table_presets.h"
 #include "ui/text.h"
+#include "ui/windows/game_dialogs.h"
 #include "ui/windows/help_window.h"
 #include "ui/windows/move_window.h"
 
@@ -157,7 +160,6 @@ struct MainMenus {
   void Colours();
   void Options();
   void Notices();
-  void Languages();
   void Auto();
   void Window();
   void Help();
@@ -332,21 +334,6 @@ void MainMenus::Notices() {
   menu = outer;
 }
 
-void MainMenus::Languages() {
-  static const std::array<SixTexts, LanguageCount> Names = {
-      {{"English"}, {"Español"}, {"Deutsch"}, {"Français"}, {"Türk"}, {"Italiano"}}};
-  QMenu* outer = std::exchange(menu, Submenu(texts::OptionsLanguage));
-  auto* group = new QActionGroup(&window);
-  for (int32_t language = 0; language < LanguageCount; ++language) {
-    const std::string name = "mnuLanguage" + std::to_string(language);
-    group->addAction(Add(
-        name.c_str(), At(Names, language), "",
-        [&w = window, language] { w.ChangeLanguage(language); }, {},
-        [language] { return Settings.Language == language; }));
-  }
-  menu = outer;
-}
-
 void MainMenus::Options() {
   Menu(texts::MenuOptions);
   Choices(
@@ -393,7 +380,7 @@ void MainMenus::Options() {
         Table.TableDirty = -1;
         w.TakeUpFontSize();
       });
-  Languages();
+  Add("mnuLanguage", texts::OptionsLanguage, "", [&w = window] { AskLanguage(&w); });
 }
 
 void MainMenus::Auto() {

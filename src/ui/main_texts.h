@@ -131,7 +131,7 @@ inline constexpr SixTexts
     OptionsFont = {"&Font size", "&Tamaño de letra", "&Schriftgröße", "&Taille des caractères",
                    "&Yazi boyu", "&Grandezza caratteri"},
     OptionsNotices = {"&Notices", "A&visos", "&Hinweise", "A&vis", "&Uyarilar", "A&vvisi"},
-    OptionsLanguage = {"&Language", "&Idioma", "Sp&rache", "&Langue", "&Dil", "&Lingua"},
+    OptionsLanguage = {"&Language...", "&Idioma...", "Sp&rache...", "&Langue...", "&Dil...", "&Lingua..."},
     // Auto
     AutoRoll = {"&Auto-Roll", "&Auto-Roll", "&Auto-Roll", "&Auto-Roll", "&Auto-Roll",
                 "&Auto-Roll"},

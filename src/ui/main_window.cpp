@@ -17,7 +17,7 @@
 #include "base/message.h"
 #include "config/folders.h"
 #include "config/settings.h"
-#include "engine/rail.h"
+#include "engine/players.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "files/game_views.h"
@@ -27,6 +27,7 @@
 #include "ui/table_presets.h"
 #include "ui/text.h"
 #include "ui/windows/game_dialogs.h"
+#include "ui/windows/help_window.h"
 #include "ui/windows/message_window.h"
 #include "ui/windows/move_window.h"
 #include "ui/windows/roll_console.h"
@@ -83,12 +84,18 @@ MainWindow::MainWindow(const std::string& appFolder)
   BuildMenus();
   ConnectTable();
   FillFrontEnd();
+  LanguageChanged = [this] { TakeUpLanguage(); };
+  NoticesChanged = [this] { UpdateEntries(); };
+  OpenHelpTopic = [this](int32_t topic) { ShowHelp(this, topic); };
   qApp->installEventFilter(this);
   sincePump_.start();
 }
 
 MainWindow::~MainWindow() {
   FrontEnd = FrontEndCallbacks{};
+  LanguageChanged = nullptr;
+  NoticesChanged = nullptr;
+  OpenHelpTopic = nullptr;
   Main = nullptr;
 }
 
@@ -331,12 +338,11 @@ void MainWindow::OpenGameFile() {
   TakeUpGame();
 }
 
-void MainWindow::ChangeLanguage(int32_t language) {
-  SetLanguage(language);
+void MainWindow::TakeUpLanguage() {
   Table.TableDirty = -1;
   SetCaptions();
   view_->DrawTable();
-  ShowSmallWindows();
+  RefreshAll();
 }
 
 void MainWindow::TakeUpFontSize() {

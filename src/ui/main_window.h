@@ -60,7 +60,7 @@ class MainWindow : public QMainWindow {
   void ShowPlayerMenu(int place, QPoint at);
   void ToggleRun(bool hyperDrive);
   void ShowHint();
-  void ChangeLanguage(int32_t language);
+  void TakeUpLanguage();
   void NewGame();
   void OpenGameFile();
   void Animate();

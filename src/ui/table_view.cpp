@@ -28,21 +28,6 @@ constexpr int SettleSizeMs = 90, TipDelayMs = 450;
 
 // Words of GameViews.Table.
 constexpr int RotationWord = 15, ZoomWord = 18, WordsOfView = 4;
-constexpr int LeastZoom = 50, MostZoom = 400;  // percent
-
-int32_t& Rotation() {
-  return At(GameViews.Table, RotationWord);
-}
-
-// The zoom in percent; a game that never set it has 0.
-int ZoomInForce() {
-  const int32_t zoom = At(GameViews.Table, ZoomWord);
-  return zoom == 0 ? 100 : std::clamp(zoom, LeastZoom, MostZoom);
-}
-
-int DegreesInForce() {
-  return ((Rotation() % 360) + 360) % 360;
-}
 
 std::vector<int64_t> PayoffsInForce() {
   std::vector<int64_t> figures;
@@ -106,8 +91,8 @@ TableView::PictureKey TableView::KeyInForce() const {
   key.payoffs = PayoffsInForce();
   key.size = size();
   key.pixelRatio = devicePixelRatioF();
-  key.degrees = DegreesInForce();
-  key.zoom = ZoomInForce();
+  key.degrees = Degrees();
+  key.zoom = ZoomPercent();
   key.shift = shift_;
   return key;
 }
@@ -208,30 +193,41 @@ void TableView::DrawTable() {
 
 // --- How the table is seen ---------------------------------------------------------------------
 
-void TableView::Zoom(double factor) {
-  const int zoom = static_cast<int>(std::lround(ZoomInForce() * factor));
-  At(GameViews.Table, ZoomWord) = std::clamp(zoom, LeastZoom, MostZoom);
-  if (ZoomInForce() <= 100) shift_ = {};
+// A game that never set the zoom has 0 there.
+int TableView::ZoomPercent() const {
+  const int32_t zoom = At(GameViews.Table, ZoomWord);
+  return zoom == 0 ? 100 : std::clamp(zoom, LeastZoom, MostZoom);
+}
+
+int TableView::Degrees() const {
+  return (At(GameViews.Table, RotationWord) % 360 + 360) % 360;
+}
+
+void TableView::SetView(int zoomPercent, int degrees) {
+  At(GameViews.Table, ZoomWord) = std::clamp(zoomPercent, LeastZoom, MostZoom);
+  At(GameViews.Table, RotationWord) = (degrees % 360 + 360) % 360;
+  if (ZoomPercent() <= 100) shift_ = {};
   DrawTable();
+}
+
+void TableView::Zoom(double factor) {
+  SetView(static_cast<int>(std::lround(ZoomPercent() * factor)), Degrees());
 }
 
 void TableView::Rotate(int degrees) {
-  Rotation() = (DegreesInForce() + degrees + 360) % 360;
-  DrawTable();
+  SetView(ZoomPercent(), Degrees() + degrees);
 }
 
 void TableView::ResetView() {
-  Rotation() = 0;
-  At(GameViews.Table, ZoomWord) = 100;
   shift_ = {};
-  DrawTable();
+  SetView(100, 0);
 }
 
 void TableView::SaveView(int view) {
   const int first = view * WordsOfView;
   for (int k = 0; k < WordsOfView; ++k)
     At(GameViews.SavedViews, first + k) = At(GameViews.Table, RotationWord + k);
-  At(GameViews.SavedViews, first + WordsOfView - 1) = ZoomInForce();
+  At(GameViews.SavedViews, first + WordsOfView - 1) = ZoomPercent();
 }
 
 void TableView::RestoreView(int view) {
@@ -291,7 +287,7 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
     const int number = NumberOfSpot(pressedSpot_);
     const bool own = number != 0 && CurrentPlace() != 0 && Bet(CurrentPlace(), number) > Money();
     dragging_ = own;
-    panning_ = !own && pressedSpot_ == 0 && ZoomInForce() > 100;
+    panning_ = !own && pressedSpot_ == 0 && ZoomPercent() > 100;
     if (dragging_) setCursor(Qt::ClosedHandCursor);
   }
   if (dragging_) {

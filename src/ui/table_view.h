@@ -31,6 +31,10 @@ class TableView : public QWidget {
   void ShowerChecks();
 
   // How the table is seen. Kept in GameViews.
+  static constexpr int LeastZoom = 50, MostZoom = 400;  // percent
+  int ZoomPercent() const;
+  int Degrees() const;  // 0 to 359
+  void SetView(int zoomPercent, int degrees);
   void Zoom(double factor);
   void Rotate(int degrees);
   void ResetView();

@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("Tessarel");
   QApplication::setDesktopFileName("tessarel");
   QApplication::setWindowIcon(QIcon(QString::fromStdString(DataFolder() + "/icons/tessarel.svg")));
-  SetCasinoLook(application);
+  ApplyCasinoStyle();
 
   const std::string folder = ProgramFolder();
   FrontEnd.ShowMessage = [] { ShowMessageWindow(nullptr); };

@@ -1,0 +1,3 @@
+#pragma once
+#include "config/language.h"
+namespace tessarel { int TablePresetCount(); const char* TablePresetName(int); const SixTexts& TablePresetCaption(int); void ApplyTablePreset(int); }
