@@ -7,7 +7,10 @@
 #include <QPointF>
 #include <QRectF>
 #include <QTransform>
+#include <array>
 #include <vector>
+
+#include "engine/bet_numbers.h"
 
 namespace tessarel {
 
@@ -39,15 +42,23 @@ struct Region {
   QPainterPath outline;
 };
 
+// The numbers that checks stand on: bets 1 to 93 and the stacks on the rail, 101 to 104.
+inline constexpr int FirstRailNumber = 101, LastRailNumber = 104;
+
 struct TableLayout {
   LayoutOptions options;
   std::vector<Region> regions;  // none overlaps another
+  // By place and number; read through CheckPosition.
+  std::array<std::array<QPointF, LastRailNumber + 1>, LastPlace + 1> positions{};
 };
 
 TableLayout MakeTableLayout(const LayoutOptions& options);
 
 // Whether the spot has a region.
 bool HasRegion(const TableLayout& layout, int spot);
+
+// The outlines of all regions of a spot in one.
+QPainterPath OutlineOf(const TableLayout& layout, int spot);
 
 // Where the checks of a place stand: a bet 1 to 93, or 101 to 104 for a stack on the rail. Bets
 // without a region of their own stand on the proposition switch. The point is the middle of the
@@ -57,10 +68,12 @@ QPointF CheckPosition(const TableLayout& layout, int place, int number);
 // How large a check is drawn, in layout units.
 inline constexpr double CheckDiameter = 26;
 
-QRectF RailPlaceArea(int place);              // the plate of a place: name, bankroll, dice
+// The plate of a place: name, bankroll, dice. At the ends it is taller than wide, for a text that
+// is turned towards the player.
+QRectF RailPlaceArea(int place);
 QPointF PuckPosition(int point, bool right);  // of an end; point 0: OFF, beside Don't Come
-QPointF DiceRest();                           // between the two dice at their stand
-QRectF FeltArea();                            // the felt inside the rail
+QPointF DiceRest();  // between the two dice at their stand, in the bowl before the stick
+QRectF FeltArea();   // the felt inside the rail
 
 // From layout units to a picture of `width` by `height` pixels: fitted to it, then turned about
 // its middle by `degrees`, enlarged by `zoom` and moved.

@@ -2,6 +2,8 @@
 // dice, puck and players are drawn over it.
 #pragma once
 
+#include <QColor>
+#include <QFont>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -12,6 +14,11 @@ namespace tessarel {
 // Paints in layout units; the painter carries the transform. `pixelsPerUnit` lets lettering keep
 // its least size on the screen.
 void PaintTable(QPainter& painter, const TableLayout& layout, double pixelsPerUnit);
+
+// What changes on the felt from roll to roll, over the plain table: the light over the point, the
+// numbers marked for All Small, Make All and All Tall, the rolls of 4 Rolls No 7 and the points
+// made for Fire.
+void PaintTableState(QPainter& painter, const TableLayout& layout, double pixelsPerUnit);
 
 // The light over a region: what the pointer is on, or, dimmed, what cannot be bet now.
 void PaintRegionLight(QPainter& painter, const TableLayout& layout, int spot, bool possible);

@@ -1,0 +1,283 @@
+// Lettering, dice and lamps of the proposition field.
+#include <algorithm>
+
+#include "engine/table.h"
+#include "ui/layout/layout_geometry.h"
+#include "ui/paint/contrast.h"
+#include "ui/paint/felt_lettering.h"
+#include "ui/paint/table_paint.h"
+#include "ui/table_colours.h"
+#include "ui/text.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr SixTexts MoreBets = {"More bets",     "Más apuestas",   "Mehr Wetten",
+                               "Plus de paris", "Daha çok bahis", "Altre puntate"};
+constexpr SixTexts FewerBets = {"Less", "Menos", "Weniger", "Moins", "Daha az", "Meno"};
+
+QRectF Inset(const QRectF& area, double x, double y) {
+  return area.adjusted(x, y, -x, -y);
+}
+
+// The pair of dice that wins a bet that only one pair wins; a null point for others.
+QPoint PairOf(int number) {
+  switch (number) {
+    case bet::Two:
+      return {1, 1};
+    case bet::Three:
+      return {1, 2};
+    case bet::Eleven:
+      return {5, 6};
+    case bet::Twelve:
+      return {6, 6};
+    default:
+      break;
+  }
+  if (number >= bet::Hard4 && number <= bet::Hard10) {
+    const int face = number - bet::Hard4 + 2;
+    return {face, face};
+  }
+  if (number >= bet::Hop13 && number <= bet::Hop55) {
+    const std::string_view faces = At(BetName, number).substr(4);
+    return {faces[0] - '0', faces[1] - '0'};
+  }
+  return {};
+}
+
+void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least) {
+  const QPoint pair = PairOf(number);
+  const bool hard = number >= bet::Hard4 && number <= bet::Hard10;
+  const DiceInk ink = hard ? HardwayInk() : PropositionInk();
+  const Lettering lettering{ColourOfTable(colour::Lines), 34, least};
+  const QRectF area = Inset(box, 8, 7);
+  // Wide boxes have their words beside the dice, others below them.
+  if (box.width() > 2.6 * box.height()) {
+    const double dice = std::min(area.width() * 0.42, 2.16 * area.height() * 0.86);
+    PaintPrintedPair(painter, {area.left() + 4, area.top(), dice, area.height()}, pair.x(),
+                     pair.y(), ink);
+    PaintWords(painter,
+               {area.left() + dice + 12, area.top(), area.width() - dice - 16, area.height()},
+               {PayText(number)}, lettering);
+    return;
+  }
+  const QRectF words(area.left(), area.bottom() - area.height() * 0.44, area.width(),
+                     area.height() * 0.44);
+  const bool paid = PaintWords(painter, words, {PayText(number)}, lettering);
+  const double height = paid ? area.height() * 0.5 : area.height() * 0.7;
+  const double top = paid ? area.top() : area.center().y() - height / 2;
+  PaintPrintedPair(painter, {area.left(), top, area.width(), height}, pair.x(), pair.y(), ink);
+}
+
+// Lamps of the special bets: what they stand for and whether the game has lit them.
+struct Lamp {
+  QString label;
+  bool lit = false;
+};
+
+QList<Lamp> LampsOf(int number) {
+  const auto totals = [](int first, int last, bool labelled) {
+    QList<Lamp> lamps;
+    for (int total = first; total <= last; ++total) {
+      if (total == 7) continue;
+      lamps << Lamp{labelled ? QString::number(total) : QString(),
+                    (Table.MarkedNumbers >> total & 1) != 0};
+    }
+    return lamps;
+  };
+  switch (number) {
+    case bet::AllSmall:
+      return totals(2, 6, true);
+    case bet::AllTall:
+      return totals(8, 12, true);
+    case bet::MakeAll:
+      return totals(2, 12, false);
+    case bet::FourRollsNo7: {
+      QList<Lamp> lamps;
+      for (int roll = 1; roll <= 4; ++roll)
+        lamps << Lamp{QString::number(roll), Table.FourRollCount >= roll};
+      return lamps;
+    }
+    case bet::Fire: {
+      QList<Lamp> lamps;
+      for (const int point : PointNumbers)
+        lamps << Lamp{QString::number(point), (Table.FirePointsMask >> point & 1) != 0};
+      return lamps;
+    }
+    default:
+      return {};
+  }
+}
+
+// Where a special bet has its name, its lamps and what it pays.
+struct PlateParts {
+  QRectF name, lamps, pays;
+};
+
+PlateParts PartsOfPlate(const QRectF& box, bool hasLamps) {
+  const QRectF area = Inset(box, 7, 6);
+  const double third = area.height() * (hasLamps ? 0.32 : 0.5);
+  const double lamps = hasLamps ? area.height() - 2 * third : 0;
+  return {{area.left(), area.top(), area.width(), third - 2},
+          {area.left(), area.top() + third, area.width(), lamps},
+          {area.left(), area.bottom() - third + 2, area.width(), third - 2}};
+}
+
+void PaintLamps(QPainter& painter, const QRectF& area, int number, double least, bool litOnes) {
+  const QList<Lamp> lamps = LampsOf(number);
+  const double step = area.width() / static_cast<double>(lamps.size());
+  const double radius = std::min(step * 0.46, area.height() / 2 - 1);
+  const QColor ink = ColourOfBet(number), felt = ColourOfTable(colour::Felt);
+  double x = area.left() + step / 2;
+  for (const Lamp& lamp : lamps) {
+    const QPointF middle(x, area.center().y());
+    x += step;
+    if (litOnes != lamp.lit && litOnes) continue;
+    painter.setPen(QPen(ink, 1.6));
+    painter.setBrush(litOnes ? QBrush(QColor(255, 206, 84)) : QBrush(Qt::NoBrush));
+    painter.drawEllipse(middle, radius, radius);
+    const double side = 1.56 * radius;
+    PaintWords(painter, {middle.x() - side / 2, middle.y() - side / 2, side, side}, {lamp.label},
+               {litOnes ? QColor(30, 22, 0) : ink, 1.5 * radius, least});
+  }
+  Q_UNUSED(felt);
+}
+
+QStringList PlateNames(int number) {
+  switch (number) {
+    case bet::AllSmall:
+      return {"ALL SMALL"};
+    case bet::MakeAll:
+      return {"MAKE ALL"};
+    case bet::AllTall:
+      return {"ALL TALL"};
+    case bet::FourRollsNo7:
+      return {"4 ROLLS NO 7", "4 NO 7"};
+    case bet::Point7:
+      return {"POINT 7"};
+    case bet::SevenPoint7:
+      return {"7 POINT 7"};
+    case bet::SharpShooter:
+      return {"SHARP SHOOTER", "SHARP\nSHOOTER"};
+    case bet::RideTheLine:
+      return {"RIDE THE LINE", "RIDE THE\nLINE"};
+    default:
+      return {"FIRE"};
+  }
+}
+
+QStringList PlatePays(int number) {
+  const auto upTo = [](const PayoffRow& row) {
+    return QStringList{"UP TO " + PayText(row), PayText(row)};
+  };
+  switch (number) {
+    case bet::SevenPoint7:
+      return {PayText(Payoffs.SevenPointSevenPayoff[1]) + " · " +
+                  PayText(Payoffs.SevenPointSevenPayoff[2]),
+              PayText(Payoffs.SevenPointSevenPayoff[2])};
+    case bet::SharpShooter:
+      return upTo(Payoffs.SharpShooterPayoff.back());
+    case bet::RideTheLine:
+      return upTo(Payoffs.RideTheLinePayoff.back());
+    case bet::Fire:
+      return upTo(Payoffs.FirePayoff.back());
+    default:
+      return {PayText(number)};
+  }
+}
+
+void PaintPlate(QPainter& painter, int number, const QRectF& box, double least) {
+  const bool hasLamps = !LampsOf(number).isEmpty();
+  const PlateParts parts = PartsOfPlate(box, hasLamps);
+  const Lettering name{ColourOfBet(number), 30, least},
+      pays{ColourOfTable(colour::Lines), 26, least};
+  if (hasLamps && PaintWords(painter, parts.name, PlateNames(number), name)) {
+    PaintWords(painter, parts.pays, PlatePays(number), pays);
+    PaintLamps(painter, parts.lamps, number, least, false);
+    return;
+  }
+  if (FittingSize(parts.name, PlateNames(number).first(), name) > 0 &&
+      FittingSize(parts.pays, PlatePays(number).last(), pays) > 0) {
+    PaintWords(painter, parts.name, PlateNames(number), name);
+    PaintWords(painter, parts.pays, PlatePays(number), pays);
+    return;
+  }
+  PaintWords(painter, Inset(box, 7, 6), PlateNames(number), name);
+}
+
+void PaintDiscs(QPainter& painter, const QRectF& pair, double least) {
+  struct Disc {
+    QString letter;
+    int index;
+    double y;
+  };
+  const double radius = pair.width() / 2;
+  for (const Disc& disc : {Disc{"C", colour::CrapsDisc, pair.top() + radius},
+                           Disc{"E", colour::ElevenDisc, pair.bottom() - radius}}) {
+    const QPointF middle(pair.center().x(), disc.y);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ColourOfTable(disc.index));
+    painter.drawEllipse(middle, radius - 2, radius - 2);
+    const double side = 1.3 * radius;
+    PaintWords(painter, {middle.x() - side / 2, middle.y() - side / 2, side, side}, {disc.letter},
+               {ColourOfTable(colour::Felt), 1.5 * radius, std::min(least, 1.5 * radius)});
+  }
+}
+
+void PaintNamed(
+    QPainter& painter, int number, const QRectF& box, const QString& name, double least) {
+  const bool split = PartsOf(number) > 1;
+  const QString pays = PayText(number);
+  const QStringList texts =
+      split ? QStringList{name} : QStringList{name + "   " + pays, name + " " + pays, name};
+  PaintWords(painter, Inset(box, 10, 6), texts, {ColourOfBet(number), 44, least});
+}
+
+void PaintSwitch(QPainter& painter, const QRectF& box, bool open, double least) {
+  const QColor ink = ColourOfTable(colour::Lines);
+  const QString text = Shown(open ? FewerBets : MoreBets).toUpper();
+  PaintWords(painter, Inset(box, 8, 8), {text}, {ink, 26, least});
+}
+
+}  // namespace
+
+void PaintPropositionLettering(QPainter& painter, const TableLayout& layout, double pixelsPerUnit) {
+  const double least = LeastLettering(pixelsPerUnit);
+  for (const Region& region : layout.regions) {
+    const QRectF box = region.outline.boundingRect();
+    const int number = region.spot;
+    if (number == PropositionSwitch) {
+      PaintSwitch(painter, box, layout.options.propositions, least);
+    } else if (number == bet::CAndE) {
+      PaintDiscs(painter, box, least);
+    } else if (IsBet(number) && !PairOf(number).isNull()) {
+      PaintDiceBet(painter, number, box, least);
+    } else if (number == bet::Seven) {
+      PaintNamed(painter, number, box, "SEVEN", least);
+    } else if (number == bet::Craps) {
+      PaintNamed(painter, number, box, "ANY CRAPS", least);
+    } else if (number == bet::Horn) {
+      PaintNamed(painter, number, box, "HORN", least);
+    } else if (number == bet::World) {
+      PaintNamed(painter, number, box, "WORLD", least);
+    } else if (number == bet::Over7) {
+      PaintNamed(painter, number, box, "OVER 7", least);
+    } else if (number == bet::Under7) {
+      PaintNamed(painter, number, box, "UNDER 7", least);
+    } else if (number >= bet::AllSmall && number <= bet::Fire && number != bet::Midway) {
+      PaintPlate(painter, number, box, least);
+    }
+  }
+}
+
+void PaintLitLamps(QPainter& painter, const TableLayout& layout, double pixelsPerUnit) {
+  for (const Region& region : layout.regions) {
+    if (region.spot < bet::AllSmall || region.spot > bet::Fire || LampsOf(region.spot).isEmpty())
+      continue;
+    const PlateParts parts = PartsOfPlate(region.outline.boundingRect(), true);
+    PaintLamps(painter, parts.lamps, region.spot, LeastLettering(pixelsPerUnit), true);
+  }
+}
+
+}  // namespace tessarel
