@@ -10,7 +10,7 @@ namespace tessarel {
 
 namespace {
 
-constexpr double MarginSteps = 3.5, GapSteps = 2, LeastButtonSteps = 19;
+constexpr double MarginSteps = 4, GapSteps = 2, LeastButtonSteps = 19;
 constexpr double HeadingScale = 1.25;
 
 }  // namespace
@@ -47,7 +47,7 @@ QVBoxLayout* MakeColumn(QWidget& window) {
 }
 
 QHBoxLayout* AddButtonRow(QVBoxLayout* column) {
-  column->addSpacing(LookStep(1));
+  column->addSpacing(LookStep(2));
   auto* const row = new QHBoxLayout;
   row->setSpacing(LookStep(GapSteps));
   row->addStretch();

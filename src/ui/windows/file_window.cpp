@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QShortcut>
 #include <QStyle>
 #include <QToolButton>
 
@@ -54,7 +53,6 @@ class FileWindow : public QDialog {
     AddList(column);
     AddFields(column);
     AddButtons(column);
-    new QShortcut(QKeySequence(Qt::Key_F5), this, [this] { ShowFolder(); });
     ShowFolder();
     resize(LookStep(150), LookStep(110));
     if (SavesFile(FileDialog.Action) || filList_->count() == 0) {
@@ -65,6 +63,10 @@ class FileWindow : public QDialog {
   }
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    event->key() == Qt::Key_F5 ? ShowFolder() : QDialog::keyPressEvent(event);
+  }
+
   // The keys of the list; Enter must not press the dialog's button as well.
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched != filList_ || event->type() != QEvent::KeyPress) {
