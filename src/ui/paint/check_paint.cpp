@@ -22,7 +22,7 @@ namespace tessarel {
 
 namespace {
 
-constexpr int64_t MostInColumn = 12, MostColumns = 3;
+constexpr int64_t MostColumns = 3;
 constexpr double LeastLettering = 12;  // pixels on the screen: nine points
 
 struct Column {
@@ -63,8 +63,7 @@ double TextWidth(const QString& text, double units) {
 
 // The checks of an amount, the most valuable first; sets `cut` if they are more than the columns
 // hold, which then costs the most valuable ones.
-std::vector<int> ChecksOf(const CheckPile& pile, bool& cut) {
-  int64_t room = MostInColumn * MostColumns;
+std::vector<int> ChecksOf(const CheckPile& pile, int64_t room, bool& cut) {
   std::array<int64_t, 6> shown{};
   for (size_t slot = 1; slot <= 5; ++slot) {
     shown[slot] = std::min(pile.count[slot], room);
@@ -78,12 +77,16 @@ std::vector<int> ChecksOf(const CheckPile& pile, bool& cut) {
   return checks;
 }
 
+int64_t MostInColumn(const PileLook& look) {
+  return look.narrow ? 8 : 12;
+}
+
 // One column at the foot, a second and a third behind it to the right and to the left.
-std::vector<Column> Columns(const std::vector<int>& checks, double diameter) {
+std::vector<Column> Columns(const std::vector<int>& checks, const PileLook& look) {
   const auto count = static_cast<int64_t>(checks.size());
-  const int64_t columns = (count + MostInColumn - 1) / MostInColumn;
-  const std::array<QPointF, MostColumns> feet = {QPointF(), QPointF(0.6, -0.62) * diameter,
-                                                 QPointF(-0.6, -0.62) * diameter};
+  const int64_t columns = (count + MostInColumn(look) - 1) / MostInColumn(look);
+  const std::array<QPointF, MostColumns> feet = {QPointF(), QPointF(0.6, -0.62) * look.diameter,
+                                                 QPointF(-0.6, -0.62) * look.diameter};
   std::vector<Column> made;
   int64_t from = 0;
   for (int64_t k = 0; k < columns; ++k) {
@@ -103,14 +106,14 @@ QPointF TopOf(const PilePlan& plan, const Column& column, double level) {
 }
 
 double FractionSize(const PilePlan& plan) {
-  return 0.6 * plan.diameter;
+  return 0.54 * plan.diameter;
 }
 
 QPointF FractionPlace(const PilePlan& plan) {
   if (plan.columns.empty()) return {};
   const Column& front = plan.columns.back();
   return TopOf(plan, front, static_cast<double>(front.checks.size()) - 1) +
-         QPointF(0.2, 0.24) * plan.diameter;
+         QPointF(0.32, 0.34) * plan.diameter;
 }
 
 QRectF Around(QPointF centre, double width, double height) {
@@ -123,12 +126,28 @@ QRectF ColumnArea(const PilePlan& plan, const Column& column) {
   return Around(top, d, d).united(Around(column.foot + QPointF(0, plan.edge / 2), d, d));
 }
 
+// An amount in at most four figures: "999", "1.2K", "12M". What is left out is never rounded up.
+QString ShortFigures(Money amount) {
+  static constexpr std::array<char, 5> Units = {0, 'K', 'M', 'B', 'T'};
+  int64_t whole = amount.Floor(), tenths = 0;
+  size_t unit = 0;
+  for (; whole >= 1000 && unit + 1 < Units.size(); ++unit) {
+    tenths = whole % 1000 / 100;
+    whole /= 1000;
+  }
+  if (unit == 0) return Shown(FormatMoney(amount));
+  QString text = QString::number(whole);
+  if (whole < 10 && tenths != 0) text += '.' + QString::number(tenths);
+  return text + Units[unit];
+}
+
 PilePlan PlanPile(Money amount, const PileLook& look) {
   PilePlan plan;
   plan.diameter = look.diameter;
   plan.edge = std::max(0.1 * look.diameter, 2 / look.pixelsPerUnit);
   const CheckPile pile = SplitIntoChecks(amount);
-  plan.columns = Columns(ChecksOf(pile, plan.cut), look.diameter);
+  const int64_t room = MostInColumn(look) * (look.narrow ? 1 : MostColumns);
+  plan.columns = Columns(ChecksOf(pile, room, plan.cut), look);
   plan.fraction = pile.fraction > Money();
   for (const Column& column : plan.columns)
     plan.body |= ColumnArea(plan, column);
@@ -136,7 +155,7 @@ PilePlan PlanPile(Money amount, const PileLook& look) {
     plan.body |= Around(FractionPlace(plan), FractionSize(plan), FractionSize(plan));
   }
   plan.lettering = std::max(0.42 * look.diameter, LeastLettering / look.pixelsPerUnit);
-  plan.amount = Shown(FormatMoney(amount));
+  plan.amount = look.narrow ? ShortFigures(amount) : Shown(FormatMoney(amount));
   const double height = 1.2 * plan.lettering;
   plan.figures = Around({0, look.diameter / 2 + plan.edge + height * 0.45},
                         TextWidth(plan.amount, plan.lettering) + 0.7 * plan.lettering, height);
@@ -144,8 +163,8 @@ PilePlan PlanPile(Money amount, const PileLook& look) {
                           ? QPointF()
                           : TopOf(plan, plan.columns.back(),
                                   static_cast<double>(plan.columns.back().checks.size()) - 1);
-  plan.button = Around(top + QPointF(0.42, -0.42) * look.diameter,
-                       TextWidth("OFF", plan.lettering) + 0.75 * plan.lettering, height);
+  plan.button = Around(top + QPointF(0.5, -0.5) * look.diameter,
+                       TextWidth("OFF", plan.lettering) + 0.6 * plan.lettering, height);
   return plan;
 }
 
@@ -235,7 +254,7 @@ struct PilePainter {
     for (const Column& column : plan.columns) {
       for (size_t k = 0; k < column.checks.size(); ++k) {
         const QPointF top = TopOf(plan, column, static_cast<double>(k));
-        Copy(top + QPointF(0, plan.edge), CheckSide(column.checks[k], pixels));
+        Copy(top + QPointF(0, plan.edge), CheckSide(column.checks[k], pixels, k));
       }
       const size_t last = column.checks.size() - 1;
       Copy(TopOf(plan, column, static_cast<double>(last)), CheckTop(column.checks[last], pixels));
@@ -319,7 +338,7 @@ const PilePicture& PictureOfPile(Money amount, const PileLook& look, double scal
     pictures.clear();
   }
   const int flags = (look.current ? 1 : 0) | (look.flash ? 2 : 0) | (look.showAmount ? 4 : 0) |
-                    static_cast<int>(look.button) << 3;
+                    (look.narrow ? 8 : 0) | static_cast<int>(look.button) << 4;
   const Key key{amount.Raw(), scale, look.diameter, look.pixelsPerUnit, look.place, flags};
   auto found = pictures.find(key);
   if (found == pictures.end()) {
@@ -395,7 +414,7 @@ void PaintCheck(QPainter& painter, QPointF centre, double diameter, int denomina
     painter.drawEllipse(centre, diameter * 0.57, diameter * 0.57);
     painter.restore();
   }
-  put(centre + QPointF(0, 0.035) * diameter, CheckSide(denomination, pixels));
+  put(centre + QPointF(0, 0.035) * diameter, CheckSide(denomination, pixels, 0));
   put(centre - QPointF(0, 0.035) * diameter, CheckTop(denomination, pixels));
 }
 

@@ -147,7 +147,7 @@ void PaintTop(QPainter& painter, double radius, int denomination) {
   // On a small check only the colours and the lettering can be told; ring marks would be noise.
   const bool small = radius < 11;
   PaintSpots(painter, radius, design, spot, body);
-  if (!small) PaintRingMark(painter, radius, design, design.wedge ? spot : spot);
+  if (!small) PaintRingMark(painter, radius, design, spot);
   const bool light = design.lightInlay;
   const double inlay = radius * (small ? std::max(0.72, design.inlay) : design.inlay);
   painter.setPen(Qt::NoPen);
@@ -160,13 +160,19 @@ void PaintTop(QPainter& painter, double radius, int denomination) {
                   dark ? QColor(Qt::white) : QColor(colours.ink));
 }
 
-void PaintSide(QPainter& painter, double radius, int denomination) {
+// Ways in which checks under others lie turned.
+constexpr int Turns = 5;
+
+void PaintSide(QPainter& painter, double radius, int denomination, int turn) {
   const CheckColours& colours = ColoursOf(denomination);
   const QColor body = QColor(colours.body).darker(118), spot = QColor(colours.spot).darker(112);
   painter.setPen(Qt::NoPen);
   painter.setBrush(body);
   painter.drawEllipse(QPointF(), radius, radius);
+  painter.save();
+  painter.rotate(360.0 / DesignInForce().spots * turn / Turns);
   PaintSpots(painter, radius, DesignInForce(), spot, body);
+  painter.restore();
   painter.setPen(QPen(QColor(0, 0, 0, 150), std::max(0.8, radius * 0.05)));
   painter.setBrush(Qt::NoBrush);
   painter.drawEllipse(QPointF(), radius, radius);
@@ -193,7 +199,7 @@ void PaintShadow(QPainter& painter, double radius) {
   painter.drawEllipse(QPointF(), radius * 1.5, radius * 1.5);
 }
 
-QPixmap MakePicture(Part part, int denomination, int pixels) {
+QPixmap MakePicture(Part part, int denomination, int pixels, int turn) {
   const int side = part == Part::Shadow ? pixels * 3 / 2 : pixels;
   QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
@@ -207,7 +213,7 @@ QPixmap MakePicture(Part part, int denomination, int pixels) {
       PaintTop(painter, inside, denomination);
       break;
     case Part::Side:
-      PaintSide(painter, inside, denomination);
+      PaintSide(painter, inside, denomination, turn);
       break;
     case Part::Fraction:
       PaintFraction(painter, inside);
@@ -222,7 +228,7 @@ QPixmap MakePicture(Part part, int denomination, int pixels) {
 
 struct PictureStore {
   using Made = std::tuple<decltype(Settings.Denomination), int32_t, int32_t>;
-  std::map<std::tuple<Part, int, int>, QPixmap> pictures;
+  std::map<std::tuple<Part, int, int, int>, QPixmap> pictures;
   Made made;
   int version = 0;
 };
@@ -239,15 +245,15 @@ PictureStore& Store() {
   return store;
 }
 
-const QPixmap& Picture(Part part, int denomination, int pixels) {
+const QPixmap& Picture(Part part, int denomination, int pixels, int turn = 0) {
   // Zooming goes through many sizes, of which only the latest are of use.
   constexpr size_t MostPictures = 400;
   auto& pictures = Store().pictures;
-  const auto key = std::make_tuple(part, denomination, pixels);
+  const auto key = std::make_tuple(part, denomination, pixels, turn);
   const auto found = pictures.find(key);
   if (found != pictures.end()) return found->second;
   if (pictures.size() >= MostPictures) pictures.clear();
-  return pictures.emplace(key, MakePicture(part, denomination, pixels)).first->second;
+  return pictures.emplace(key, MakePicture(part, denomination, pixels, turn)).first->second;
 }
 
 }  // namespace
@@ -256,8 +262,8 @@ const QPixmap& CheckTop(int denomination, int pixels) {
   return Picture(Part::Top, denomination, pixels);
 }
 
-const QPixmap& CheckSide(int denomination, int pixels) {
-  return Picture(Part::Side, denomination, pixels);
+const QPixmap& CheckSide(int denomination, int pixels, size_t level) {
+  return Picture(Part::Side, denomination, pixels, static_cast<int>(level * 2 % Turns));
 }
 
 const QPixmap& FractionMarker(int pixels) {

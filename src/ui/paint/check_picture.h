@@ -14,8 +14,9 @@ namespace tessarel {
 
 // A check seen from above, `pixels` across and centred in its picture.
 const QPixmap& CheckTop(int denomination, int pixels);
-// The same check under others: only the lower edge of it shows.
-const QPixmap& CheckSide(int denomination, int pixels);
+// The same check under others: only the lower edge of it shows. No two neighbours of a column lie
+// with their spots in line; `level` is the check's height in it.
+const QPixmap& CheckSide(int denomination, int pixels, size_t level);
 // The yellow marker for less than the smallest check.
 const QPixmap& FractionMarker(int pixels);
 // What a check throws on the felt; the picture is half as large again as the check.

@@ -26,9 +26,10 @@ struct PlateStyle {
   double borderWidth = 1;
 };
 
-// The room of a plate: the badge with the place's number, and one or two lines beside it.
+// The room of a plate: the badge with the place's number and two lines.
 struct PlateRoom {
-  QRectF plate, badge, lines;
+  QRectF plate, badge, first, second;
+  bool tight = false;
   double lettering = 0;
 };
 
@@ -61,13 +62,22 @@ PlateRoom RoomIn(const QRectF& area, double pixel) {
   constexpr double LeastLettering = 12;  // pixels on the screen: nine points
   PlateRoom room;
   room.plate = area.adjusted(pixel, pixel, -pixel, -pixel);
-  room.lettering = std::min(std::max(0.3 * area.height(), LeastLettering * pixel),
-                            std::max(0.42 * area.height(), LeastLettering * pixel));
-  const double badge = std::min({0.62 * area.height(), 0.22 * area.width(), 3 * room.lettering});
-  room.badge = QRectF(0, 0, badge, badge);
-  room.badge.moveCenter({area.left() + badge * 0.68, area.center().y()});
-  room.lines = QRectF(QPointF(room.badge.right() + badge * 0.2, area.top()),
-                      QPointF(area.right() - 3 * pixel, area.bottom()));
+  room.lettering = std::max(0.3 * area.height(), LeastLettering * pixel);
+  const double margin = 0.07 * area.height();
+  // A badge beside both lines where that leaves room for a bankroll, else one in the first line.
+  const double large = 0.68 * area.height();
+  room.tight = area.width() - large < 7.4 * room.lettering;
+  const double badge = room.tight ? 1.2 * room.lettering : large;
+  room.badge = QRectF(area.left() + 1.4 * margin, 0, badge, badge);
+  const double half = area.height() / 2;
+  room.badge.moveTop(room.tight ? area.top() + (half - badge) / 2 + 0.3 * margin
+                                : area.center().y() - badge / 2);
+  const double beside = room.badge.right() + 1.6 * margin, right = area.right() - 1.2 * margin;
+  const double below = room.tight ? area.left() + 1.8 * margin : beside;
+  room.first =
+      QRectF(QPointF(beside, area.top() + 0.6 * margin), QPointF(right, area.top() + half));
+  room.second =
+      QRectF(QPointF(below, area.top() + half), QPointF(right, area.bottom() - 0.6 * margin));
   return room;
 }
 
@@ -110,29 +120,29 @@ void PaintBadge(QPainter& painter, const QRectF& badge, int place, bool taken) {
   PaintFittedText(painter, box, QString::number(place), dark ? QColor(12, 12, 14) : Qt::white);
 }
 
-// The bankroll; one that is too long for its line gives up its cents.
-QString BankrollText(int place, double width, double units) {
+// The bankroll, with as much of its form as the width holds.
+QString BankrollText(int place, double width, double units, bool bold) {
   const Money bankroll = BankrollOf(place);
-  const QString full = Shown(FormatNumber(bankroll, "$#,0.00;-$#,0.00;$0.00"));
-  if (WidthOf(full, units, true) <= width) return full;
-  return Shown(FormatNumber(bankroll, "$#,0;-$#,0;$0"));
+  for (const char* pattern : {"$#,0.00;-$#,0.00;$0.00", "#,0.00;-#,0.00;0.00"}) {
+    const QString text = Shown(FormatNumber(bankroll, pattern));
+    if (WidthOf(text, units, bold) <= width) return text;
+  }
+  return Shown(FormatNumber(bankroll, "#,0;-#,0;0"));
 }
 
 void PaintShooterDice(QPainter& painter, const QRectF& area) {
-  const double side = area.height() * 0.74;
+  const double side = area.height() * 0.6;
   const QPointF middle = area.center();
-  PaintDie(painter, middle + QPointF(-0.3, -0.08) * area.height(), side * 0.72, 5, -9, 1);
-  PaintDie(painter, middle + QPointF(0.36, 0.1) * area.height(), side * 0.72, 2, 14, 2);
+  PaintDie(painter, middle + QPointF(-0.36, -0.06) * area.height(), side, 5, -9, 1);
+  PaintDie(painter, middle + QPointF(0.36, 0.08) * area.height(), side, 2, 14, 2);
 }
 
 void PaintPlayer(QPainter& painter, int place, const PlateRoom& room, const PlateStyle& style) {
-  const bool shooter = Table.Shooter == place;
-  const double half = room.lines.height() / 2;
-  QRectF name(room.lines.left(), room.lines.top() + half * 0.1, room.lines.width(), half * 0.92);
-  const QRectF bankroll(room.lines.left(), room.lines.top() + half * 0.98, room.lines.width(),
-                        half * 0.92);
-  if (shooter) {
-    const QRectF dice(name.right() - 1.7 * half, name.top(), 1.7 * half, name.height());
+  QRectF name = room.first;
+  if (Table.Shooter == place) {
+    const double height = std::min(name.height(), 1.6 * room.lettering);
+    const QRectF dice(name.right() - 1.55 * height, name.center().y() - height / 2, 1.55 * height,
+                      height);
     PaintShooterDice(painter, dice);
     name.setRight(dice.left());
   }
@@ -140,21 +150,22 @@ void PaintPlayer(QPainter& painter, int place, const PlateRoom& room, const Plat
   const QString shown = Fitted(Shown(At(Table.PlayerName, place)), name.width(), units, true);
   PaintLine(painter, name, shown, style.ink, units, true);
   const bool negative = BankrollOf(place) < Money();
-  const QColor orange(255, 166, 77);
-  PaintLine(painter, bankroll, BankrollText(place, bankroll.width(), units),
-            negative ? orange : style.quiet, units, negative);
+  PaintLine(painter, room.second, BankrollText(place, room.second.width(), units, negative),
+            negative ? QColor(255, 166, 77) : style.quiet, units, negative);
 }
 
 void PaintOpen(
     QPainter& painter, const PlateRoom& room, const PlateStyle& style, bool choosing, bool hover) {
+  const QRectF line = room.tight ? room.first : room.first.united(room.second);
+  const QRectF second = room.tight ? room.second : line;
   const QString action = Shown(choosing ? ChooseText : JoinText);
-  QString text = Shown(OpenText);
-  // What a click does, where the line has room for it.
-  if ((choosing || hover) && WidthOf(action, room.lettering, hover) <= room.lines.width()) {
-    text = action;
+  // What a click does, where a line has room for it.
+  const bool roomy = WidthOf(action, room.lettering, hover) <= second.width();
+  if ((choosing || hover) && roomy) {
+    return PaintLine(painter, second, action, style.ink, room.lettering, hover);
   }
-  PaintLine(painter, room.lines, Fitted(text, room.lines.width(), room.lettering, hover), style.ink,
-            room.lettering, hover);
+  const QString open = Fitted(Shown(OpenText), line.width(), room.lettering, hover);
+  PaintLine(painter, line, open, style.ink, room.lettering, hover);
 }
 
 void PaintStacks(QPainter& painter, int place, const TableLayout& layout, const RailLook& look) {
@@ -163,6 +174,7 @@ void PaintStacks(QPainter& painter, int place, const TableLayout& layout, const 
     if (number < FirstStack || number >= FirstStack + StackCount) continue;
     PileLook pile;
     pile.diameter = CheckDiameter;
+    pile.narrow = true;
     pile.pixelsPerUnit = look.pixelsPerUnit;
     PaintPile(painter, CheckPosition(layout, place, 100 + position), Bet(place, number), pile);
   }
@@ -174,9 +186,16 @@ void PaintRailPlace(QPainter& painter, int place, const TableLayout& layout, con
   const bool taken = IsTaken(Table, place);
   const double pixel = 1 / std::max(look.pixelsPerUnit, 1e-3);
   const PlateStyle style = StyleOf(place, taken, look);
-  const PlateRoom room = RoomIn(RailPlaceArea(place), pixel);
+  QRectF area = RailPlaceArea(place);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
+  // Along the ends of the table the plates stand upright and are read along the rail.
+  if (area.height() > 1.4 * area.width()) {
+    painter.translate(area.center());
+    painter.rotate(place <= 4 ? -90 : 90);
+    area = QRectF(-area.height() / 2, -area.width() / 2, area.height(), area.width());
+  }
+  const PlateRoom room = RoomIn(area, pixel);
   painter.setBrush(style.back);
   QPen border(style.border, style.borderWidth * pixel);
   if (!taken && !look.choosing) border.setStyle(Qt::DashLine);
@@ -189,8 +208,8 @@ void PaintRailPlace(QPainter& painter, int place, const TableLayout& layout, con
   } else {
     PaintOpen(painter, room, style, look.choosing, look.hoverPlace == place);
   }
-  if (taken) PaintStacks(painter, place, layout, look);
   painter.restore();
+  if (taken) PaintStacks(painter, place, layout, look);
 }
 
 }  // namespace tessarel
