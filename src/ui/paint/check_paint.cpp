@@ -61,13 +61,18 @@ double TextWidth(const QString& text, double units) {
   return QFontMetricsF(FiguresFont(100)).horizontalAdvance(text) * units / 100;
 }
 
-// The checks of an amount, the most valuable first; sets `cut` if they are more than the columns
-// hold, which then costs the most valuable ones.
+// The checks of an amount, the most valuable first. If they are more than there is room for, one of
+// each denomination stays and of the more valuable ones some are left out, which sets `cut`.
 std::vector<int> ChecksOf(const CheckPile& pile, int64_t room, bool& cut) {
   std::array<int64_t, 6> shown{};
   for (size_t slot = 1; slot <= 5; ++slot) {
-    shown[slot] = std::min(pile.count[slot], room);
+    shown[slot] = std::min<int64_t>(pile.count[slot], 1);
     room -= shown[slot];
+  }
+  for (size_t slot = 1; slot <= 5; ++slot) {
+    const int64_t more = std::min(pile.count[slot] - shown[slot], room);
+    shown[slot] += more;
+    room -= more;
     cut = cut || shown[slot] < pile.count[slot];
   }
   std::vector<int> checks;
@@ -78,15 +83,15 @@ std::vector<int> ChecksOf(const CheckPile& pile, int64_t room, bool& cut) {
 }
 
 int64_t MostInColumn(const PileLook& look) {
-  return look.narrow ? 8 : 12;
+  return look.narrow ? 5 : 12;
 }
 
 // One column at the foot, a second and a third behind it to the right and to the left.
 std::vector<Column> Columns(const std::vector<int>& checks, const PileLook& look) {
   const auto count = static_cast<int64_t>(checks.size());
   const int64_t columns = (count + MostInColumn(look) - 1) / MostInColumn(look);
-  const std::array<QPointF, MostColumns> feet = {QPointF(), QPointF(0.6, -0.62) * diameter,
-                                                 QPointF(-0.6, -0.62) * diameter};
+  const std::array<QPointF, MostColumns> feet = {QPointF(), QPointF(0.6, -0.62) * look.diameter,
+                                                 QPointF(-0.6, -0.62) * look.diameter};
   std::vector<Column> made;
   int64_t from = 0;
   for (int64_t k = 0; k < columns; ++k) {
@@ -144,7 +149,8 @@ QString ShortFigures(Money amount) {
 PilePlan PlanPile(Money amount, const PileLook& look) {
   PilePlan plan;
   plan.diameter = look.diameter;
-  plan.edge = std::max(0.1 * look.diameter, 2 / look.pixelsPerUnit);
+  plan.edge =
+      look.narrow ? 0.085 * look.diameter : std::max(0.1 * look.diameter, 2 / look.pixelsPerUnit);
   const CheckPile pile = SplitIntoChecks(amount);
   const int64_t room = MostInColumn(look) * (look.narrow ? 1 : MostColumns);
   plan.columns = Columns(ChecksOf(pile, room, plan.cut), look);
@@ -157,8 +163,13 @@ PilePlan PlanPile(Money amount, const PileLook& look) {
   plan.lettering = std::max(0.42 * look.diameter, LeastLettering / look.pixelsPerUnit);
   plan.amount = look.narrow ? ShortFigures(amount) : Shown(FormatMoney(amount));
   const double height = 1.2 * plan.lettering;
-  plan.figures = Around({0, look.diameter / 2 + plan.edge + height * 0.45},
-                        TextWidth(plan.amount, plan.lettering) + 0.7 * plan.lettering, height);
+  const double width = TextWidth(plan.amount, plan.lettering);
+  if (!look.narrow) {
+    plan.figures = Around({0, look.diameter / 2 + plan.edge + height * 0.45},
+                          width + 0.7 * plan.lettering, height);
+  } else if (width <= 1.7 * look.diameter) {
+    plan.figures = Around({0, 0.4 * look.diameter}, width + 0.3 * plan.lettering, height);
+  }
   const QPointF top = plan.columns.empty()
                           ? QPointF()
                           : TopOf(plan, plan.columns.back(),
@@ -319,7 +330,7 @@ PilePicture MakePilePicture(Money amount, const PileLook& look, double scale) {
   parts.Shadows();
   if (look.place != 0) parts.Ring(RingColour(look), RingWidth(look));
   parts.Checks();
-  if (look.showAmount || plan.cut) {
+  if (!plan.figures.isNull() && (look.showAmount || plan.cut)) {
     parts.Plate(plan.figures, plan.amount, QColor(10, 14, 22, 205), Qt::white, QColor(0, 0, 0, 0));
   }
   parts.Button(look.button);

@@ -27,7 +27,7 @@ struct PileLook {
   bool flash = false;    // the ring is in its bright phase
   bool showAmount = false;
   PileButton button = PileButton::None;
-  bool narrow = false;       // on the rail: one short column, and short figures where it is cut
+  bool narrow = false;       // on the rail: one low column, and figures only where they have room
   double pixelsPerUnit = 1;  // of the screen, so that the lettering keeps its least size
 };
 

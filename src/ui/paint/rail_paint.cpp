@@ -173,10 +173,13 @@ void PaintStacks(QPainter& painter, int place, const TableLayout& layout, const 
     const int number = At(At(Table.VisibleStack, place), position);
     if (number < FirstStack || number >= FirstStack + StackCount) continue;
     PileLook pile;
-    pile.diameter = CheckDiameter;
+    pile.diameter = 0.92 * CheckDiameter;
     pile.narrow = true;
     pile.pixelsPerUnit = look.pixelsPerUnit;
-    PaintPile(painter, CheckPosition(layout, place, 100 + position), Bet(place, number), pile);
+    // A stack rises from the near edge of its groove.
+    const QPointF foot =
+        CheckPosition(layout, place, 100 + position) + QPointF(0, 0.2 * CheckDiameter);
+    PaintPile(painter, foot, Bet(place, number), pile);
   }
 }
 
