@@ -1,0 +1,144 @@
+// The window in which the dice are shown: both dice large, and the total called below them.
+#include <QPainter>
+#include <algorithm>
+
+#include "config/settings.h"
+#include "engine/table.h"
+#include "ui/paint/check_paint.h"
+#include "ui/text.h"
+#include "ui/windows/roll_console.h"
+#include "ui/windows/small_window.h"
+#include "ui/windows/small_window_texts.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int PlaceSlot = 25;
+
+QColor FeltColor() {
+  const int32_t felt = Settings.TableColor[0];
+  return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
+}
+
+class DiceWindow : public FloatingWindow {
+ public:
+  explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+    setObjectName("frmDice");
+    Refresh();
+  }
+  void Refresh() override {
+    setWindowTitle(Shown(DiceTitle));
+    setAccessibleDescription(Call());
+    update();
+  }
+  void SetPhase(double phase) {
+    phase_ = std::clamp(phase, 0.0, 1.0);
+    update();
+  }
+  QSize sizeHint() const override { return {280, 200}; }
+  QSize minimumSizeHint() const override { return {180, 130}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString Word() const;
+  QString Note() const;
+  QString Call() const;
+  void PaintFelt(QPainter& painter) const;
+  void PaintBothDice(QPainter& painter, const QRectF& area) const;
+  void PaintCall(QPainter& painter, const QRectF& area) const;
+
+  double phase_ = 1;
+};
+
+QString DiceWindow::Word() const {
+  const int total = Table.Die1 + Table.Die2;
+  if (total < 2 || total > 12) return Shown(NoRollYet);
+  return Shown(At(TotalWords, total - 2));
+}
+
+QString DiceWindow::Note() const {
+  switch (const int total = Table.Die1 + Table.Die2) {
+    case 2:
+    case 3:
+    case 12:
+      return Shown(CrapsCall);
+    default:
+      const bool hard = total > 0 && Table.Die1 == Table.Die2;
+      return hard ? Shown(HardWayCall) : QString();
+  }
+}
+
+QString DiceWindow::Call() const {
+  const QString note = Note();
+  return note.isEmpty() ? Word() : Word() + ' ' + note;
+}
+
+void DiceWindow::PaintFelt(QPainter& painter) const {
+  const QColor felt = FeltColor();
+  QRadialGradient light(QRectF(rect()).center(), width() * 0.7);
+  light.setColorAt(0, felt.lighter(130));
+  light.setColorAt(1, felt.darker(130));
+  painter.fillRect(rect(), light);
+}
+
+void DiceWindow::PaintBothDice(QPainter& painter, const QRectF& area) const {
+  const double side = std::min(area.width() * 0.34, area.height() * 0.74);
+  const QPointF apart(side * 0.72, 0);
+  const auto paint = [&](QPointF centre, int face, double degrees, int number) {
+    if (phase_ < 1) {
+      PaintTumblingDie(painter, centre, side, face, phase_, number);
+    } else {
+      PaintDie(painter, centre, side, face, degrees, number);
+    }
+  };
+  paint(area.center() - apart, Table.Die1, -5, 1);
+  paint(area.center() + apart, Table.Die2, 4, 2);
+}
+
+// As large as the line allows, but readable in any window.
+void DiceWindow::PaintCall(QPainter& painter, const QRectF& area) const {
+  const QString call = Call();
+  QFont font = painter.font();
+  font.setBold(true);
+  constexpr int Smallest = 13;  // pixels
+  int size = std::max(Smallest, static_cast<int>(area.height() * 0.62));
+  const auto width = [&] {
+    font.setPixelSize(size);
+    return QFontMetrics(font).horizontalAdvance(call);
+  };
+  while (size > Smallest && width() > area.width())
+    --size;
+  painter.setFont(font);
+  painter.setPen(qGray(FeltColor().rgb()) < 140 ? Qt::white : Qt::black);
+  painter.drawText(area, Qt::AlignCenter, call);
+}
+
+void DiceWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  PaintFelt(painter);
+  const QRectF area = QRectF(rect()).adjusted(8, 6, -8, -6);
+  const double callHeight = std::max(24.0, area.height() * 0.24);
+  QRectF call(area.left(), area.bottom() - callHeight, area.width(), callHeight);
+  if (Table.Die1 == 0) {
+    call.moveCenter(area.center());
+    return PaintCall(painter, call);
+  }
+  PaintBothDice(painter, area.adjusted(0, 0, 0, -callHeight));
+  if (phase_ == 1) PaintCall(painter, call);
+}
+
+}  // namespace
+
+QWidget* MakeDiceWindow(QWidget* parent) {
+  return new DiceWindow(parent);
+}
+
+void ShowThrow(QWidget* diceWindow, double phase) {
+  if (auto* window = dynamic_cast<DiceWindow*>(diceWindow)) window->SetPhase(phase);
+}
+
+}  // namespace tessarel

@@ -1,0 +1,344 @@
+#include "ui/windows/roll_console.h"
+
+#include <QActionGroup>
+#include <QColorDialog>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QTimerEvent>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <functional>
+
+#include "automation/auto_roll.h"
+#include "config/settings.h"
+#include "engine/roll_pace.h"
+#include "engine/table.h"
+#include "stats/store.h"
+#include "stats/view_text.h"
+#include "ui/text.h"
+#include "ui/windows/console_options.h"
+#include "ui/windows/rate_meter.h"
+#include "ui/windows/roll_pad.h"
+#include "ui/windows/small_window.h"
+#include "ui/windows/small_window_texts.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr int PlaceSlot = 20;
+constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
+
+// Numbers of the general text table.
+constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114;
+
+class RollConsole : public FloatingWindow {
+ public:
+  explicit RollConsole(QWidget* parent);
+  void Refresh() override;
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  // What is looked at between two calls of Refresh.
+  struct Seen {
+    int32_t Rolls = -1, AutoRollOn = 0, HyperDriveOn = 0, Throttle = 0;
+    friend bool operator==(const Seen&, const Seen&) = default;
+  };
+
+  void AddDisplayMenu();
+  void AddColorMenu();
+  void AddRollMenu();
+  void LayOut();
+  QAction* AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option);
+  void Change(const std::function<void(ConsoleOptions&)>& change);
+  void PickColor(RollKind kind);
+  template <class Action>
+  void Run(Action action);
+  void RefreshCaptions();
+  void RefreshColorIcons();
+  void RefreshFigures();
+  void FitToDisplay();
+
+  QMenuBar* bar_;
+  QMenu *displayMenu_, *colorMenu_, *rollMenu_;
+  std::array<QAction*, RollPadDisplays> mnuRYONDisplay_{};
+  std::array<QAction*, RollKinds> mnuButtonColor_{};
+  QAction *mnuRollCounter_, *mnuHyperDriveButton_, *mnuRandomButton_, *mnuHide_, *defaultColors_;
+  QAction *rollAtRandom_, *hyperDrive_, *mnuSetAutoStop_, *mnuSetAutoRollTimeDelay_;
+  RollPad* pad_;
+  QLabel *hint_, *throttleCaption_, *throttleValue_, *lblRollCounter_;
+  QPushButton *cmdRandomRoll_, *cmdHyperDrive_;
+  QSlider* hsbThrottle_;
+  HyperDriveMeter* meter_;
+  QBasicTimer timer_;
+  Seen seen_;
+};
+
+RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+  setObjectName("frmRYON");
+  bar_ = new QMenuBar(this);
+  pad_ = new RollPad(this);
+  hint_ = new QLabel(this);
+  throttleCaption_ = new QLabel(this);
+  throttleValue_ = new QLabel(this);
+  lblRollCounter_ = new QLabel(this);
+  cmdRandomRoll_ = new QPushButton(this);
+  cmdHyperDrive_ = new QPushButton(this);
+  hsbThrottle_ = new QSlider(Qt::Horizontal, this);
+  meter_ = new HyperDriveMeter(this);
+  hint_->setObjectName("lblHint");
+  lblRollCounter_->setObjectName("lblRollCounter");
+  cmdRandomRoll_->setObjectName("cmdRandomRoll");
+  cmdHyperDrive_->setObjectName("cmdHyperDrive");
+  hsbThrottle_->setObjectName("hsbThrottle");
+  AddDisplayMenu();
+  AddRollMenu();
+  LayOut();
+  pad_->OnRoll = [this](Faces faces) { Run([faces] { RollChosen(faces); }); };
+  pad_->OnStop = [this] { Run(StopAutoRoll); };
+  pad_->OnHint = [this](const QString& hint) { hint_->setText(hint); };
+  connect(cmdRandomRoll_, &QPushButton::clicked, this, [this] { Run(RollAtRandom); });
+  connect(cmdHyperDrive_, &QPushButton::clicked, this, [this] { Run([] { ToggleAutoRoll(); }); });
+  connect(hsbThrottle_, &QSlider::valueChanged, this, [this](int position) {
+    Settings.Throttle = position;
+    RefreshFigures();
+  });
+  Refresh();
+  pad_->setFocus();
+}
+
+void RollConsole::AddDisplayMenu() {
+  displayMenu_ = bar_->addMenu(QString());
+  auto* displays = new QActionGroup(this);
+  for (int k = 0; k < RollPadDisplays; ++k) {
+    QAction* action = displayMenu_->addAction(QString());
+    At(mnuRYONDisplay_, k) = action;
+    action->setObjectName("mnuRYONDisplay" + QString::number(k + 1));
+    action->setCheckable(true);
+    displays->addAction(action);
+    connect(action, &QAction::triggered, this, [this, k] {
+      Change(
+          [k](ConsoleOptions& options) { options.Display = static_cast<RollPadDisplay>(k + 1); });
+    });
+  }
+  displayMenu_->addSeparator();
+  mnuRollCounter_ = AddSwitch(displayMenu_, "mnuRollCounter", &ConsoleOptions::RollCounter);
+  mnuHyperDriveButton_ =
+      AddSwitch(displayMenu_, "mnuHyperDriveButton", &ConsoleOptions::HyperDriveButton);
+  mnuRandomButton_ = AddSwitch(displayMenu_, "mnuRandomButton", &ConsoleOptions::RandomButton);
+  displayMenu_->addSeparator();
+  AddColorMenu();
+  displayMenu_->addSeparator();
+  mnuHide_ = displayMenu_->addAction(QString());
+  mnuHide_->setObjectName("mnuHide");
+  connect(mnuHide_, &QAction::triggered, this, &QWidget::hide);
+}
+
+void RollConsole::AddColorMenu() {
+  colorMenu_ = displayMenu_->addMenu(QString());
+  for (int k = 0; k < RollKinds; ++k) {
+    QAction* action = colorMenu_->addAction(QString());
+    At(mnuButtonColor_, k) = action;
+    connect(action, &QAction::triggered, this, [this, k] { PickColor(static_cast<RollKind>(k)); });
+  }
+  colorMenu_->addSeparator();
+  defaultColors_ = colorMenu_->addAction(QString());
+  connect(defaultColors_, &QAction::triggered, this, [this] {
+    ResetButtonColors();
+    Refresh();
+  });
+}
+
+void RollConsole::AddRollMenu() {
+  rollMenu_ = bar_->addMenu(QString());
+  rollAtRandom_ = rollMenu_->addAction(QString());
+  hyperDrive_ = rollMenu_->addAction(QString());
+  rollMenu_->addSeparator();
+  mnuSetAutoStop_ = rollMenu_->addAction(QString());
+  mnuSetAutoRollTimeDelay_ = rollMenu_->addAction(QString());
+  connect(rollAtRandom_, &QAction::triggered, this, [this] { Run(RollAtRandom); });
+  connect(hyperDrive_, &QAction::triggered, this, [this] { Run([] { ToggleAutoRoll(); }); });
+  connect(mnuSetAutoStop_, &QAction::triggered, this, [this] { Run(AskSetAutoStop); });
+  connect(mnuSetAutoRollTimeDelay_, &QAction::triggered, this, [this] { Run(AskSetTimeDelay); });
+}
+
+QAction* RollConsole::AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option) {
+  QAction* action = menu->addAction(QString());
+  action->setObjectName(name);
+  action->setCheckable(true);
+  connect(action, &QAction::triggered, this, [this, option](bool on) {
+    Change([option, on](ConsoleOptions& options) { options.*option = on; });
+  });
+  return action;
+}
+
+void RollConsole::LayOut() {
+  throttleCaption_->setBuddy(hsbThrottle_);
+  throttleValue_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  hsbThrottle_->setRange(0, MaxThrottle);
+  hsbThrottle_->setPageStep(10);
+  hint_->setAlignment(Qt::AlignCenter);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(cmdRandomRoll_, 1);
+  buttons->addWidget(cmdHyperDrive_, 1);
+  auto* throttle = new QHBoxLayout;
+  throttle->addWidget(throttleCaption_);
+  throttle->addWidget(hsbThrottle_, 1);
+  throttle->addWidget(throttleValue_);
+  auto* figures = new QHBoxLayout;
+  figures->addWidget(lblRollCounter_, 1);
+  figures->addWidget(meter_);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(8, 4, 8, 8);
+  all->setSpacing(6);
+  all->setMenuBar(bar_);
+  all->addWidget(pad_, 1);
+  all->addWidget(hint_);
+  all->addLayout(buttons);
+  all->addLayout(throttle);
+  all->addLayout(figures);
+}
+
+void RollConsole::Change(const std::function<void(ConsoleOptions&)>& change) {
+  ConsoleOptions options = ReadConsoleOptions();
+  change(options);
+  StoreConsoleOptions(options);
+  Refresh();
+  FitToDisplay();
+}
+
+// The window takes the size that suits the display, at its upper left corner.
+void RollConsole::FitToDisplay() {
+  layout()->activate();
+  resize(sizeHint().expandedTo(minimumSizeHint()));
+}
+
+void RollConsole::PickColor(RollKind kind) {
+  const QPointer<RollConsole> self = this;
+  const QString title = WithoutMark(Shown(At(ButtonColorCaptions, static_cast<int>(kind))));
+  const QColor color = QColorDialog::getColor(ButtonColor(kind), this, title);
+  if (!self || !color.isValid()) return;
+  SetButtonColor(kind, color);
+  Refresh();
+}
+
+// Rolls may go on until the window is no more.
+template <class Action>
+void RollConsole::Run(Action action) {
+  const QPointer<RollConsole> self = this;
+  action();
+  if (self) Refresh();
+}
+
+void RollConsole::RefreshCaptions() {
+  setWindowTitle(Shown(ConsoleTitle));
+  displayMenu_->setTitle(Shown(DisplayMenu));
+  rollMenu_->setTitle(Shown(RollMenu));
+  for (int k = 0; k < RollPadDisplays; ++k)
+    At(mnuRYONDisplay_, k)->setText(Shown(At(DisplayCaptions, k)));
+  for (int k = 0; k < RollKinds; ++k)
+    At(mnuButtonColor_, k)->setText(Shown(At(ButtonColorCaptions, k)));
+  mnuRollCounter_->setText(Shown(RollCounterCaption));
+  mnuHyperDriveButton_->setText(Shown(HyperDriveButtonCaption));
+  mnuRandomButton_->setText(Shown(RandomButtonCaption));
+  colorMenu_->setTitle(Shown(ButtonColorMenu));
+  defaultColors_->setText(Shown(DefaultColorsCaption));
+  mnuHide_->setText(Shown(HideCaption));
+  rollAtRandom_->setText(Shown(RandomRollCaption));
+  cmdRandomRoll_->setText(Shown(RandomRollCaption));
+  throttleCaption_->setText(Shown(ThrottleCaption));
+  hsbThrottle_->setToolTip(Shown(ThrottleNote));
+  throttleValue_->setMinimumWidth(fontMetrics().horizontalAdvance("100"));
+  hint_->setMinimumWidth(RollPad::WidestHint(hint_->fontMetrics()));
+}
+
+void RollConsole::RefreshColorIcons() {
+  const int side = fontMetrics().height();
+  for (int k = 0; k < RollKinds; ++k) {
+    QPixmap sample(side, side);
+    sample.fill(ButtonColor(static_cast<RollKind>(k)));
+    QPainter(&sample).drawRect(0, 0, side - 1, side - 1);
+    At(mnuButtonColor_, k)->setIcon(sample);
+  }
+}
+
+// What changes with a roll, a run or a setting.
+void RollConsole::RefreshFigures() {
+  seen_ = {RollsInSession(), Table.AutoRollOn, Table.HyperDriveOn, Settings.Throttle};
+  const QString caption = Shown(HyperDriveCaption());
+  cmdHyperDrive_->setText(caption);
+  hyperDrive_->setText(caption);
+  const QSignalBlocker blocker(hsbThrottle_);
+  hsbThrottle_->setValue(Settings.Throttle);
+  throttleValue_->setText(QString::number(hsbThrottle_->value()));
+  lblRollCounter_->setText(Shown(FillIn(RollCountText, {CountText(int64_t{RollsInSession()})})));
+  const int64_t stop = Settings.AutoStopRolls.Floor();
+  const std::string every = stop > 0 ? CountText(stop) : std::string(Localized(NoAutoStop));
+  mnuSetAutoStop_->setText(Shown(FillIn(AutoStopCaption, {every})));
+  mnuSetAutoRollTimeDelay_->setText(
+      Shown(FillIn(TimeDelayCaption, {AmountText(Settings.RollDelay)})));
+  pad_->Refresh();
+}
+
+void RollConsole::Refresh() {
+  const ConsoleOptions options = ReadConsoleOptions();
+  RefreshCaptions();
+  RefreshColorIcons();
+  At(mnuRYONDisplay_, options.Display - 1)->setChecked(true);
+  mnuRollCounter_->setChecked(options.RollCounter);
+  mnuHyperDriveButton_->setChecked(options.HyperDriveButton);
+  mnuRandomButton_->setChecked(options.RandomButton);
+  lblRollCounter_->setVisible(options.RollCounter);
+  cmdHyperDrive_->setVisible(options.HyperDriveButton);
+  cmdRandomRoll_->setVisible(options.RandomButton);
+  pad_->SetDisplay(options.Display);
+  RefreshFigures();
+  // The button keeps its width when its caption changes.
+  const QString caption = cmdHyperDrive_->text();
+  cmdHyperDrive_->setMinimumWidth(0);
+  int widest = 0;
+  for (const int text : {StartHyperDriveText, HyperDriveActiveText}) {
+    cmdHyperDrive_->setText(Shown(GetText(text)));
+    widest = std::max(widest, cmdHyperDrive_->sizeHint().width());
+  }
+  cmdHyperDrive_->setText(caption);
+  cmdHyperDrive_->setMinimumWidth(widest);
+}
+
+void RollConsole::contextMenuEvent(QContextMenuEvent* event) {
+  displayMenu_->popup(event->globalPos());
+}
+
+void RollConsole::showEvent(QShowEvent*) {
+  Refresh();
+  timer_.start(LookMilliseconds, this);
+}
+
+void RollConsole::hideEvent(QHideEvent*) {
+  timer_.stop();
+}
+
+void RollConsole::timerEvent(QTimerEvent*) {
+  const Seen now{RollsInSession(), Table.AutoRollOn, Table.HyperDriveOn, Settings.Throttle};
+  if (now != seen_) RefreshFigures();
+}
+
+}  // namespace
+
+QWidget* MakeRollConsole(QWidget* parent) {
+  return new RollConsole(parent);
+}
+
+}  // namespace tessarel
