@@ -11,6 +11,11 @@
 
 namespace tessarel {
 
+// A colour as the settings and the game file hold it.
+constexpr int32_t TableRgb(int red, int green, int blue) {
+  return red + 256 * green + 65536 * blue;
+}
+
 struct SettingsState {
   // Limits.
   Money MinPlacardBet = 1, MaxPlacardBet = 1000, MinPlacardPropBet = 1;
@@ -59,7 +64,7 @@ struct SettingsState {
   int32_t ColorPrint = 0;
   int32_t Language = 0;  // 0 to 5, config/language.h
 
-  // Colours, as red + 256 green + 65536 blue.
+  // Colours, as TableRgb makes them.
   std::array<int32_t, 49> TableColor = DefaultTableColors();
   std::array<int32_t, 5> TableTexture = {0, 0, 6, 6, 0};
   int32_t Spotlight = 1;  // 0 off, 1 low, 2 medium, 3 high
@@ -78,12 +83,18 @@ struct SettingsState {
     }
     return flags;
   }
+  // Deep blue felt with white lines in a mahogany rail.
   static constexpr std::array<int32_t, 49> DefaultTableColors() {
-    constexpr int32_t Blue = 256 * 56 + 65536 * 128, White = 0xFFFFFF;
+    constexpr int32_t Blue = TableRgb(0, 56, 128), White = TableRgb(255, 255, 255);
+    constexpr int32_t Gold = TableRgb(255, 209, 102), Red = TableRgb(196, 22, 28);
+    constexpr int32_t Leather = TableRgb(46, 28, 22), Mahogany = TableRgb(112, 56, 30);
+    constexpr int32_t Floor = TableRgb(22, 22, 26);
+    constexpr std::array<int32_t, 17> Parts = {Blue,  White, Leather, Mahogany, Floor, Red,
+                                               White, Red,   White,   White,    Gold,  White,
+                                               White, White, Gold,    Gold,     White};
     std::array<int32_t, 49> colors{};
     for (size_t k = 0; k < colors.size(); ++k)
-      colors[k] = k >= 17 && k <= 47 ? White : Blue;
-    colors[1] = White;
+      colors[k] = k < Parts.size() ? Parts[k] : k <= 47 ? White : Blue;
     return colors;
   }
 };

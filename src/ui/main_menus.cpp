@@ -267,12 +267,17 @@ void MainMenus::Views() {
 
 void MainMenus::Colours() {
   QMenu* outer = std::exchange(menu, Submenu(texts::ViewColours));
-  for (int preset = 0; preset < TablePresetCount(); ++preset) {
-    Add(TablePresetName(preset), TablePresetCaption(preset), "", [preset] {
-      ApplyTablePreset(preset);
+  const auto offer = [this](std::string_view name, const SixTexts& caption, auto apply) {
+    Add(std::string(name).c_str(), caption, "", [apply] {
+      apply();
       Table.TableDirty = -1;
       FrontEnd.DrawTable();
     });
+  };
+  offer("mnuSetTableStartUp", texts::ViewStartUpColours, RestoreStartUpColours);
+  for (int preset = 0; preset < TablePresetCount; ++preset) {
+    const TablePreset& scheme = At(TablePresets(), preset);
+    offer(scheme.menu, scheme.caption, [preset] { ApplyTablePreset(preset); });
   }
   menu = outer;
 }

@@ -107,6 +107,8 @@ inline constexpr SixTexts
     ViewNumber = {"View %1", "Vista %1", "Ansicht %1", "Vue %1", "Görünüm %1", "Vista %1"},
     ViewColours = {"Table &colors", "Color&es de la mesa", "Tisch&farben",
                    "&Couleurs de la table", "Masa &renkleri", "&Colori del tavolo"},
+    ViewStartUpColours = {"&Start-up colors", "Colores &iniciales", "&Startfarben",
+                          "Couleurs de &départ", "&Ilk renkler", "Colori i&niziali"},
     // Options
     OptionsTips = {"&InfoTips", "&InfoTips", "&InfoTips", "&InfoTips", "&InfoTips", "&InfoTips"},
     TipsNone = {"&Don't show any info", "&No mostrar información", "&Keine Angaben",

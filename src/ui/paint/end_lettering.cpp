@@ -37,19 +37,19 @@ void PaintNumberBox(const EndPainter& end, int point) {
     QStringList texts;
     for (const QString& name : names)
       texts << name + '\n' + pay.mid(1) << name + pay;
-    PaintWords(end.painter, area, texts + names, end.Ink(BetOn(family, point), 26));
+    PaintWords(end.painter, area, texts + names, {QuietInk(), 24, end.least});
   };
   words(band(LayTop, DontComeTop), LayFamily, {"LAY"});
   PaintWords(end.painter, band(DontComeTop, DontComeOddsTop), {"DON'T COME", "DON'T\nCOME", "DC"},
-             end.Ink(BetOn(DontComeFamily, point), 26));
+             {QuietInk(), 24, end.least});
   words(band(DontComeOddsTop, ComeNumberTop), DontComeOddsFamily, {"ODDS"});
   words(band(ComeOddsTop, PlaceTop), ComeOddsFamily, {"ODDS"});
   words(band(PlaceTop, BuyTop), PlaceFamily, {"PLACE"});
   words(band(BuyTop, ComeTop), BuyFamily, {"BUY"});
 
   const QString name = point == 6 ? "SIX" : point == 9 ? "NINE" : QString::number(point);
-  const double size = name.size() > 2 ? 36 : 74;
-  PaintWords(end.painter, band(ComeNumberTop, ComeOddsTop), {name},
+  const double size = name.size() > 2 ? 38 : 78;
+  PaintWords(end.painter, Inset(band(ComeNumberTop, ComeOddsTop), 4, 0), {name},
              {ColourOfBet(BetOn(ComeFamily, point)), size, 0});
 }
 
@@ -152,14 +152,17 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
   }
   PaintWords(end.painter, {cell.left() + 2, cell.top(), cell.width() - 4, 36}, {total},
              end.Ink(bet::Field, 44));
-  const double width =
-      cell.width() / static_cast<double>(std::max<qsizetype>(number.pairs.size(), 1));
+  const double width = cell.width() / static_cast<double>(number.pairs.size());
   double left = cell.left();
   for (const QPoint pair : number.pairs) {
-    PaintPrintedPair(end.painter, Inset({left, cell.top() + 42, width, 18}, 2, 0), pair.x(),
+    PaintPrintedPair(end.painter, Inset({left, cell.top() + 41, width, 15}, 3, 0), pair.x(),
                      pair.y(), LineInk());
     left += width;
   }
+}
+
+double ShareOf(const FieldNumber& number) {
+  return static_cast<double>(number.pairs.size()) + 0.3;
 }
 
 void PaintField(const EndPainter& end) {
@@ -174,11 +177,15 @@ void PaintField(const EndPainter& end) {
                      {area.right() - Circle, area.top(), Circle, area.height()});
   }
   area.adjust(Circle + 4, 0, -Circle - 4, 0);
-  const double step = area.width() / static_cast<double>(std::max<qsizetype>(numbers.size(), 1));
+  // Numbers with more pairs get more room, so that all dice are of one size.
+  double shares = 0;
+  for (const FieldNumber& number : numbers)
+    shares += ShareOf(number);
   double left = area.left();
   for (const FieldNumber& number : numbers) {
-    PaintFieldNumber(end, number, {left, area.top(), step, area.height()});
-    left += step;
+    const double width = area.width() * ShareOf(number) / shares;
+    PaintFieldNumber(end, number, {left, area.top(), width, area.height()});
+    left += width;
   }
   PaintWords(end.painter, {area.left(), area.bottom() - 40, area.width(), 38}, {"FIELD"},
              end.Ink(bet::Field, 46));

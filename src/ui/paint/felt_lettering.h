@@ -24,6 +24,9 @@ QString PayText(int number);
 // The colour in which a bet is lettered.
 QColor ColourOfBet(int number);
 
+// The quieter ink of what explains a bet: amounts and the names of bands. Still well legible.
+QColor QuietInk();
+
 // A die printed on the felt, and a pair of them side by side within `area`.
 struct DiceInk {
   QColor body, pips;

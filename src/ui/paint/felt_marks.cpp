@@ -74,6 +74,16 @@ QColor ColourOfBet(int number) {
   return ColourOfTable(colour::Lines);
 }
 
+QColor QuietInk() {
+  const QColor lines = ColourOfTable(colour::Lines), felt = ColourOfTable(colour::Felt);
+  constexpr double WellLegible = 5.2;
+  for (const double share : {0.26, 0.18, 0.1}) {
+    const QColor quiet = Mixed(lines, felt, share);
+    if (Contrast(quiet, felt) >= WellLegible) return quiet;
+  }
+  return lines;
+}
+
 void PaintPrintedDie(QPainter& painter, const QRectF& square, int face, const DiceInk& ink) {
   const double side = square.width();
   painter.setPen(Qt::NoPen);

@@ -50,7 +50,7 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
   const QPoint pair = PairOf(number);
   const bool hard = number >= bet::Hard4 && number <= bet::Hard10;
   const DiceInk ink = hard ? HardwayInk() : PropositionInk();
-  const Lettering lettering{ColourOfTable(colour::Lines), 34, least};
+  const Lettering lettering{QuietInk(), 32, least};
   const QRectF area = Inset(box, 8, 7);
   // Wide boxes have their words beside the dice, others below them.
   if (box.width() > 2.6 * box.height()) {
@@ -128,12 +128,12 @@ void PaintLamps(QPainter& painter, const QRectF& area, int number, double least,
   const QList<Lamp> lamps = LampsOf(number);
   const double step = area.width() / static_cast<double>(lamps.size());
   const double radius = std::min(step * 0.46, area.height() / 2 - 1);
-  const QColor ink = ColourOfBet(number), felt = ColourOfTable(colour::Felt);
+  const QColor ink = ColourOfBet(number);
   double x = area.left() + step / 2;
   for (const Lamp& lamp : lamps) {
     const QPointF middle(x, area.center().y());
     x += step;
-    if (litOnes != lamp.lit && litOnes) continue;
+    if (litOnes && !lamp.lit) continue;
     painter.setPen(QPen(ink, 1.6));
     painter.setBrush(litOnes ? QBrush(QColor(255, 206, 84)) : QBrush(Qt::NoBrush));
     painter.drawEllipse(middle, radius, radius);
@@ -141,7 +141,6 @@ void PaintLamps(QPainter& painter, const QRectF& area, int number, double least,
     PaintWords(painter, {middle.x() - side / 2, middle.y() - side / 2, side, side}, {lamp.label},
                {litOnes ? QColor(30, 22, 0) : ink, 1.5 * radius, least});
   }
-  Q_UNUSED(felt);
 }
 
 QStringList PlateNames(int number) {
@@ -190,8 +189,7 @@ QStringList PlatePays(int number) {
 void PaintPlate(QPainter& painter, int number, const QRectF& box, double least) {
   const bool hasLamps = !LampsOf(number).isEmpty();
   const PlateParts parts = PartsOfPlate(box, hasLamps);
-  const Lettering name{ColourOfBet(number), 30, least},
-      pays{ColourOfTable(colour::Lines), 26, least};
+  const Lettering name{ColourOfBet(number), 30, least}, pays{QuietInk(), 24, least};
   if (hasLamps && PaintWords(painter, parts.name, PlateNames(number), name)) {
     PaintWords(painter, parts.pays, PlatePays(number), pays);
     PaintLamps(painter, parts.lamps, number, least, false);
@@ -235,9 +233,13 @@ void PaintNamed(
 }
 
 void PaintSwitch(QPainter& painter, const QRectF& box, bool open, double least) {
-  const QColor ink = ColourOfTable(colour::Lines);
+  // A button, not a bet: lines and felt change their parts.
+  const QRectF plate = open ? Inset(box, 7, 9) : box;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QuietInk());
+  painter.drawRoundedRect(plate, 12, 12);
   const QString text = Shown(open ? FewerBets : MoreBets).toUpper();
-  PaintWords(painter, Inset(box, 8, 8), {text}, {ink, 26, least});
+  PaintWords(painter, Inset(plate, 6, 6), {text}, {ColourOfTable(colour::Felt), 28, least});
 }
 
 }  // namespace
