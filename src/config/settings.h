@@ -52,8 +52,9 @@ struct SettingsState {
   int32_t CompsUseTrueProbs = -1;
   std::array<int32_t, 101> CompBet = DefaultCompBets();
 
-  // Sound: indices into the lists of sounds found, 0 for none.
-  int32_t StickPersonVoice = 0, DiceSound = 0, CheckSound = 0, WinSound = 0;
+  // Sound: indices into the lists of sounds found, 0 for none. A table without sounds counts every
+  // index as 0.
+  int32_t StickPersonVoice = 1, DiceSound = 1, CheckSound = 1, WinSound = 1;
   int32_t DisableAutoBetSounds = 0, DisableAllSound = 0;
 
   // Misc.

@@ -1,8 +1,8 @@
 #include "ui/paint/check_paint.h"
 
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPainterPath>
-#include <QPixmap>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -225,9 +225,9 @@ struct PilePainter {
   QPointF At(QPointF units) const { return origin + units * scale; }
   QRectF At(const QRectF& units) const { return {At(units.topLeft()), units.size() * scale}; }
 
-  void Copy(QPointF centre, const QPixmap& picture) const {
+  void Copy(QPointF centre, const QImage& picture) const {
     const QPointF corner = At(centre) - QPointF(picture.width(), picture.height()) / 2.0;
-    painter.drawPixmap(QPoint(qRound(corner.x()), qRound(corner.y())), picture);
+    painter.drawImage(QPoint(qRound(corner.x()), qRound(corner.y())), picture);
   }
 
   void Shadows() const {
@@ -312,7 +312,7 @@ struct PilePainter {
 };
 
 struct PilePicture {
-  QPixmap pixmap;
+  QImage image;
   QPointF foot;  // in pixels of the picture
 };
 
@@ -335,7 +335,7 @@ PilePicture MakePilePicture(Money amount, const PileLook& look, double scale) {
   }
   parts.Button(look.button);
   painter.end();
-  return {QPixmap::fromImage(image), foot};
+  return {image, foot};
 }
 
 // The picture of a pile, made once while it stays in use.
@@ -364,20 +364,20 @@ double DeviceRatio(const QPainter& painter) {
 
 // Puts a picture made for the painter's scale so that its pixel `foot` comes to `at`: on whole
 // pixels of the device where nothing is turned, so that it stays sharp.
-void PutPicture(QPainter& painter, QPointF at, const QPixmap& picture, QPointF foot, double scale) {
+void PutPicture(QPainter& painter, QPointF at, const QImage& picture, QPointF foot, double scale) {
   const QTransform world = painter.worldTransform();
   if (world.type() > QTransform::TxScale) {
     const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(QRectF(at - foot / scale, QSizeF(picture.size()) / scale), picture,
-                       QRectF(picture.rect()));
+    painter.drawImage(QRectF(at - foot / scale, QSizeF(picture.size()) / scale), picture,
+                      QRectF(picture.rect()));
     painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
     return;
   }
   const double ratio = DeviceRatio(painter);
   const QPointF device = world.map(at) * ratio - foot;
   painter.setWorldTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
-  painter.drawPixmap(QPoint(qRound(device.x()), qRound(device.y())), picture);
+  painter.drawImage(QPoint(qRound(device.x()), qRound(device.y())), picture);
   painter.setWorldTransform(world);
 }
 
@@ -401,7 +401,7 @@ void PaintPile(QPainter& painter, QPointF foot, Money amount, const PileLook& lo
   const double scale = ScaleOf(painter);
   if (amount <= Money() || !(scale * look.diameter >= 2)) return;
   const PilePicture& picture = PictureOfPile(amount, look, scale);
-  PutPicture(painter, foot, picture.pixmap, picture.foot, scale);
+  PutPicture(painter, foot, picture.image, picture.foot, scale);
 }
 
 QRectF PileArea(QPointF foot, Money amount, const PileLook& look) {
@@ -413,7 +413,7 @@ void PaintCheck(QPainter& painter, QPointF centre, double diameter, int denomina
   const double scale = ScaleOf(painter);
   const int pixels = qRound(diameter * scale);
   if (denomination < 1 || denomination > 5 || pixels < 2) return;
-  const auto put = [&](QPointF at, const QPixmap& picture) {
+  const auto put = [&](QPointF at, const QImage& picture) {
     PutPicture(painter, at, picture, QPointF(picture.width(), picture.height()) / 2.0, scale);
   };
   put(centre + QPointF(0.06, 0.1) * diameter, CheckShadow(pixels));

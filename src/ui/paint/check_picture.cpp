@@ -1,6 +1,5 @@
 #include "ui/paint/check_picture.h"
 
-#include <QImage>
 #include <QPainterPath>
 #include <algorithm>
 #include <array>
@@ -199,7 +198,7 @@ void PaintShadow(QPainter& painter, double radius) {
   painter.drawEllipse(QPointF(), radius * 1.5, radius * 1.5);
 }
 
-QPixmap MakePicture(Part part, int denomination, int pixels, int turn) {
+QImage MakePicture(Part part, int denomination, int pixels, int turn) {
   const int side = part == Part::Shadow ? pixels * 3 / 2 : pixels;
   QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
@@ -223,12 +222,12 @@ QPixmap MakePicture(Part part, int denomination, int pixels, int turn) {
       break;
   }
   painter.end();
-  return QPixmap::fromImage(image);
+  return image;
 }
 
 struct PictureStore {
   using Made = std::tuple<decltype(Settings.Denomination), int32_t, int32_t>;
-  std::map<std::tuple<Part, int, int, int>, QPixmap> pictures;
+  std::map<std::tuple<Part, int, int, int>, QImage> pictures;
   Made made;
   int version = 0;
 };
@@ -245,7 +244,7 @@ PictureStore& Store() {
   return store;
 }
 
-const QPixmap& Picture(Part part, int denomination, int pixels, int turn = 0) {
+const QImage& Picture(Part part, int denomination, int pixels, int turn = 0) {
   // Zooming goes through many sizes, of which only the latest are of use.
   constexpr size_t MostPictures = 400;
   auto& pictures = Store().pictures;
@@ -258,19 +257,19 @@ const QPixmap& Picture(Part part, int denomination, int pixels, int turn = 0) {
 
 }  // namespace
 
-const QPixmap& CheckTop(int denomination, int pixels) {
+const QImage& CheckTop(int denomination, int pixels) {
   return Picture(Part::Top, denomination, pixels);
 }
 
-const QPixmap& CheckSide(int denomination, int pixels, size_t level) {
+const QImage& CheckSide(int denomination, int pixels, size_t level) {
   return Picture(Part::Side, denomination, pixels, static_cast<int>(level * 2 % Turns));
 }
 
-const QPixmap& FractionMarker(int pixels) {
+const QImage& FractionMarker(int pixels) {
   return Picture(Part::Fraction, 0, pixels);
 }
 
-const QPixmap& CheckShadow(int pixels) {
+const QImage& CheckShadow(int pixels) {
   return Picture(Part::Shadow, 0, pixels);
 }
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QPainter>
-#include <QPixmap>
 #include <QString>
 
 #include "base/money.h"
@@ -13,14 +13,14 @@
 namespace tessarel {
 
 // A check seen from above, `pixels` across and centred in its picture.
-const QPixmap& CheckTop(int denomination, int pixels);
+const QImage& CheckTop(int denomination, int pixels);
 // The same check under others: only the lower edge of it shows. No two neighbours of a column lie
 // with their spots in line; `level` is the check's height in it.
-const QPixmap& CheckSide(int denomination, int pixels, size_t level);
+const QImage& CheckSide(int denomination, int pixels, size_t level);
 // The yellow marker for less than the smallest check.
-const QPixmap& FractionMarker(int pixels);
+const QImage& FractionMarker(int pixels);
 // What a check throws on the felt; the picture is half as large again as the check.
-const QPixmap& CheckShadow(int pixels);
+const QImage& CheckShadow(int pixels);
 
 // What stands on a check: "25", "50¢" or ".50", "1K", "2.5M".
 QString CheckLettering(Money value);

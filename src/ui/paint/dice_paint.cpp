@@ -34,9 +34,13 @@ DieLook LookOf(int number) {
   const int entry = number == 2 ? 7 : 5;
   DieLook look{Designs[style < Designs.size() ? style : StartUpDesign], ColourOfTable(entry),
                ColourOfTable(entry + 1)};
-  // A die that nobody has coloured would be lost on the felt.
-  if (look.body == ColourOfTable(0)) look.body = QColor(0xC8, 0x10, 0x1E);
-  if (look.pips == look.body || look.pips == ColourOfTable(0)) look.pips = Qt::white;
+  // A die that nobody has coloured would be lost on the felt, and pips on the die.
+  const QColor felt = ColourOfTable(0);
+  if (look.body == felt) {
+    look.body = QColor(0xC8, 0x10, 0x1E);
+    if (look.pips == felt) look.pips = Qt::white;
+  }
+  if (look.pips == look.body) look.pips = qGray(look.body.rgb()) > 140 ? Qt::black : Qt::white;
   return look;
 }
 

@@ -1,11 +1,10 @@
 // Sounds: the lists of sounds found, and playing them. Nothing here waits for a sound to end, and
 // without a sound device, with the sounds disabled and under the Hyper-Drive everything is silent.
 //
-// A sound of a list is a file or a folder named with the extension of its kind: "*.dce", "*.chp"
-// and
-// "*.win" hold sounds of which each playing takes one at random; a stick person is a folder "*.stk"
-// of the calls "01" to "18": 1 seven out, 2 to 12 the totals, 13 to 16 the hard 4, 6, 8 and 10, 17
-// the come-out and 18 the first come-out. What is played is in WAV form, whatever the extension.
+// A sound of a list is a file or a folder named with the extension of its kind. Those in "*.dce",
+// "*.chp" and "*.win" are taken at random. A stick person is a folder "*.stk" of the calls "01" to
+// "18": 1 seven out, 2 to 12 the totals, 13 to 16 the hard 4, 6, 8 and 10, 17 the come-out and 18
+// the first come-out. What is played is in WAV form, whatever the extension.
 #pragma once
 
 #include <string>
