@@ -19,6 +19,7 @@
 #include "config/language.h"
 #include "config/payoffs.h"
 #include "config/settings.h"
+#include "dice/dice_texts.h"
 #include "dice/generators.h"
 #include "dice/popup_roll.h"
 #include "dice/probability.h"
@@ -29,6 +30,7 @@
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/players.h"
+#include "engine/rail_texts.h"
 #include "engine/roll_driver.h"
 #include "engine/settlement.h"
 #include "engine/table.h"
@@ -37,6 +39,7 @@
 #include "files/events_log.h"
 #include "files/events_log_view.h"
 #include "files/file_dialog.h"
+#include "files/file_texts.h"
 #include "files/game_file.h"
 #include "files/game_views.h"
 #include "files/hot_keys.h"
@@ -129,8 +132,8 @@ void ClearLayout(bool keepStacks) {
 Money AskBeginningBankroll(int place) {
   const Money offered =
       std::clamp(At(Table.BankrollInitAmount, place), -BankrollLimit, BankrollLimit);
-  return AskBankroll("Enter " + At(Table.PlayerName, place) + "'s beginning bankroll:",
-                     "Beginning Bankroll", PlainText(offered))
+  return AskBankroll(FillIn(RailTexts.AskBeginningBankroll, {At(Table.PlayerName, place)}),
+                     std::string(Localized(RailTexts.BeginningBankroll)), PlainText(offered))
       .value_or(offered);
 }
 
@@ -261,8 +264,7 @@ bool SaveScript(int place) {
 
 bool OfferToSaveScript(int place) {
   if (!At(Scripts.Places, place).changed) return true;
-  const std::string question =
-      "Would you like to save " + At(Table.PlayerName, place) + "'s auto-bet script?";
+  const std::string question = FillIn(FileTexts.AskToSaveScript, {At(Table.PlayerName, place)});
   const int32_t answer = ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel);
   return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
 }
@@ -312,7 +314,8 @@ void SetUpNewTable(const std::string& appFolder) {
 
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
-  if (!text.empty()) ShowMessage(text, "Missing Support File", msg::Ok);
+  if (!text.empty())
+    ShowMessage(text, std::string(Localized(DiceTexts.MissingSupportFile)), msg::Ok);
 }
 
 }  // namespace

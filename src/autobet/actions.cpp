@@ -15,6 +15,7 @@
 #include "engine/atm.h"
 #include "engine/bets.h"
 #include "engine/players.h"
+#include "engine/roll_texts.h"
 #include "engine/table.h"
 #include "engine/unattended.h"
 
@@ -43,8 +44,6 @@ enum ActionNumber : int32_t {
 
 constexpr int32_t NoValue = 9997, NoString = 9998, DivisionByZero = 9999;
 
-constexpr std::string_view StoppedByCommand = "Stopped by Auto-Bet command.";
-
 // Whether the statement has a value; else the error.
 bool HasValue(const ScriptCommand& command, int32_t error = NoValue) {
   if (command.arguments.empty()) FailScript(error);
@@ -54,18 +53,18 @@ bool HasValue(const ScriptCommand& command, int32_t error = NoValue) {
 // A stop that the script has asked for in this cycle outlives the session.
 void StartSession(const ScriptCommand& command) {
   if (!HasRight(Scripts.AllowReset, 853)) return;
-  const bool stops = Table.StopReason == StoppedByCommand;
+  const bool stops = Table.StopReason == Localized(RollTexts.StoppedByCommand);
   const int32_t form = command.action;
   StartSessionForScript(form == PreserveStacks || form == PreserveBoth,
                         form == PreserveRollFile || form == PreserveBoth);
-  if (stops) Table.StopReason = StoppedByCommand;
+  if (stops) Table.StopReason = Localized(RollTexts.StoppedByCommand);
   AutoBet.TableWasReset = AutoBet.NewSessionBegins = -1;
   AutoBet.Initializing = 0;
 }
 
 // In a roll the cycle goes on, and the roll driver ends the run behind it.
 void StopRolling(const ScriptCommand&) {
-  Table.StopReason = StoppedByCommand;
+  Table.StopReason = Localized(RollTexts.StoppedByCommand);
   if (Table.RollInProgress != 0) return;
   StopUnattended();
   Table.StopReason.clear();

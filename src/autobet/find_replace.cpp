@@ -6,6 +6,7 @@
 
 #include "base/message.h"
 #include "base/single_byte_text.h"
+#include "files/file_texts.h"
 
 namespace tessarel {
 
@@ -99,7 +100,8 @@ FindDirection DirectionInForce() {
 }
 
 void SayNotFound() {
-  ShowMessage("Text not found.", "Search Results", msg::OkAlert);
+  ShowMessage(std::string(Localized(FileTexts.TextNotFound)),
+              std::string(Localized(FileTexts.SearchResults)), msg::OkAlert);
 }
 
 bool IsOccurrence(const ScriptLines& lines, const Needle& needle, TextSpan span) {

@@ -11,7 +11,9 @@
 #include "base/message.h"
 #include "base/trap.h"
 #include "config/folders.h"
+#include "config/language.h"
 #include "engine/table.h"
+#include "files/file_texts.h"
 
 namespace tessarel {
 
@@ -92,35 +94,21 @@ void RunFirstCycle() {
 }
 
 // Not during a roll: its cycles are those of the program it began with.
-bool WantsFirstCycle(const std::string& activated,
-                     const std::string& whichScript,
-                     const std::string& initialize) {
+bool WantsFirstCycle(const SixTexts& question, std::string_view name = "") {
   if (Table.RollInProgress != 0) return false;
-  const std::string text =
-      activated + "\r\rYou have an opportunity now to run " + whichScript +
-      " for one cycle BEFORE the dice roll in order to check and set any initial conditions.  "
-      "This is called initializing. If you're not ready yet, then just recheck the active "
-      "checkbox later or note that all players' active auto-bets are automatically initialized "
-      "whenever NEW is selected from the GAME menu.\r\rWould you like to initialize " +
-      initialize + " now?";
-  return ShowMessage(text, "Auto-Bet", msg::AskYesNo) == AnswerYes;
+  constexpr int AutoBetTitle = 156;
+  return ShowMessage(FillIn(question, {name}), std::string(GetText(AutoBetTitle)), msg::AskYesNo) ==
+         AnswerYes;
 }
 
 void ActivateAll() {
   ForEachPlayer([](int place) { SetScriptActive(place, true); });
-  if (WantsFirstCycle("All players' auto-bet scripts have been activated.", "each script",
-                      "all auto-bet scripts")) {
-    RunFirstCycle();
-  }
+  if (WantsFirstCycle(FileTexts.AllScriptsActivated)) RunFirstCycle();
 }
 
 void ActivateOne(int place) {
   SetScriptActive(place, true);
-  const std::string& name = At(Table.PlayerName, place);
-  if (!WantsFirstCycle(name + "'s auto-bet script has been activated.", name + "'s script",
-                       name + "'s auto-bet script")) {
-    return;
-  }
+  if (!WantsFirstCycle(FileTexts.ScriptActivated, At(Table.PlayerName, place))) return;
   const OnlyScript alone(place);
   RunFirstCycle();
 }
@@ -128,10 +116,8 @@ void ActivateOne(int place) {
 void RunHotKey(const std::string& path) {
   if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, "File not found");
   if (!CompileHotKeyScript()) {
-    ShowMessage(
-        "The Auto-Bet script for this hot-key contains a syntax error which must be corrected "
-        "before you can use it.",
-        "Auto-Bet Script Error", msg::OkAlert);
+    ShowMessage(std::string(Localized(FileTexts.HotKeyScriptError)),
+                std::string(Localized(FileTexts.ScriptErrorTitle)), msg::OkAlert);
     return;
   }
   Scripts.ProgramReady = true;

@@ -12,6 +12,7 @@
 #include "config/language.h"
 #include "config/settings.h"
 #include "engine/roll_driver.h"
+#include "engine/roll_texts.h"
 #include "engine/table.h"
 #include "engine/unattended.h"
 
@@ -25,11 +26,6 @@ constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114, StartAutoRo
               RollDelayText = 155;
 
 constexpr Money LongestDelay = 300;  // seconds
-
-constexpr const char* AskAutoStop =
-    "How often (number of rolls) would you like Auto-Roll / Hyper-Drive to automatically stop?  "
-    "(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
-    "automatic stopping.)";
 
 bool Runs() {
   return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
@@ -78,8 +74,8 @@ std::string_view AutoRollCaption() {
 }
 
 void AskSetAutoStop() {
-  const auto rolls =
-      AskForNumber(AskAutoStop, "Set Auto-Roll / Hyper-Drive Auto-Stop", Settings.AutoStopRolls);
+  const auto rolls = AskForNumber(Localized(RollTexts.AskAutoStop),
+                                  Localized(RollTexts.AutoStopTitle), Settings.AutoStopRolls);
   if (!rolls) return;
   Settings.AutoStopRolls = Money::FromWhole(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
 }
@@ -92,9 +88,9 @@ void AskSetTimeDelay() {
 
 bool ConfirmScriptActive() {
   if (AutoBet.ScriptRunning == 0) return true;
-  const std::string question = std::string(GetText(StopAutoBettingText)) + "\r\r" +
-                               At(Table.PlayerName, AutoBet.CurrentScriptPlayer) +
-                               "'s script processing.";
+  const std::string question =
+      std::string(GetText(StopAutoBettingText)) + "\r\r" +
+      FillIn(RollTexts.ScriptProcessing, {At(Table.PlayerName, AutoBet.CurrentScriptPlayer)});
   const int32_t answer =
       ShowMessage(question, std::string(GetText(AutoBetActiveText)), msg::AskNoDefault);
   if (answer != AnswerYes) return false;

@@ -1,7 +1,6 @@
 #include "config/configuration.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <utility>
 
 #include "autobet/script_store.h"
@@ -20,15 +19,8 @@ namespace {
 
 constexpr int LastWorkingBet = bet::Midway;  // the bets above it always work
 
-constexpr std::string_view LineEnd = "\r", ParagraphEnd = "\r\r";
-
-std::string Join(std::string_view separator, std::initializer_list<std::string_view> parts) {
-  std::string text;
-  for (const std::string_view part : parts) {
-    if (!text.empty()) text += separator;
-    text += part;
-  }
-  return text;
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
 }
 
 std::string WithCents(Money amount) {
@@ -45,46 +37,39 @@ ConfigurationRefusal Refuse(ConfigTab tab,
 using Refusal = std::optional<ConfigurationRefusal>;
 
 Refusal TestDenominations() {
-  const auto refuse = [](std::string text, int index) {
-    return Refuse(ConfigTab::ChecksDice, std::move(text), "Denomination", index);
+  const auto refuse = [](const SixTexts& text, int index) {
+    return Refuse(ConfigTab::ChecksDice, Text(text), "Denomination", index);
   };
   for (int index = 1; index <= 5; ++index) {
     const Money value = At(Settings.Denomination, index);
-    if (value <= Money()) return refuse("Check values must be greater than zero.", index);
+    if (value <= Money()) return refuse(ConfigurationTexts.ChecksNotPositive, index);
     if (index == 1) continue;
     if (value < At(Settings.Denomination, index - 1)) {
-      return refuse(
-          "Checks must be listed in ascending order with the lowest value check in the leftmost "
-          "position.",
-          index);
+      return refuse(ConfigurationTexts.ChecksNotAscending, index);
     }
     if (!IsMultiple(value, SmallestCheck()))
-      return refuse("All checks must be wholly divisible by the smallest check.", index);
+      return refuse(ConfigurationTexts.ChecksNotDivisible, index);
   }
   return std::nullopt;
 }
 
-Refusal TestMinimum(Money minimum, std::string_view setting, const std::string& name) {
+Refusal TestMinimum(Money minimum,
+                    std::string_view setting,
+                    const SixTexts& belowCheck,
+                    const SixTexts& notMultiple) {
   const Money check = SmallestCheck();
   if (minimum < check) {
-    return Refuse(ConfigTab::Bets,
-                  "The " + name + " cannot be less than the smallest check denomination of " +
-                      WithCents(check),
-                  setting);
+    return Refuse(ConfigTab::Bets, FillIn(belowCheck, {WithCents(check)}), setting);
   }
   if (IsMultiple(minimum, check)) return std::nullopt;
   return Refuse(ConfigTab::Bets,
-                "The " + name + " must be a multiple of the smallest check denomination, such as " +
-                    WithCents(check) + ",  " + WithCents(check * 2) + ",  " + WithCents(check * 3) +
-                    " ...",
+                FillIn(notMultiple, {WithCents(check), WithCents(check * 2), WithCents(check * 3)}),
                 setting);
 }
 
 Refusal TestMaximum() {
   if (Settings.MaxPlacardBet >= Settings.MinPlacardBet) return std::nullopt;
-  return Refuse(ConfigTab::Bets,
-                "The maximum bet must be greater than or equal to the minimum bet.",
-                "MaxPlacardBet");
+  return Refuse(ConfigTab::Bets, Text(ConfigurationTexts.MaximumBelowMinimum), "MaxPlacardBet");
 }
 
 Refusal TakeRollRate(const RollRateEntry* entry) {
@@ -107,25 +92,16 @@ Refusal TestLargestBets() {
     if (!OnLayout(number)) continue;
     const Money limit = FigureMaxBet(0, number);
     if (limit >= Settings.MinPlacardPropBet) continue;
-    const std::string name(At(BetName, number));
     const std::string amount = limit.IsWhole() ? PlainText(limit) : WithCents(limit);
-    const std::string first =
-        "Based on the selected payoffs, the maximum " + name + " bet is " + amount + ".";
-    const std::string last = "-- raise the individual payoff(s) on " + name + ".";
-    const std::string ways = Join(
-        LineEnd, {"Please do one or more of the following:", "-- lower the minimum prop bet",
-                  "-- raise the maximum prob bet payoff", "-- raise the maximum bet, or", last});
-    return Refuse(
-        ConfigTab::Bets,
-        Join(ParagraphEnd,
-             {first, "This is less than the minimum prop bet and must be adjusted.", ways}),
-        "MinPlacardPropBet");
+    return Refuse(ConfigTab::Bets,
+                  FillIn(ConfigurationTexts.LargestBetTooSmall, {At(BetName, number), amount}),
+                  "MinPlacardPropBet");
   }
   return std::nullopt;
 }
 
-bool Ask(std::string text, std::string title) {
-  return ShowMessage(std::move(text), std::move(title), msg::AskYesNo) == AnswerYes;
+bool Ask(std::string text, const SixTexts& title) {
+  return ShowMessage(std::move(text), Text(title), msg::AskYesNo) == AnswerYes;
 }
 
 void CopyHouseWorking(int place) {
@@ -139,56 +115,42 @@ void OfferHouseWorking(const PerBet<int32_t>& before) {
   const bool same =
       std::equal(house.begin() + 1, house.begin() + 1 + LastWorkingBet, before.begin() + 1);
   if (same || Table.PlayerCount == 0) return;
-  constexpr const char* Title = "Work On Come-out Roll";
   const bool wanted =
-      Ask(Join(ParagraphEnd,
-               {"You've changed the house standard for bets that work on the come-out roll.",
-                "New players will be initialized to the new house standard when they buy-in, but "
-                "players who are already present will retain their personal settings unless you "
-                "change them on the Auto-play screen (at any time) or here now.",
-                "Would you like to make any of the present players' settings match the new house "
-                "standard now?"}),
-          Title);
+      Ask(Text(ConfigurationTexts.HouseWorkingChanged), ConfigurationTexts.WorkOnComeOut);
   if (!wanted) return;
   ForEachPlayer([](int place) {
-    if (Ask("Would you like to make " + At(Table.PlayerName, place) +
-                "'s settings match the house standard?",
-            Title))
+    if (Ask(FillIn(ConfigurationTexts.AskPlayerWorking, {At(Table.PlayerName, place)}),
+            ConfigurationTexts.WorkOnComeOut))
       CopyHouseWorking(place);
   });
 }
 
 struct LayoutRow {
   int32_t SettingsState::*Flag;
-  std::string_view Names;  // in the question
+  SixTexts Names;  // in the question
   std::array<int, 8> Bets;
 };
 
 // clang-format off
 constexpr std::array<LayoutRow, 4> LayoutRows = {{  // by LayoutOption
-    {&SettingsState::UseBig68, "Big 6/8", {bet::Big6, bet::Big8}},
-    {&SettingsState::UseMidwayBet, "Midway", {bet::Midway}},
-    {&SettingsState::UseFireBet, "Fire", {bet::Fire}},
+    {&SettingsState::UseBig68, {"Big 6/8"}, {bet::Big6, bet::Big8}},
+    {&SettingsState::UseMidwayBet, {"Midway"}, {bet::Midway}},
+    {&SettingsState::UseFireBet, {"Fire"}, {bet::Fire}},
     {&SettingsState::UseSpecialPropBets,
-     "All Small, All Tall, Make All, Four Rolls No 7, 7 Point 7, Point 7, Sharpshooter, or Ride The Line",
+     ConfigurationTexts.SpecialPropNames,
      {bet::AllSmall, bet::AllTall, bet::MakeAll, bet::FourRollsNo7, bet::Point7, bet::SevenPoint7,
       bet::SharpShooter, bet::RideTheLine}},
 }};
 // clang-format on
 
-constexpr const char* RemoveBetsTitle = "Remove Bets";
-
 bool MayRemove(LayoutOption option, const LayoutRow& row) {
   if (option == LayoutOption::SpecialProps && Table.Point != 0 && AnyHolds(bet::SevenPoint7)) {
-    ShowMessage(
-        "You can't uncheck special prop bets now because there are currently one or more wagers on "
-        "7 Point 7 which is a contract bet and can't be removed it until it resolves.",
-        RemoveBetsTitle, msg::OkAlert);
+    ShowMessage(Text(ConfigurationTexts.SpecialPropsBound), Text(ConfigurationTexts.RemoveBets),
+                msg::OkAlert);
     return false;
   }
-  const std::string first =
-      "One or more wagers on " + std::string(row.Names) + " will be removed from the table.";
-  return Ask(Join(ParagraphEnd, {first, "Would you like to continue?"}), RemoveBetsTitle);
+  return Ask(FillIn(ConfigurationTexts.WagersWillBeRemoved, {Localized(row.Names)}),
+             ConfigurationTexts.RemoveBets);
 }
 
 // Writes a vig setting unless it would take a player's bankroll below zero.
@@ -203,37 +165,21 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
   if (payable) return true;
   Settings.*setting = before;
   ForEachPlayer([](int place) { ChargeChangedVig(place); });
-  const std::string ways =
-      Join(LineEnd, {"This can be remedied by doing one or more of the following:",
-                     " -- Make a withdrawal from the ATM", " -- Reduce the amount on current bets",
-                     " -- Check Allow negative bankroll"});
-  ShowMessage(Join(ParagraphEnd,
-                   {"You're not allowed to change this setting at this time because one or more "
-                    "players doesn't have enough bankroll remaining to pay the added up-front vig "
-                    "that would be required.",
-                    ways}),
-              "Vigorish", msg::OkAlert);
+  ShowMessage(Text(ConfigurationTexts.VigNotPayable), Text(ConfigurationTexts.Vigorish),
+              msg::OkAlert);
   return false;
 }
 
-bool RefuseNonNegative(int place, std::string_view why, std::string_view firstOption) {
-  const std::string first = At(Table.PlayerName, place) + std::string(why);
-  std::string options = "Some options:";
-  if (!firstOption.empty()) options.append(LineEnd).append(firstOption);
-  for (const std::string_view option :
-       {" -- Win some more money", " -- Withdraw some money from the ATM",
-        " -- Start a new session"})
-    options.append(LineEnd).append(option);
-  ShowMessage(Join(ParagraphEnd, {first, options}), "Allow negative bankroll", msg::OkAlert);
+bool RefuseNonNegative(int place, const SixTexts& why) {
+  ShowMessage(FillIn(why, {At(Table.PlayerName, place)}),
+              Text(ConfigurationTexts.AllowNegativeBankroll), msg::OkAlert);
   return false;
 }
 
 bool AnyPlayer() {
   if (Table.PlayerCount > 0) return true;
-  ShowMessage(Join(ParagraphEnd,
-                   {"You need to add one or more players before you can set bankroll parameters.",
-                    "To add a player return to the main table and click on the Players menu."}),
-              "Missing Players", msg::OkAlert);
+  ShowMessage(Text(ConfigurationTexts.PlayersNeeded), Text(ConfigurationTexts.MissingPlayers),
+              msg::OkAlert);
   return false;
 }
 
@@ -263,9 +209,14 @@ std::string YesNoRow(bool yes, int number) {
 
 std::optional<ConfigurationRefusal> ValidateConfiguration(const ValidationOptions& options) {
   Refusal refusal = TestDenominations();
-  if (!refusal) refusal = TestMinimum(Settings.MinPlacardBet, "MinPlacardBet", "minimum bet");
+  if (!refusal)
+    refusal =
+        TestMinimum(Settings.MinPlacardBet, "MinPlacardBet", ConfigurationTexts.MinimumBelowCheck,
+                    ConfigurationTexts.MinimumNotMultiple);
   if (!refusal) {
-    refusal = TestMinimum(Settings.MinPlacardPropBet, "MinPlacardPropBet", "minimum prop bet");
+    refusal = TestMinimum(Settings.MinPlacardPropBet, "MinPlacardPropBet",
+                          ConfigurationTexts.PropMinimumBelowCheck,
+                          ConfigurationTexts.PropMinimumNotMultiple);
   }
   if (!refusal) refusal = TestMaximum();
   if (!refusal) refusal = TakeRollRate(options.RollRate);
@@ -320,10 +271,9 @@ bool ChangeVig(int32_t SettingsState::*setting, int32_t value) {
 
 bool SetAllowNegBankroll(int place, bool allow) {
   if (!allow && BankrollOf(place) < Money())
-    return RefuseNonNegative(place, " currently has a negative bankroll.", "");
+    return RefuseNonNegative(place, ConfigurationTexts.BankrollIsNegative);
   if (!allow && At(Table.MoneyOnTable, place) > BankrollOf(place)) {
-    return RefuseNonNegative(place, "'s current bets exceed current bankroll.",
-                             " -- Reduce the amount of current bets");
+    return RefuseNonNegative(place, ConfigurationTexts.BetsExceedBankroll);
   }
   At(Table.AllowNegBankroll, place) = allow ? -1 : 0;
   return true;
@@ -356,10 +306,9 @@ std::optional<std::string> SetSimRollRate(const RollRateEntry& entry) {
   std::string digits = entry.Text;
   std::erase(digits, ',');
   const Money value = ParseMoney(digits).value_or(Money());
-  if (value <= Money()) return "The simulated roll rate must be greater than zero.";
+  if (value <= Money()) return Text(ConfigurationTexts.RollRateNotPositive);
   if (value > Money(unit.Maximum)) {
-    return "The maximum simulated " + std::string(unit.Caption) + " rate is " +
-           std::string(unit.Is);
+    return FillIn(ConfigurationTexts.RollRateTooHigh, {Localized(unit.Caption), unit.Is});
   }
   const Money inAnHour = unit.InAnHour;
   Settings.SimRollRate =
@@ -395,8 +344,7 @@ std::string CompBetRowText(int number) {
 }
 
 bool RestoreDefaultDenoms() {
-  if (!Ask("Do you want to restore all checks to their original Tessarel values?",
-           "Restore Default Denominations"))
+  if (!Ask(Text(ConfigurationTexts.AskDefaultChecks), ConfigurationTexts.RestoreDefaultChecks))
     return false;
   Settings.Denomination = SettingsState().Denomination;
   return true;

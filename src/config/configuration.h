@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "base/money.h"
+#include "config/configuration_texts.h"
 #include "config/payoff_editor.h"
 #include "config/settings.h"
 #include "engine/table.h"
@@ -85,7 +86,7 @@ bool SetBankrollInitAmount(int place, Money amount);
 
 // The ways in which the sim roll rate is shown and entered.
 struct RollRateUnit {
-  std::string_view Caption;
+  SixTexts Caption;
   int InAnHour;         // how many of the unit make an hour
   bool PerRoll;         // a time for each roll instead of rolls in a time
   int Maximum;          // in the unit
@@ -93,12 +94,12 @@ struct RollRateUnit {
 };
 // clang-format off
 inline constexpr std::array<RollRateUnit, 6> RollRateUnits = {{
-    {"Roll / hr",      1, false, 36'000'000, "36,000,000."},
-    {"Roll / min",    60, false,    600'000, "600,000."},
-    {"Roll / sec",  3600, false,     10'000, "10,000."},
-    {"Hrs / roll",     1, true,      10'000, "10,000."},
-    {"Mins / roll",   60, true,     600'000, "600,000."},
-    {"Secs / roll", 3600, true,  36'000'000, "36,000,000."},
+    {ConfigurationTexts.RollsPerHour,      1, false, 36'000'000, "36,000,000."},
+    {ConfigurationTexts.RollsPerMinute,   60, false,    600'000, "600,000."},
+    {ConfigurationTexts.RollsPerSecond, 3600, false,     10'000, "10,000."},
+    {ConfigurationTexts.HoursPerRoll,      1, true,      10'000, "10,000."},
+    {ConfigurationTexts.MinutesPerRoll,   60, true,     600'000, "600,000."},
+    {ConfigurationTexts.SecondsPerRoll, 3600, true,  36'000'000, "36,000,000."},
 }};
 // clang-format on
 
@@ -129,14 +130,14 @@ bool RestoreDefaultDenoms();
 
 struct NoticeRow {
   Notice Bit;
-  std::string_view Caption;
+  SixTexts Caption;
 };
 inline constexpr std::array<NoticeRow, 5> NoticeRows = {{
-    {NoticeActionsNotAllowed, "Actions not allowed"},
-    {NoticeLimits, "Betting limits reached"},
-    {NoticeCharges, "Charges and/or change"},
-    {NoticeAutoBet, "Auto-bet messages normal play"},
-    {NoticeAutoBetHyper, "Auto-bet messages hyper-drive"},
+    {NoticeActionsNotAllowed, ConfigurationTexts.ActionsNotAllowed},
+    {NoticeLimits, ConfigurationTexts.LimitsReached},
+    {NoticeCharges, ConfigurationTexts.ChargesAndChange},
+    {NoticeAutoBet, ConfigurationTexts.AutoBetMessages},
+    {NoticeAutoBetHyper, ConfigurationTexts.AutoBetMessagesHyper},
 }};
 
 void SetNotice(Notice notice, bool show);

@@ -7,6 +7,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
+#include "config/configuration_texts.h"
 #include "config/settings.h"
 #include "engine/bet_limits.h"
 #include "engine/table.h"
@@ -118,7 +119,14 @@ constexpr PairSet TwoAndTwelve = PairBit(1, 1) | PairBit(6, 6);
 constexpr PairSet ThreeAndEleven = PairBit(1, 2) | PairBit(5, 6);
 
 // What a sub-row's caption leaves out on the command line.
-constexpr std::string_view CountWords[] = {" points", " point", " passes", " pass"};
+struct CountWord {
+  std::string_view Word;
+  SixTexts Row;  // the caption that is shown for it
+};
+constexpr CountWord CountWords[] = {{" points", ConfigurationTexts.PointsRow},
+                                    {" point", ConfigurationTexts.PointRow},
+                                    {" passes", ConfigurationTexts.PassesRow},
+                                    {" pass", ConfigurationTexts.PassRow}};
 
 void RequireRow(PayoffCell cell) {
   const int last = cell.Grid == PayoffGrid::Bets ? PayoffEditorRowCount : FieldRowCount;
@@ -132,9 +140,20 @@ std::string_view OwnCaption(int row) {
   return At(table->Captions, shown.SubIndex - table->FirstSub);
 }
 
+// A count in the language in force; the names of outcomes are as on the layout.
+std::string ShownOwnCaption(std::string_view caption) {
+  for (const CountWord& count : CountWords) {
+    if (!caption.ends_with(count.Word)) continue;
+    caption.remove_suffix(count.Word.size());
+    caption.remove_prefix(caption.find_first_not_of(' '));
+    return FillIn(count.Row, {caption});
+  }
+  return std::string(caption);
+}
+
 std::string BetCaption(int row) {
   const PayoffEditorRow& shown = At(EditorRows, row);
-  if (shown.SubIndex >= 0) return std::string(OwnCaption(row));
+  if (shown.SubIndex >= 0) return ShownOwnCaption(OwnCaption(row));
   const auto* block = std::ranges::find_if(
       Blocks, [row](const Block& run) { return row >= run.FirstRow && row <= run.LastRow; });
   if (block == std::end(Blocks) || block->Form == CaptionForm::BetName)
@@ -211,33 +230,33 @@ std::optional<PayoffRefusal> TestPositive(int firstRow, int lastRow, std::string
     const PayoffCell cell{PayoffGrid::Bets, row};
     if (PayoffOf(cell).PayNum > Money()) continue;
     if (bet.empty())
-      return PayoffRefusal{"The payoff on " + PayoffCaption(cell) + " must be positive.", cell};
-    return PayoffRefusal{"The payoffs on " + std::string(bet) + " must be positive.", cell};
+      return PayoffRefusal{FillIn(ConfigurationTexts.PayoffNotPositive, {PayoffCaption(cell)}),
+                           cell};
+    return PayoffRefusal{FillIn(ConfigurationTexts.PayoffsNotPositive, {bet}), cell};
   }
   return std::nullopt;
 }
 
 // No row may cost more than the wager, and one at least must win.
 std::optional<PayoffRefusal> TestTable(PayoffCell first, int count, std::string_view bet) {
-  const std::string name(bet);
   bool wins = false;
   for (int k = 0; k < count; ++k) {
     const PayoffCell cell{first.Grid, first.Row + k};
     const PayoffRow& row = PayoffOf(cell);
     if (row.PayNum < -row.PayDen) {
-      return PayoffRefusal{"Any loss on the " + name + " bet cannot exceed the amount wagered.",
-                           cell};
+      return PayoffRefusal{FillIn(ConfigurationTexts.LossExceedsWager, {bet}), cell};
     }
     wins = wins || row.PayNum > Money();
   }
   if (wins) return std::nullopt;
-  return PayoffRefusal{"At least one of the " + name + " bet payoffs must be positive.", first};
+  return PayoffRefusal{FillIn(ConfigurationTexts.NoPositivePayoff, {bet}), first};
 }
 
 std::optional<PayoffRefusal> TestMaxFireBet() {
   if (Settings.UseFireBet == 0 || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
     return std::nullopt;
-  return PayoffRefusal{"The max Fire bet cannot be less than the minimum prop bet.", std::nullopt};
+  return PayoffRefusal{std::string(Localized(ConfigurationTexts.MaxFireBelowMinimum)),
+                       std::nullopt};
 }
 
 std::optional<PayoffCell> CellByName(std::string_view name) {
@@ -331,8 +350,8 @@ std::string PayoffRowName(PayoffCell cell) {
   if (shown.SubIndex < 0) return BetCaption(cell.Row);
   std::string_view caption = OwnCaption(cell.Row);
   caption.remove_prefix(caption.find_first_not_of(' '));
-  for (const std::string_view word : CountWords) {
-    if (caption.ends_with(word)) caption.remove_suffix(word.size());
+  for (const CountWord& count : CountWords) {
+    if (caption.ends_with(count.Word)) caption.remove_suffix(count.Word.size());
   }
   return std::string(At(BetName, shown.Bet)) + " " + std::string(caption);
 }
@@ -382,8 +401,8 @@ void SetFieldPayoffs(const FieldPreset& preset) {
 
 bool RestoreDefaultPayoffs() {
   const int32_t answer =
-      ShowMessage("Do you want to restore all payoffs to their original Tessarel values?",
-                  "Restore Default Payoffs", msg::AskYesNo);
+      ShowMessage(std::string(Localized(ConfigurationTexts.AskDefaultPayoffs)),
+                  std::string(Localized(ConfigurationTexts.RestoreDefaultPayoffs)), msg::AskYesNo);
   if (answer != AnswerYes) return false;
   DefaultPayoffs();
   SetOddsPayoffRows();

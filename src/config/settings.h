@@ -22,8 +22,8 @@ struct SettingsState {
   Money MaxPropBetPayoff = 3000;  // the most a proposition bet may win
   Money MaxOddsBet = 3000, MaxFireBet = 5;
   Money OddsAllowed410 = 3, OddsAllowed59 = 4, OddsAllowed68 = 5;  // multiples of the flat bet
-  int32_t OddsCalcMethod = 0;                                      // 0 to 5, OddsCalcMethodNames
-  int32_t BarNumber = 12;                                          // 2 or 12
+  int32_t OddsCalcMethod = 0;    // 0 to 5, ConfigurationTexts.OddsCalcMethods
+  int32_t BarNumber = 12;        // 2 or 12
   int32_t BetNeededToShoot = 1;  // 0 none, 1 a line bet, 2 any bet
   int32_t AllowPutBets = -1;
   int32_t ReturnAbandonedBets = 0;
@@ -123,15 +123,5 @@ constexpr int32_t OriginalHouseWorking(int number) {
                    number == bet::DontPassOdds || number == bet::DontCome;
   return off ? 0 : 1;
 }
-
-// clang-format off
-inline constexpr std::array<std::string_view, 6> OddsCalcMethodNames = {
-    "Auto select", "X Flat - No Push", "X Flat w/ Minor Push", "X Flat w/ Color Push",
-    "X Flat - Single Odds", "Flat - Single Odds X"};
-inline constexpr std::array<std::string_view, 3> BetNeededToShootNames = {
-    "No bets required to shoot", "Line bet required to shoot", "Any bet required to shoot"};
-inline constexpr std::array<std::string_view, 3> RoundVigNames = {
-    "Rounded normally", "Rounded down", "Rounded up"};
-// clang-format on
 
 }  // namespace tessarel

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "config/language.h"
+#include "dice/dice_texts.h"
 #include "dice/probability.h"
 #include "engine/table.h"
 #include "files/event_lines.h"
@@ -38,22 +39,6 @@ constexpr Congruence Single = {714025, 1366, 150889};
 constexpr double SingleReciprocal = 1.4005112e-6;
 
 constexpr int LargestQuickSeed = 999'999;
-
-constexpr std::string_view FirstTwisterMissing =
-    "Unable to locate a support file called MT19937AR.DLL\r"
-    "This file is needed to operate random number generators #1, #6, and #8.";
-constexpr std::string_view SecondTwisterMissing =
-    "Unable to locate a support file called COKUS.DLL\r"
-    "This file is needed to operate random number generators #2 and #7.";
-constexpr std::string_view WhatToDoAboutMissing =
-    "\r\rThis problem usually happens when a user drags Tessarel' main game file out of its "
-    "installed location and drops it on the desktop to create a shortcut."
-    "\r\rDon't worry, you can still play the game with one of the remaining random number "
-    "generators.  However, if the main game file remains isolated then it'll be unable to access "
-    "other support files such as sound files."
-    "\r\rA better solution is to return the main game file to its originally installed location "
-    "together with all the other installed files.  If you're unable to locate the original files "
-    "then you can just run the installation program tessarel-setup";
 
 int32_t FloorOf(double value) {
   const auto cut = static_cast<int32_t>(value);
@@ -371,7 +356,7 @@ SelectResult SelectRNG(int32_t number) {
 bool PickGenerator(int32_t number) {
   const SelectResult result = SelectRNG(number);
   if (result == Unavailable) {
-    ShowMessage("Unfortunately, RNG #" + std::to_string(number) + " is currently unavailable.",
+    ShowMessage(FillIn(DiceTexts.GeneratorUnavailable, {std::to_string(number)}),
                 std::string(GetTitle(TitleRandomNumberGenerator)), msg::OkAlert);
   }
   return result == Selected;
@@ -388,12 +373,13 @@ void SeedAllGenerators() {
 std::string MissingSupportText() {
   if (Dice.SupportFilesMissing == 0) return {};
   std::string text;
-  if ((Dice.SupportFilesMissing & FirstTwister) != 0) text += FirstTwisterMissing;
+  if ((Dice.SupportFilesMissing & FirstTwister) != 0)
+    text += Localized(DiceTexts.FirstTwisterMissing);
   if ((Dice.SupportFilesMissing & SecondTwister) != 0) {
     if (!text.empty()) text += "\r\r";
-    text += SecondTwisterMissing;
+    text += Localized(DiceTexts.SecondTwisterMissing);
   }
-  return text.append(WhatToDoAboutMissing);
+  return text.append("\r\r").append(Localized(DiceTexts.WhatToDoAboutMissing));
 }
 
 int32_t PlatformRandom(int32_t n) {

@@ -7,6 +7,7 @@
 #include "base/message.h"
 #include "base/trap.h"
 #include "config/folders.h"
+#include "dice/dice_texts.h"
 #include "dice/roll_file.h"
 #include "engine/table.h"
 
@@ -18,10 +19,6 @@ namespace {
 
 constexpr float LongestWait = 0.5F;  // seconds, when nobody asked for a run
 constexpr int64_t LookEvery = 1;     // milliseconds
-
-constexpr std::string_view InvalidRoll =
-    "A dice roll value has been found to be out of limits. \r\r"
-    "Play has stopped so that you can check the pop-up file or continue without it.";
 
 // The first two digits from 1 to 6; die2 is 0 when the file ends before it.
 Faces FirstDice(const std::string& path) {
@@ -91,9 +88,10 @@ std::optional<Faces> TakePopupRoll() {
     return std::nullopt;
   }
   if (Table.HyperDriveOn == 0) {
-    ShowMessage(std::string(InvalidRoll), "Dice Roll File Error", msg::OkAlert);
+    ShowMessage(std::string(Localized(DiceTexts.InvalidRollInPopup)),
+                std::string(Localized(DiceTexts.RollFileError)), msg::OkAlert);
   }
-  Table.StopReason = StoppedByInvalidRoll;
+  Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
   return std::nullopt;
 }
 

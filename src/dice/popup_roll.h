@@ -12,13 +12,10 @@
 
 namespace tessarel {
 
-// What the table's status says while PopupRollState::Waiting is set.
-inline constexpr std::string_view WaitingForRollFile = "Waiting for Roll File";
-
 struct PopupRollState {
   std::string PopupRollFileName;  // full name; empty without one
   int32_t PopupRollActive = 0;
-  bool Waiting = false;  // a roll waits for the file
+  bool Waiting = false;  // a roll waits for the file; the table's status says so
 };
 
 extern PopupRollState PopupRoll;

@@ -1,12 +1,14 @@
 #include "dice/probability.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <random>
 
 #include "base/fault.h"
 #include "base/number_format.h"
+#include "dice/dice_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -16,15 +18,6 @@ ProbabilityState Probability;
 namespace {
 
 constexpr std::string_view NothingToDraw = "No dice can be drawn from the probability matrix";
-
-// clang-format off
-constexpr std::array<std::string_view, 4> DisplayCaptions = {
-    "Shown as percentages",
-    "Shown as +/- from true percentages",
-    "Shown as number of rolls out of ",
-    "Shown as +/- from true number of rolls out of ",
-};
-// clang-format on
 
 constexpr bool IsFromTrue(int32_t display) {
   return display == ShownAsPercentagesFromTrue || display == ShownAsRollsFromTrue;
@@ -73,7 +66,7 @@ void RequireReachable(int64_t sum) {
     highest = std::max(highest, sum);
   });
   if (highest >= 1 || sum > start) return;
-  Table.StopReason = std::string(NothingToDraw) + ".";
+  Table.StopReason = Localized(DiceTexts.NothingToDraw);
   throw Fault(FaultNumber::InvalidCall, std::string(NothingToDraw));
 }
 
@@ -125,13 +118,16 @@ void UnlockShares() {
 }
 
 std::string_view PercentageDiceCaption() {
-  return Probability.ProbabilityMatrix.Flags[0][0] == FreeFormMark ? "Free Form Dice"
-                                                                   : "Percentage Dice";
+  const bool freeForm = Probability.ProbabilityMatrix.Flags[0][0] == FreeFormMark;
+  return Localized(freeForm ? DiceTexts.FreeFormDice : DiceTexts.PercentageDice);
 }
 
 std::string ProbabilityDisplayText(int32_t display, bool base) {
   if (display < ShownAsPercentages || display > ShownAsRollsFromTrue) RaiseIndexOutOfRange();
-  const std::string caption(At(DisplayCaptions, display));
+  constexpr std::array Captions = {&DiceTexts.ShownAsPercentages,
+                                   &DiceTexts.ShownAsPercentagesFromTrue, &DiceTexts.ShownAsRolls,
+                                   &DiceTexts.ShownAsRollsFromTrue};
+  const std::string caption(Localized(*At(Captions, display)));
   return base && IsInRolls(display) ? caption + PlainNumber(Probability.RollsOutOf) : caption;
 }
 

@@ -6,6 +6,7 @@
 #include "base/single_byte_text.h"
 #include "config/folders.h"
 #include "config/language.h"
+#include "dice/dice_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -46,9 +47,9 @@ void TakeName(const std::string& path) {
   Probability.ProbabilityChanged = 0;
 }
 
-SaveChoice AskToSave(const char* lost, int32_t flags) {
-  const int32_t answer = ShowMessage(std::string(lost) + "\r\rDo you want to save them now?",
-                                     "Save Probabilities?", flags);
+SaveChoice AskToSave(const SixTexts& question, int32_t flags) {
+  const int32_t answer = ShowMessage(std::string(Localized(question)),
+                                     std::string(Localized(DiceTexts.SaveProbabilities)), flags);
   if (answer == AnswerCancel) return SaveChoice::Cancel;
   if (answer != AnswerYes) return SaveChoice::GoOn;
   return EqualIgnoringCase(ShortName(Probability.ProbabilityFileName), AutomaticProbabilityFile)
@@ -74,11 +75,8 @@ bool OpenProbabilityFile(const std::string& name) {
   if (!FileExists(path)) return false;
   const auto planes = MatrixOfBytes(ReadWholeFile(path, LargestFile));
   if (!planes) {
-    ShowMessage(
-        "This file is either from an older version, has been corrupted, or is not a true Tessarel "
-        "Probability File.\r\r" +
-            path,
-        std::string(GetText(ErrorTitleText)), msg::OkAlert);
+    ShowMessage(FillIn(DiceTexts.NotAProbabilityFile, {path}), std::string(GetText(ErrorTitleText)),
+                msg::OkAlert);
     return false;
   }
   Probability.ProbabilityMatrix = *planes;
@@ -105,15 +103,12 @@ SaveChoice AskToSaveOnExit() {
   if (Probability.ProbabilityFileName.empty() || Probability.ProbabilityChanged == 0) {
     return SaveChoice::GoOn;
   }
-  return AskToSave(
-      "Your current probabilities (listed on the 'Probability tab' of the configuration screen) "
-      "have not been saved.",
-      msg::AskYesNo | msg::Cancel);
+  return AskToSave(DiceTexts.CurrentNotSaved, msg::AskYesNo | msg::Cancel);
 }
 
 SaveChoice AskToSaveBeforeNew() {
   if (Probability.ProbabilityChanged == 0) return SaveChoice::GoOn;
-  return AskToSave("These probabilities have not been saved.", msg::AskYesNo);
+  return AskToSave(DiceTexts.TheseNotSaved, msg::AskYesNo);
 }
 
 }  // namespace tessarel

@@ -11,6 +11,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "config/folders.h"
+#include "dice/dice_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -24,13 +25,6 @@ constexpr int32_t BlockLength = 65'536;
 constexpr const char* UnableToOpen = "Unable to open the dice roll file ";
 constexpr const char* UnableToRead = "Unable to read the dice roll file ";
 constexpr const char* UnableToWrite = "Unable to write the dice roll file ";
-
-constexpr std::string_view ErrorTitle = "Dice Roll File Error";
-constexpr std::string_view InvalidRoll =
-    "A dice roll value has been found to be out of limits. \r\r"
-    "Playback of this Dice Roll File has stopped so that you can check the file or continue "
-    "without it.";
-constexpr std::string_view StoppedByEnd = "Stopped due to end of Dice Roll File reached.";
 
 [[noreturn]] void RaiseFileFault(std::string what, const std::string& path) {
   const FaultNumber number = errno == ENOSPC ? FaultNumber::DeviceFull : FaultNumber::FileAccess;
@@ -138,9 +132,10 @@ void StopAtInvalidRoll() {
   RollFile.RollFileMode = RollFileOff;
   if (Table.HyperDriveOn == 0) {
     FrontEnd.RefreshViews();
-    ShowMessage(std::string(InvalidRoll), std::string(ErrorTitle), msg::OkAlert);
+    ShowMessage(std::string(Localized(DiceTexts.InvalidRollInFile)),
+                std::string(Localized(DiceTexts.RollFileError)), msg::OkAlert);
   }
-  Table.StopReason = StoppedByInvalidRoll;
+  Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
 }
 
 }  // namespace
@@ -196,7 +191,7 @@ bool PlaysNextRoll() {
 std::optional<Faces> PlayBackRoll() {
   RollFile.EndReached = !HoldNextRoll();
   if (RollFile.EndReached) {
-    Table.StopReason = StoppedByEnd;
+    Table.StopReason = Localized(DiceTexts.StoppedByEndOfFile);
     return std::nullopt;
   }
   const Faces faces = HeldRoll();

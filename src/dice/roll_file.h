@@ -24,10 +24,6 @@ enum RollFileUse : int32_t { RollFileOff = 0, RollFileRecord = 1, RollFilePlay =
 // last one.
 inline constexpr int32_t MaxRollsInFile = std::numeric_limits<int32_t>::max() - 1;
 
-// Why a roll stops whose dice, from whichever file, are none.
-inline constexpr std::string_view StoppedByInvalidRoll =
-    "Stopped due to Dice Roll File value out of limits.";
-
 struct RollFileState {
   std::string RollFileName;  // full name of the open file; empty if none
   int32_t RollFileMode = RollFileOff;

@@ -12,6 +12,7 @@
 #include "base/single_byte_text.h"
 #include "base/trap.h"
 #include "config/folders.h"
+#include "dice/dice_texts.h"
 #include "dice/popup_roll.h"
 #include "engine/table.h"
 #include "engine/unattended.h"
@@ -27,41 +28,19 @@ constexpr std::string_view ClipboardName = "rollcopyfile.rll";
 constexpr std::string_view ScratchName = "cnvrtasc.xx~";
 constexpr int32_t BlockLength = 30'000;
 
-constexpr const char* RecordTitle = "Record Dice Rolls";
-constexpr const char* PopupTitle = "Pop-up Roll File";
-constexpr const char* FileTitle = "Dice Roll File";
-constexpr const char* CopyTitle = "Copy To Dice Roll File";
-constexpr const char* CopyTextTitle = "Copy Dice Rolls To Text File";
-constexpr const char* PrintTitle = "Print Dice Rolls";
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
+}
 
-constexpr const char* OpenFileFirst = "Please open a dice roll file first.";
-constexpr const char* PlaybackClosesPopup =
-    "A pop-up roll file is in use. It will be closed if you play back this dice roll file.\r\r"
-    "Would you like to close it?";
-constexpr const char* NothingToPlay = "There are no dice rolls in this file to play back.";
-constexpr const char* TargetIsOpen =
-    "Can't copy rolls to a file that's open and in use.\r\rPlease select another file name.";
-constexpr const char* TextTargetIsOpen =
-    "Can't use the Copy To Text File command to copy rolls to a file that's open and in use.\r\r"
-    "Please select another file name or use the Copy and Paste commands to modify the open file.";
-constexpr const char* NoRollFile =
-    "This file is either from an earlier version, has been corrupted, or is not a true Tessarel "
-    "dice roll file.\r\r";
-constexpr const char* EmptyFormat =
-    "You must include one or more pieces of dice roll information in your output format, such "
-    "as:\r\r    Roll#, Die1, Die2, or Total";
-constexpr const char* AskToRenumber =
-    "The rolls you've selected do not begin with roll #1.  Would you like to renumber them in the "
-    "output starting with #1?";
-constexpr const char* AskToPrintAll =
-    "Would you like to print all rolls?\r\rIf not, then only selected rolls will be printed.";
-constexpr const char* NothingToPrint = "There are no dice rolls to print.";
+int32_t Show(const SixTexts& text, const SixTexts& title, int32_t flags) {
+  return ShowMessage(Text(text), Text(title), flags);
+}
 
 // --- What may be done ---------------------------------------------------------------------------
 
 bool FileIsOpen() {
   if (RollFile.File.is_open()) return true;
-  ShowMessage(OpenFileFirst, RecordTitle, msg::OkAlert);
+  Show(DiceTexts.OpenFileFirst, DiceTexts.RecordTitle, msg::OkAlert);
   return false;
 }
 
@@ -156,7 +135,7 @@ bool PutOnClipboard(RollRange range) {
 bool PasteFrom(const std::string& path) {
   FlushRollFile();  // the open file may be pasted into itself
   if (!IsRollFile(path)) {
-    ShowMessage(NoRollFile + path, Message.ErrorTitle, msg::OkAlert);
+    ShowMessage(FillIn(DiceTexts.NotARollFile, {path}), Message.ErrorTitle, msg::OkAlert);
     return false;
   }
   InsertRolls([&path](const ByteSink& sink) {
@@ -255,12 +234,12 @@ void AppendRoll(std::string& text, std::string_view prepared, int32_t number, Fa
   }
 }
 
-bool FormatShowsRolls(const char* title) {
+bool FormatShowsRolls(const SixTexts& title) {
   const std::string format = PreparedFormat(RollOutputFormat());
   const bool shows = std::any_of(FormatWords.begin(), FormatWords.end(), [&](const auto& word) {
     return format.find(word.text) != std::string::npos;
   });
-  if (!shows) ShowMessage(EmptyFormat, title, msg::OkAlert);
+  if (!shows) Show(DiceTexts.EmptyFormat, title, msg::OkAlert);
   return shows;
 }
 
@@ -282,7 +261,8 @@ void ForEachLine(RollRange range, int32_t number, Visit&& visit) {
 int32_t AskFirstNumber(RollRange range) {
   const bool numbered = LowerCase(RollOutputFormat()).find("roll#") != std::string::npos;
   if (range.first == 1 || !numbered) return range.first;
-  const bool renumber = ShowMessage(AskToRenumber, CopyTextTitle, msg::AskYesNo) == AnswerYes;
+  const bool renumber =
+      Show(DiceTexts.AskToRenumber, DiceTexts.CopyTextTitle, msg::AskYesNo) == AnswerYes;
   return renumber ? 1 : range.first;
 }
 
@@ -303,11 +283,12 @@ void WriteText(RollRange range, int32_t number, const std::string& path) {
 
 bool MayPlay() {
   if (PopupRoll.PopupRollActive != 0) {
-    if (ShowMessage(PlaybackClosesPopup, PopupTitle, msg::AskYesNo) != AnswerYes) return false;
+    if (Show(DiceTexts.PlaybackClosesPopup, DiceTexts.PopupTitle, msg::AskYesNo) != AnswerYes)
+      return false;
     ClosePopupRoll();
   }
   if (RollFile.RollCountInFile > 0) return true;
-  ShowMessage(NothingToPlay, PopupTitle, msg::OkAlert);
+  Show(DiceTexts.NothingToPlay, DiceTexts.PopupTitle, msg::OkAlert);
   return false;
 }
 
@@ -321,9 +302,8 @@ void EnterRecorderState(int32_t use) {
   if (use == RollFilePlay && before != RollFilePlay) LogPlayback(RollFile.RollFileName);
 }
 
-void AskToRewind(const char* what) {
-  const bool rewind = ShowMessage(std::string(what) + "\rRewind for playback?", FileTitle,
-                                  msg::AskYesNo) == AnswerYes;
+void AskToRewind(const SixTexts& question) {
+  const bool rewind = Show(question, DiceTexts.RollFileTitle, msg::AskYesNo) == AnswerYes;
   if (rewind) {
     RewindForPlayback();
   } else {
@@ -392,8 +372,8 @@ void DeleteRollClipboard() {
 bool RefusesOpenRollFile(const std::string& name, bool asText) {
   if (!RollFile.File.is_open() || !IsSameFile(InProgramFolder(name), RollFile.RollFileName))
     return false;
-  ShowMessage(asText ? TextTargetIsOpen : TargetIsOpen, asText ? CopyTextTitle : CopyTitle,
-              msg::OkAlert);
+  Show(asText ? DiceTexts.TextTargetIsOpen : DiceTexts.TargetIsOpen,
+       asText ? DiceTexts.CopyTextTitle : DiceTexts.CopyTitle, msg::OkAlert);
   return true;
 }
 
@@ -431,7 +411,7 @@ std::string RollText(std::string_view format, int32_t number, Faces faces) {
 }
 
 bool CopyRollsToTextFile(RollRange selection, const std::string& name) {
-  if (!FileIsOpen() || !FormatShowsRolls(CopyTextTitle)) return false;
+  if (!FileIsOpen() || !FormatShowsRolls(DiceTexts.CopyTextTitle)) return false;
   if (RefusesOpenRollFile(name, true)) return false;
   const std::string path = InProgramFolder(name);
   const RollRange range = Within(selection);
@@ -442,11 +422,12 @@ bool CopyRollsToTextFile(RollRange selection, const std::string& name) {
 std::optional<RollRange> AskRollsToPrint(RollRange selection) {
   const RollRange all = Within({1, RollFile.RollCountInFile});
   if (IsEmpty(all)) {
-    ShowMessage(NothingToPrint, PrintTitle, msg::OkAlert);
+    Show(DiceTexts.NothingToPrint, DiceTexts.PrintTitle, msg::OkAlert);
     return std::nullopt;
   }
-  if (!FormatShowsRolls(PrintTitle)) return std::nullopt;
-  const bool wantsAll = ShowMessage(AskToPrintAll, PrintTitle, msg::AskYesNo) == AnswerYes;
+  if (!FormatShowsRolls(DiceTexts.PrintTitle)) return std::nullopt;
+  const bool wantsAll =
+      Show(DiceTexts.AskToPrintAll, DiceTexts.PrintTitle, msg::AskYesNo) == AnswerYes;
   return wantsAll ? all : Within(selection);
 }
 
@@ -466,12 +447,11 @@ std::vector<std::string> RollPrintRows(RollRange rolls) {
 void StopRollFile() {
   const bool popup = PopupRoll.PopupRollActive != 0;
   const int32_t use = RollFile.RollFileMode;
-  if (popup && ShowMessage("Would you like to close the pop-up roll file?", PopupTitle,
-                           msg::AskYesNo) == AnswerYes) {
+  if (popup && Show(DiceTexts.AskToClosePopup, DiceTexts.PopupTitle, msg::AskYesNo) == AnswerYes) {
     ClosePopupRoll();
   }
-  if (use == RollFilePlay) AskToRewind("Playback stopped.");
-  if (use == RollFileRecord) AskToRewind("Recording stopped.");
+  if (use == RollFilePlay) AskToRewind(DiceTexts.PlaybackStopped);
+  if (use == RollFileRecord) AskToRewind(DiceTexts.RecordingStopped);
   if (popup || use != RollFileOff) FrontEnd.RefreshViews();
 }
 

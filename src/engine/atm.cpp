@@ -2,38 +2,34 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
+#include "engine/rail_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
 
 namespace {
 
-std::string NotAllowed(int place, Money asked, Money allowed, const std::string& why) {
-  return "Requested amount:  $" + FormatMoney(asked) + "\rAllowed amount:  $" +
-         FormatMoney(allowed) + "\r\rThe full amount of this transaction was not allowed because " +
-         (why.empty() ? "" : why) + At(Table.PlayerName, place) + "'s ";
+std::string AmountsText(Money asked, Money allowed) {
+  return FillIn(RailTexts.AtmAmounts, {FormatMoney(asked), FormatMoney(allowed)}) + "\r\r";
 }
 
 // Why a deposit was cut to what the bets on the table leave.
 std::string WageredText(int place, Money asked, Money allowed) {
   const bool wagered = At(Table.MoneyOnTable, place) > Money();
-  return NotAllowed(place, asked, allowed, "") +
-         (wagered ? "bankroll would've dropped below the amount currently wagered."
-                  : "bankroll would've become negative.") +
-         "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\" on the "
-         "Configuration screen" +
-         (wagered ? ", and/or by reducing the amount currently wagered." : "");
+  return AmountsText(asked, allowed) +
+         FillIn(wagered ? RailTexts.AtmBelowWagered : RailTexts.AtmBelowZero,
+                {At(Table.PlayerName, place)});
 }
 
 std::string LimitText(int place, Money asked, Money allowed, bool deposit) {
-  return NotAllowed(place, asked, allowed, "it would've caused ") +
-         (deposit ? "bankroll to drop below the negative bank limit of $"
-                  : "bankroll to exceed the max bank limit of $") +
-         FormatMoney(BankrollLimit);
+  return AmountsText(asked, allowed) +
+         FillIn(deposit ? RailTexts.AtmBelowLimit : RailTexts.AtmAboveLimit,
+                {At(Table.PlayerName, place), FormatMoney(BankrollLimit)});
 }
 
 void MoveBankroll(int place, Money change) {
@@ -63,7 +59,8 @@ Money ATM(int place, bool deposit, Money amount, bool tell) {
     }
   }
   if (!text.empty() && tell && Table.HyperDriveOn == 0) {
-    ShowMessage(text, deposit ? "ATM Deposit" : "ATM Withdrawal", msg::OkAlert);
+    const SixTexts& title = deposit ? RailTexts.AtmDeposit : RailTexts.AtmWithdrawal;
+    ShowMessage(std::move(text), std::string(Localized(title)), msg::OkAlert);
   }
   if (allowed != Money()) MoveBankroll(place, deposit ? -allowed : allowed);
   return allowed;

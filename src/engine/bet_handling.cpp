@@ -9,6 +9,7 @@
 #include "config/language.h"
 #include "config/payoffs.h"
 #include "config/settings.h"
+#include "engine/bet_texts.h"
 #include "engine/bets.h"
 #include "engine/settlement.h"
 #include "engine/table.h"
@@ -38,14 +39,11 @@ void TellHowItStands(int place, Title&& title) {
                      (Settings.Notices & NoticeCharges) == 0;
   if (quiet || amount == Money()) return;
   const Money change = amount - AmountBefore(place);
-  std::string text =
-      At(Table.PlayerName, place) + ",\r\r" + std::string(At(BetName, Table.CurrentBet)) + " bet ";
-  if (change == Money()) {
-    text += GetText(44);
-  } else {
-    text += (change > Money() ? "increased by: $" : "decreased by: $") + FormatMoney(Abs(change));
-  }
-  Message.MsgText = std::move(text);
+  const SixTexts& text = change == Money()  ? BetTexts.BetUnchanged
+                         : change > Money() ? BetTexts.BetIncreased
+                                            : BetTexts.BetDecreased;
+  Message.MsgText = FillIn(
+      text, {At(Table.PlayerName, place), At(BetName, Table.CurrentBet), FormatMoney(Abs(change))});
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
@@ -269,8 +267,9 @@ void ModifyBet(int place, int slot) {
   const HandlingRow row = RowOfSlot(place, slot);
   ChangeBy(place, ModifiedChange(row, AmountBefore(place)));
   TellHowItStands(place, [&row] {
-    constexpr std::array<std::string_view, 4> Words = {"plus ", "minus ", "times ", "divided by "};
-    return "Same bet " + std::string(At(Words, row.operation & 3)) + FigureText(row);
+    constexpr std::array Titles = {&BetTexts.SameBetPlus, &BetTexts.SameBetMinus,
+                                   &BetTexts.SameBetTimes, &BetTexts.SameBetDividedBy};
+    return FillIn(*At(Titles, row.operation & 3), {FigureText(row)});
   });
 }
 

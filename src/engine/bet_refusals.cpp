@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "config/settings.h"
+#include "engine/bet_texts.h"
 #include "engine/special_bets.h"
 #include "engine/table.h"
 #include "stats/store.h"
@@ -102,12 +103,14 @@ Verdict JudgeIncrease(int place, int number, Money delta) {
   return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, delta, refusal);
 }
 
-std::string PutNote() {
-  return "\r\r(Unless you check \"Allow Put Bets\" on the Configuration screen.)";
+std::string WithPutNote(const SixTexts& refusal) {
+  return std::string(Localized(refusal)) + "\r\r" + std::string(Localized(BetTexts.UnlessPutBets));
 }
 
-std::string_view MarkedWord(int number) {
-  return number == bet::AllSmall ? "small " : number == bet::AllTall ? "tall " : "";
+const SixTexts& MarkedText(int number) {
+  return number == bet::AllSmall  ? BetTexts.SmallNumbersMarked
+         : number == bet::AllTall ? BetTexts.TallNumbersMarked
+                                  : BetTexts.AnyNumbersMarked;
 }
 
 }  // namespace
@@ -126,55 +129,48 @@ Verdict JudgeChange(int place, int number, Money delta) {
 
 std::string RefusalText(RefusalKind refusal, int number) {
   using enum RefusalKind;
-  const std::string name(At(BetName, number));
-  const std::string flat(number > FamilySize ? At(BetName, number - FamilySize) : "");
-  const std::string decrease = "You may not decrease or remove ";
-  const std::string make = "You may not make ";
-  const std::string increase = "You may not make or increase ";
+  const std::string_view name = At(BetName, number);
+  const auto plain = [](const SixTexts& texts) { return std::string(Localized(texts)); };
+  const auto named = [name](const SixTexts& texts) { return FillIn(texts, {name}); };
   switch (refusal) {
     case None:
       return "";
     case DecreasePassLine:
-      return decrease + "a Pass Line bet while a point is established.";
+      return plain(BetTexts.DecreasePassLine);
     case KeepPassLine:
-      return decrease + "your Pass Line bet while a point is established.";
+      return plain(BetTexts.KeepPassLine);
     case DecreaseCome:
-      return decrease + "a Come bet which is established on a point.";
+      return plain(BetTexts.DecreaseCome);
     case DecreaseEstablished:
-      return decrease + "a " + name + " bet which is established on a point.";
+      return named(BetTexts.DecreaseEstablished);
     case DecreaseDuringPoint:
-      return decrease + "a " + name + " bet while a point is established.";
+      return named(BetTexts.DecreaseDuringPoint);
     case PutPassLine:
-      return increase + "a Pass Line bet while a point is established." + PutNote();
+      return WithPutNote(BetTexts.PutPassLine);
     case PutCome:
-      return increase + "a Come bet directly on a point number." + PutNote();
+      return WithPutNote(BetTexts.PutCome);
     case ComeWithoutPoint:
-      return make + "a Come bet until a point is established.";
+      return plain(BetTexts.ComeWithoutPoint);
     case DontPassDuringPoint:
-      return increase + "a Don't Pass bet while a point is established.";
+      return plain(BetTexts.DontPassDuringPoint);
     case DontComeWithoutPoint:
-      return make + "a Don't Come bet until a point is established.";
+      return plain(BetTexts.DontComeWithoutPoint);
     case OddsWithoutPassLine:
-      return make +
-             "a Pass Line Odds bet unless you also have a Pass Line bet and a point is "
-             "established.";
+      return plain(BetTexts.OddsWithoutPassLine);
     case OddsWithoutDontPass:
-      return make +
-             "a Don't Pass Odds bet unless you also have a Don't Pass bet and a point is "
-             "established.";
+      return plain(BetTexts.OddsWithoutDontPass);
     case OddsWithoutFlat:
-      return make + "a " + name + " bet until you've established a " + flat + " bet.";
+      return FillIn(BetTexts.OddsWithoutFlat, {name, At(BetName, number - FamilySize)});
     case DontComeOnNumber:
-      return increase + "a Don't Come bet directly on a point number.";
+      return plain(BetTexts.DontComeOnNumber);
     case NumbersMarked:
-      return increase + (number == bet::MakeAll ? "a " : "an ") + name + " bet while any " +
-             std::string(MarkedWord(number)) + "numbers are marked.";
+      return named(MarkedText(number));
     case CountInProgress:
-      return increase + "a " + name + " bet if the count is in progress.";
+      return named(BetTexts.CountInProgress);
     case NotOnComeOut:
-      return increase + "a " + name + " bet unless the shooter is on a come-out roll.";
+      return named(BetTexts.NotOnComeOut);
     case HandStarted:
-      return increase + "a " + name + " bet after the shooter has started a hand.";
+      return named(BetTexts.HandStarted);
   }
   return "";
 }

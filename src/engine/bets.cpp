@@ -12,6 +12,7 @@
 #include "engine/amount_adjustment.h"
 #include "engine/bet_limits.h"
 #include "engine/bet_refusals.h"
+#include "engine/bet_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -29,7 +30,7 @@ bool Quiet(int32_t messageSwitch) {
 
 std::string BetTitle(int number) {
   if (IsStack(number)) return "CheckStack #" + std::to_string(number - FirstStack);
-  return std::string(At(BetName, number)) + " Bet";
+  return FillIn(BetTexts.BetTitle, {At(BetName, number)});
 }
 
 // A change on its way through the rules: the change they leave so far and what they said.
@@ -91,8 +92,7 @@ class Change {
       return;
     }
     Say(NoticeLimits, [&] {
-      return "The minimum " + std::string(At(BetName, number_)) + " bet is $" +
-             FormatMoney(minimum);
+      return FillIn(BetTexts.MinimumBet, {At(BetName, number_), FormatMoney(minimum)});
     });
     delta_ = minimum - Amount();
   }
@@ -100,14 +100,12 @@ class Change {
   void ApplyMaximum() {
     const Money limit = FigureMaxBet(place_, number_);
     if (Total() <= limit) return;
-    const std::string name(Quiet(ShowRejections) ? "" : At(BetName, number_));
-    Say(NoticeLimits, [&] { return "The maximum " + name + " bet is $" + FormatMoney(limit); });
+    const std::string_view name = At(BetName, number_);
+    Say(NoticeLimits, [&] { return FillIn(BetTexts.MaximumBet, {name, FormatMoney(limit)}); });
     const Money contract = HeldContract(place_, number_);
     if (contract > limit) {
       Say(NoticeLimits, [&] {
-        return "However, because the " + name + " is a contract bet and you established it at $" +
-               FormatMoney(contract) + " before you recently lowered the maximum " + name +
-               " allowed on the Configuration screen, it must remain unchanged until it resolves.";
+        return FillIn(BetTexts.ContractAboveMaximum, {name, FormatMoney(contract)});
       });
     }
     delta_ = std::max(limit, contract) - Amount();
@@ -122,9 +120,9 @@ class Change {
     }
     Say(NoticeLimits, [&] {
       unable_ = true;
-      return "Unable to auto-adjust bet for proper odds payoff.\r\r" +
-             std::string(adjustment.limitIsMaximum ? "Maximum" : "Minimum") +
-             " bet for proper odds payoff is: $" + FormatMoney(adjustment.total);
+      return FillIn(adjustment.limitIsMaximum ? BetTexts.UnableToAdjustMaximum
+                                              : BetTexts.UnableToAdjustMinimum,
+                    {FormatMoney(adjustment.total)});
     });
   }
 
@@ -152,14 +150,7 @@ class Change {
     delta_ = LargestAffordable(left);
     const Money held = HeldContract(place_, number_);
     if (Total() < std::max(BetMinimum(number_), held)) delta_ = held - Amount();
-    Say(NoticeLimits, [] {
-      return std::string(
-          "You don't have enough bankroll remaining to bet the full amount requested.\r\r"
-          "Your options are: \r"
-          "      - Bet less on other bets.\r"
-          "      - Make a withdrawal from the ATM.\r"
-          "      - Allow negative bankroll.");
-    });
+    Say(NoticeLimits, [] { return Localized(BetTexts.NotEnoughBankroll); });
   }
 
   // The largest change in whole checks that `left` pays for, at least the bet coming off. The vig
@@ -185,8 +176,8 @@ class Change {
   void Tell() {
     if (text_.empty()) return;
     if (!Quiet(ShowAlreadyBet) && !unable_ && !ended_) {
-      text_ += "\r\r$" + FormatMoney(Total()) +
-               (delta_ == Money() ? " which is already bet." : " which is being bet.");
+      text_ += "\r\r" + FillIn(delta_ == Money() ? BetTexts.AlreadyBet : BetTexts.BeingBet,
+                               {FormatMoney(Total())});
     }
     ShowMessage(std::move(text_), BetTitle(number_), msg::OkAlert | hide_);
   }
@@ -203,12 +194,11 @@ void TellVig(int number, Money vig, Money change, bool upFront) {
   if (Quiet(ShowVigNotices) || (Settings.Notices & NoticeCharges) == 0) return;
   std::string text;
   if (vig == Money()) {
-    text = "Vig charge returned $" + FormatMoney(-change);
+    text = FillIn(BetTexts.VigReturned, {FormatMoney(-change)});
   } else {
-    text = upFront ? "Total vig charge $" : "If you win, the vig charge will be $";
-    text += FormatMoney(vig);
-    text += change > Money() ? "\rVig increased by $" : "\rVig decreased by $";
-    text += FormatMoney(Abs(change));
+    text = FillIn(upFront ? BetTexts.VigCharged : BetTexts.VigIfWon, {FormatMoney(vig)});
+    text += "\r" + FillIn(change > Money() ? BetTexts.VigIncreased : BetTexts.VigDecreased,
+                          {FormatMoney(Abs(change))});
   }
   ShowMessage(std::move(text), BetTitle(number), msg::Ok | msg::PictureAlert | msg::HideNotice4);
 }
@@ -245,17 +235,17 @@ void ChangeStack(int place, int number) {
   std::string text;
   if (delta < -amount) {
     delta = -amount;
-    text = "The minimum CheckStack value is: $" + FormatMoney(Money());
+    text = FillIn(BetTexts.StackMinimum, {FormatMoney(Money())});
   } else if (delta > StackLimit - amount) {
     delta = StackLimit - amount;
-    text = "The maximum CheckStack value is: $" + FormatMoney(StackLimit);
+    text = FillIn(BetTexts.StackMaximum, {FormatMoney(StackLimit)});
   }
   SetBetAmount(place, number, amount + delta);
   Table.BetDelta = delta;
   if (text.empty() || Quiet(ShowRejections) || (Settings.Notices & NoticeLimits) == 0) return;
   if (!Quiet(ShowAlreadyBet)) {
-    text += "\r\r$" + FormatMoney(amount + delta) +
-            (delta == Money() ? " which is already stacked." : " which is being stacked.");
+    text += "\r\r" + FillIn(delta == Money() ? BetTexts.AlreadyStacked : BetTexts.BeingStacked,
+                            {FormatMoney(amount + delta)});
   }
   ShowMessage(std::move(text), BetTitle(number), msg::OkAlert | msg::HideNotice2);
 }

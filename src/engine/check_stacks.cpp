@@ -7,6 +7,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "config/settings.h"
+#include "engine/bet_texts.h"
 #include "engine/bets.h"
 #include "engine/table.h"
 
@@ -58,8 +59,8 @@ bool SetVisibleStacks(int place, const std::array<int, 4>& stacks) {
   auto sorted = stacks;
   std::sort(sorted.begin(), sorted.end());
   if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end()) {
-    ShowMessage("Each CheckStack entry should be a different number.", "Set Visible CheckStacks",
-                msg::OkAlert);
+    ShowMessage(std::string(Localized(BetTexts.StacksMustDiffer)),
+                std::string(Localized(BetTexts.SetVisibleStacks)), msg::OkAlert);
     return false;
   }
   for (int k = 0; k < 4; ++k) {

@@ -9,6 +9,8 @@
 #include "config/language.h"
 #include "config/settings.h"
 #include "engine/bets.h"
+#include "engine/rail_texts.h"
+#include "engine/roll_texts.h"
 #include "engine/table.h"
 #include "engine/unattended.h"
 #include "files/event_lines.h"
@@ -19,11 +21,14 @@ namespace tessarel {
 
 namespace {
 
-constexpr std::string_view PassTitle = "Pass the Dice";
 constexpr std::string_view LimitText = "9,999,999";
 
 const std::string& NameOf(int place) {
   return At(Table.PlayerName, place);
+}
+
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
 }
 
 // The next place in the direction the dice travel.
@@ -34,7 +39,7 @@ constexpr int NextShooterPlace(int place) {
 void TellPassing(PassReason reason, std::string text) {
   const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
   if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
-  ShowMessage(std::move(text), std::string(PassTitle), msg::OkAlert);
+  ShowMessage(std::move(text), Text(RailTexts.PassTheDice), msg::OkAlert);
 }
 
 // The first place after the shooter's that `qualifies` accepts; 0 when none does.
@@ -61,29 +66,20 @@ void GiveDice(int place) {
 
 void PassAmongNone(PassReason reason) {
   Table.Shooter = Table.LastShooter = 0;
-  TellPassing(reason, "There are no players at the table.\r\rUnable to pass the dice.");
+  TellPassing(reason, Text(RailTexts.NoPlayers));
 }
 
 void PassWithOnePlayer(PassReason reason) {
-  TellPassing(reason, "There are no other players at the table.\r\rUnable to pass the dice.");
+  TellPassing(reason, Text(RailTexts.NoOtherPlayers));
   if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
 }
 
 std::string NobodyShootsText(int blocked) {
-  std::string text = "Unable to pass the dice at this time.\r\r";
-  if (blocked == 0) {
-    const bool oneOther = Table.PlayerCount == 2 && Table.Shooter != 0;
-    const int other = oneOther ? FindShooter([](int) { return true; }) : 0;
-    return text + (other != 0 ? NameOf(other) + " doesn't want to shoot."
-                              : "None of the other players want to shoot.");
-  }
-  text += blocked == 1
-              ? "There's one other player who wants to shoot "
-              : "There are " + std::to_string(blocked) + " other players who want to shoot ";
-  return text +
-         "but can't because a line bet is required and Put bets are not allowed.\r\r"
-         "Please wait for a come-out roll or check the 'Allow Put bets' option on the 'Bets tab' "
-         "of the configuration screen.";
+  if (blocked == 1) return Text(RailTexts.OneBlocked);
+  if (blocked > 1) return FillIn(RailTexts.ManyBlocked, {std::to_string(blocked)});
+  const bool oneOther = Table.PlayerCount == 2 && Table.Shooter != 0;
+  const int other = oneOther ? FindShooter([](int) { return true; }) : 0;
+  return other != 0 ? FillIn(RailTexts.OtherDeclines, {NameOf(other)}) : Text(RailTexts.AllDecline);
 }
 
 void PassToNobody(PassReason reason, int blocked) {
@@ -96,12 +92,8 @@ void PassToNobody(PassReason reason, int blocked) {
 // The dice go on in the middle of a hand, which stays credited to who started it.
 void TellOfPassedHand(PassReason reason, int from, int to) {
   if (RollsInHand() == 0) return;
-  TellPassing(reason, to == Table.LastShooter
-                          ? NameOf(from) + " is passing the dice back to " + NameOf(to) +
-                                " who originally started this hand."
-                          : NameOf(from) + " is passing the dice to " + NameOf(to) +
-                                " who may finish the current hand and then roll his/her own "
-                                "hand.");
+  const SixTexts& text = to == Table.LastShooter ? RailTexts.PassingBack : RailTexts.PassingOn;
+  TellPassing(reason, FillIn(text, {NameOf(from), NameOf(to)}));
   if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
 }
 
@@ -156,15 +148,14 @@ void ShowPassedDiceNote() {
   const bool handBefore = At(Stats.RollCount, LastHand)[0] > 0;
   std::string text;
   if (RollsInHand() > 0 && Table.Shooter != Table.LastShooter) {
-    text = "The dice were passed during the current hand.\r\rAlthough " + NameOf(Table.Shooter) +
-           " is presently shooting the dice, the current hand is being credited to " +
-           (Table.LastShooter == 0
-                ? "another player who started the hand but is no longer at the table."
-                : NameOf(Table.LastShooter) + " who started the hand.");
+    const std::string& shooter = NameOf(Table.Shooter);
+    text = Table.LastShooter == 0
+               ? FillIn(RailTexts.HandOfGonePlayer, {shooter})
+               : FillIn(RailTexts.HandOfOther, {shooter, NameOf(Table.LastShooter)});
   } else if (RollsInHand() == 0 && handBefore && Table.PreviousShooter == 0) {
-    text = "The last hand was shot by a player who is no longer at the table.";
+    text = Text(RailTexts.LastHandOfGonePlayer);
   }
-  if (!text.empty()) ShowMessage(std::move(text), std::string(PassTitle), msg::Ok);
+  if (!text.empty()) ShowMessage(std::move(text), Text(RailTexts.PassTheDice), msg::Ok);
 }
 
 void PassDice(PassReason reason) {
@@ -186,26 +177,22 @@ void PassDice(PassReason reason) {
 }
 
 void BankrollLimitStop(int place) {
-  const std::string reset = "Select \"New\" from the \"Game\" menu to reset the table.";
-  const std::string rest = std::string(LimitText) + "\r\r" + reset;
+  const std::string reset = Text(RollTexts.ResetTable);
   const bool gone = !IsTaken(Table, place);
   const bool negative = BankrollOf(place) <= Money();
+  const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };
   if (Table.HyperDriveOn != 0) {
-    Table.StopReason = gone       ? reset
-                       : negative ? "Stopped by exceeding the negative bankroll limit of -$" + rest
-                                  : "Stopped by breaking the max bankroll limit of $" + rest;
+    const SixTexts& text = negative ? RailTexts.StoppedBelowLimit : RailTexts.StoppedAboveLimit;
+    Table.StopReason = gone ? reset : withReset(FillIn(text, {LimitText}));
   } else if (gone) {
     ShowMessage(reset, "", msg::OkAlert);
   } else if (negative) {
-    ShowMessage(
-        "Sorry ... " + NameOf(place) + " has exceeded the negative bankroll limit of -$" + rest, "",
-        msg::OkAlert);
+    ShowMessage(withReset(FillIn(RailTexts.BelowLimit, {NameOf(place), LimitText})), "",
+                msg::OkAlert);
   } else {
     const bool first = Table.BankrollStopPlace == 0;
     if (first && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::LimitBroken);
-    ShowMessage(
-        "Congratulations!\r\r" + NameOf(place) + " broke the max bankroll limit of $" + rest, "",
-        msg::Ok);
+    ShowMessage(withReset(FillIn(RailTexts.AboveLimit, {NameOf(place), LimitText})), "", msg::Ok);
   }
   StopUnattended();
   Table.BankrollStopPlace = place;

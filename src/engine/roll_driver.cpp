@@ -21,6 +21,7 @@
 #include "engine/bets.h"
 #include "engine/players.h"
 #include "engine/roll_pace.h"
+#include "engine/roll_texts.h"
 #include "engine/settlement.h"
 #include "engine/special_bets.h"
 #include "engine/table.h"
@@ -43,9 +44,14 @@ bool Refuse(std::string text, std::string title, std::string reason) {
   return false;
 }
 
-std::string BetRequiredNote() {
-  return "\r\rNote: This requirement can be changed on the 'Bets tab' of the configuration "
-         "screen.";
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
+}
+
+// A demand on the shooter, with the note where it can be changed.
+std::string BetDemand(const SixTexts& demand) {
+  return FillIn(demand, {At(Table.PlayerName, Table.Shooter)}) + "\r\r" +
+         Text(RollTexts.BetRequiredNote);
 }
 
 bool HasAnyBet(int place) {
@@ -53,36 +59,30 @@ bool HasAnyBet(int place) {
 }
 
 bool RefuseWithoutLineBet() {
-  std::string text = "A line bet is required to shoot.\r\r" + At(Table.PlayerName, Table.Shooter);
-  if (Table.PlayerCount == 1) {
-    text += " must make a Pass Line bet or a Don't Pass bet.";
-  } else if (Table.Point != 0) {
-    text += " must make a Pass Line bet or pass the dice.";
-  } else {
-    text += " must make a Pass Line bet, a Don't Pass bet, or pass the dice.";
-  }
-  return Refuse(text + BetRequiredNote(), "Line Bet Required", "Shooter has no line bet.");
+  const SixTexts& demand = Table.PlayerCount == 1 ? RollTexts.LineBetAlone
+                           : Table.Point != 0     ? RollTexts.LineBetDuringPoint
+                                                  : RollTexts.LineBetOrPass;
+  return Refuse(BetDemand(demand), Text(RollTexts.LineBetRequired),
+                Text(RollTexts.ShooterWithoutLineBet));
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
     return Refuse(std::string(GetText(110)), std::string(GetText(111)),
-                  "No players are available to bet.");
+                  Text(RollTexts.NobodyToBet));
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
-  return Refuse("A bet is required to shoot.\r\r" + At(Table.PlayerName, Table.Shooter) +
-                    " must make any bet or pass the dice." + BetRequiredNote(),
-                "Any Bet Required", "Shooter has no bet.");
+  return Refuse(BetDemand(RollTexts.AnyBetOrPass), Text(RollTexts.AnyBetRequired),
+                Text(RollTexts.ShooterWithoutBet));
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  const std::string reset = "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
-  return Refuse("Sorry ... the maximum limit of 2,000,000,000 rolls has been reached." + reset,
-                "Reached Maximum Roll Limit",
-                "Stopped due to reaching the maximum limit of 2,000,000,000 rolls." + reset);
+  const std::string reset = "\r\r" + Text(RollTexts.ResetTable);
+  return Refuse(Text(RollTexts.MaximumRolls) + reset, Text(RollTexts.MaximumRollsTitle),
+                Text(RollTexts.StoppedByMaximumRolls) + reset);
 }
 
 void FigureAvailableBankrolls() {
@@ -126,7 +126,7 @@ DiceSource TakeDice(Faces& faces) {
   }
   faces = MakeDice(RollsInSession());
   if (faces.die1 == 0) {
-    Table.StopReason = "No dice: random number generator #0 is selected.";
+    Table.StopReason = Localized(RollTexts.NoGenerator);
     return DiceSource::None;
   }
   const bool cubes = faces.die1 <= 6 && faces.die2 <= 6;
@@ -284,7 +284,7 @@ bool StoppedByBankroll() {
 }
 
 void StopAtCount() {
-  if (AutoStopIsDue()) Table.StopReason = "Stopped by Auto-Stop.";
+  if (AutoStopIsDue()) Table.StopReason = Localized(RollTexts.StoppedByAutoStop);
 }
 
 void CheckEverything() {
@@ -373,7 +373,7 @@ void PauseAutoRoll() {
   FrontEnd.DrawStatus();
   if (AutoStopIsDue()) {
     StopUnattended();
-    ShowMessage("Stopped by Auto-Stop", "Auto-Roll Stopped", msg::OkAlert);
+    ShowMessage(Text(RollTexts.AutoStopNotice), Text(RollTexts.AutoRollStopped), msg::OkAlert);
   } else {
     WaitForNextRoll();
   }

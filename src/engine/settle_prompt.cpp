@@ -7,6 +7,7 @@
 #include "config/payoffs.h"
 #include "config/settings.h"
 #include "engine/bet_handling.h"
+#include "engine/bet_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -17,19 +18,23 @@ std::string Dollars(Money amount) {
   return "$" + FormatMoney(amount);
 }
 
-std::string Counted(int32_t count, const char* one, const char* many) {
-  return "(" + std::to_string(count) + (count == 1 ? one : many);
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
+}
+
+std::string Counted(int32_t count, const SixTexts& one, const SixTexts& many) {
+  return FillIn(count == 1 ? one : many, {std::to_string(count)});
 }
 
 // What of a hand a bet was paid for; empty for the bets that no count decides.
 std::string CountLine(int number) {
   switch (number) {
     case bet::SharpShooter:
-      return Counted(Table.SharpShooterPoints, " point won)", " points won)");
+      return Counted(Table.SharpShooterPoints, BetTexts.PointWon, BetTexts.PointsWon);
     case bet::RideTheLine:
-      return Counted(Table.RideTheLinePasses, " pass made)", " passes made)");
+      return Counted(Table.RideTheLinePasses, BetTexts.PassMade, BetTexts.PassesMade);
     case bet::Fire:
-      return Counted(Table.FirePoints, " point made)", " points made)");
+      return Counted(Table.FirePoints, BetTexts.PointMade, BetTexts.PointsMade);
     default:
       return "";
   }
@@ -39,8 +44,8 @@ std::string CountLine(int number) {
 std::string RatioText(const PayoffRow& row) {
   const bool isFor = row.PayForm == Money(FormFor);
   const Money num = Abs(row.PayNum);
-  return FormatMoney(isFor ? num + row.PayDen : num) + (isFor ? " for " : " to ") +
-         FormatMoney(row.PayDen);
+  return FillIn(isFor ? BetTexts.PaysFor : BetTexts.PaysTo,
+                {FormatMoney(isFor ? num + row.PayDen : num), FormatMoney(row.PayDen)});
 }
 
 Money PaidAt(Money amount, const PayoffRow& row) {
@@ -54,18 +59,19 @@ bool Rounded() {
 void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow& row) {
   const std::string whole = std::to_string(parts);
   const Money part = Money::FromDouble(amount.ToDouble() / parts);
-  prompt.rows.push_back({"1/" + whole + " of bet:", Dollars(part)});
+  prompt.rows.push_back({FillIn(BetTexts.PartOfBet, {whole}), Dollars(part)});
   prompt.rows.push_back(
       {std::string(GetText(49)) + RatioText(row) + ":", Dollars(PaidAt(part, row))});
   prompt.rows.push_back(
-      {"Less " + std::to_string(parts - 1) + "/" + whole + " of bet:", Dollars(amount - part)});
+      {FillIn(BetTexts.LessPartOfBet, {std::to_string(parts - 1), whole}), Dollars(amount - part)});
 }
 
 void AddVigRow(SettlePrompt& prompt, Money gross) {
   const bool lay = InFamily(prompt.number, LayFamily);
   if (!lay && !InFamily(prompt.number, BuyFamily)) return;
   const Money percent = (lay ? Settings.LayVigPct : Settings.BuyVigPct) * 100;
-  prompt.rows.push_back({FormatMoney(percent) + "% vig:", Dollars(gross - Table.GrossWin)});
+  prompt.rows.push_back(
+      {FillIn(BetTexts.VigPercent, {FormatMoney(percent)}), Dollars(gross - Table.GrossWin)});
 }
 
 void AddWinRows(SettlePrompt& prompt, Money amount) {
@@ -81,15 +87,16 @@ void AddWinRows(SettlePrompt& prompt, Money amount) {
     AddVigRow(prompt, gross);
   }
   prompt.rows.push_back(
-      {Rounded() ? "Net payoff (rounded): " : "Net payoff: ", Dollars(Table.NetWin)});
+      {Text(Rounded() ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff), Dollars(Table.NetWin)});
 }
 
 void AddLossRows(SettlePrompt& prompt, Money amount) {
-  prompt.rows.push_back({"Loss at " + RatioText(Payoffs.Payoff[0]), Dollars(-Table.GrossWin)});
   prompt.rows.push_back(
-      {Rounded() ? "Net loss (rounded): " : "Net loss: ", Dollars(-Table.NetWin)});
+      {FillIn(BetTexts.LossAt, {RatioText(Payoffs.Payoff[0])}), Dollars(-Table.GrossWin)});
+  prompt.rows.push_back(
+      {Text(Rounded() ? BetTexts.NetLossRounded : BetTexts.NetLoss), Dollars(-Table.NetWin)});
   if (PartsOf(prompt.number) > 1) {
-    prompt.rows.push_back({"Remainder: ", Dollars(amount + Table.NetWin)});
+    prompt.rows.push_back({Text(BetTexts.Remainder), Dollars(amount + Table.NetWin)});
   }
 }
 
@@ -99,8 +106,9 @@ void SetButtons(SettlePrompt& prompt) {
       prompt.buttons[k] = GetText(50 + static_cast<int>(k));
     }
   } else {
-    prompt.buttons = {"&No Bet", "&Same Bet", "Bet &Remainder",
-                      FormatMoney(Table.ChipUnit) + " to Bet", "&Double Bet"};
+    prompt.buttons = {Text(BetTexts.NoBet), Text(BetTexts.SameBet), Text(BetTexts.BetRemainder),
+                      FillIn(BetTexts.UnitToBet, {FormatMoney(Table.ChipUnit)}),
+                      Text(BetTexts.DoubleBet)};
   }
 }
 
@@ -114,7 +122,7 @@ Money CheckOfUnits(Money units) {
 std::string UnitsText(Money units) {
   if (units <= Money()) return "$";
   if (units == Money(1)) return "%";
-  return FormatMoney(CheckOfUnits(units)) + " Units";
+  return FillIn(BetTexts.Units, {FormatMoney(CheckOfUnits(units))});
 }
 
 SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
@@ -137,7 +145,7 @@ SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
       break;
     case Outcome::Idle:
       prompt.title = {name, ""};
-      prompt.rows.push_back({"wasn't working!", ""});
+      prompt.rows.push_back({Text(BetTexts.WasNotWorking), ""});
   }
   SetButtons(prompt);
   prompt.modify = RowOfSlot(place, offersPress ? PromptWinModify : PromptLossModify);

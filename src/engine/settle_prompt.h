@@ -41,7 +41,7 @@ SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress);
 // The check value that a handling row's units above 1 stand for.
 Money CheckOfUnits(Money units);
 
-// How a unit of a handling row reads: "$", "%", or a check value and " Units".
+// How a unit of a handling row reads: "$", "%", or "5 Units" in the language in force.
 std::string UnitsText(Money units);
 
 }  // namespace tessarel

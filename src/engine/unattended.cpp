@@ -2,6 +2,7 @@
 
 #include "base/front_end.h"
 #include "base/message.h"
+#include "engine/roll_texts.h"
 #include "engine/table.h"
 
 namespace tessarel {
@@ -10,7 +11,8 @@ void StopUnattended() {
   if (Table.AutoRollOn == 0 && Table.HyperDriveOn == 0) return;
   Table.AutoRollOn = Table.HyperDriveOn = 0;
   if (!Table.StopReason.empty()) {
-    ShowMessage(Table.StopReason, "Hyper-Drive Stopped", msg::OkAlert);
+    ShowMessage(Table.StopReason, std::string(Localized(RollTexts.HyperDriveStopped)),
+                msg::OkAlert);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

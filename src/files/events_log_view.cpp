@@ -15,6 +15,7 @@
 #include "config/language.h"
 #include "files/events_log.h"
 #include "files/events_log_reader.h"
+#include "files/file_texts.h"
 #include "stats/report.h"
 
 namespace tessarel {
@@ -24,8 +25,11 @@ EventsLogViewState EventsLogView;
 namespace {
 
 constexpr int EventsLogText = 163;
-constexpr const char* SaveAsTitle = "Save events log as";
 constexpr std::string_view PrintHeading = "Tessarel Events Log";
+
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
+}
 
 void UseLog(const std::string& path) {
   EventsLog.EventLogName = IsSameFile(path, DefaultEventLogName()) ? "" : path;
@@ -45,7 +49,7 @@ void CopyLog(const std::string& from, const std::string& to) {
 
 // Where a log is to be copied to; empty when the user gives up.
 std::string AskForCopy(const std::string& log) {
-  const std::string name = FrontEnd.AskSaveFile(SaveAsTitle, log);
+  const std::string name = FrontEnd.AskSaveFile(Text(FileTexts.SaveEventsLogAs), log);
   return name.empty() ? name : InFolder(Folders.EventsLogFolder, name);
 }
 
@@ -58,9 +62,9 @@ bool IsDefaultLogEmpty() {
 // Whether the default log may be emptied: it is empty, saved, or not wanted.
 bool DefaultLogIsSaved() {
   if (IsDefaultLogEmpty()) return true;
-  const int32_t answer = ShowMessage(
-      "This log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
-      "Save Events Log?", msg::AskYesDefault | msg::Cancel);
+  const int32_t answer =
+      ShowMessage(Text(FileTexts.AskToRenameEventsLog), Text(FileTexts.SaveEventsLog),
+                  msg::AskYesDefault | msg::Cancel);
   if (answer != AnswerYes) return answer == AnswerNo;
   const std::string copy = AskForCopy(DefaultEventLogName());
   if (copy.empty() || IsSameFile(copy, DefaultEventLogName())) return false;
@@ -124,7 +128,7 @@ bool FindFrom(int32_t first, int32_t step) {
     return false;
   }
   if (line == 0) {
-    ShowMessage("Text not found.", "Search Results", msg::OkAlert);
+    ShowMessage(Text(FileTexts.TextNotFound), Text(FileTexts.SearchResults), msg::OkAlert);
     return false;
   }
   ScrollEventsLog(line);
@@ -236,9 +240,7 @@ void KeepLatestRollOnTop(bool on) {
 }
 
 bool FindEvent() {
-  if (!AskForText("Enter the text you'd like to find.\r\rIf found, the line will scroll to the top "
-                  "of the events log.",
-                  "Find", EventsLogView.FindText) ||
+  if (!AskForText(Text(FileTexts.AskTextToFind), Text(FileTexts.Find), EventsLogView.FindText) ||
       Message.MsgInput.empty()) {
     return false;
   }
@@ -261,7 +263,7 @@ bool PrintEventsLog(std::string_view gameFile,
   EventsLogReader reader;
   const int32_t lines = reader.LineCount();
   if (lines == 0) {
-    ShowMessage("There are no logged events to print.", "Print Events Log", msg::OkAlert);
+    ShowMessage(Text(FileTexts.NoEventsToPrint), Text(FileTexts.PrintEventsLog), msg::OkAlert);
     return false;
   }
   bool wanted = true;

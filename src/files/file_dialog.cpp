@@ -14,6 +14,7 @@
 #include "dice/roll_file_edit.h"
 #include "engine/table.h"
 #include "files/events_log.h"
+#include "files/file_texts.h"
 #include "files/sessions_log.h"
 
 namespace tessarel {
@@ -45,47 +46,47 @@ struct ActionRow {
   FileKind kind;
   Purpose purpose;
   std::span<const FilterRow> filters;
-  std::string_view title;
+  SixTexts title;
 };
 
 using enum FileAction;
 constexpr std::array<ActionRow, FileActionCount> ActionRows = {{
-    {OpenSession,        SessionFiles,     Purpose::MustExist, SessionFilter,     "Open session file"},
-    {SaveSession,        SessionFiles,     Purpose::Save,      SessionFilter,     "Save session file as"},
-    {OpenRolls,          RollFiles,        Purpose::MayExist,  RollFilter,        "New/open dice roll file"},
-    {OpenPopupRolls,     RollFiles,        Purpose::MayExist,  TextFilter,        "Open pop-up roll file"},
-    {CopyRolls,          RollFiles,        Purpose::Save,      RollFilter,        "Copy to dice roll file"},
-    {CopyRollsAsText,    RollFiles,        Purpose::Save,      TextFilter,        "Copy dice rolls to text file"},
-    {PasteRolls,         RollFiles,        Purpose::MustExist, RollFilter,        "Paste from dice roll file"},
-    {PasteText,          RollFiles,        Purpose::MustExist, TextFilter,        "Paste from ascii/text file"},
-    {OpenScript,         AutoBetFiles,     Purpose::MustExist, ScriptFilters,     "Open auto-bet file"},
-    {PasteScript,        AutoBetFiles,     Purpose::MustExist, ScriptFilters,     "Paste from auto-bet file"},
-    {SaveScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     "Save auto-bet file as"},
-    {CopyScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     "Copy to auto-bet file"},
-    {CopyScripts,        AutoBetFiles,     Purpose::Save,      ScriptFilters,     "Copy auto-bets to file"},
-    {SelectHotKeyScript, AutoBetFiles,     Purpose::MustExist, ScriptFilters,     "Select auto-bet file for hot-key"},
-    {OpenSessionsLog,    SessionsLogFiles, Purpose::MustExist, SessionsLogFilter, "Open sessions log"},
-    {SaveSessionsLog,    SessionsLogFiles, Purpose::Save,      SessionsLogFilter, "Save sessions log as"},
-    {RenameSessionsLog,  SessionsLogFiles, Purpose::Save,      SessionsLogFilter, "Rename sessions log"},
-    {OpenEventsLog,      EventsLogFiles,   Purpose::MustExist, TextFilter,        "Open events log"},
-    {SaveEventsLog,      EventsLogFiles,   Purpose::Save,      TextFilter,        "Save events log as"},
-    {OpenProbability,    ProbabilityFiles, Purpose::MustExist, ProbabilityFilter, "Open probability file"},
-    {SaveProbability,    ProbabilityFiles, Purpose::Save,      ProbabilityFilter, "Save probability file as"},
+    {OpenSession,        SessionFiles,     Purpose::MustExist, SessionFilter,     FileTexts.OpenSession},
+    {SaveSession,        SessionFiles,     Purpose::Save,      SessionFilter,     FileTexts.SaveSession},
+    {OpenRolls,          RollFiles,        Purpose::MayExist,  RollFilter,        FileTexts.OpenRolls},
+    {OpenPopupRolls,     RollFiles,        Purpose::MayExist,  TextFilter,        FileTexts.OpenPopupRolls},
+    {CopyRolls,          RollFiles,        Purpose::Save,      RollFilter,        FileTexts.CopyRolls},
+    {CopyRollsAsText,    RollFiles,        Purpose::Save,      TextFilter,        FileTexts.CopyRollsAsText},
+    {PasteRolls,         RollFiles,        Purpose::MustExist, RollFilter,        FileTexts.PasteRolls},
+    {PasteText,          RollFiles,        Purpose::MustExist, TextFilter,        FileTexts.PasteText},
+    {OpenScript,         AutoBetFiles,     Purpose::MustExist, ScriptFilters,     FileTexts.OpenScript},
+    {PasteScript,        AutoBetFiles,     Purpose::MustExist, ScriptFilters,     FileTexts.PasteScript},
+    {SaveScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     FileTexts.SaveScript},
+    {CopyScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     FileTexts.CopyScript},
+    {CopyScripts,        AutoBetFiles,     Purpose::Save,      ScriptFilters,     FileTexts.CopyScripts},
+    {SelectHotKeyScript, AutoBetFiles,     Purpose::MustExist, ScriptFilters,     FileTexts.SelectHotKeyScript},
+    {OpenSessionsLog,    SessionsLogFiles, Purpose::MustExist, SessionsLogFilter, FileTexts.OpenSessionsLog},
+    {SaveSessionsLog,    SessionsLogFiles, Purpose::Save,      SessionsLogFilter, FileTexts.SaveSessionsLogAs},
+    {RenameSessionsLog,  SessionsLogFiles, Purpose::Save,      SessionsLogFilter, FileTexts.RenameSessionsLog},
+    {OpenEventsLog,      EventsLogFiles,   Purpose::MustExist, TextFilter,        FileTexts.OpenEventsLog},
+    {SaveEventsLog,      EventsLogFiles,   Purpose::Save,      TextFilter,        FileTexts.SaveEventsLogAs},
+    {OpenProbability,    ProbabilityFiles, Purpose::MustExist, ProbabilityFilter, FileTexts.OpenProbability},
+    {SaveProbability,    ProbabilityFiles, Purpose::Save,      ProbabilityFilter, FileTexts.SaveProbability},
 }};
 
 struct KindRow {
   FileKind kind;
-  std::string_view text;
-  std::string_view deleteWord;  // in the title of the question; empty for none
+  SixTexts text;
+  SixTexts deleteTitle;
   std::string FoldersState::*folder;
 };
 constexpr std::array<KindRow, FileKindCount> KindRows = {{
-    {SessionFiles,     "Session file",      "",            &FoldersState::GameFolder},
-    {AutoBetFiles,     "Auto-bet file",     "Auto-Bet",    &FoldersState::BetFolder},
-    {RollFiles,        "Roll file",         "Roll",        &FoldersState::AppFolder},
-    {ProbabilityFiles, "Prob file",         "Probability", &FoldersState::ProbabilityFolder},
-    {SessionsLogFiles, "Sessions log file", "Sessions",    &FoldersState::SessionsLogFolder},
-    {EventsLogFiles,   "Events log file",   "",            &FoldersState::EventsLogFolder},
+    {SessionFiles,     FileTexts.SessionFile, FileTexts.DeleteFile, &FoldersState::GameFolder},
+    {AutoBetFiles,     FileTexts.ScriptFile, FileTexts.DeleteScript, &FoldersState::BetFolder},
+    {RollFiles,        FileTexts.RollFile, FileTexts.DeleteRolls, &FoldersState::AppFolder},
+    {ProbabilityFiles, FileTexts.ProbabilityFile, FileTexts.DeleteProbability, &FoldersState::ProbabilityFolder},
+    {SessionsLogFiles, FileTexts.SessionsLogFile, FileTexts.DeleteSessionsLog, &FoldersState::SessionsLogFolder},
+    {EventsLogFiles,   FileTexts.EventsLogFile, FileTexts.DeleteFile, &FoldersState::EventsLogFolder},
 }};
 // clang-format on
 
@@ -105,6 +106,10 @@ const ActionRow& RowOf(FileAction action) {
 
 const KindRow& RowOf(FileKind kind) {
   return At(KindRows, kind);
+}
+
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
 }
 
 bool IsFolder(const std::string& path) {
@@ -155,7 +160,7 @@ bool MayTake(const std::string& path, const ActionRow& row) {
   const bool exists = FileExists(path);
   if (row.purpose == Purpose::Save) {
     if (RefusesTarget(path)) return false;
-    return !exists || ShowMessage(path + "\r\rDo you want to overwrite it?", std::string(row.title),
+    return !exists || ShowMessage(FillIn(FileTexts.AskToOverwrite, {path}), Text(row.title),
                                   msg::AskNoDefault) == AnswerYes;
   }
   if (!exists) {
@@ -168,10 +173,8 @@ bool MayTake(const std::string& path, const ActionRow& row) {
 // --- Deleting -----------------------------------------------------------------------------------
 
 bool AskToDelete(const std::string& name, FileKind kind) {
-  const std::string word(RowOf(kind).deleteWord);
-  const std::string title = word.empty() ? "Delete File" : "Delete " + word + " File";
-  return ShowMessage("Are you sure you want to delete:\r\r" + name, title, msg::AskNoDefault) ==
-         AnswerYes;
+  return ShowMessage(FillIn(FileTexts.AskToDelete, {name}), Text(RowOf(kind).deleteTitle),
+                     msg::AskNoDefault) == AnswerYes;
 }
 
 std::vector<int> PlayersWithSessionsLog(const std::string& path) {
@@ -187,10 +190,8 @@ void BackToDefaultSessionsLog(int place) {
   const std::string& name = At(Table.PlayerName, place);
   std::string& log = At(Table.SessionLogName, place);
   log = DefaultSessionsLogName(name);
-  const std::string text =
-      FileExists(log) ? "The following existing Sessions Log will be opened instead:"
-                      : "The following new Sessions Log will be created and opened instead:";
-  ShowMessage(text + "\r\r" + log, "Sessions Log (" + name + ")", msg::OkAlert);
+  const SixTexts& text = FileExists(log) ? FileTexts.ExistingLogInstead : FileTexts.NewLogInstead;
+  ShowMessage(FillIn(text, {log}), FillIn(FileTexts.SessionsLogOf, {name}), msg::OkAlert);
 }
 
 void GiveUpAndDelete(const std::string& path) {
@@ -205,16 +206,18 @@ void GiveUpAndDelete(const std::string& path) {
 }  // namespace
 
 std::string_view FileKindText(FileKind kind) {
-  return RowOf(kind).text;
+  return Localized(RowOf(kind).text);
 }
 
 std::string_view FileActionTitle(FileAction action) {
-  return RowOf(action).title;
+  return Localized(RowOf(action).title);
 }
 
 std::optional<FileAction> FileActionOfTitle(std::string_view title) {
   for (const ActionRow& row : ActionRows) {
-    if (EqualIgnoringCase(row.title, title)) return row.action;
+    for (const std::string_view known : row.title) {
+      if (EqualIgnoringCase(known, title)) return row.action;
+    }
   }
   return std::nullopt;
 }

@@ -23,8 +23,8 @@ enum FileKind : int32_t {
 };
 inline constexpr int FileKindCount = 6;
 
-// "Session file", "Auto-bet file", "Roll file", "Prob file", "Sessions log file", "Events log
-// file".
+// "Session file", "Auto-bet file", "Roll file", "Prob file", "Sessions log file" or "Events log
+// file" in the language in force.
 std::string_view FileKindText(FileKind kind);
 
 enum class FileAction : int32_t {
@@ -52,10 +52,11 @@ enum class FileAction : int32_t {
 };
 inline constexpr int FileActionCount = 21;
 
+// The dialog's title in the language in force.
 std::string_view FileActionTitle(FileAction action);
 
-// The action of a title in any letter case, as callers of FrontEnd.AskSaveFile give it; none for a
-// title of something else.
+// The action of a title in any of the languages and any letter case, as callers of
+// FrontEnd.AskSaveFile give it; none for a title of something else.
 std::optional<FileAction> FileActionOfTitle(std::string_view title);
 
 // Whether the action writes a file that it names.

@@ -14,6 +14,7 @@
 #include "dice/roll_file.h"
 #include "engine/rail.h"
 #include "engine/roll_driver.h"
+#include "files/file_texts.h"
 #include "files/game_blocks.h"
 #include "files/game_views.h"
 
@@ -56,17 +57,17 @@ void NameGame(const std::string& path) {
 
 // --- Opening -----------------------------------------------------------------------------------
 
-void Refuse(const std::string& why, const std::string& path) {
-  ShowMessage(why + "\r\r" + ShortName(path), Message.ErrorTitle, msg::OkAlert);
+void Refuse(const SixTexts& why, const std::string& path) {
+  ShowMessage(FillIn(why, {ShortName(path)}), Message.ErrorTitle, msg::OkAlert);
 }
 
 bool IsGameFile(const RecordFile& file, const std::string& path) {
   const std::string header = file.At(1).LongText();
   if (header.find(Header) != std::string::npos) return true;
   if (header.find(ProgramName) == std::string::npos) {
-    Refuse("This is not a Tessarel game file.", path);
+    Refuse(FileTexts.NotAGame, path);
   } else if (!IsAutomatic(path) || GameFile.MainWindowShown) {
-    Refuse("This file appears to be from an incompatible version.", path);
+    Refuse(FileTexts.IncompatibleGame, path);
   }
   return false;
 }
@@ -128,8 +129,8 @@ bool NamesGameFile(const std::string& argument) {
 }
 
 void TellUnrecognized(const std::string& argument, bool automaticFollows) {
-  std::string text = "This is not a recognized Tessarel game file.\r\r" + argument;
-  if (automaticFollows) text += "\r\rThe last default game file will be opened instead.";
+  std::string text = FillIn(FileTexts.UnrecognizedGame, {argument});
+  if (automaticFollows) text.append("\r\r").append(Localized(FileTexts.DefaultGameInstead));
   ShowMessage(std::move(text), std::string(GetText(UnableToOpenText)), msg::OkAlert);
 }
 

@@ -17,6 +17,7 @@
 #include "dice/roll_file.h"
 #include "files/events_log.h"
 #include "files/events_log_view.h"
+#include "files/file_texts.h"
 #include "files/game_blocks.h"
 #include "files/sessions_log.h"
 
@@ -69,38 +70,22 @@ void NoteFilesOfPlace(FilesInUse& files, int place) {
 
 // --- Taking up ---------------------------------------------------------------------------------
 
-// The texts that name a file, with the title of the box.
+// What is said of a file, with the title of the box.
 struct FileNotice {
-  const char* text;
-  const char* title;
+  SixTexts text;
+  SixTexts title;
 };
-// clang-format off
-constexpr FileNotice RollFileGone = {
-    "The following Dice Roll file (that was in use when this game was saved) was not found:",
-    "Missing Dice Roll File"};
-constexpr FileNotice RollFileChanged = {
-    "The following Dice Roll file (that was in use when this game was saved) has been changed:",
-    "Altered Dice Roll File"};
-constexpr FileNotice MatrixGone = {
-    "The following Probability file (that was in use when this game was saved) was not found:",
-    "Missing Probability File"};
-constexpr FileNotice MatrixChanged = {
-    "The following Probability file (that was in use when this game was saved) has been changed:",
-    "Altered Probability File"};
-constexpr FileNotice EventsLogGone = {
-    "The following Events Log (that was open when this game was saved) was not found.",
-    "Missing Events Log"};
-// Behind the player's name.
-constexpr FileNotice ScriptGone = {"'s auto-bet file was not found:", "Auto-Bet File Not Found"};
-constexpr FileNotice ScriptChanged = {"'s auto-Bet file has been changed:", "Auto-Bet File Changed"};
-// clang-format on
+constexpr FileNotice RollFileGone = {FileTexts.RollFileGone, FileTexts.RollFileGoneTitle};
+constexpr FileNotice RollFileChanged = {FileTexts.RollFileChanged, FileTexts.RollFileChangedTitle};
+constexpr FileNotice MatrixGone = {FileTexts.MatrixGone, FileTexts.MatrixGoneTitle};
+constexpr FileNotice MatrixChanged = {FileTexts.MatrixChanged, FileTexts.MatrixChangedTitle};
+constexpr FileNotice EventsLogGone = {FileTexts.EventsLogGone, FileTexts.EventsLogGoneTitle};
+constexpr FileNotice ScriptGone = {FileTexts.ScriptGone, FileTexts.ScriptGoneTitle};
+constexpr FileNotice ScriptChanged = {FileTexts.ScriptChanged, FileTexts.ScriptChangedTitle};
 
-void Tell(std::string text, const std::string& file, const std::string& title) {
-  ShowMessage(text.append("\r\r").append(file), title, msg::OkAlert);
-}
-
-void Tell(const FileNotice& notice, const std::string& file, const std::string& name = "") {
-  Tell(name + notice.text, file, notice.title);
+void Tell(const FileNotice& notice, const std::string& file, const std::string& player = "") {
+  ShowMessage(FillIn(notice.text, {file, player}), std::string(Localized(notice.title)),
+              msg::OkAlert);
 }
 
 // The path of a name in a game file, which may have '\' in it and be relative.
@@ -161,8 +146,7 @@ void TakeUpScript(int place, const HeldFile& file) {
     Tell(ScriptGone, path, name);
   } else if (!CanReadScript(place, path)) {
     NewScript(place);
-    Tell("An error occurred while attempting to load " + name + "'s auto-bet file:", path,
-         Message.ErrorTitle);
+    ShowMessage(FillIn(FileTexts.ScriptUnreadable, {path, name}), Message.ErrorTitle, msg::OkAlert);
   } else if (LastModifiedText(path) != file.Date) {
     Tell(ScriptChanged, path, name);
   }
@@ -175,11 +159,10 @@ void TakeUpSessionsLog(int place, const std::string& log) {
   const bool there = FileExists(log);
   At(Table.SessionLogName, place) = there ? log : usual;
   if (there || log.empty() || log == usual) return;
-  const std::string kind = FileExists(usual) ? "existing" : "new";
-  const std::string next = kind == "new" ? "created and opened" : "opened";
-  Tell("The following Sessions Log for " + name + " was not found: \r\r" + log +
-           "\r\rThe following " + kind + " Sessions Log will be " + next + " instead:",
-       usual, "Sessions Log Not Found");
+  const SixTexts& text =
+      FileExists(usual) ? FileTexts.LogGoneExistingInstead : FileTexts.LogGoneNewInstead;
+  ShowMessage(FillIn(text, {log, name, usual}), std::string(Localized(FileTexts.LogGoneTitle)),
+              msg::OkAlert);
 }
 
 // What goes wrong with one file is reported and leaves the others.

@@ -10,6 +10,7 @@
 #include "base/single_byte_text.h"
 #include "base/trap.h"
 #include "config/folders.h"
+#include "files/file_texts.h"
 
 namespace tessarel {
 
@@ -74,8 +75,8 @@ std::string LetterOf(char key) {
 std::optional<HotKey> Checked(char key, std::string_view fileName, std::string_view note) {
   const std::string_view name = TrimSpaces(fileName);
   if (name.empty()) {
-    ShowMessage("Please enter an Auto-Bet filename to define this Hot-Key.", "Hot-Key",
-                msg::OkAlert);
+    ShowMessage(std::string(Localized(FileTexts.HotKeyNeedsFile)),
+                std::string(Localized(FileTexts.HotKey)), msg::OkAlert);
     return std::nullopt;
   }
   std::string letter = LetterOf(key);

@@ -14,6 +14,7 @@
 #include "config/folders.h"
 #include "config/language.h"
 #include "engine/table.h"
+#include "files/file_texts.h"
 #include "files/sessions_log.h"
 #include "stats/store.h"
 
@@ -35,39 +36,36 @@ const std::string& NameOf(int place) {
   return At(Table.PlayerName, place);
 }
 
-void Tell(const std::string& text, const std::string& title) {
-  ShowMessage(text, title, msg::OkAlert);
+std::string Text(const SixTexts& texts) {
+  return std::string(Localized(texts));
+}
+
+void Tell(const SixTexts& text, const SixTexts& title) {
+  ShowMessage(Text(text), Text(title), msg::OkAlert);
 }
 
 void RefuseFile() {
-  Tell(
-      "This file is either from an older version, has been corrupted, or is not a true Tessarel "
-      "Sessions Log.",
-      std::string(GetText(ErrorTitleText)));
+  ShowMessage(Text(FileTexts.NotASessionsLog), std::string(GetText(ErrorTitleText)), msg::OkAlert);
 }
 
 // --- New logs ----------------------------------------------------------------------------------
 
-bool AgreesToSessionInProgress(const std::string& logs) {
+bool AgreesToSessionInProgress(bool oneLog) {
   if (RollsInSession() == 0) return true;
-  return ShowMessage(
-             "There's currently a session in progress which will be added to your new "
-             "Sessions " +
-                 logs +
-                 " when it's finished.\r\rIf you don't want this to happen, then you "
-                 "should select \"New\" from the Game menu on the game table.\r\rWould "
-                 "you like to continue with this action anyway?",
-             "Session in progress will be added to new Sessions " + logs,
-             msg::AskNoDefault) == AnswerYes;
+  const SixTexts& question =
+      oneLog ? FileTexts.SessionGoesIntoNewLog : FileTexts.SessionGoesIntoNewLogs;
+  const SixTexts& title =
+      oneLog ? FileTexts.SessionGoesIntoNewLogTitle : FileTexts.SessionGoesIntoNewLogsTitle;
+  return ShowMessage(Text(question), Text(title), msg::AskNoDefault) == AnswerYes;
 }
 
 // Whether a log may take this name: other players go on with theirs.
-bool MayTakeName(int place, const std::string& name, const std::string& title) {
+bool MayTakeName(int place, const std::string& name, const SixTexts& title) {
   bool free = true;
   ForEachPlayer([&](int other) {
     if (other != place && IsSameFile(SessionsLogNameOf(other), name)) free = false;
   });
-  if (!free) Tell("This file is the sessions log of another player.", title);
+  if (!free) Tell(FileTexts.LogOfAnotherPlayer, title);
   return free;
 }
 
@@ -75,8 +73,8 @@ bool MayTakeName(int place, const std::string& name, const std::string& title) {
 std::string MoveToChosenName(int place,
                              const std::string& from,
                              const std::string& offered,
-                             const std::string& dialog) {
-  const std::string chosen = FrontEnd.AskSaveFile(dialog, offered);
+                             const SixTexts& dialog) {
+  const std::string chosen = FrontEnd.AskSaveFile(Text(dialog), offered);
   if (chosen.empty()) return "";
   const std::string to = InFolder(Folders.SessionsLogFolder, chosen);
   if (!MayTakeName(place, to, dialog)) return "";
@@ -87,13 +85,12 @@ std::string MoveToChosenName(int place,
 // Lets a player keep the sessions that stand under the name of his new log.
 bool MakesRoom(int place, const std::string& name) {
   if (CountSessions(name) == 0) return true;
-  const int32_t answer = ShowMessage(
-      NameOf(place) +
-          "'s log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
-      "Save Sessions Log", msg::AskYesDefault | msg::Cancel);
+  const int32_t answer =
+      ShowMessage(FillIn(FileTexts.AskToRenameLog, {NameOf(place)}),
+                  Text(FileTexts.SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
   if (answer == AnswerNo) return true;
   if (answer != AnswerYes) return false;
-  const std::string kept = MoveToChosenName(place, name, name, "Save sessions log as");
+  const std::string kept = MoveToChosenName(place, name, name, FileTexts.SaveSessionsLogAs);
   return !kept.empty() && !IsSameFile(kept, name);
 }
 
@@ -139,15 +136,16 @@ std::optional<Money> ReadValue(std::string text) {
   return ParseMoney(text);
 }
 
-std::string ChosenStatName() {
-  return std::string(At(SessionStatNames, SessionsView.Stat));
+std::string_view ChosenStatName() {
+  return At(SessionStatNames, SessionsView.Stat);
 }
 
 bool FindFrom(const SessionStatistics& statistics, int32_t from, int step) {
   const std::optional<Money> value = ReadValue(SessionsView.FindText);
   const int32_t row = value ? FindSessionRow(statistics, *value, from, step) : -1;
   if (row < 0) {
-    Tell("The value " + SessionsView.FindText + " was not found.", "Find");
+    ShowMessage(FillIn(FileTexts.ValueNotFound, {SessionsView.FindText}), Text(FileTexts.Find),
+                msg::OkAlert);
     return false;
   }
   SessionsView.FoundRow = row;
@@ -178,11 +176,11 @@ bool OpenSessionsLog(int place, const std::string& name) {
 
 bool NewSessionsLog(int place) {
   return DoneFor(place, "NewSessionsLog",
-                 [place] { return AgreesToSessionInProgress("Log") && StartNewLog(place); });
+                 [place] { return AgreesToSessionInProgress(true) && StartNewLog(place); });
 }
 
 bool NewSessionsLogs() {
-  if (Table.TakenPlaces == 0 || !AgreesToSessionInProgress("Logs")) return false;
+  if (Table.TakenPlaces == 0 || !AgreesToSessionInProgress(false)) return false;
   bool going = true;
   ForEachPlayer([&going](int place) {
     going = going && DoneFor(place, "NewSessionsLogs", [place] { return StartNewLog(place); });
@@ -192,10 +190,7 @@ bool NewSessionsLogs() {
 
 bool AskToDeleteSessions(int place) {
   return DoneFor(place, "DeleteSessions", [place] {
-    const std::string title = "Delete Sessions";
-    if (!AskForText("Enter the session number (or range of session numbers) that you'd like to "
-                    "delete:",
-                    title, "") ||
+    if (!AskForText(Text(FileTexts.AskSessionsToDelete), Text(FileTexts.DeleteSessions), "") ||
         TrimSpaces(Message.MsgInput).empty()) {
       return false;
     }
@@ -203,7 +198,7 @@ bool AskToDeleteSessions(int place) {
     const auto range = ReadRange(TrimSpaces(Message.MsgInput));
     if (!range || range->first < 1 || range->last < range->first ||
         range->last > CountSessions(log)) {
-      Tell("No sessions deleted.  Entry out of range.", title);
+      Tell(FileTexts.NoSessionsDeleted, FileTexts.DeleteSessions);
       return false;
     }
     DeleteSessions(log, range->first, range->last);
@@ -213,9 +208,10 @@ bool AskToDeleteSessions(int place) {
 
 bool AskToDeleteAllSessions(int place) {
   return DoneFor(place, "DeleteAllSessions", [place] {
-    const std::string question =
-        "Are you sure you want to delete ALL of " + NameOf(place) + "'s recorded sessions?";
-    if (ShowMessage(question, "Delete All Sessions", msg::AskNoDefault) != AnswerYes) return false;
+    if (ShowMessage(FillIn(FileTexts.AskToDeleteAllSessions, {NameOf(place)}),
+                    Text(FileTexts.DeleteAllSessions), msg::AskNoDefault) != AnswerYes) {
+      return false;
+    }
     ClearSessionsLog(SessionsLogNameOf(place));
     return true;
   });
@@ -230,7 +226,7 @@ bool MergeSessionsLog(int place, const std::string& name) {
       return false;
     }
     if (IsSameFile(log, other)) {
-      Tell("A sessions log cannot be merged with itself.", "Merge Sessions Logs");
+      Tell(FileTexts.CannotMergeWithItself, FileTexts.MergeSessionsLogs);
       return false;
     }
     AppendSessions(log, other);
@@ -241,11 +237,12 @@ bool MergeSessionsLog(int place, const std::string& name) {
 bool OfferToRenameSessionsLog(int place) {
   return DoneFor(place, "RenameSessionsLog", [place] {
     const std::string log = SessionsLogNameOf(place);
-    const std::string question = "Would you also like to change " + NameOf(place) +
-                                 "'s sessions log filename?\r\rCurrently:\r\r" + log;
-    if (ShowMessage(question, "Rename Sessions Log", msg::AskYesDefault) != AnswerYes) return false;
-    const std::string name =
-        MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)), "Rename sessions log");
+    if (ShowMessage(FillIn(FileTexts.AskToRenamePlayersLog, {NameOf(place), log}),
+                    Text(FileTexts.RenameSessionsLogTitle), msg::AskYesDefault) != AnswerYes) {
+      return false;
+    }
+    const std::string name = MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)),
+                                              FileTexts.RenameSessionsLog);
     if (name.empty()) return false;
     At(Table.SessionLogName, place) = name;
     return true;
@@ -253,9 +250,10 @@ bool OfferToRenameSessionsLog(int place) {
 }
 
 bool AskToFindSession(const SessionStatistics& statistics) {
-  const std::string question = "Enter the value you'd like to find for:\r\r" + ChosenStatName() +
-                               "\r\rIf found, the line will scroll to the top of the data box.";
-  if (!AskForText(question, "Find", SessionsView.FindText)) return false;
+  if (!AskForText(FillIn(FileTexts.AskValueToFind, {ChosenStatName()}), Text(FileTexts.Find),
+                  SessionsView.FindText)) {
+    return false;
+  }
   const std::string text(TrimSpaces(Message.MsgInput));
   if (text.empty()) return false;
   SessionsView.FindText = text;
@@ -273,8 +271,10 @@ bool FindPreviousSession(const SessionStatistics& statistics) {
 }
 
 bool AskBreakPoint() {
-  const std::string question = "Enter the break point for:\r\r" + ChosenStatName();
-  if (!AskForText(question, "Set Break Point", PlainText(SessionsView.BreakPoint))) return false;
+  if (!AskForText(FillIn(FileTexts.AskBreakPoint, {ChosenStatName()}),
+                  Text(FileTexts.SetBreakPoint), PlainText(SessionsView.BreakPoint))) {
+    return false;
+  }
   const std::optional<Money> value = ReadValue(Message.MsgInput);
   if (value) SessionsView.BreakPoint = *value;
   return value.has_value();

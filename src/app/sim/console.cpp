@@ -17,6 +17,7 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
+#include "engine/roll_texts.h"
 #include "engine/settle_prompt.h"
 
 namespace tessarel::sim {
@@ -68,7 +69,7 @@ void TakeAnswer() {
 
 // Why the Hyper-Drive stopped is part of the result and no message.
 void ShowOnConsole() {
-  if (Message.MsgTitle == "Hyper-Drive Stopped") return;
+  if (Message.MsgTitle == Localized(RollTexts.HyperDriveStopped)) return;
   if (Message.MsgTitle == Message.ErrorTitle) {
     ++Console.faults;
     Console.lastFault = Message.MsgText;
