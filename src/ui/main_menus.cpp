@@ -8,8 +8,8 @@
 #include <functional>
 #include <initializer_list>
 
-#include "autobet/values.h"
 #include "app/session.h"
+#include "autobet/values.h"
 #include "automation/auto_roll.h"
 #include "base/front_end.h"
 #include "base/message.h"
@@ -231,8 +231,10 @@ void MainMenus::Dice() {
   Add("mnuRollDice", texts::DiceRoll, "F2", RollTheDice, TableIsIdle);
   Add(
       "mnuRollYourOwnNumbers", texts::DiceOwn, "F12",
-      [&w = window] { w.ToggleSmallWindow(SmallWindowKind::Console); }, {},
-      [&w = window] { return w.IsSmallWindowShown(SmallWindowKind::Console); });
+      [&w = window] {
+        w.ShowSmall(SmallWindowKind::Console, !w.IsSmallShown(SmallWindowKind::Console));
+      },
+      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
   Line();
   Choices(
       texts::DiceAction,
@@ -413,12 +415,14 @@ void MainMenus::Window() {
   Menu(texts::MenuWindow);
   Add(
       "mnuWindowConsole", texts::WindowConsole, "",
-      [&w = window] { w.ToggleSmallWindow(SmallWindowKind::Console); }, {},
-      [&w = window] { return w.IsSmallWindowShown(SmallWindowKind::Console); });
+      [&w = window] {
+        w.ShowSmall(SmallWindowKind::Console, !w.IsSmallShown(SmallWindowKind::Console));
+      },
+      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
   Add(
       "mnuWindowDice", texts::WindowDice, "",
-      [&w = window] { w.ToggleSmallWindow(SmallWindowKind::Dice); }, {},
-      [&w = window] { return w.IsSmallWindowShown(SmallWindowKind::Dice); });
+      [&w = window] { w.ShowSmall(SmallWindowKind::Dice, !w.IsSmallShown(SmallWindowKind::Dice)); },
+      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Dice); });
   Add(
       "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
       [] { return IsOn(TableOption::StatusBox); });

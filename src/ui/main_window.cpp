@@ -42,21 +42,20 @@ constexpr qint64 PumpEveryNs = 16'000'000;
 // The window of the program, for the core's callbacks.
 MainWindow* Main = nullptr;
 
-// A window's state word and geometry in GameViews.Windows.
-enum WindowWords : int { MainWords = 0, ConsoleWords = 20, DiceWords = 25 };
 enum MainState : int32_t { StateNormal = 0, StateMinimised = 1, StateMaximised = 2 };
 
-QRect StoredPlace(int first) {
+// The words of this window in GameViews.Windows: its state, left, top, width and height.
+QRect StoredPlace() {
   const auto& words = GameViews.Windows;
-  return {At(words, first + 1), At(words, first + 2), At(words, first + 3), At(words, first + 4)};
+  return {words[1], words[2], words[3], words[4]};
 }
 
-void StorePlace(int first, const QRect& place) {
-  auto& words = GameViews.Windows;
-  At(words, first + 1) = place.left();
-  At(words, first + 2) = place.top();
-  At(words, first + 3) = place.width();
-  At(words, first + 4) = place.height();
+void StorePlace(MainState state, const QRect& place) {
+  GameViews.Windows[0] = state;
+  GameViews.Windows[1] = place.left();
+  GameViews.Windows[2] = place.top();
+  GameViews.Windows[3] = place.width();
+  GameViews.Windows[4] = place.height();
 }
 
 // Whether enough of a stored place is on a screen of today to take hold of the window.
@@ -71,8 +70,14 @@ bool IsOnScreen(const QRect& place) {
 }  // namespace
 
 MainWindow::MainWindow(const std::string& appFolder)
-    : view_(new TableView(this)), bar_(new ControlBar(this)), autosave_(appFolder) {
+    : view_(new TableView(this)),
+      bar_(new ControlBar(this)),
+      autosave_(appFolder),
+      console_(MakeRollConsole(this)),
+      diceWindow_(MakeDiceWindow(this)),
+      statusBox_(MakeStatusBox(view_)) {
   Main = this;
+  statusBox_->hide();
   auto* middle = new QWidget(this);
   auto* column = new QVBoxLayout(middle);
   column->setContentsMargins(0, 0, 0, 0);
@@ -148,10 +153,11 @@ void MainWindow::FillFrontEnd() {
 
 void MainWindow::Animate() {
   PlayTableSound(Sound::DiceThrown);
-  bar_->Refresh();
+  bar_->RollButton()->setEnabled(false);
   ShowDiceWindowIfUsed();
-  if (diceWindow_ != nullptr) RefreshSmallWindow(diceWindow_);
+  if (IsSmallShown(SmallWindowKind::Dice)) RefreshSmallWindow(diceWindow_);
   view_->AnimateDice();
+  bar_->Refresh();
 }
 
 // Called once a roll under the Hyper-Drive, so that the clock is looked at only now and then: after
@@ -188,10 +194,10 @@ void MainWindow::RefreshAll() {
 // --- Starting and leaving ----------------------------------------------------------------------
 
 void MainWindow::Start() {
+  TakePlace();
+  show();
   TakeUpGame();
-  ReadWindowPlaces();
   GameFile.MainWindowShown = true;
-  if (isHidden()) show();
   view_->setFocus();
   if (Table.BankrollStopPlace != 0) BankrollLimitStop(Table.BankrollStopPlace);
   Message.MsgText.clear();
@@ -204,6 +210,8 @@ void MainWindow::TakeUpGame() {
   SetCaptions();
   TablePlay = TablePlayState{};
   view_->DrawTable();
+  RestoreSmallWindow(console_);
+  RestoreSmallWindow(diceWindow_);
   ShowDiceWindowIfUsed();
   RefreshAll();
 }
@@ -220,37 +228,23 @@ void MainWindow::OfferUnfinishedTable() {
   }
 }
 
-void MainWindow::ReadWindowPlaces() {
-  const QRect place = StoredPlace(MainWords);
-  const bool known = IsOnScreen(place) && place.width() >= LeastWidth / 2;
-  if (known) {
+void MainWindow::TakePlace() {
+  const QRect place = StoredPlace();
+  if (IsOnScreen(place) && place.width() >= LeastWidth / 2) {
     setGeometry(place);
   } else {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     resize(std::min(1500, screen.width() * 9 / 10), std::min(860, screen.height() * 9 / 10));
   }
-  if (At(GameViews.Windows, MainWords) == StateMaximised) showMaximized();
-  for (const auto& [kind, first] : {std::pair{SmallWindowKind::Console, ConsoleWords},
-                                    std::pair{SmallWindowKind::Dice, DiceWords}}) {
-    if (At(GameViews.Windows, first) == 0) continue;
-    ToggleSmallWindow(kind);
-    const QRect stored = StoredPlace(first);
-    if (IsOnScreen(stored)) Small(kind)->move(stored.topLeft());
-  }
+  if (GameViews.Windows[0] == StateMaximised) setWindowState(Qt::WindowMaximized);
 }
 
-void MainWindow::KeepWindowPlaces() {
-  At(GameViews.Windows, MainWords) = isMaximized()   ? StateMaximised
-                                     : isMinimized() ? StateMinimised
-                                                     : StateNormal;
-  StorePlace(MainWords, isMaximized() || isMinimized() ? normalGeometry() : geometry());
-  for (const auto& [kind, first] : {std::pair{SmallWindowKind::Console, ConsoleWords},
-                                    std::pair{SmallWindowKind::Dice, DiceWords}}) {
-    QWidget* window = Small(kind);
-    const bool shown = window != nullptr && window->isVisible();
-    At(GameViews.Windows, first) = shown ? -1 : 0;
-    if (shown) StorePlace(first, QRect(window->pos(), window->size()));
-  }
+void MainWindow::KeepPlace() {
+  const bool plain = !isMaximized() && !isMinimized();
+  StorePlace(isMaximized()   ? StateMaximised
+             : isMinimized() ? StateMinimised
+                             : StateNormal,
+             plain ? geometry() : normalGeometry());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -259,7 +253,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (view_->IsAnimating()) QTimer::singleShot(100, this, [this] { close(); });
     return;
   }
-  KeepWindowPlaces();
+  KeepPlace();
   if (!Leave()) return event->ignore();
   autosave_.End();
   StopSounds();
@@ -276,6 +270,9 @@ void MainWindow::ConnectTable() {
     if (TableIsIdle()) RollTheDice();
     RefreshAll();
   };
+  view_->DicePhaseChanged = [this](double phase) {
+    if (IsSmallShown(SmallWindowKind::Dice)) ShowThrow(diceWindow_, phase);
+  };
   view_->PlayerMenu = [this](int place, QPoint at) { ShowPlayerMenu(place, at); };
   connect(bar_->RollButton(), &QPushButton::clicked, this, [this] {
     RollTheDice();
@@ -287,7 +284,8 @@ void MainWindow::ConnectTable() {
 
 void MainWindow::ShowHint() {
   const ClickOutlook outlook = OutlookOfSpot(TablePlay.HotSpot);
-  bar_->ShowHint(Shown(outlook.text), outlook.possible);
+  const bool nobody = outlook.text.empty() && Table.PlayerCount == 0;
+  bar_->ShowHint(Shown(nobody ? GetText(1) : std::string_view(outlook.text)), outlook.possible);
 }
 
 // The right button rolls; during a run it asks to stop.
@@ -354,7 +352,7 @@ void MainWindow::TakeUpFontSize() {
 
 // --- Small windows -----------------------------------------------------------------------------
 
-QPointer<QWidget>& MainWindow::Small(SmallWindowKind kind) {
+QWidget* MainWindow::Small(SmallWindowKind kind) const {
   switch (kind) {
     case SmallWindowKind::Console:
       return console_;
@@ -365,36 +363,26 @@ QPointer<QWidget>& MainWindow::Small(SmallWindowKind kind) {
   }
 }
 
-void MainWindow::ToggleSmallWindow(SmallWindowKind kind) {
-  QPointer<QWidget>& window = Small(kind);
-  if (window == nullptr) {
-    window = kind == SmallWindowKind::Console ? MakeRollConsole(this)
-             : kind == SmallWindowKind::Dice  ? MakeDiceWindow(this)
-                                              : MakeStatusBox(view_);
-  } else if (window->isVisible()) {
-    return window->hide();
-  }
-  RefreshSmallWindow(window);
-  window->show();
+void MainWindow::ShowSmall(SmallWindowKind kind, bool shown) {
+  QWidget* window = Small(kind);
+  if (window->isVisible() == shown) return;
+  if (shown) RefreshSmallWindow(window);
+  window->setVisible(shown);
 }
 
-bool MainWindow::IsSmallWindowShown(SmallWindowKind kind) {
-  return Small(kind) != nullptr && Small(kind)->isVisible();
+bool MainWindow::IsSmallShown(SmallWindowKind kind) const {
+  return Small(kind)->isVisible();
 }
 
 void MainWindow::ShowDiceWindowIfUsed() {
   constexpr int32_t InWindow = 3;
-  const bool used = Settings.DiceAction == InWindow;
-  if (used != IsSmallWindowShown(SmallWindowKind::Dice) && (used || !diceWindow_.isNull()))
-    ToggleSmallWindow(SmallWindowKind::Dice);
+  ShowSmall(SmallWindowKind::Dice, Settings.DiceAction == InWindow);
 }
 
 void MainWindow::ShowSmallWindows() {
-  const bool status = IsOn(TableOption::StatusBox);
-  if (status != IsSmallWindowShown(SmallWindowKind::Status))
-    ToggleSmallWindow(SmallWindowKind::Status);
-  for (const QPointer<QWidget>& window : {console_, diceWindow_, statusBox_}) {
-    if (window != nullptr && window->isVisible()) RefreshSmallWindow(window);
+  ShowSmall(SmallWindowKind::Status, IsOn(TableOption::StatusBox));
+  for (QWidget* window : {console_, diceWindow_, statusBox_}) {
+    if (window->isVisible()) RefreshSmallWindow(window);
   }
 }
 

@@ -54,6 +54,7 @@ class TableView : public QWidget {
   std::function<void(int place, QPoint at)> PlayerMenu;  // a click on the current player's place
   std::function<void()> RightClick;                      // with nothing to cancel
   std::function<void()> DiceClick;
+  std::function<void(double phase)> DicePhaseChanged;  // of a throw, 0 to 1
 
  protected:
   void paintEvent(QPaintEvent* event) override;

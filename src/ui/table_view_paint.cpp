@@ -283,7 +283,7 @@ void TableView::EndAnimation() {
 
 void TableView::AnimateDice() {
   ++throws_;
-  if (Settings.DiceAction == DiceInWindow || animating_ || !isVisible()) return update();
+  if (animating_ || !isVisible()) return update();
   if (MotionIsReduced()) {
     if (Settings.DiceAction == DiceCenter) centreDice_.start(static_cast<int>(CentreMs));
     return update();
@@ -298,6 +298,7 @@ void TableView::AnimateDice() {
   frame.setInterval(16);
   connect(&frame, &QTimer::timeout, &loop, [&] {
     dicePhase_ = std::min(1.0, static_cast<double>(time.elapsed()) / length);
+    if (DicePhaseChanged) DicePhaseChanged(dicePhase_);
     update();
     if (dicePhase_ >= 1) loop.quit();
   });
@@ -307,6 +308,7 @@ void TableView::AnimateDice() {
   endAnimation_ = nullptr;
   animating_ = false;
   dicePhase_ = 1;
+  if (DicePhaseChanged) DicePhaseChanged(dicePhase_);
   if (Settings.DiceAction == DiceCenter) centreDice_.start(static_cast<int>(CentreMs));
   update();
 }
