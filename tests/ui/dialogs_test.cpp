@@ -58,19 +58,24 @@ class DialogTest : public ::testing::Test {
     return Message.MsgResult;
   }
 
-  // Opens a dialog in every language and looks at its texts.
+  // Opens a dialog in every language and size of type, and looks at its texts.
   static void WalkLanguages(const QString& name, const std::function<void()>& open) {
-    for (int32_t language = 0; language < LanguageCount; ++language) {
-      SetLanguage(language);
-      Answer(
-          [&](QDialog& dialog) {
-            EXPECT_EQ(TextsThatDoNotFit(dialog), Texts()) << name.toStdString() << language;
-            EXPECT_EQ(ClashingShortcuts(dialog), Texts()) << name.toStdString() << language;
-            SaveLook(dialog, name + QString::number(language));
-            dialog.reject();
-          },
-          open);
+    for (const int32_t size : {9, 11, 13}) {
+      Settings.BasicFontSize = size;
+      for (int32_t language = 0; language < LanguageCount; ++language) {
+        SetLanguage(language);
+        const QString look = QString("%1_%2_%3").arg(name).arg(language).arg(size);
+        SCOPED_TRACE(look.toStdString());
+        Answer([&look](QDialog& dialog) { Judge(dialog, look); }, open);
+      }
     }
+  }
+
+  static void Judge(QDialog& dialog, const QString& look) {
+    EXPECT_EQ(TextsThatDoNotFit(dialog), Texts());
+    EXPECT_EQ(ClashingShortcuts(dialog), Texts());
+    SaveLook(dialog, look);
+    dialog.reject();
   }
 };
 
@@ -292,6 +297,19 @@ TEST_F(DialogTest, PaletteIsLegible) {
     EXPECT_GE(ContrastOf(QColor(mark), palette.color(QPalette::Window)), 4.5);
 }
 
+TEST_F(DialogTest, WalkFindsTextsWithoutRoomAndDoubledShortcuts) {
+  QWidget window;
+  auto* const narrow = new QLabel("a label with many words", &window);
+  narrow->resize(40, 30);
+  auto* const outside = new QPushButton("&Open", &window);
+  outside->setGeometry(580, 0, 100, 30);
+  auto* const good = new QPushButton("&Other", &window);
+  good->setGeometry(0, 40, 100, 30);
+  window.resize(600, 100);
+  EXPECT_EQ(TextsThatDoNotFit(window), Texts({"a label with many words", "&Open"}));
+  EXPECT_EQ(ClashingShortcuts(window), Texts({"&Open", "&Other"}));
+}
+
 // --- The settle-bet prompt -----------------------------------------------------------------------
 
 SettlePrompt SomePrompt(Outcome outcome) {
@@ -359,9 +377,9 @@ TEST_F(DialogTest, SettlePromptCyclesAndKeepsItsFigures) {
 }
 
 TEST_F(DialogTest, SettlePromptHasRoomForItsTextsInEveryLanguage) {
-  const std::pair<const char*, Outcome> outcomes[] = {{"settle_won_", Outcome::Won},
-                                                      {"settle_lost_", Outcome::Lost},
-                                                      {"settle_idle_", Outcome::Idle}};
+  const std::pair<const char*, Outcome> outcomes[] = {{"settle_won", Outcome::Won},
+                                                      {"settle_lost", Outcome::Lost},
+                                                      {"settle_idle", Outcome::Idle}};
   for (const auto& [name, outcome] : outcomes) {
     WalkLanguages(name, [outcome = outcome] {
       SettlePrompt prompt = SomePrompt(outcome);
@@ -426,7 +444,7 @@ TEST_F(DialogTest, NewGameAnswersItsChoicesAndRemembersThem) {
 
 TEST_F(DialogTest, NewGameHasRoomForItsTextsInEveryLanguage) {
   RollFile.RollFileName = "/rolls/monday.rol";
-  WalkLanguages("new_", [] { AskNewGame(nullptr); });
+  WalkLanguages("new", [] { AskNewGame(nullptr); });
 }
 
 // --- Files ---------------------------------------------------------------------------------------
@@ -495,6 +513,14 @@ TEST_F(FileDialogTest, GoesThroughFoldersAndKeepsTheLastOne) {
     Type(window, "older");
     Click(window, "cmdOK");
     EXPECT_EQ(Listed(window), QStringList({"..", "first.bet"}));
+    Pick(window, "..");
+    Click(window, "cmdOK");
+    EXPECT_EQ(Listed(window).size(), 4);
+    auto& list = Child<QListWidget>(window, "filList");
+    const QPoint folder = list.visualItemRect(list.item(1)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, folder);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, folder);
+    EXPECT_EQ(Listed(window), QStringList({"..", "first.bet"}));
     Press(Child(window, "filList"), Qt::Key_Escape);
   });
   EXPECT_EQ(chosen, "");
@@ -543,7 +569,7 @@ TEST_F(FileDialogTest, HasRoomForItsTextsInEveryLanguage) {
     EXPECT_EQ(FileActionCaption(each), FileActionTitle(each));
   }
   for (const FileAction action : {FileAction::SaveScript, FileAction::RenameSessionsLog}) {
-    WalkLanguages(QString("file%1_").arg(static_cast<int>(action)),
+    WalkLanguages(QString("file%1").arg(static_cast<int>(action)),
                   [action] { AskFile(nullptr, action, "mine.bet"); });
   }
 }
@@ -585,7 +611,7 @@ TEST_F(DialogTest, LanguageTakesEffectAtOnce) {
       },
       [] { AskLanguage(nullptr); });
   EXPECT_EQ(Settings.Language, French);
-  WalkLanguages("language_", [] { AskLanguage(nullptr); });
+  WalkLanguages("language", [] { AskLanguage(nullptr); });
 }
 
 }  // namespace
