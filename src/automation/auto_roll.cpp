@@ -31,6 +31,11 @@ constexpr const char* AskAutoStop =
     "(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
     "automatic stopping.)";
 
+constexpr SixTexts Interrupted = {
+    "Auto-betting interrupted.",         "Apuestas automáticas interrumpidas.",
+    "Automatisches Wetten abgebrochen.", "Mises automatiques interrompues.",
+    "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
+
 bool Runs() {
   return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
 }
@@ -105,7 +110,7 @@ bool ConfirmScriptActive() {
 void InterruptAutoBetting() {
   AutoBet.ScriptRunning = 0;
   AutoBet.AutoBetMessageStop = -1;
-  if (Table.HyperDriveOn != 0) Table.StopReason = "Auto-betting interrupted.";
+  if (Table.HyperDriveOn != 0) Table.StopReason = Localized(Interrupted);
   StopUnattended();
 }
 

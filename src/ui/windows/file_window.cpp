@@ -220,7 +220,8 @@ class FileWindow : public QDialog {
     filList_->setCurrentRow(row);
   }
 
-  // A folder that was typed, or is selected and nothing typed, is shown; a refusal leaves the dialog as it is.
+  // A folder that was typed, or is selected and nothing typed, is shown; a refusal leaves the
+  // dialog as it is.
   void TakeTyped() {
     const QListWidgetItem* const item = filList_->currentItem();
     if (txtFileName_->text().isEmpty() && item != nullptr && IsFolder(item)) {
