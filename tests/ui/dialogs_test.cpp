@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QScreen>
 #include <filesystem>
 #include <fstream>
 
@@ -74,6 +75,7 @@ class DialogTest : public ::testing::Test {
   static void Judge(QDialog& dialog, const QString& look) {
     EXPECT_EQ(TextsThatDoNotFit(dialog), Texts());
     EXPECT_EQ(ClashingShortcuts(dialog), Texts());
+    EXPECT_LT(dialog.height(), dialog.screen()->availableSize().height());
     SaveLook(dialog, look);
     dialog.reject();
   }
@@ -244,7 +246,11 @@ TEST_F(DialogTest, MessagesHaveRoomForTheirTextsInEveryLanguage) {
     int32_t flags;
     const char* text;
   };
+  std::string manyLines = "1";
+  for (int line = 2; line <= 90; ++line)
+    manyLines += "\r" + std::to_string(line) + " of many lines, more than a screen holds";
   const Case cases[] = {
+      {"long", msg::Ok | msg::PictureStop, manyLines.c_str()},
       {"ask", msg::AskNoDefault, "Do you want to stop auto-betting?\r\rFred's script processing."},
       {"hide", msg::OkAlert | msg::HideNotice1 | msg::Button4,
        "The maximum odds bet on the Pass Line is $25.\r\rThe bet was adjusted."},
