@@ -27,6 +27,11 @@ constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114, StartAutoRo
 
 constexpr Money LongestDelay = 300;  // seconds
 
+constexpr SixTexts Interrupted = {
+    "Auto-betting interrupted.",         "Apuestas automáticas interrumpidas.",
+    "Automatisches Wetten abgebrochen.", "Mises automatiques interrompues.",
+    "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
+
 bool Runs() {
   return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
 }
@@ -101,7 +106,7 @@ bool ConfirmScriptActive() {
 void InterruptAutoBetting() {
   AutoBet.ScriptRunning = 0;
   AutoBet.AutoBetMessageStop = -1;
-  if (Table.HyperDriveOn != 0) Table.StopReason = "Auto-betting interrupted.";
+  if (Table.HyperDriveOn != 0) Table.StopReason = Localized(Interrupted);
   StopUnattended();
 }
 

@@ -719,9 +719,9 @@ std::string FillIn(std::string_view text, std::initializer_list<std::string_view
   filled.reserve(text.size() + 32);
   for (size_t k = 0; k < text.size(); ++k) {
     const char mark = text[k] == '%' && k + 1 < text.size() ? text[k + 1] : '\0';
-    if (mark >= '1' && mark <= '9') {
-      const size_t value = static_cast<size_t>(mark - '1');
-      if (value < values.size()) filled += values.begin()[value];
+    const size_t value = static_cast<size_t>(mark - '1');
+    if (mark >= '1' && value < values.size()) {
+      filled += values.begin()[value];
       ++k;
     } else {
       filled += text[k];

@@ -14,6 +14,7 @@
 #include "automation/auto_roll.h"
 #include "base/number_format.h"
 #include "config/settings.h"
+#include "dice/dice_texts.h"
 #include "dice/popup_roll.h"
 #include "engine/table.h"
 #include "stats/store.h"
@@ -58,7 +59,7 @@ QString PointText() {
 
 // What stands in the way of the next roll, else the point.
 QString StateText() {
-  if (PopupRoll.Waiting) return Shown(WaitingForRollFile);
+  if (PopupRoll.Waiting) return Shown(texts::WaitingForRollFile);
   return PointText();
 }
 

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QScreen>
 #include <filesystem>
 #include <fstream>
 
@@ -58,19 +59,25 @@ class DialogTest : public ::testing::Test {
     return Message.MsgResult;
   }
 
-  // Opens a dialog in every language and looks at its texts.
+  // Opens a dialog in every language and size of type, and looks at its texts.
   static void WalkLanguages(const QString& name, const std::function<void()>& open) {
-    for (int32_t language = 0; language < LanguageCount; ++language) {
-      SetLanguage(language);
-      Answer(
-          [&](QDialog& dialog) {
-            EXPECT_EQ(TextsThatDoNotFit(dialog), Texts()) << name.toStdString() << language;
-            EXPECT_EQ(ClashingShortcuts(dialog), Texts()) << name.toStdString() << language;
-            SaveLook(dialog, name + QString::number(language));
-            dialog.reject();
-          },
-          open);
+    for (const int32_t size : {9, 11, 13}) {
+      Settings.BasicFontSize = size;
+      for (int32_t language = 0; language < LanguageCount; ++language) {
+        SetLanguage(language);
+        const QString look = QString("%1_%2_%3").arg(name).arg(language).arg(size);
+        SCOPED_TRACE(look.toStdString());
+        Answer([&look](QDialog& dialog) { Judge(dialog, look); }, open);
+      }
     }
+  }
+
+  static void Judge(QDialog& dialog, const QString& look) {
+    EXPECT_EQ(TextsThatDoNotFit(dialog), Texts());
+    EXPECT_EQ(ClashingShortcuts(dialog), Texts());
+    EXPECT_LT(dialog.height(), dialog.screen()->availableSize().height());
+    SaveLook(dialog, look);
+    dialog.reject();
   }
 };
 
@@ -201,19 +208,28 @@ TEST_F(DialogTest, HelpOpensFromF1AndBehindTheBoxFromItsButton) {
 }
 
 TEST_F(DialogTest, MessageWrapsAtItsWidthAndIsCreditedToTheNextRoll) {
-  std::string words;
-  for (int k = 0; k < 80; ++k)
+  std::string words, path;
+  for (int k = 0; k < 80; ++k) {
     words += "word ";
-  for (const auto& [width, least, most] : {std::tuple(0, 300, DefaultMessageWidth + 4),
-                                           std::tuple(200, 120, 204), std::tuple(600, 450, 604)}) {
-    Message.MsgText = words;
-    Message.MsgWidth = width;
+    path += "/folder";
+  }
+  struct Case {
+    int32_t width;
+    std::string text;
+    int least, most;
+  };
+  for (const Case& each :
+       {Case{0, words, 300, DefaultMessageWidth}, Case{200, words, 120, 200},
+        Case{600, words, 450, 600}, Case{300, path, 200, 300}, Case{600, "short", 20, 60}}) {
+    Message.MsgText = each.text;
+    Message.MsgWidth = each.width;
     Message.MsgFlags = msg::Ok;
     Answer(
-        [&](QDialog& box) {
+        [&each](QDialog& box) {
+          constexpr int Slack = 4;
           const int shown = Child(box, "lblText").width();
-          EXPECT_GE(shown, least) << width;
-          EXPECT_LE(shown, most) << width;
+          EXPECT_GE(shown, each.least) << each.width;
+          EXPECT_LE(shown, each.most + Slack) << each.width;
           EXPECT_EQ(TextsThatDoNotFit(box), Texts());
           Press(box, Qt::Key_Return);
         },
@@ -230,7 +246,11 @@ TEST_F(DialogTest, MessagesHaveRoomForTheirTextsInEveryLanguage) {
     int32_t flags;
     const char* text;
   };
+  std::string manyLines = "1";
+  for (int line = 2; line <= 90; ++line)
+    manyLines += "\r" + std::to_string(line) + " of many lines, more than a screen holds";
   const Case cases[] = {
+      {"long", msg::Ok | msg::PictureStop, manyLines.c_str()},
       {"ask", msg::AskNoDefault, "Do you want to stop auto-betting?\r\rFred's script processing."},
       {"hide", msg::OkAlert | msg::HideNotice1 | msg::Button4,
        "The maximum odds bet on the Pass Line is $25.\r\rThe bet was adjusted."},
@@ -290,6 +310,19 @@ TEST_F(DialogTest, PaletteIsLegible) {
   }
   for (const QRgb mark : {WinColour, LossColour, WarningColour})
     EXPECT_GE(ContrastOf(QColor(mark), palette.color(QPalette::Window)), 4.5);
+}
+
+TEST_F(DialogTest, WalkFindsTextsWithoutRoomAndDoubledShortcuts) {
+  QWidget window;
+  auto* const narrow = new QLabel("a label with many words", &window);
+  narrow->resize(40, 30);
+  auto* const outside = new QPushButton("&Open", &window);
+  outside->setGeometry(580, 0, 100, 30);
+  auto* const good = new QPushButton("&Other", &window);
+  good->setGeometry(0, 40, 100, 30);
+  window.resize(600, 100);
+  EXPECT_EQ(TextsThatDoNotFit(window), Texts({"a label with many words", "&Open"}));
+  EXPECT_EQ(ClashingShortcuts(window), Texts({"&Open", "&Other"}));
 }
 
 // --- The settle-bet prompt -----------------------------------------------------------------------
@@ -359,9 +392,8 @@ TEST_F(DialogTest, SettlePromptCyclesAndKeepsItsFigures) {
 }
 
 TEST_F(DialogTest, SettlePromptHasRoomForItsTextsInEveryLanguage) {
-  const std::pair<const char*, Outcome> outcomes[] = {{"settle_won_", Outcome::Won},
-                                                      {"settle_lost_", Outcome::Lost},
-                                                      {"settle_idle_", Outcome::Idle}};
+  const std::pair<const char*, Outcome> outcomes[] = {
+      {"settle_won", Outcome::Won}, {"settle_lost", Outcome::Lost}, {"settle_idle", Outcome::Idle}};
   for (const auto& [name, outcome] : outcomes) {
     WalkLanguages(name, [outcome = outcome] {
       SettlePrompt prompt = SomePrompt(outcome);
@@ -426,7 +458,7 @@ TEST_F(DialogTest, NewGameAnswersItsChoicesAndRemembersThem) {
 
 TEST_F(DialogTest, NewGameHasRoomForItsTextsInEveryLanguage) {
   RollFile.RollFileName = "/rolls/monday.rol";
-  WalkLanguages("new_", [] { AskNewGame(nullptr); });
+  WalkLanguages("new", [] { AskNewGame(nullptr); });
 }
 
 // --- Files ---------------------------------------------------------------------------------------
@@ -495,6 +527,14 @@ TEST_F(FileDialogTest, GoesThroughFoldersAndKeepsTheLastOne) {
     Type(window, "older");
     Click(window, "cmdOK");
     EXPECT_EQ(Listed(window), QStringList({"..", "first.bet"}));
+    Pick(window, "..");
+    Click(window, "cmdOK");
+    EXPECT_EQ(Listed(window).size(), 4);
+    auto& list = Child<QListWidget>(window, "filList");
+    const QPoint folder = list.visualItemRect(list.item(1)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, folder);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, folder);
+    EXPECT_EQ(Listed(window), QStringList({"..", "first.bet"}));
     Press(Child(window, "filList"), Qt::Key_Escape);
   });
   EXPECT_EQ(chosen, "");
@@ -543,7 +583,7 @@ TEST_F(FileDialogTest, HasRoomForItsTextsInEveryLanguage) {
     EXPECT_EQ(FileActionCaption(each), FileActionTitle(each));
   }
   for (const FileAction action : {FileAction::SaveScript, FileAction::RenameSessionsLog}) {
-    WalkLanguages(QString("file%1_").arg(static_cast<int>(action)),
+    WalkLanguages(QString("file%1").arg(static_cast<int>(action)),
                   [action] { AskFile(nullptr, action, "mine.bet"); });
   }
 }
@@ -585,7 +625,7 @@ TEST_F(DialogTest, LanguageTakesEffectAtOnce) {
       },
       [] { AskLanguage(nullptr); });
   EXPECT_EQ(Settings.Language, French);
-  WalkLanguages("language_", [] { AskLanguage(nullptr); });
+  WalkLanguages("language", [] { AskLanguage(nullptr); });
 }
 
 }  // namespace

@@ -27,10 +27,10 @@ namespace tessarel {
 
 namespace text_fit {
 
-// The room a widget's own text needs, with what the style draws around it.
+// The room a widget's own text needs, with what the style draws around it; (0, 0) for none.
 inline QSize RoomNeeded(const QWidget& widget) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-    if (label->text().isEmpty()) return {};
+    if (label->text().isEmpty()) return {0, 0};
     if (label->wordWrap()) return {0, label->heightForWidth(label->width())};
     return label->fontMetrics().size(Qt::TextShowMnemonic, label->text());
   }
@@ -48,7 +48,7 @@ inline QSize RoomNeeded(const QWidget& widget) {
   if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) {
     return {field->fontMetrics().horizontalAdvance(field->placeholderText()), 0};
   }
-  return {};
+  return {0, 0};
 }
 
 inline QString TextOf(const QWidget& widget) {
@@ -96,7 +96,7 @@ inline std::vector<std::string> TextsThatDoNotFit(const QWidget& window) {
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     if (!widget->isVisibleTo(&window) || widget->window() != &window) continue;
     const bool scrolls = widget->parentWidget()->objectName() == "qt_scrollarea_viewport";
-    const bool inside = scrolls || text_fit::RoomNeeded(*widget).isEmpty() ||
+    const bool inside = scrolls || text_fit::RoomNeeded(*widget).isNull() ||
                         widget->parentWidget()->rect().contains(widget->geometry());
     if (!inside || !text_fit::Fits(*widget)) found.push_back(Typed(text_fit::TextOf(*widget)));
   }
@@ -125,7 +125,10 @@ inline std::vector<std::string> ClashingShortcuts(const QWidget& window) {
 // Leaves a picture of the window in the folder that TESSAREL_LOOKS names, for eyes to judge.
 inline void SaveLook(QWidget& window, const QString& name) {
   const QString folder = qEnvironmentVariable("TESSAREL_LOOKS");
-  if (!folder.isEmpty()) window.grab().save(QDir(folder).filePath(name + ".png"));
+  if (folder.isEmpty()) return;
+  window.activateWindow();  // the focus shows in an active window only
+  QApplication::processEvents();
+  window.grab().save(QDir(folder).filePath(name + ".png"));
 }
 
 }  // namespace tessarel

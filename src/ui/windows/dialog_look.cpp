@@ -1,6 +1,7 @@
 #include "ui/windows/dialog_look.h"
 
 #include <QFontMetrics>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 
@@ -12,6 +13,15 @@ namespace {
 
 constexpr double MarginSteps = 4, GapSteps = 2, LeastButtonSteps = 19;
 constexpr double HeadingScale = 1.25;
+
+// A text whose words all fit into `width`, but for paths: those may break behind each folder.
+QString Breakable(QString text, const QFontMetrics& metrics, int width) {
+  for (const QString& word : text.split(QRegularExpression(QStringLiteral("\\s")))) {
+    if (metrics.horizontalAdvance(word) <= width) continue;
+    return text.replace('/', QStringLiteral("/\u200B"));
+  }
+  return text;
+}
 
 }  // namespace
 
@@ -74,12 +84,13 @@ QLabel* MakeHeading(const QString& text) {
 }
 
 QLabel* MakeWrapped(const QString& text, int width) {
-  auto* const label = new QLabel(text);
+  const QString shown = Breakable(text, QFontMetrics(DialogFont()), width);
+  auto* const label = new QLabel(shown);
   label->setTextFormat(Qt::PlainText);
   label->setFont(DialogFont());
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   const QRect bounds = label->fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX),
-                                                         Qt::AlignLeft | Qt::TextWordWrap, text);
+                                                         Qt::AlignLeft | Qt::TextWordWrap, shown);
   label->setWordWrap(true);
   const int needed = std::max(bounds.width(), 1) + 4;
   label->setFixedSize(needed, std::max(label->heightForWidth(needed), bounds.height()));

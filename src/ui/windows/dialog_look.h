@@ -34,7 +34,8 @@ QPushButton* AddButton(QBoxLayout* row, const QString& caption, std::function<vo
 
 QLabel* MakeHeading(const QString& text);
 
-// A text that breaks its lines at `width`, as wide as it needs and no wider.
+// A text that breaks its lines at `width`, as wide as it needs and no wider; a path breaks behind
+// its folders.
 QLabel* MakeWrapped(const QString& text, int width);
 
 // Runs a dialog until it is answered. Its size is what its contents ask for, unless `resizable`.

@@ -182,7 +182,7 @@ class FileWindow : public QDialog {
 
   void GoTo(const std::string& folder) {
     if (ChangeFileDialogFolder(folder)) ShowFolder();
-    if (filList_->count() > 0) filList_->setCurrentRow(0);
+    Select(0);
   }
 
   void AskToJumpHome() {
@@ -211,11 +211,22 @@ class FileWindow : public QDialog {
     if (!DeleteListedFile(name)) return;
     if (Typed(txtFileName_->text()) == name) txtFileName_->clear();
     ShowFolder();
-    filList_->setCurrentRow(std::min(row, filList_->count() - 1));
+    Select(std::min(row, filList_->count() - 1));
   }
 
-  // A folder that was typed is shown; a refusal leaves the dialog as it is.
+  // Without offering the name of what is selected: the one that was typed stays.
+  void Select(int row) {
+    const QSignalBlocker quiet(filList_);
+    filList_->setCurrentRow(row);
+  }
+
+  // A folder that was typed, or is selected and nothing typed, is shown; a refusal leaves the
+  // dialog as it is.
   void TakeTyped() {
+    const QListWidgetItem* const item = filList_->currentItem();
+    if (txtFileName_->text().isEmpty() && item != nullptr && IsFolder(item)) {
+      return GoTo(Typed(item->text()));
+    }
     const std::string folder = FileDialog.Folder;
     if (AcceptFileName(Typed(txtFileName_->text()))) return accept();
     if (FileDialog.Folder == folder) return txtFileName_->setFocus();

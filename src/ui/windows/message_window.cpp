@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "base/message.h"
-#include "config/configuration.h"
 #include "config/settings.h"
 #include "engine/roll_pace.h"
 #include "engine/table.h"

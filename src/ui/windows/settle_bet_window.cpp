@@ -99,12 +99,20 @@ class SettleBetWindow : public QDialog {
     upper->addLayout(side, 1);
   }
 
+  // What it comes to is the last row of a win; after a loss what remains may stand behind it.
+  int NetRow() const {
+    constexpr int LossNetRow = 2;
+    if (prompt_.outcome == Outcome::Idle) return -1;
+    return prompt_.outcome == Outcome::Lost ? LossNetRow
+                                            : static_cast<int>(prompt_.rows.size()) - 1;
+  }
+
   void AddFigure(QGridLayout* rows, int row) {
     const SettlePrompt::Row& each = prompt_.rows[static_cast<size_t>(row)];
     auto* const lblBet = new QLabel(Shown(each.caption));
     auto* const lblAmount = new QLabel(Shown(each.figure));
     lblBet->setTextFormat(Qt::PlainText);
-    if (row > 0 && each.caption.starts_with("Net ")) {
+    if (row == NetRow()) {
       QFont bold = DialogFont();
       bold.setBold(true);
       lblBet->setFont(bold);
