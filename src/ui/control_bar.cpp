@@ -59,7 +59,7 @@ QString PointText() {
 
 // What stands in the way of the next roll, else the point.
 QString StateText() {
-  if (PopupRoll.Waiting) return Shown(texts::WaitingForRollFile);
+  if (PopupRoll.Waiting) return Shown(DiceTexts.WaitingForRollFile);
   return PointText();
 }
 

@@ -316,27 +316,13 @@ void MainMenus::View() {
 }
 
 void MainMenus::Notices() {
-  static const std::array<SixTexts, NoticeRows.size()> Captions = {{
-      {NoticeRows[0].Caption, "Acciones no permitidas", "Nicht erlaubte Handlungen",
-       "Actions non permises", "Izin verilmeyen eylemler", "Azioni non consentite"},
-      {NoticeRows[1].Caption, "Límites de apuesta alcanzados", "Einsatzgrenzen erreicht",
-       "Limites de mise atteintes", "Bahis sinirina ulasildi", "Limiti di puntata raggiunti"},
-      {NoticeRows[2].Caption, "Cargos y cambio", "Gebühren und Wechselgeld", "Frais et monnaie",
-       "Kesintiler ve para üstü", "Commissioni e resto"},
-      {NoticeRows[3].Caption, "Mensajes de Auto-Bet en juego normal",
-       "Auto-Bet-Meldungen im normalen Spiel", "Messages Auto-Bet en jeu normal",
-       "Normal oyunda Auto-Bet iletileri", "Messaggi Auto-Bet nel gioco normale"},
-      {NoticeRows[4].Caption, "Mensajes de Auto-Bet en Hyper-Drive",
-       "Auto-Bet-Meldungen im Hyper-Drive", "Messages Auto-Bet en Hyper-Drive",
-       "Hyper-Drive'da Auto-Bet iletileri", "Messaggi Auto-Bet in Hyper-Drive"},
-  }};
   QMenu* outer = std::exchange(menu, Submenu(texts::OptionsNotices));
   for (size_t row = 0; row < NoticeRows.size(); ++row) {
     const Notice bit = NoticeRows[row].Bit;
     const auto shown = [bit] { return (Settings.Notices & bit) != 0; };
     const std::string name = "chkNotify" + std::to_string(row);
     Add(
-        name.c_str(), Captions.at(row), "", [bit, shown] { SetNotice(bit, !shown()); }, {}, shown);
+        name.c_str(), NoticeRows.at(row).Caption, "", [bit, shown] { SetNotice(bit, !shown()); }, {}, shown);
   }
   menu = outer;
 }

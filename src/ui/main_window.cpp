@@ -131,7 +131,10 @@ void MainWindow::FillFrontEnd() {
     Main->RefreshStatus();
   };
   FrontEnd.DrawStatus = [] {
-    if (Table.HyperDriveOn == 0) Main->view_->DrawTable();
+    if (Table.HyperDriveOn == 0) {
+      Main->view_->DrawTable();
+      Main->HearWins();
+    }
     Main->RefreshStatus();
   };
   FrontEnd.RefreshViews = [] { Main->RefreshStatus(); };
@@ -153,11 +156,20 @@ void MainWindow::FillFrontEnd() {
 
 void MainWindow::Animate() {
   PlayTableSound(Sound::DiceThrown);
+  thrown_ = true;
   bar_->RollButton()->setEnabled(false);
   ShowDiceWindowIfUsed();
   if (IsSmallShown(SmallWindowKind::Dice)) RefreshSmallWindow(diceWindow_);
   view_->AnimateDice();
   bar_->Refresh();
+}
+
+// Once after a throw: whoever has won something hears it.
+void MainWindow::HearWins() {
+  if (!std::exchange(thrown_, false)) return;
+  bool won = false;
+  ForEachPlayer([&](int place) { won |= BankrollOf(place) > At(Table.BankrollAtRoll, place); });
+  if (won) PlayWinSound();
 }
 
 // Called once a roll under the Hyper-Drive, so that the clock is looked at only now and then: after

@@ -64,6 +64,7 @@ class MainWindow : public QMainWindow {
   void NewGame();
   void OpenGameFile();
   void Animate();
+  void HearWins();
   void OfferUnfinishedTable();
   void TakePlace();
   void KeepPlace();
@@ -101,6 +102,7 @@ class MainWindow : public QMainWindow {
   QPointer<QWidget> moveWindow_;
   QElapsedTimer sincePump_;
   int64_t batch_ = 1, untilLook_ = 1;
+  bool thrown_ = false;
 };
 
 }  // namespace tessarel

@@ -132,15 +132,18 @@ void TableView::Rebuild() {
   toPixels_ =
       LayoutTransform(width(), height(), key_.degrees, key_.zoom / 100.0, QPointF(key_.shift));
   RebuildPositions();
-  const double scale = std::sqrt(std::abs(toPixels_.determinant()));
   plain_ = QPixmap(size() * key_.pixelRatio);
   plain_.setDevicePixelRatio(key_.pixelRatio);
   QPainter painter(&plain_);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                          QPainter::SmoothPixmapTransform);
   painter.setTransform(toPixels_);
-  PaintTable(painter, layout_, scale);
+  PaintTable(painter, layout_, Scale());
   hitMap_ = DrawHitMap(layout_, toPixels_, size());
+}
+
+double TableView::Scale() const {
+  return std::sqrt(std::abs(toPixels_.determinant()));
 }
 
 void TableView::resizeEvent(QResizeEvent*) {

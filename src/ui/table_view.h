@@ -103,6 +103,7 @@ class TableView : public QWidget {
   bool RefreshPicture();
   QPointF PositionOf(int place, int number) const;
   QPointF ToLayout(QPointF pixel) const { return toPixels_.inverted().map(pixel); }
+  double Scale() const;  // pixels a layout unit
   QRect ToPixels(const QRectF& area) const;
   PileLook LookOf(int place, int number) const;
   QRectF PileAreaOf(int place, int number, Money amount) const;

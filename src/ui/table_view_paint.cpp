@@ -76,6 +76,7 @@ QRect TableView::ToPixels(const QRectF& area) const {
 PileLook TableView::LookOf(int place, int number) const {
   PileLook look;
   look.diameter = CheckDiameter;
+  look.pixelsPerUnit = Scale();
   look.place = place;
   look.current = place == CurrentPlace();
   look.flash = look.current && flash_;
@@ -122,6 +123,7 @@ void TableView::paintEvent(QPaintEvent* event) {
 }
 
 void TableView::PaintStillThings(QPainter& painter, const QRectF& area) {
+  PaintTableState(painter, layout_, Scale());
   if (litSpot_ != 0 && TableIsIdle()) PaintRegionLight(painter, layout_, litSpot_, litPossible_);
   if (dragging_ && dropSpot_ != 0) PaintRegionLight(painter, layout_, dropSpot_, true);
   if (hasFocus()) PaintFocus(painter);
@@ -129,7 +131,7 @@ void TableView::PaintStillThings(QPainter& painter, const QRectF& area) {
   look.currentPlace = CurrentPlace();
   look.hoverPlace = litSpot_ >= RailSpot(1, 0) ? litSpot_ / RailSpot(1, 0) : 0;
   look.choosing = TablePlay.TableAction > ActionMovePlayer;
-  look.pixelsPerUnit = std::sqrt(std::abs(toPixels_.determinant()));
+  look.pixelsPerUnit = Scale();
   for (int place = 1; place <= LastPlace; ++place) {
     if (RailPlaceArea(place).adjusted(-8, -8, 8, 8).intersects(area))
       PaintRailPlace(painter, place, layout_, look);
@@ -181,6 +183,7 @@ void TableView::PaintMovingThings(QPainter& painter) {
         static_cast<double>(now - flight.began) / static_cast<double>(FlightMs), 0.0, 1.0);
     PileLook look;
     look.diameter = CheckDiameter;
+    look.pixelsPerUnit = Scale();
     look.place = flight.place;
     PaintPile(painter, Between(flight.from, flight.to, EaseOut(t)), flight.amount, look);
   }
