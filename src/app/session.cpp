@@ -133,7 +133,7 @@ Money AskBeginningBankroll(int place) {
   const Money offered =
       std::clamp(At(Table.BankrollInitAmount, place), -BankrollLimit, BankrollLimit);
   return AskBankroll(FillIn(RailTexts.AskBeginningBankroll, {At(Table.PlayerName, place)}),
-                     std::string(Localized(RailTexts.BeginningBankroll)), PlainText(offered))
+                     LocalizedText(RailTexts.BeginningBankroll), PlainText(offered))
       .value_or(offered);
 }
 
@@ -314,8 +314,7 @@ void SetUpNewTable(const std::string& appFolder) {
 
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
-  if (!text.empty())
-    ShowMessage(text, std::string(Localized(DiceTexts.MissingSupportFile)), msg::Ok);
+  if (!text.empty()) ShowMessage(text, LocalizedText(DiceTexts.MissingSupportFile), msg::Ok);
 }
 
 }  // namespace

@@ -100,8 +100,8 @@ FindDirection DirectionInForce() {
 }
 
 void SayNotFound() {
-  ShowMessage(std::string(Localized(FileTexts.TextNotFound)),
-              std::string(Localized(FileTexts.SearchResults)), msg::OkAlert);
+  ShowMessage(LocalizedText(FileTexts.TextNotFound), LocalizedText(FileTexts.SearchResults),
+              msg::OkAlert);
 }
 
 bool IsOccurrence(const ScriptLines& lines, const Needle& needle, TextSpan span) {

@@ -116,8 +116,8 @@ void ActivateOne(int place) {
 void RunHotKey(const std::string& path) {
   if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, "File not found");
   if (!CompileHotKeyScript()) {
-    ShowMessage(std::string(Localized(FileTexts.HotKeyScriptError)),
-                std::string(Localized(FileTexts.ScriptErrorTitle)), msg::OkAlert);
+    ShowMessage(LocalizedText(FileTexts.HotKeyScriptError),
+                LocalizedText(FileTexts.ScriptErrorTitle), msg::OkAlert);
     return;
   }
   Scripts.ProgramReady = true;

@@ -4,6 +4,7 @@
 
 #include "base/clock.h"
 #include "base/number_format.h"
+#include "config/configuration_texts.h"
 #include "config/payoff_editor.h"
 #include "config/settings.h"
 
@@ -81,7 +82,8 @@ const std::array<std::string_view, 1 + AdvantageFigureCount>& AdvantageColumns()
 }
 
 std::string_view AdvantageNote() {
-  return Advantage.ShowMiscData != 0 ? "" : "All figures shown in percentage";
+  if (Advantage.ShowMiscData != 0) return "";
+  return Localized(ConfigurationTexts.FiguresInPercent);
 }
 
 AdvantageRow AdvantageRowOf(int number) {

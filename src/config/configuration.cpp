@@ -19,10 +19,6 @@ namespace {
 
 constexpr int LastWorkingBet = bet::Midway;  // the bets above it always work
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 std::string WithCents(Money amount) {
   return FormatNumber(amount, "0.00");
 }
@@ -38,7 +34,7 @@ using Refusal = std::optional<ConfigurationRefusal>;
 
 Refusal TestDenominations() {
   const auto refuse = [](const SixTexts& text, int index) {
-    return Refuse(ConfigTab::ChecksDice, Text(text), "Denomination", index);
+    return Refuse(ConfigTab::ChecksDice, LocalizedText(text), "Denomination", index);
   };
   for (int index = 1; index <= 5; ++index) {
     const Money value = At(Settings.Denomination, index);
@@ -69,7 +65,8 @@ Refusal TestMinimum(Money minimum,
 
 Refusal TestMaximum() {
   if (Settings.MaxPlacardBet >= Settings.MinPlacardBet) return std::nullopt;
-  return Refuse(ConfigTab::Bets, Text(ConfigurationTexts.MaximumBelowMinimum), "MaxPlacardBet");
+  return Refuse(ConfigTab::Bets, LocalizedText(ConfigurationTexts.MaximumBelowMinimum),
+                "MaxPlacardBet");
 }
 
 Refusal TakeRollRate(const RollRateEntry* entry) {
@@ -101,7 +98,7 @@ Refusal TestLargestBets() {
 }
 
 bool Ask(std::string text, const SixTexts& title) {
-  return ShowMessage(std::move(text), Text(title), msg::AskYesNo) == AnswerYes;
+  return ShowMessage(std::move(text), LocalizedText(title), msg::AskYesNo) == AnswerYes;
 }
 
 void CopyHouseWorking(int place) {
@@ -116,7 +113,7 @@ void OfferHouseWorking(const PerBet<int32_t>& before) {
       std::equal(house.begin() + 1, house.begin() + 1 + LastWorkingBet, before.begin() + 1);
   if (same || Table.PlayerCount == 0) return;
   const bool wanted =
-      Ask(Text(ConfigurationTexts.HouseWorkingChanged), ConfigurationTexts.WorkOnComeOut);
+      Ask(LocalizedText(ConfigurationTexts.HouseWorkingChanged), ConfigurationTexts.WorkOnComeOut);
   if (!wanted) return;
   ForEachPlayer([](int place) {
     if (Ask(FillIn(ConfigurationTexts.AskPlayerWorking, {At(Table.PlayerName, place)}),
@@ -145,8 +142,8 @@ constexpr std::array<LayoutRow, 4> LayoutRows = {{  // by LayoutOption
 
 bool MayRemove(LayoutOption option, const LayoutRow& row) {
   if (option == LayoutOption::SpecialProps && Table.Point != 0 && AnyHolds(bet::SevenPoint7)) {
-    ShowMessage(Text(ConfigurationTexts.SpecialPropsBound), Text(ConfigurationTexts.RemoveBets),
-                msg::OkAlert);
+    ShowMessage(LocalizedText(ConfigurationTexts.SpecialPropsBound),
+                LocalizedText(ConfigurationTexts.RemoveBets), msg::OkAlert);
     return false;
   }
   return Ask(FillIn(ConfigurationTexts.WagersWillBeRemoved, {Localized(row.Names)}),
@@ -165,21 +162,21 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
   if (payable) return true;
   Settings.*setting = before;
   ForEachPlayer([](int place) { ChargeChangedVig(place); });
-  ShowMessage(Text(ConfigurationTexts.VigNotPayable), Text(ConfigurationTexts.Vigorish),
-              msg::OkAlert);
+  ShowMessage(LocalizedText(ConfigurationTexts.VigNotPayable),
+              LocalizedText(ConfigurationTexts.Vigorish), msg::OkAlert);
   return false;
 }
 
 bool RefuseNonNegative(int place, const SixTexts& why) {
   ShowMessage(FillIn(why, {At(Table.PlayerName, place)}),
-              Text(ConfigurationTexts.AllowNegativeBankroll), msg::OkAlert);
+              LocalizedText(ConfigurationTexts.AllowNegativeBankroll), msg::OkAlert);
   return false;
 }
 
 bool AnyPlayer() {
   if (Table.PlayerCount > 0) return true;
-  ShowMessage(Text(ConfigurationTexts.PlayersNeeded), Text(ConfigurationTexts.MissingPlayers),
-              msg::OkAlert);
+  ShowMessage(LocalizedText(ConfigurationTexts.PlayersNeeded),
+              LocalizedText(ConfigurationTexts.MissingPlayers), msg::OkAlert);
   return false;
 }
 
@@ -306,7 +303,7 @@ std::optional<std::string> SetSimRollRate(const RollRateEntry& entry) {
   std::string digits = entry.Text;
   std::erase(digits, ',');
   const Money value = ParseMoney(digits).value_or(Money());
-  if (value <= Money()) return Text(ConfigurationTexts.RollRateNotPositive);
+  if (value <= Money()) return LocalizedText(ConfigurationTexts.RollRateNotPositive);
   if (value > Money(unit.Maximum)) {
     return FillIn(ConfigurationTexts.RollRateTooHigh, {Localized(unit.Caption), unit.Is});
   }
@@ -344,7 +341,8 @@ std::string CompBetRowText(int number) {
 }
 
 bool RestoreDefaultDenoms() {
-  if (!Ask(Text(ConfigurationTexts.AskDefaultChecks), ConfigurationTexts.RestoreDefaultChecks))
+  if (!Ask(LocalizedText(ConfigurationTexts.AskDefaultChecks),
+           ConfigurationTexts.RestoreDefaultChecks))
     return false;
   Settings.Denomination = SettingsState().Denomination;
   return true;

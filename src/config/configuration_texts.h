@@ -274,6 +274,13 @@ struct ConfigurationTextTable {
       "Ripristina valori predefiniti"};
 
   // Lists.
+  SixTexts FiguresInPercent = {
+      "All figures shown in percentage",
+      "Todas las cifras en porcentaje",
+      "Alle Angaben in Prozent",
+      "Tous les chiffres en pourcentage",
+      "Tüm degerler yüzde olarak",
+      "Tutte le cifre in percentuale"};
   SixTexts ActionsNotAllowed = {
       "Actions not allowed",
       "Acciones no permitidas",

@@ -713,6 +713,10 @@ std::string_view Localized(const SixTexts& texts) {
   return Pick(texts, Settings.Language);
 }
 
+std::string LocalizedText(const SixTexts& texts) {
+  return std::string(Localized(texts));
+}
+
 std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values) {
   // One pass, so that a value with a "%" of its own (a player's name) is taken as it stands.
   std::string filled;

@@ -36,8 +36,10 @@ using SixTexts = std::array<std::string_view, LanguageCount>;
 // The variant in the language in force.
 std::string_view Localized(const SixTexts& texts);
 
-// `text` with "%1" to "%9" replaced by the values in their order; a mark without a value
-// stands.
+// The same as a string of its own.
+std::string LocalizedText(const SixTexts& texts);
+
+// `text` with "%1" to "%9" replaced by the values in their order; a mark without a value stands.
 std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values);
 std::string FillIn(std::string_view text, std::string_view first, std::string_view second = {});
 std::string FillIn(const SixTexts& texts, std::initializer_list<std::string_view> values);

@@ -255,8 +255,7 @@ std::optional<PayoffRefusal> TestTable(PayoffCell first, int count, std::string_
 std::optional<PayoffRefusal> TestMaxFireBet() {
   if (Settings.UseFireBet == 0 || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
     return std::nullopt;
-  return PayoffRefusal{std::string(Localized(ConfigurationTexts.MaxFireBelowMinimum)),
-                       std::nullopt};
+  return PayoffRefusal{LocalizedText(ConfigurationTexts.MaxFireBelowMinimum), std::nullopt};
 }
 
 std::optional<PayoffCell> CellByName(std::string_view name) {
@@ -401,8 +400,8 @@ void SetFieldPayoffs(const FieldPreset& preset) {
 
 bool RestoreDefaultPayoffs() {
   const int32_t answer =
-      ShowMessage(std::string(Localized(ConfigurationTexts.AskDefaultPayoffs)),
-                  std::string(Localized(ConfigurationTexts.RestoreDefaultPayoffs)), msg::AskYesNo);
+      ShowMessage(LocalizedText(ConfigurationTexts.AskDefaultPayoffs),
+                  LocalizedText(ConfigurationTexts.RestoreDefaultPayoffs), msg::AskYesNo);
   if (answer != AnswerYes) return false;
   DefaultPayoffs();
   SetOddsPayoffRows();

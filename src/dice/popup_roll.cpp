@@ -88,8 +88,8 @@ std::optional<Faces> TakePopupRoll() {
     return std::nullopt;
   }
   if (Table.HyperDriveOn == 0) {
-    ShowMessage(std::string(Localized(DiceTexts.InvalidRollInPopup)),
-                std::string(Localized(DiceTexts.RollFileError)), msg::OkAlert);
+    ShowMessage(LocalizedText(DiceTexts.InvalidRollInPopup), LocalizedText(DiceTexts.RollFileError),
+                msg::OkAlert);
   }
   Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
   return std::nullopt;

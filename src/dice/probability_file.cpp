@@ -48,8 +48,8 @@ void TakeName(const std::string& path) {
 }
 
 SaveChoice AskToSave(const SixTexts& question, int32_t flags) {
-  const int32_t answer = ShowMessage(std::string(Localized(question)),
-                                     std::string(Localized(DiceTexts.SaveProbabilities)), flags);
+  const int32_t answer =
+      ShowMessage(LocalizedText(question), LocalizedText(DiceTexts.SaveProbabilities), flags);
   if (answer == AnswerCancel) return SaveChoice::Cancel;
   if (answer != AnswerYes) return SaveChoice::GoOn;
   return EqualIgnoringCase(ShortName(Probability.ProbabilityFileName), AutomaticProbabilityFile)

@@ -132,8 +132,8 @@ void StopAtInvalidRoll() {
   RollFile.RollFileMode = RollFileOff;
   if (Table.HyperDriveOn == 0) {
     FrontEnd.RefreshViews();
-    ShowMessage(std::string(Localized(DiceTexts.InvalidRollInFile)),
-                std::string(Localized(DiceTexts.RollFileError)), msg::OkAlert);
+    ShowMessage(LocalizedText(DiceTexts.InvalidRollInFile), LocalizedText(DiceTexts.RollFileError),
+                msg::OkAlert);
   }
   Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
 }

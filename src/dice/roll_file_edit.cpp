@@ -28,12 +28,8 @@ constexpr std::string_view ClipboardName = "rollcopyfile.rll";
 constexpr std::string_view ScratchName = "cnvrtasc.xx~";
 constexpr int32_t BlockLength = 30'000;
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 int32_t Show(const SixTexts& text, const SixTexts& title, int32_t flags) {
-  return ShowMessage(Text(text), Text(title), flags);
+  return ShowMessage(LocalizedText(text), LocalizedText(title), flags);
 }
 
 // --- What may be done ---------------------------------------------------------------------------

@@ -104,7 +104,7 @@ Verdict JudgeIncrease(int place, int number, Money delta) {
 }
 
 std::string WithPutNote(const SixTexts& refusal) {
-  return std::string(Localized(refusal)) + "\r\r" + std::string(Localized(BetTexts.UnlessPutBets));
+  return LocalizedText(refusal) + "\r\r" + LocalizedText(BetTexts.UnlessPutBets);
 }
 
 const SixTexts& MarkedText(int number) {
@@ -130,17 +130,16 @@ Verdict JudgeChange(int place, int number, Money delta) {
 std::string RefusalText(RefusalKind refusal, int number) {
   using enum RefusalKind;
   const std::string_view name = At(BetName, number);
-  const auto plain = [](const SixTexts& texts) { return std::string(Localized(texts)); };
   const auto named = [name](const SixTexts& texts) { return FillIn(texts, {name}); };
   switch (refusal) {
     case None:
       return "";
     case DecreasePassLine:
-      return plain(BetTexts.DecreasePassLine);
+      return LocalizedText(BetTexts.DecreasePassLine);
     case KeepPassLine:
-      return plain(BetTexts.KeepPassLine);
+      return LocalizedText(BetTexts.KeepPassLine);
     case DecreaseCome:
-      return plain(BetTexts.DecreaseCome);
+      return LocalizedText(BetTexts.DecreaseCome);
     case DecreaseEstablished:
       return named(BetTexts.DecreaseEstablished);
     case DecreaseDuringPoint:
@@ -150,19 +149,19 @@ std::string RefusalText(RefusalKind refusal, int number) {
     case PutCome:
       return WithPutNote(BetTexts.PutCome);
     case ComeWithoutPoint:
-      return plain(BetTexts.ComeWithoutPoint);
+      return LocalizedText(BetTexts.ComeWithoutPoint);
     case DontPassDuringPoint:
-      return plain(BetTexts.DontPassDuringPoint);
+      return LocalizedText(BetTexts.DontPassDuringPoint);
     case DontComeWithoutPoint:
-      return plain(BetTexts.DontComeWithoutPoint);
+      return LocalizedText(BetTexts.DontComeWithoutPoint);
     case OddsWithoutPassLine:
-      return plain(BetTexts.OddsWithoutPassLine);
+      return LocalizedText(BetTexts.OddsWithoutPassLine);
     case OddsWithoutDontPass:
-      return plain(BetTexts.OddsWithoutDontPass);
+      return LocalizedText(BetTexts.OddsWithoutDontPass);
     case OddsWithoutFlat:
       return FillIn(BetTexts.OddsWithoutFlat, {name, At(BetName, number - FamilySize)});
     case DontComeOnNumber:
-      return plain(BetTexts.DontComeOnNumber);
+      return LocalizedText(BetTexts.DontComeOnNumber);
     case NumbersMarked:
       return named(MarkedText(number));
     case CountInProgress:

@@ -230,17 +230,17 @@ struct BetTextTable {
       "Non è possibile fare una puntata Don't Come finché non è stabilito un punto."};
   SixTexts OddsWithoutPassLine = {
       "You may not make a Pass Line Odds bet unless you also have a Pass Line bet and a point is established.",
-      "No puede hacer una apuesta Pass Line Odds si no tiene también una apuesta Pass Line y hay un punto establecido.",
+      "Solo puede hacer una apuesta Pass Line Odds si tiene también una apuesta Pass Line y hay un punto establecido.",
       "Sie dürfen eine Pass Line Odds-Wette nur setzen, wenn Sie auch eine Pass Line-Wette haben und ein Point steht.",
       "Vous ne pouvez placer une mise Pass Line Odds que si vous avez aussi une mise Pass Line et qu'un point est établi.",
-      "Pass Line bahsiniz yoksa ve puan belirlenmemisse Pass Line Odds bahsi oynayamazsiniz.",
+      "Pass Line bahsiniz yoksa veya puan belirlenmemisse Pass Line Odds bahsi oynayamazsiniz.",
       "È possibile fare una puntata Pass Line Odds solo se c'è anche una puntata Pass Line ed è stabilito un punto."};
   SixTexts OddsWithoutDontPass = {
       "You may not make a Don't Pass Odds bet unless you also have a Don't Pass bet and a point is established.",
-      "No puede hacer una apuesta Don't Pass Odds si no tiene también una apuesta Don't Pass y hay un punto establecido.",
+      "Solo puede hacer una apuesta Don't Pass Odds si tiene también una apuesta Don't Pass y hay un punto establecido.",
       "Sie dürfen eine Don't Pass Odds-Wette nur setzen, wenn Sie auch eine Don't Pass-Wette haben und ein Point steht.",
       "Vous ne pouvez placer une mise Don't Pass Odds que si vous avez aussi une mise Don't Pass et qu'un point est établi.",
-      "Don't Pass bahsiniz yoksa ve puan belirlenmemisse Don't Pass Odds bahsi oynayamazsiniz.",
+      "Don't Pass bahsiniz yoksa veya puan belirlenmemisse Don't Pass Odds bahsi oynayamazsiniz.",
       "È possibile fare una puntata Don't Pass Odds solo se c'è anche una puntata Don't Pass ed è stabilito un punto."};
   SixTexts OddsWithoutFlat = {  // %1 the odds, %2 the bet under them
       "You may not make a %1 bet until you've established a %2 bet.",

@@ -59,8 +59,8 @@ bool SetVisibleStacks(int place, const std::array<int, 4>& stacks) {
   auto sorted = stacks;
   std::sort(sorted.begin(), sorted.end());
   if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end()) {
-    ShowMessage(std::string(Localized(BetTexts.StacksMustDiffer)),
-                std::string(Localized(BetTexts.SetVisibleStacks)), msg::OkAlert);
+    ShowMessage(LocalizedText(BetTexts.StacksMustDiffer), LocalizedText(BetTexts.SetVisibleStacks),
+                msg::OkAlert);
     return false;
   }
   for (int k = 0; k < 4; ++k) {

@@ -27,10 +27,6 @@ const std::string& NameOf(int place) {
   return At(Table.PlayerName, place);
 }
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 // The next place in the direction the dice travel.
 constexpr int NextShooterPlace(int place) {
   return place > 1 ? place - 1 : LastPlace;
@@ -39,7 +35,7 @@ constexpr int NextShooterPlace(int place) {
 void TellPassing(PassReason reason, std::string text) {
   const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
   if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
-  ShowMessage(std::move(text), Text(RailTexts.PassTheDice), msg::OkAlert);
+  ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::OkAlert);
 }
 
 // The first place after the shooter's that `qualifies` accepts; 0 when none does.
@@ -66,20 +62,21 @@ void GiveDice(int place) {
 
 void PassAmongNone(PassReason reason) {
   Table.Shooter = Table.LastShooter = 0;
-  TellPassing(reason, Text(RailTexts.NoPlayers));
+  TellPassing(reason, LocalizedText(RailTexts.NoPlayers));
 }
 
 void PassWithOnePlayer(PassReason reason) {
-  TellPassing(reason, Text(RailTexts.NoOtherPlayers));
+  TellPassing(reason, LocalizedText(RailTexts.NoOtherPlayers));
   if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
 }
 
 std::string NobodyShootsText(int blocked) {
-  if (blocked == 1) return Text(RailTexts.OneBlocked);
+  if (blocked == 1) return LocalizedText(RailTexts.OneBlocked);
   if (blocked > 1) return FillIn(RailTexts.ManyBlocked, {std::to_string(blocked)});
   const bool oneOther = Table.PlayerCount == 2 && Table.Shooter != 0;
   const int other = oneOther ? FindShooter([](int) { return true; }) : 0;
-  return other != 0 ? FillIn(RailTexts.OtherDeclines, {NameOf(other)}) : Text(RailTexts.AllDecline);
+  return other != 0 ? FillIn(RailTexts.OtherDeclines, {NameOf(other)})
+                    : LocalizedText(RailTexts.AllDecline);
 }
 
 void PassToNobody(PassReason reason, int blocked) {
@@ -153,9 +150,9 @@ void ShowPassedDiceNote() {
                ? FillIn(RailTexts.HandOfGonePlayer, {shooter})
                : FillIn(RailTexts.HandOfOther, {shooter, NameOf(Table.LastShooter)});
   } else if (RollsInHand() == 0 && handBefore && Table.PreviousShooter == 0) {
-    text = Text(RailTexts.LastHandOfGonePlayer);
+    text = LocalizedText(RailTexts.LastHandOfGonePlayer);
   }
-  if (!text.empty()) ShowMessage(std::move(text), Text(RailTexts.PassTheDice), msg::Ok);
+  if (!text.empty()) ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::Ok);
 }
 
 void PassDice(PassReason reason) {
@@ -177,7 +174,7 @@ void PassDice(PassReason reason) {
 }
 
 void BankrollLimitStop(int place) {
-  const std::string reset = Text(RollTexts.ResetTable);
+  const std::string reset = LocalizedText(RollTexts.ResetTable);
   const bool gone = !IsTaken(Table, place);
   const bool negative = BankrollOf(place) <= Money();
   const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };

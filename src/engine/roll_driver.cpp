@@ -44,14 +44,10 @@ bool Refuse(std::string text, std::string title, std::string reason) {
   return false;
 }
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 // A demand on the shooter, with the note where it can be changed.
 std::string BetDemand(const SixTexts& demand) {
   return FillIn(demand, {At(Table.PlayerName, Table.Shooter)}) + "\r\r" +
-         Text(RollTexts.BetRequiredNote);
+         LocalizedText(RollTexts.BetRequiredNote);
 }
 
 bool HasAnyBet(int place) {
@@ -62,27 +58,28 @@ bool RefuseWithoutLineBet() {
   const SixTexts& demand = Table.PlayerCount == 1 ? RollTexts.LineBetAlone
                            : Table.Point != 0     ? RollTexts.LineBetDuringPoint
                                                   : RollTexts.LineBetOrPass;
-  return Refuse(BetDemand(demand), Text(RollTexts.LineBetRequired),
-                Text(RollTexts.ShooterWithoutLineBet));
+  return Refuse(BetDemand(demand), LocalizedText(RollTexts.LineBetRequired),
+                LocalizedText(RollTexts.ShooterWithoutLineBet));
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
     return Refuse(std::string(GetText(110)), std::string(GetText(111)),
-                  Text(RollTexts.NobodyToBet));
+                  LocalizedText(RollTexts.NobodyToBet));
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
-  return Refuse(BetDemand(RollTexts.AnyBetOrPass), Text(RollTexts.AnyBetRequired),
-                Text(RollTexts.ShooterWithoutBet));
+  return Refuse(BetDemand(RollTexts.AnyBetOrPass), LocalizedText(RollTexts.AnyBetRequired),
+                LocalizedText(RollTexts.ShooterWithoutBet));
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  const std::string reset = "\r\r" + Text(RollTexts.ResetTable);
-  return Refuse(Text(RollTexts.MaximumRolls) + reset, Text(RollTexts.MaximumRollsTitle),
-                Text(RollTexts.StoppedByMaximumRolls) + reset);
+  const std::string reset = "\r\r" + LocalizedText(RollTexts.ResetTable);
+  return Refuse(LocalizedText(RollTexts.MaximumRolls) + reset,
+                LocalizedText(RollTexts.MaximumRollsTitle),
+                LocalizedText(RollTexts.StoppedByMaximumRolls) + reset);
 }
 
 void FigureAvailableBankrolls() {
@@ -373,7 +370,8 @@ void PauseAutoRoll() {
   FrontEnd.DrawStatus();
   if (AutoStopIsDue()) {
     StopUnattended();
-    ShowMessage(Text(RollTexts.AutoStopNotice), Text(RollTexts.AutoRollStopped), msg::OkAlert);
+    ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
+                msg::OkAlert);
   } else {
     WaitForNextRoll();
   }

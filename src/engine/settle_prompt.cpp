@@ -18,10 +18,6 @@ std::string Dollars(Money amount) {
   return "$" + FormatMoney(amount);
 }
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 std::string Counted(int32_t count, const SixTexts& one, const SixTexts& many) {
   return FillIn(count == 1 ? one : many, {std::to_string(count)});
 }
@@ -86,17 +82,17 @@ void AddWinRows(SettlePrompt& prompt, Money amount) {
     prompt.rows.push_back({std::string(GetText(49)) + RatioText(row) + ":", Dollars(gross)});
     AddVigRow(prompt, gross);
   }
-  prompt.rows.push_back(
-      {Text(Rounded() ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff), Dollars(Table.NetWin)});
+  prompt.rows.push_back({LocalizedText(Rounded() ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff),
+                         Dollars(Table.NetWin)});
 }
 
 void AddLossRows(SettlePrompt& prompt, Money amount) {
   prompt.rows.push_back(
       {FillIn(BetTexts.LossAt, {RatioText(Payoffs.Payoff[0])}), Dollars(-Table.GrossWin)});
-  prompt.rows.push_back(
-      {Text(Rounded() ? BetTexts.NetLossRounded : BetTexts.NetLoss), Dollars(-Table.NetWin)});
+  prompt.rows.push_back({LocalizedText(Rounded() ? BetTexts.NetLossRounded : BetTexts.NetLoss),
+                         Dollars(-Table.NetWin)});
   if (PartsOf(prompt.number) > 1) {
-    prompt.rows.push_back({Text(BetTexts.Remainder), Dollars(amount + Table.NetWin)});
+    prompt.rows.push_back({LocalizedText(BetTexts.Remainder), Dollars(amount + Table.NetWin)});
   }
 }
 
@@ -106,9 +102,10 @@ void SetButtons(SettlePrompt& prompt) {
       prompt.buttons[k] = GetText(50 + static_cast<int>(k));
     }
   } else {
-    prompt.buttons = {Text(BetTexts.NoBet), Text(BetTexts.SameBet), Text(BetTexts.BetRemainder),
+    prompt.buttons = {LocalizedText(BetTexts.NoBet), LocalizedText(BetTexts.SameBet),
+                      LocalizedText(BetTexts.BetRemainder),
                       FillIn(BetTexts.UnitToBet, {FormatMoney(Table.ChipUnit)}),
-                      Text(BetTexts.DoubleBet)};
+                      LocalizedText(BetTexts.DoubleBet)};
   }
 }
 
@@ -145,7 +142,7 @@ SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
       break;
     case Outcome::Idle:
       prompt.title = {name, ""};
-      prompt.rows.push_back({Text(BetTexts.WasNotWorking), ""});
+      prompt.rows.push_back({LocalizedText(BetTexts.WasNotWorking), ""});
   }
   SetButtons(prompt);
   prompt.modify = RowOfSlot(place, offersPress ? PromptWinModify : PromptLossModify);

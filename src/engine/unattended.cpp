@@ -11,8 +11,7 @@ void StopUnattended() {
   if (Table.AutoRollOn == 0 && Table.HyperDriveOn == 0) return;
   Table.AutoRollOn = Table.HyperDriveOn = 0;
   if (!Table.StopReason.empty()) {
-    ShowMessage(Table.StopReason, std::string(Localized(RollTexts.HyperDriveStopped)),
-                msg::OkAlert);
+    ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

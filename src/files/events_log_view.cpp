@@ -27,10 +27,6 @@ namespace {
 constexpr int EventsLogText = 163;
 constexpr std::string_view PrintHeading = "Tessarel Events Log";
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 void UseLog(const std::string& path) {
   EventsLog.EventLogName = IsSameFile(path, DefaultEventLogName()) ? "" : path;
   EventsLogView = {};
@@ -49,7 +45,7 @@ void CopyLog(const std::string& from, const std::string& to) {
 
 // Where a log is to be copied to; empty when the user gives up.
 std::string AskForCopy(const std::string& log) {
-  const std::string name = FrontEnd.AskSaveFile(Text(FileTexts.SaveEventsLogAs), log);
+  const std::string name = FrontEnd.AskSaveFile(LocalizedText(FileTexts.SaveEventsLogAs), log);
   return name.empty() ? name : InFolder(Folders.EventsLogFolder, name);
 }
 
@@ -63,8 +59,8 @@ bool IsDefaultLogEmpty() {
 bool DefaultLogIsSaved() {
   if (IsDefaultLogEmpty()) return true;
   const int32_t answer =
-      ShowMessage(Text(FileTexts.AskToRenameEventsLog), Text(FileTexts.SaveEventsLog),
-                  msg::AskYesDefault | msg::Cancel);
+      ShowMessage(LocalizedText(FileTexts.AskToRenameEventsLog),
+                  LocalizedText(FileTexts.SaveEventsLog), msg::AskYesDefault | msg::Cancel);
   if (answer != AnswerYes) return answer == AnswerNo;
   const std::string copy = AskForCopy(DefaultEventLogName());
   if (copy.empty() || IsSameFile(copy, DefaultEventLogName())) return false;
@@ -128,7 +124,8 @@ bool FindFrom(int32_t first, int32_t step) {
     return false;
   }
   if (line == 0) {
-    ShowMessage(Text(FileTexts.TextNotFound), Text(FileTexts.SearchResults), msg::OkAlert);
+    ShowMessage(LocalizedText(FileTexts.TextNotFound), LocalizedText(FileTexts.SearchResults),
+                msg::OkAlert);
     return false;
   }
   ScrollEventsLog(line);
@@ -240,7 +237,8 @@ void KeepLatestRollOnTop(bool on) {
 }
 
 bool FindEvent() {
-  if (!AskForText(Text(FileTexts.AskTextToFind), Text(FileTexts.Find), EventsLogView.FindText) ||
+  if (!AskForText(LocalizedText(FileTexts.AskTextToFind), LocalizedText(FileTexts.Find),
+                  EventsLogView.FindText) ||
       Message.MsgInput.empty()) {
     return false;
   }
@@ -263,7 +261,8 @@ bool PrintEventsLog(std::string_view gameFile,
   EventsLogReader reader;
   const int32_t lines = reader.LineCount();
   if (lines == 0) {
-    ShowMessage(Text(FileTexts.NoEventsToPrint), Text(FileTexts.PrintEventsLog), msg::OkAlert);
+    ShowMessage(LocalizedText(FileTexts.NoEventsToPrint), LocalizedText(FileTexts.PrintEventsLog),
+                msg::OkAlert);
     return false;
   }
   bool wanted = true;

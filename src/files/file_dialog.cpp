@@ -108,10 +108,6 @@ const KindRow& RowOf(FileKind kind) {
   return At(KindRows, kind);
 }
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 bool IsFolder(const std::string& path) {
   std::error_code error;
   return !path.empty() && std::filesystem::is_directory(path, error);
@@ -160,8 +156,8 @@ bool MayTake(const std::string& path, const ActionRow& row) {
   const bool exists = FileExists(path);
   if (row.purpose == Purpose::Save) {
     if (RefusesTarget(path)) return false;
-    return !exists || ShowMessage(FillIn(FileTexts.AskToOverwrite, {path}), Text(row.title),
-                                  msg::AskNoDefault) == AnswerYes;
+    return !exists || ShowMessage(FillIn(FileTexts.AskToOverwrite, {path}),
+                                  LocalizedText(row.title), msg::AskNoDefault) == AnswerYes;
   }
   if (!exists) {
     ShowMessage(std::string(GetText(FileNotFoundText)) + "\r\r" + path,
@@ -173,7 +169,7 @@ bool MayTake(const std::string& path, const ActionRow& row) {
 // --- Deleting -----------------------------------------------------------------------------------
 
 bool AskToDelete(const std::string& name, FileKind kind) {
-  return ShowMessage(FillIn(FileTexts.AskToDelete, {name}), Text(RowOf(kind).deleteTitle),
+  return ShowMessage(FillIn(FileTexts.AskToDelete, {name}), LocalizedText(RowOf(kind).deleteTitle),
                      msg::AskNoDefault) == AnswerYes;
 }
 

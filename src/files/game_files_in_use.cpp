@@ -84,8 +84,7 @@ constexpr FileNotice ScriptGone = {FileTexts.ScriptGone, FileTexts.ScriptGoneTit
 constexpr FileNotice ScriptChanged = {FileTexts.ScriptChanged, FileTexts.ScriptChangedTitle};
 
 void Tell(const FileNotice& notice, const std::string& file, const std::string& player = "") {
-  ShowMessage(FillIn(notice.text, {file, player}), std::string(Localized(notice.title)),
-              msg::OkAlert);
+  ShowMessage(FillIn(notice.text, {file, player}), LocalizedText(notice.title), msg::OkAlert);
 }
 
 // The path of a name in a game file, which may have '\' in it and be relative.
@@ -161,7 +160,7 @@ void TakeUpSessionsLog(int place, const std::string& log) {
   if (there || log.empty() || log == usual) return;
   const SixTexts& text =
       FileExists(usual) ? FileTexts.LogGoneExistingInstead : FileTexts.LogGoneNewInstead;
-  ShowMessage(FillIn(text, {log, name, usual}), std::string(Localized(FileTexts.LogGoneTitle)),
+  ShowMessage(FillIn(text, {log, name, usual}), LocalizedText(FileTexts.LogGoneTitle),
               msg::OkAlert);
 }
 

@@ -75,8 +75,8 @@ std::string LetterOf(char key) {
 std::optional<HotKey> Checked(char key, std::string_view fileName, std::string_view note) {
   const std::string_view name = TrimSpaces(fileName);
   if (name.empty()) {
-    ShowMessage(std::string(Localized(FileTexts.HotKeyNeedsFile)),
-                std::string(Localized(FileTexts.HotKey)), msg::OkAlert);
+    ShowMessage(LocalizedText(FileTexts.HotKeyNeedsFile), LocalizedText(FileTexts.HotKey),
+                msg::OkAlert);
     return std::nullopt;
   }
   std::string letter = LetterOf(key);

@@ -36,16 +36,13 @@ const std::string& NameOf(int place) {
   return At(Table.PlayerName, place);
 }
 
-std::string Text(const SixTexts& texts) {
-  return std::string(Localized(texts));
-}
-
 void Tell(const SixTexts& text, const SixTexts& title) {
-  ShowMessage(Text(text), Text(title), msg::OkAlert);
+  ShowMessage(LocalizedText(text), LocalizedText(title), msg::OkAlert);
 }
 
 void RefuseFile() {
-  ShowMessage(Text(FileTexts.NotASessionsLog), std::string(GetText(ErrorTitleText)), msg::OkAlert);
+  ShowMessage(LocalizedText(FileTexts.NotASessionsLog), std::string(GetText(ErrorTitleText)),
+              msg::OkAlert);
 }
 
 // --- New logs ----------------------------------------------------------------------------------
@@ -56,7 +53,7 @@ bool AgreesToSessionInProgress(bool oneLog) {
       oneLog ? FileTexts.SessionGoesIntoNewLog : FileTexts.SessionGoesIntoNewLogs;
   const SixTexts& title =
       oneLog ? FileTexts.SessionGoesIntoNewLogTitle : FileTexts.SessionGoesIntoNewLogsTitle;
-  return ShowMessage(Text(question), Text(title), msg::AskNoDefault) == AnswerYes;
+  return ShowMessage(LocalizedText(question), LocalizedText(title), msg::AskNoDefault) == AnswerYes;
 }
 
 // Whether a log may take this name: other players go on with theirs.
@@ -74,7 +71,7 @@ std::string MoveToChosenName(int place,
                              const std::string& from,
                              const std::string& offered,
                              const SixTexts& dialog) {
-  const std::string chosen = FrontEnd.AskSaveFile(Text(dialog), offered);
+  const std::string chosen = FrontEnd.AskSaveFile(LocalizedText(dialog), offered);
   if (chosen.empty()) return "";
   const std::string to = InFolder(Folders.SessionsLogFolder, chosen);
   if (!MayTakeName(place, to, dialog)) return "";
@@ -87,7 +84,7 @@ bool MakesRoom(int place, const std::string& name) {
   if (CountSessions(name) == 0) return true;
   const int32_t answer =
       ShowMessage(FillIn(FileTexts.AskToRenameLog, {NameOf(place)}),
-                  Text(FileTexts.SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
+                  LocalizedText(FileTexts.SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
   if (answer == AnswerNo) return true;
   if (answer != AnswerYes) return false;
   const std::string kept = MoveToChosenName(place, name, name, FileTexts.SaveSessionsLogAs);
@@ -144,8 +141,8 @@ bool FindFrom(const SessionStatistics& statistics, int32_t from, int step) {
   const std::optional<Money> value = ReadValue(SessionsView.FindText);
   const int32_t row = value ? FindSessionRow(statistics, *value, from, step) : -1;
   if (row < 0) {
-    ShowMessage(FillIn(FileTexts.ValueNotFound, {SessionsView.FindText}), Text(FileTexts.Find),
-                msg::OkAlert);
+    ShowMessage(FillIn(FileTexts.ValueNotFound, {SessionsView.FindText}),
+                LocalizedText(FileTexts.Find), msg::OkAlert);
     return false;
   }
   SessionsView.FoundRow = row;
@@ -190,7 +187,8 @@ bool NewSessionsLogs() {
 
 bool AskToDeleteSessions(int place) {
   return DoneFor(place, "DeleteSessions", [place] {
-    if (!AskForText(Text(FileTexts.AskSessionsToDelete), Text(FileTexts.DeleteSessions), "") ||
+    if (!AskForText(LocalizedText(FileTexts.AskSessionsToDelete),
+                    LocalizedText(FileTexts.DeleteSessions), "") ||
         TrimSpaces(Message.MsgInput).empty()) {
       return false;
     }
@@ -209,7 +207,7 @@ bool AskToDeleteSessions(int place) {
 bool AskToDeleteAllSessions(int place) {
   return DoneFor(place, "DeleteAllSessions", [place] {
     if (ShowMessage(FillIn(FileTexts.AskToDeleteAllSessions, {NameOf(place)}),
-                    Text(FileTexts.DeleteAllSessions), msg::AskNoDefault) != AnswerYes) {
+                    LocalizedText(FileTexts.DeleteAllSessions), msg::AskNoDefault) != AnswerYes) {
       return false;
     }
     ClearSessionsLog(SessionsLogNameOf(place));
@@ -238,7 +236,8 @@ bool OfferToRenameSessionsLog(int place) {
   return DoneFor(place, "RenameSessionsLog", [place] {
     const std::string log = SessionsLogNameOf(place);
     if (ShowMessage(FillIn(FileTexts.AskToRenamePlayersLog, {NameOf(place), log}),
-                    Text(FileTexts.RenameSessionsLogTitle), msg::AskYesDefault) != AnswerYes) {
+                    LocalizedText(FileTexts.RenameSessionsLogTitle),
+                    msg::AskYesDefault) != AnswerYes) {
       return false;
     }
     const std::string name = MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)),
@@ -250,8 +249,8 @@ bool OfferToRenameSessionsLog(int place) {
 }
 
 bool AskToFindSession(const SessionStatistics& statistics) {
-  if (!AskForText(FillIn(FileTexts.AskValueToFind, {ChosenStatName()}), Text(FileTexts.Find),
-                  SessionsView.FindText)) {
+  if (!AskForText(FillIn(FileTexts.AskValueToFind, {ChosenStatName()}),
+                  LocalizedText(FileTexts.Find), SessionsView.FindText)) {
     return false;
   }
   const std::string text(TrimSpaces(Message.MsgInput));
@@ -272,7 +271,7 @@ bool FindPreviousSession(const SessionStatistics& statistics) {
 
 bool AskBreakPoint() {
   if (!AskForText(FillIn(FileTexts.AskBreakPoint, {ChosenStatName()}),
-                  Text(FileTexts.SetBreakPoint), PlainText(SessionsView.BreakPoint))) {
+                  LocalizedText(FileTexts.SetBreakPoint), PlainText(SessionsView.BreakPoint))) {
     return false;
   }
   const std::optional<Money> value = ReadValue(Message.MsgInput);

@@ -281,8 +281,9 @@ TEST_F(Configuration, TheRollRateIsShownAndTakenInSixUnits) {
   for (int unit = 0; unit < 6; ++unit) {
     const RollRateUnit& row = At(RollRateUnits, unit);
     const std::string past = PlainText(Money(row.Maximum) + Money::FromRaw(1));
-    EXPECT_EQ(SetSimRollRate({unit, past}), "The maximum simulated " + std::string(row.Caption) +
-                                                " rate is " + std::string(row.Is));
+    EXPECT_EQ(SetSimRollRate({unit, past}), "The maximum simulated " +
+                                                std::string(Localized(row.Caption)) + " rate is " +
+                                                std::string(row.Is));
     for (const char* const nothing : {"0", "", "<.0001"})
       EXPECT_EQ(SetSimRollRate({unit, nothing}),
                 "The simulated roll rate must be greater than zero.");

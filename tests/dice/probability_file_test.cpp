@@ -143,8 +143,8 @@ TEST_F(ProbabilityFileTest, RefusedFilesAreReportedAndChangeNothing) {
     Put("bad.prb", bytes);
     EXPECT_FALSE(OpenProbabilityFile("bad.prb"));
     EXPECT_EQ(Message.MsgText,
-              "This file is either from an older version, has been corrupted, or is not a true "
-              "Tessarel Probability File.\r\r" +
+              "Diese Datei stammt aus einer älteren Version, ist beschädigt oder keine echte "
+              "Wahrscheinlichkeitsdatei von Tessarel.\r\r" +
                   folder_.Path() + "bad.prb");
     EXPECT_EQ(Message.MsgTitle, "Fehler");
   }
