@@ -74,9 +74,8 @@ TEST(HelpTopics, AreUniqueAndBeginWithTheContents) {
 // The contents lead to every page.
 TEST(HelpTopics, AreAllInTheContents) {
   const QStringList links = LinksOf(HelpPage("000-contents.html", English));
-  for (const HelpTopic& topic : HelpTopics()) {
-    if (topic.Number != HelpContents) EXPECT_TRUE(links.contains(topic.FileName)) << topic.Number;
-  }
+  for (const HelpTopic& topic : HelpTopics())
+    EXPECT_EQ(links.contains(topic.FileName), topic.Number != HelpContents) << topic.Number;
 }
 
 TEST(HelpPageText, FallsBackToEnglishAndStaysInTheHelp) {
