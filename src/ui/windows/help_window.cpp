@@ -88,6 +88,7 @@ class TopicList : public QListWidget {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setViewportMargins(ListMargin, ListMargin, ListMargin, ListMargin);
+    viewport()->setBackgroundRole(QPalette::Window);
   }
 };
 
