@@ -26,8 +26,8 @@ namespace tessarel {
 
 namespace {
 
-constexpr int LinesOfText = 34, CharactersOfLine = 74;  // of a page in its first size
-constexpr int PageMargin = 18;
+constexpr int LinesOfText = 40, CharactersOfLine = 80;  // of a page in its first size
+constexpr int PageMargin = 18, ListMargin = 8;
 
 // An address of its own keeps relative links among the pages.
 QUrl UrlOfFile(const QString& fileName) {
@@ -48,6 +48,7 @@ class HelpBrowser : public QTextBrowser {
     const QPalette& colours = palette();
     const QString heading = colours.color(QPalette::Link).name();
     const QString plate = colours.color(QPalette::AlternateBase).name();
+    const QString line = colours.color(QPalette::Light).name();
     document()->setDefaultStyleSheet(
         QStringLiteral("h1, h2, h3 { color: %1; }"
                        "h1 { font-size: x-large; margin-bottom: 10px; }"
@@ -56,9 +57,13 @@ class HelpBrowser : public QTextBrowser {
                        "p, li { line-height: 130%; }"
                        "p { margin-top: 6px; margin-bottom: 6px; }"
                        "li { margin-bottom: 3px; }"
+                       "ul { margin-left: -16px; }"
+                       "pre { margin-left: 12px; }"
+                       "table { border-collapse: collapse; border-style: solid; border-color: %3;"
+                       "        margin-top: 4px; margin-bottom: 8px; }"
                        "th { background-color: %2; color: %1; text-align: left; }"
-                       "th, td { padding: 4px 10px 4px 6px; }")
-            .arg(heading, plate));
+                       "th, td { padding: 4px 10px 4px 8px; }")
+            .arg(heading, plate, line));
   }
 
  protected:
@@ -74,6 +79,16 @@ class HelpBrowser : public QTextBrowser {
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override {
     const QUrl whole = source().isValid() ? source().resolved(name) : name;
     if (whole.scheme() == QLatin1String("help")) QTextBrowser::doSetSource(name, type);
+  }
+};
+
+class TopicList : public QListWidget {
+ public:
+  explicit TopicList(QWidget* parent) : QListWidget(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportMargins(ListMargin, ListMargin, ListMargin, ListMargin);
+    viewport()->setBackgroundRole(QPalette::Window);
   }
 };
 
@@ -96,7 +111,7 @@ class HelpWindow : public QWidget {
   void TakeUpSettings();
   void TakeUpFontSize();
   void ListTopics();
-  void MarkTopic();
+  void MarkTopic(const QString& fileName);
   void Find(int step);
   void MarkFound();
 
@@ -116,7 +131,7 @@ HelpWindow::HelpWindow()
       forward_(new QToolButton(this)),
       found_(new QLabel(this)),
       find_(new QLineEdit(this)),
-      topics_(new QListWidget(this)),
+      topics_(new TopicList(this)),
       page_(new HelpBrowser(this)) {
   setObjectName(QStringLiteral("frmHelp"));
   setAttribute(Qt::WA_DeleteOnClose);
@@ -132,7 +147,9 @@ HelpWindow::HelpWindow()
   connect(forward_, &QToolButton::clicked, page_, &QTextBrowser::forward);
   connect(page_, &QTextBrowser::backwardAvailable, back_, &QWidget::setEnabled);
   connect(page_, &QTextBrowser::forwardAvailable, forward_, &QWidget::setEnabled);
-  connect(page_, &QTextBrowser::sourceChanged, this, [this] { MarkTopic(); });
+  // The browser's own source still is the page before.
+  connect(page_, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& page) { MarkTopic(page.fileName()); });
   connect(find_, &QLineEdit::textChanged, this, [this] { Find(0); });
   connect(topics_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
     if (item != nullptr) page_->setSource(UrlOfFile(item->data(Qt::UserRole).toString()));
@@ -144,6 +161,7 @@ HelpWindow::HelpWindow()
 void HelpWindow::LayOut() {
   auto* bar = new QHBoxLayout;
   bar->setContentsMargins(8, 8, 8, 8);
+  bar->setSpacing(8);
   bar->addWidget(back_);
   bar->addWidget(forward_);
   bar->addStretch();
@@ -154,8 +172,6 @@ void HelpWindow::LayOut() {
   halves->addWidget(topics_);
   halves->addWidget(page_);
   halves->setStretchFactor(1, 1);
-  topics_->setFrameShape(QFrame::NoFrame);
-  topics_->setAlternatingRowColors(false);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -176,14 +192,15 @@ void HelpWindow::ListTopics() {
   for (const HelpTopic& topic : HelpTopics()) {
     auto* item = new QListWidgetItem(HelpTitle(HelpPage(topic.FileName, Settings.Language)));
     item->setData(Qt::UserRole, topic.FileName);
+    item->setSizeHint({fontMetrics().horizontalAdvance(item->text()) + PageMargin,
+                       fontMetrics().lineSpacing() * 3 / 2});
     topics_->addItem(item);
   }
   topics_->setMinimumWidth(topics_->sizeHintForColumn(0) + 2 * PageMargin);
 }
 
-void HelpWindow::MarkTopic() {
+void HelpWindow::MarkTopic(const QString& fileName) {
   const QSignalBlocker quiet(topics_);
-  const QString fileName = page_->source().fileName();
   for (int row = 0; row < topics_->count(); ++row) {
     QListWidgetItem* const item = topics_->item(row);
     if (item->data(Qt::UserRole).toString() == fileName) topics_->setCurrentItem(item);
@@ -258,7 +275,7 @@ void HelpWindow::TakeUpSettings() {
   ListTopics();
   if (page_->source().isValid()) {
     page_->reload();
-    MarkTopic();
+    MarkTopic(page_->source().fileName());
   }
 }
 
