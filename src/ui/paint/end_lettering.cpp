@@ -30,7 +30,7 @@ QRectF Inset(const QRectF& area, double x, double y) {
 void PaintNumberBox(const EndPainter& end, int point) {
   const QRectF column = NumberColumn(PointIndex(point), end.right);
   const auto band = [&](double top, double bottom) {
-    return Inset({QPointF(column.left(), top), QPointF(column.right(), bottom)}, 4, 4);
+    return Inset({QPointF(column.left(), top), QPointF(column.right(), bottom)}, 2, 4);
   };
   const auto words = [&](const QRectF& area, Family family, const QStringList& names) {
     const QString pay = ' ' + PayText(BetOn(family, point));
@@ -48,9 +48,17 @@ void PaintNumberBox(const EndPainter& end, int point) {
   words(band(BuyTop, ComeTop), BuyFamily, {"BUY"});
 
   const QString name = point == 6 ? "SIX" : point == 9 ? "NINE" : QString::number(point);
-  const double size = name.size() > 2 ? 38 : 78;
-  PaintWords(end.painter, Inset(band(ComeNumberTop, ComeOddsTop), 4, 0), {name},
+  // Words are set tall, as high as the widest of them can be, to stand beside the figures.
+  constexpr double Tall = 1.5;
+  const bool word = name.size() > 2;
+  const double size = word ? FittingSize({0, 0, BoxWidth - 12, 100}, "NINE", {{}, 60, 0}) : 78;
+  const QRectF area = Inset(band(ComeNumberTop, ComeOddsTop), 4, 0);
+  end.painter.save();
+  end.painter.translate(area.center());
+  if (word) end.painter.scale(1, Tall);
+  PaintWords(end.painter, area.translated(-area.center()), {name},
              {ColourOfBet(BetOn(ComeFamily, point)), size, 0});
+  end.painter.restore();
 }
 
 // "BAR" and the barred pair after it, as one group in the middle of `area`.
@@ -66,7 +74,7 @@ void PaintDontPass(const EndPainter& end) {
   PaintPrintedPair(end.painter, {left + width + Gap, area.center().y() - Die / 2, 2.16 * Die, Die},
                    face, face, LineInk());
   PaintWords(end.painter, Inset(end.Area(DontPassOddsLeft, DontPassTop, EndRight, PassTop), 8, 6),
-             {"ODDS"}, end.Ink(bet::DontPassOdds, 28));
+             {"ODDS"}, {QuietInk(), 26, end.least});
 }
 
 void PaintDontCome(const EndPainter& end) {
@@ -150,7 +158,7 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
                end.Ink(bet::Field, 56));
     return;
   }
-  PaintWords(end.painter, {cell.left() + 2, cell.top(), cell.width() - 4, 36}, {total},
+  PaintWords(end.painter, {cell.left(), cell.top(), cell.width(), 36}, {total},
              end.Ink(bet::Field, 44));
   const double width = cell.width() / static_cast<double>(number.pairs.size());
   double left = cell.left();
@@ -162,7 +170,7 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
 }
 
 double ShareOf(const FieldNumber& number) {
-  return static_cast<double>(number.pairs.size()) + 0.3;
+  return static_cast<double>(number.pairs.size()) + 1.2;
 }
 
 void PaintField(const EndPainter& end) {
@@ -203,11 +211,14 @@ void PaintLineLettering(const EndPainter& end) {
     if (!end.right) return path;
     return QTransform(-1, 0, 0, 1, LayoutWidth, 0).map(path).toReversed();
   };
-  PaintAlongPath(end.painter, band(BendX - (PassLeft + CornerLeft) / 2), "PASS LINE", 46, 26,
+  PaintAlongPath(end.painter, band(BendX - (PassLeft + CornerLeft) / 2), "PASS LINE", 50, 30,
                  ColourOfBet(bet::PassLine));
-  const Lettering ink = end.Ink(bet::PassLineOdds, 26);
+  QPainterPath leg(QPointF(MirroredX((OddsLeft + PassLeft) / 2, end.right), LineTop));
+  leg.lineTo(leg.currentPosition() + QPointF(0, BendY - LineTop));
+  PaintAlongPath(end.painter, end.right ? leg.toReversed() : leg, "ODDS", std::max(24.0, end.least),
+                 4, QuietInk());
   PaintWords(end.painter, Inset(end.Area(BendX + 20, OddsTop, EndRight, OddsBottom), 0, 6),
-             {"ODDS"}, ink);
+             {"O D D S"}, {QuietInk(), 24, end.least});
 }
 
 }  // namespace

@@ -50,8 +50,8 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
   const QPoint pair = PairOf(number);
   const bool hard = number >= bet::Hard4 && number <= bet::Hard10;
   const DiceInk ink = hard ? HardwayInk() : PropositionInk();
-  const Lettering lettering{QuietInk(), 32, least};
-  const QRectF area = Inset(box, 8, 7);
+  const Lettering lettering{QuietInk(), 30, least};
+  const QRectF area = Inset(box, 6, 5);
   // Wide boxes have their words beside the dice, others below them.
   if (box.width() > 2.6 * box.height()) {
     const double dice = std::min(area.width() * 0.42, 2.16 * area.height() * 0.86);
@@ -62,12 +62,15 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
                {PayText(number)}, lettering);
     return;
   }
-  const QRectF words(area.left(), area.bottom() - area.height() * 0.44, area.width(),
-                     area.height() * 0.44);
-  const bool paid = PaintWords(painter, words, {PayText(number)}, lettering);
-  const double height = paid ? area.height() * 0.5 : area.height() * 0.7;
-  const double top = paid ? area.top() : area.center().y() - height / 2;
-  PaintPrintedPair(painter, {area.left(), top, area.width(), height}, pair.x(), pair.y(), ink);
+  // The dice take what the words leave.
+  constexpr double Capitals = 0.76, Gap = 5;
+  const double size = std::max(least, std::min(30.0, area.height() * 0.42));
+  const QRectF words(area.left(), area.bottom() - Capitals * size, area.width(), Capitals * size);
+  const bool paid = PaintWords(painter, words, {PayText(number)}, {QuietInk(), size, least});
+  const double room = area.height() - words.height() - Gap;
+  const QRectF dice = paid ? QRectF(area.left(), area.top(), area.width(), room)
+                           : Inset(area, 0, area.height() * 0.15);
+  PaintPrintedPair(painter, dice, pair.x(), pair.y(), ink);
 }
 
 // Lamps of the special bets: what they stand for and whether the game has lit them.
@@ -110,24 +113,26 @@ QList<Lamp> LampsOf(int number) {
   }
 }
 
-// Where a special bet has its name, its lamps and what it pays.
+// Where a special bet has its name, its lamps and what it pays: one below the other, or in a low
+// plate the payoff beside the name.
 struct PlateParts {
   QRectF name, lamps, pays;
 };
 
-PlateParts PartsOfPlate(const QRectF& box, bool hasLamps) {
+PlateParts PartsOfPlate(const QRectF& box, bool hasLamps, double least) {
   const QRectF area = Inset(box, 7, 6);
-  const double third = area.height() * (hasLamps ? 0.32 : 0.5);
-  const double lamps = hasLamps ? area.height() - 2 * third : 0;
-  return {{area.left(), area.top(), area.width(), third - 2},
-          {area.left(), area.top() + third, area.width(), lamps},
-          {area.left(), area.bottom() - third + 2, area.width(), third - 2}};
+  const int rows = !hasLamps || area.height() < 3.1 * least || area.height() < 70 ? 2 : 3;
+  const double step = area.height() / rows;
+  const auto row = [&](int index) {
+    return QRectF(area.left(), area.top() + index * step, area.width(), step).adjusted(0, 2, 0, -2);
+  };
+  return {row(0), row(1), hasLamps && rows == 2 ? QRectF() : row(rows - 1)};
 }
 
 void PaintLamps(QPainter& painter, const QRectF& area, int number, double least, bool litOnes) {
   const QList<Lamp> lamps = LampsOf(number);
   const double step = area.width() / static_cast<double>(lamps.size());
-  const double radius = std::min(step * 0.46, area.height() / 2 - 1);
+  const double radius = std::min({step * 0.46, area.height() / 2, 15.0});
   const QColor ink = ColourOfBet(number);
   double x = area.left() + step / 2;
   for (const Lamp& lamp : lamps) {
@@ -137,7 +142,7 @@ void PaintLamps(QPainter& painter, const QRectF& area, int number, double least,
     painter.setPen(QPen(ink, 1.6));
     painter.setBrush(litOnes ? QBrush(QColor(255, 206, 84)) : QBrush(Qt::NoBrush));
     painter.drawEllipse(middle, radius, radius);
-    const double side = 1.56 * radius;
+    const double side = 1.64 * radius;
     PaintWords(painter, {middle.x() - side / 2, middle.y() - side / 2, side, side}, {lamp.label},
                {litOnes ? QColor(30, 22, 0) : ink, 1.5 * radius, least});
   }
@@ -188,20 +193,21 @@ QStringList PlatePays(int number) {
 
 void PaintPlate(QPainter& painter, int number, const QRectF& box, double least) {
   const bool hasLamps = !LampsOf(number).isEmpty();
-  const PlateParts parts = PartsOfPlate(box, hasLamps);
-  const Lettering name{ColourOfBet(number), 30, least}, pays{QuietInk(), 24, least};
-  if (hasLamps && PaintWords(painter, parts.name, PlateNames(number), name)) {
-    PaintWords(painter, parts.pays, PlatePays(number), pays);
-    PaintLamps(painter, parts.lamps, number, least, false);
+  const PlateParts parts = PartsOfPlate(box, hasLamps, least);
+  const QStringList names = PlateNames(number), pays = PlatePays(number);
+  const Lettering name{ColourOfBet(number), 28, least}, quiet{QuietInk(), 24, least};
+  if (hasLamps) PaintLamps(painter, parts.lamps, number, least, false);
+  if (parts.pays.isNull()) {
+    QStringList inOne;
+    for (const QString& pay : pays)
+      inOne << names.first() + "  " + pay;
+    PaintWords(painter, parts.name, inOne + names, name);
     return;
   }
-  if (FittingSize(parts.name, PlateNames(number).first(), name) > 0 &&
-      FittingSize(parts.pays, PlatePays(number).last(), pays) > 0) {
-    PaintWords(painter, parts.name, PlateNames(number), name);
-    PaintWords(painter, parts.pays, PlatePays(number), pays);
-    return;
-  }
-  PaintWords(painter, Inset(box, 7, 6), PlateNames(number), name);
+  const bool both = FittingSize(parts.name, names.first(), name) > 0 &&
+                    FittingSize(parts.pays, pays.last(), quiet) > 0;
+  PaintWords(painter, both || hasLamps ? parts.name : Inset(box, 7, 6), names, name);
+  if (both) PaintWords(painter, parts.pays, pays, quiet);
 }
 
 void PaintDiscs(QPainter& painter, const QRectF& pair, double least) {
@@ -274,11 +280,12 @@ void PaintPropositionLettering(QPainter& painter, const TableLayout& layout, dou
 }
 
 void PaintLitLamps(QPainter& painter, const TableLayout& layout, double pixelsPerUnit) {
+  const double least = LeastLettering(pixelsPerUnit);
   for (const Region& region : layout.regions) {
     if (region.spot < bet::AllSmall || region.spot > bet::Fire || LampsOf(region.spot).isEmpty())
       continue;
-    const PlateParts parts = PartsOfPlate(region.outline.boundingRect(), true);
-    PaintLamps(painter, parts.lamps, region.spot, LeastLettering(pixelsPerUnit), true);
+    const PlateParts parts = PartsOfPlate(region.outline.boundingRect(), true, least);
+    PaintLamps(painter, parts.lamps, region.spot, least, true);
   }
 }
 
