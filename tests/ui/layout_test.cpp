@@ -12,7 +12,9 @@
 #include "ui/layout/hit_map.h"
 #include "ui/layout/table_layout.h"
 #include "ui/paint/contrast.h"
+#include "ui/paint/lettering.h"
 #include "ui/paint/table_paint.h"
+#include "ui/paint/textures.h"
 #include "ui/table_colours.h"
 #include "ui/table_presets.h"
 
@@ -286,6 +288,46 @@ TEST(TablePaint, FeltShowsPayoffsBarNumberAndLamps) {
     EXPECT_GT(Differences(plain, lit, area(spot), 0.5), 10) << spot;
   EXPECT_EQ(Differences(plain, lit, area(bet::AllTall), 0.5), 0);
   Table = TableState{};
+}
+
+TEST(Lettering, LeavesOutWhatCannotBeRead) {
+  QImage picture(200, 40, QImage::Format_RGB32);
+  picture.fill(Qt::black);
+  const QImage blank = picture;
+  QPainter painter(&picture);
+  const Lettering ink{Qt::white, 30, 12};
+  EXPECT_FALSE(PaintWords(painter, {0, 0, 30, 20}, {"DON'T COME"}, ink));
+  EXPECT_FALSE(PaintWords(painter, {0, 0, 200, 8}, {"DC"}, ink));
+  EXPECT_EQ(picture, blank);
+  EXPECT_TRUE(PaintWords(painter, {0, 0, 40, 20}, {"DON'T COME", "DC"}, ink));
+  for (int x = 40; x < 200; ++x)
+    ASSERT_EQ(qGray(picture.pixel(x, 10)), 0) << "words stay in their area";
+}
+
+// The mean step of brightness from one column, or row, of a tile to the next one.
+double MeanStep(const QImage& tile, int from, int to, bool columns) {
+  double sum = 0;
+  for (int k = 0; k < tile.width(); ++k) {
+    const QRgb one = columns ? tile.pixel(from, k) : tile.pixel(k, from);
+    const QRgb other = columns ? tile.pixel(to, k) : tile.pixel(k, to);
+    sum += std::abs(qGray(one) - qGray(other));
+  }
+  return sum / tile.width();
+}
+
+TEST(Textures, TilesJoinWithoutASeam) {
+  for (int texture = 0; texture < TextureCount; ++texture) {
+    const QImage tile =
+        TextureBrush(static_cast<Texture>(texture), QColor(120, 120, 120)).textureImage();
+    const int last = tile.width() - 1;
+    for (const bool columns : {false, true}) {
+      double widest = 0;
+      for (int k = 0; k < last; ++k)
+        widest = std::max(widest, MeanStep(tile, k, k + 1, columns));
+      EXPECT_GT(widest, 0) << texture;
+      EXPECT_LE(MeanStep(tile, last, 0, columns), 1.15 * widest) << texture;
+    }
+  }
 }
 
 TEST(TablePaint, TheSpotlightGrowsWithItsSetting) {

@@ -20,6 +20,14 @@ struct EndPainter {
   QRectF Area(double left, double top, double rightEdge, double bottom) const {
     return Mirrored(QRectF(QPointF(left, top), QPointF(rightEdge, bottom)), right);
   }
+  // The region of a bet at this end; empty when the layout is without it.
+  QRectF AreaOf(int spot) const {
+    for (const Region& region : layout.regions) {
+      const QRectF box = region.outline.boundingRect();
+      if (region.spot == spot && (box.center().x() > Middle) == right) return box;
+    }
+    return {};
+  }
   Lettering Ink(int number, double most) const { return {ColourOfBet(number), most, least}; }
 };
 
@@ -37,11 +45,11 @@ void PaintNumberBox(const EndPainter& end, int point) {
     QStringList texts;
     for (const QString& name : names)
       texts << name + '\n' + pay.mid(1) << name + pay;
-    PaintWords(end.painter, area, texts + names, {QuietInk(), 24, end.least});
+    PaintWords(end.painter, area, texts + names, {QuietInk(), 20, end.least});
   };
   words(band(LayTop, DontComeTop), LayFamily, {"LAY"});
-  PaintWords(end.painter, band(DontComeTop, DontComeOddsTop), {"DON'T COME", "DON'T\nCOME", "DC"},
-             {QuietInk(), 24, end.least});
+  PaintWords(end.painter, band(DontComeTop, DontComeOddsTop), {"DON'T\nCOME", "DC"},
+             {QuietInk(), 20, end.least});
   words(band(DontComeOddsTop, ComeNumberTop), DontComeOddsFamily, {"ODDS"});
   words(band(ComeOddsTop, PlaceTop), ComeOddsFamily, {"ODDS"});
   words(band(PlaceTop, BuyTop), PlaceFamily, {"PLACE"});
@@ -51,8 +59,8 @@ void PaintNumberBox(const EndPainter& end, int point) {
   // Words are set tall, as high as the widest of them can be, to stand beside the figures.
   constexpr double Tall = 1.5;
   const bool word = name.size() > 2;
-  const double size = word ? FittingSize({0, 0, BoxWidth - 12, 100}, "NINE", {{}, 60, 0}) : 78;
-  const QRectF area = Inset(band(ComeNumberTop, ComeOddsTop), 4, 0);
+  const double size = word ? FittingSize({0, 0, BoxWidth - 18, 100}, "NINE", {{}, 60, 0}) : 78;
+  const QRectF area = Inset(band(ComeNumberTop, ComeOddsTop), 7, 0);
   end.painter.save();
   end.painter.translate(area.center());
   if (word) end.painter.scale(1, Tall);
@@ -95,21 +103,19 @@ QString MidwayPays() {
 }
 
 void PaintCorner(const EndPainter& end) {
-  for (const Region& region : end.layout.regions) {
-    const QRectF box = region.outline.boundingRect();
-    if ((box.center().x() > Middle) != end.right) continue;
-    const QRectF area = Inset(box, 6, 8);
-    if (region.spot == bet::Midway) {
-      PaintWords(end.painter, area, {"MIDWAY\n" + MidwayPays(), "MIDWAY\n6 · 7 · 8", "MID\nWAY"},
-                 end.Ink(bet::Midway, 26));
-    } else if (region.spot == bet::Big6 || region.spot == bet::Big8) {
-      const QRectF name(area.left(), area.top(), area.width(), area.height() * 0.32);
-      const QString pays = PayText(region.spot);
-      PaintWords(end.painter, name, {"BIG  " + pays, "BIG"}, end.Ink(region.spot, 26));
-      PaintWords(end.painter,
-                 {area.left(), name.bottom() + 4, area.width(), area.bottom() - name.bottom() - 4},
-                 {region.spot == bet::Big6 ? "6" : "8"}, end.Ink(region.spot, 74));
-    }
+  const QRectF midway = end.AreaOf(bet::Midway);
+  if (!midway.isEmpty()) {
+    PaintWords(end.painter, Inset(midway, 6, 8),
+               {"MIDWAY\n" + MidwayPays(), "MIDWAY\n6 · 7 · 8", "MID\nWAY"},
+               end.Ink(bet::Midway, 26));
+  }
+  for (const int number : {bet::Big6, bet::Big8}) {
+    const QRectF area = Inset(end.AreaOf(number), 6, 8);
+    if (!area.isValid()) continue;
+    const QRectF name(area.left(), area.top(), area.width(), area.height() * 0.32);
+    PaintWords(end.painter, name, {"BIG  " + PayText(number), "BIG"}, end.Ink(number, 26));
+    PaintWords(end.painter, area.adjusted(0, name.height() + 4, 0, 0),
+               {number == bet::Big6 ? "6" : "8"}, end.Ink(number, 74));
   }
 }
 
@@ -140,6 +146,14 @@ QList<FieldNumber> FieldNumbers() {
   return numbers;
 }
 
+// What all of the numbers pay; empty when they differ.
+QString CommonPay(const QList<FieldNumber>& numbers) {
+  for (const FieldNumber& number : numbers) {
+    if (number.pays != numbers.first().pays) return {};
+  }
+  return numbers.isEmpty() ? QString() : numbers.first().pays;
+}
+
 void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QRectF& cell) {
   const QString total = QString::number(number.total);
   if (number.total == 2 || number.total == 12) {
@@ -159,7 +173,7 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
     return;
   }
   PaintWords(end.painter, {cell.left(), cell.top(), cell.width(), 36}, {total},
-             end.Ink(bet::Field, 44));
+             end.Ink(bet::Field, 38));
   const double width = cell.width() / static_cast<double>(number.pairs.size());
   double left = cell.left();
   for (const QPoint pair : number.pairs) {
@@ -170,12 +184,12 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
 }
 
 double ShareOf(const FieldNumber& number) {
-  return static_cast<double>(number.pairs.size()) + 1.2;
+  return static_cast<double>(number.pairs.size()) + 1.5;
 }
 
 void PaintField(const EndPainter& end) {
   QList<FieldNumber> numbers = FieldNumbers();
-  QRectF area = Inset(end.Area(BoxLeft, FieldTop, EndRight, DontPassTop), 10, 8);
+  QRectF area = Inset(end.AreaOf(bet::Field), 10, 8);
   constexpr double Circle = 106;
   if (!numbers.isEmpty() && numbers.first().total == 2) {
     PaintFieldNumber(end, numbers.takeFirst(), {area.left(), area.top(), Circle, area.height()});
@@ -195,8 +209,8 @@ void PaintField(const EndPainter& end) {
     PaintFieldNumber(end, number, {left, area.top(), width, area.height()});
     left += width;
   }
-  PaintWords(end.painter, {area.left(), area.bottom() - 40, area.width(), 38}, {"FIELD"},
-             end.Ink(bet::Field, 46));
+  PaintWords(end.painter, {area.left(), area.bottom() - 40, area.width(), 38},
+             {"FIELD   " + CommonPay(numbers), "FIELD"}, end.Ink(bet::Field, 42));
 }
 
 // Letters run down the end, around the corner and on towards the stick, and stand upright for the
@@ -218,7 +232,7 @@ void PaintLineLettering(const EndPainter& end) {
   PaintAlongPath(end.painter, end.right ? leg.toReversed() : leg, "ODDS", std::max(24.0, end.least),
                  4, QuietInk());
   PaintWords(end.painter, Inset(end.Area(BendX + 20, OddsTop, EndRight, OddsBottom), 0, 6),
-             {"O D D S"}, {QuietInk(), 24, end.least});
+             {"O D D S"}, {QuietInk(), 20, end.least});
 }
 
 }  // namespace
@@ -229,8 +243,7 @@ void PaintEndLettering(QPainter& painter, const TableLayout& layout, double pixe
     for (const int point : PointNumbers)
       PaintNumberBox(end, point);
     PaintDontCome(end);
-    PaintWords(painter, Inset(end.Area(BoxLeft, ComeTop, EndRight, FieldTop), 20, 14), {"C O M E"},
-               end.Ink(bet::Come, 96));
+    PaintWords(painter, Inset(end.AreaOf(bet::Come), 20, 14), {"C O M E"}, end.Ink(bet::Come, 96));
     PaintCorner(end);
     PaintField(end);
     PaintDontPass(end);

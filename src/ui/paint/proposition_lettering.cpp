@@ -62,15 +62,20 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
                {PayText(number)}, lettering);
     return;
   }
-  // The dice take what the words leave.
-  constexpr double Capitals = 0.76, Gap = 5;
-  const double size = std::max(least, std::min(30.0, area.height() * 0.42));
-  const QRectF words(area.left(), area.bottom() - Capitals * size, area.width(), Capitals * size);
-  const bool paid = PaintWords(painter, words, {PayText(number)}, {QuietInk(), size, least});
-  const double room = area.height() - words.height() - Gap;
-  const QRectF dice = paid ? QRectF(area.left(), area.top(), area.width(), room)
-                           : Inset(area, 0, area.height() * 0.15);
-  PaintPrintedPair(painter, dice, pair.x(), pair.y(), ink);
+  // Words below the dice, both as one group in the middle.
+  constexpr double Capitals = 0.74, DiceShare = 0.52;
+  const double size = std::max(least, std::min(32.0, area.height() * 0.34));
+  const bool paid =
+      FittingSize({0, 0, area.width(), Capitals * size}, PayText(number), {{}, size, least}) > 0;
+  const double words = paid ? Capitals * size : 0;
+  const double dice =
+      paid ? std::min(area.height() * DiceShare, area.height() - words - 5) : area.height() * 0.7;
+  const double gap = (area.height() - dice - words) / (paid ? 3 : 2);
+  PaintPrintedPair(painter, {area.left(), area.top() + gap, area.width(), dice}, pair.x(), pair.y(),
+                   ink);
+  if (!paid) return;
+  PaintWords(painter, {area.left(), area.bottom() - gap - words, area.width(), words},
+             {PayText(number)}, {QuietInk(), size, least});
 }
 
 // Lamps of the special bets: what they stand for and whether the game has lit them.
@@ -121,7 +126,7 @@ struct PlateParts {
 
 PlateParts PartsOfPlate(const QRectF& box, bool hasLamps, double least) {
   const QRectF area = Inset(box, 7, 6);
-  const int rows = !hasLamps || area.height() < 3.1 * least || area.height() < 70 ? 2 : 3;
+  const int rows = !hasLamps || area.height() < 3.1 * least || area.height() < 75 ? 2 : 3;
   const double step = area.height() / rows;
   const auto row = [&](int index) {
     return QRectF(area.left(), area.top() + index * step, area.width(), step).adjusted(0, 2, 0, -2);
@@ -131,10 +136,12 @@ PlateParts PartsOfPlate(const QRectF& box, bool hasLamps, double least) {
 
 void PaintLamps(QPainter& painter, const QRectF& area, int number, double least, bool litOnes) {
   const QList<Lamp> lamps = LampsOf(number);
-  const double step = area.width() / static_cast<double>(lamps.size());
-  const double radius = std::min({step * 0.46, area.height() / 2, 15.0});
+  constexpr double WidestStep = 46;
+  const double count = static_cast<double>(lamps.size());
+  const double step = std::min(WidestStep, area.width() / count);
+  const double radius = std::min({step * 0.46, area.height() / 2, 16.0});
   const QColor ink = ColourOfBet(number);
-  double x = area.left() + step / 2;
+  double x = area.center().x() - step * (count - 1) / 2;
   for (const Lamp& lamp : lamps) {
     const QPointF middle(x, area.center().y());
     x += step;

@@ -204,7 +204,7 @@ void PaintName(QPainter& painter, const TableLayout& layout, double least) {
 
 // The light over the point: on both boxes of the number.
 void PaintSpotlight(QPainter& painter) {
-  constexpr std::array<int, 4> Strength = {0, 46, 84, 130};
+  constexpr std::array<int, 4> Strength = {0, 34, 58, 84};
   if (!IsPointNumber(Table.Point) || Settings.Spotlight <= 0) return;
   const int strength = At(Strength, std::min(Settings.Spotlight, 3));
   for (const bool right : {false, true}) {
