@@ -75,12 +75,13 @@ void PaintDontPass(const EndPainter& end) {
   const QRectF area = end.Area(BendX, DontPassTop, DontPassOddsLeft, PassTop);
   constexpr double Size = 34, Die = 34, Gap = 14;
   const QString text = "DON'T PASS BAR";
-  const double width = WidthOfWords(text, Size), whole = width + Gap + 2.16 * Die;
+  const double width = WidthOfWords(text, Size), whole = width + Gap + PairWidth * Die;
   const double left = area.center().x() - whole / 2;
   PaintWords(end.painter, {left, area.top(), width, area.height()}, {text},
              end.Ink(bet::DontPass, Size));
-  PaintPrintedPair(end.painter, {left + width + Gap, area.center().y() - Die / 2, 2.16 * Die, Die},
-                   face, face, LineInk());
+  PaintPrintedPair(end.painter,
+                   {left + width + Gap, area.center().y() - Die / 2, PairWidth * Die, Die}, face,
+                   face, LineInk());
   PaintWords(end.painter, Inset(end.Area(DontPassOddsLeft, DontPassTop, EndRight, PassTop), 8, 6),
              {"ODDS"}, {QuietInk(), 26, end.least});
 }
@@ -172,12 +173,14 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
                end.Ink(bet::Field, 56));
     return;
   }
-  PaintWords(end.painter, {cell.left(), cell.top(), cell.width(), 36}, {total},
+  PaintWords(end.painter, {cell.left() - 3, cell.top(), cell.width() + 6, 36}, {total},
              end.Ink(bet::Field, 38));
   const double width = cell.width() / static_cast<double>(number.pairs.size());
+  constexpr double LeastDie = 7, Margin = 3;
+  if (width - 2 * Margin < PairWidth * LeastDie) return;
   double left = cell.left();
   for (const QPoint pair : number.pairs) {
-    PaintPrintedPair(end.painter, Inset({left, cell.top() + 41, width, 15}, 3, 0), pair.x(),
+    PaintPrintedPair(end.painter, Inset({left, cell.top() + 41, width, 15}, Margin, 0), pair.x(),
                      pair.y(), LineInk());
     left += width;
   }
@@ -185,6 +188,22 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
 
 double ShareOf(const FieldNumber& number) {
   return static_cast<double>(number.pairs.size()) + 1.5;
+}
+
+// The name with what the plain numbers pay behind it, where there is one payoff and room for it.
+void PaintFieldName(const EndPainter& end, const QRectF& area, const QString& pays) {
+  constexpr double Size = 42, Gap = 18;
+  const double paySize = std::max(24.0, end.least);
+  const double name = WidthOfWords("FIELD", Size), pay = WidthOfWords(pays, paySize);
+  if (pays.isEmpty() || name + Gap + pay > area.width()) {
+    PaintWords(end.painter, area, {"FIELD"}, end.Ink(bet::Field, Size));
+    return;
+  }
+  const double left = area.center().x() - (name + Gap + pay) / 2;
+  PaintWords(end.painter, {left, area.top(), name, area.height()}, {"FIELD"},
+             end.Ink(bet::Field, Size));
+  PaintWords(end.painter, {left + name + Gap, area.top(), pay, area.height()}, {pays},
+             {QuietInk(), paySize, end.least});
 }
 
 void PaintField(const EndPainter& end) {
@@ -209,8 +228,7 @@ void PaintField(const EndPainter& end) {
     PaintFieldNumber(end, number, {left, area.top(), width, area.height()});
     left += width;
   }
-  PaintWords(end.painter, {area.left(), area.bottom() - 40, area.width(), 38},
-             {"FIELD   " + CommonPay(numbers), "FIELD"}, end.Ink(bet::Field, 42));
+  PaintFieldName(end, {area.left(), area.bottom() - 40, area.width(), 38}, CommonPay(numbers));
 }
 
 // Letters run down the end, around the corner and on towards the stick, and stand upright for the

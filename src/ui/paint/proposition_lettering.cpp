@@ -54,7 +54,7 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
   const QRectF area = Inset(box, 6, 5);
   // Wide boxes have their words beside the dice, others below them.
   if (box.width() > 2.6 * box.height()) {
-    const double dice = std::min(area.width() * 0.42, 2.16 * area.height() * 0.86);
+    const double dice = std::min(area.width() * 0.42, PairWidth * area.height() * 0.86);
     PaintPrintedPair(painter, {area.left() + 4, area.top(), dice, area.height()}, pair.x(),
                      pair.y(), ink);
     PaintWords(painter,
@@ -236,6 +236,26 @@ void PaintDiscs(QPainter& painter, const QRectF& pair, double least) {
   }
 }
 
+// The names of the bets that are nothing but a name and a payoff.
+QString NameOf(int number) {
+  switch (number) {
+    case bet::Seven:
+      return "SEVEN";
+    case bet::Craps:
+      return "ANY CRAPS";
+    case bet::Horn:
+      return "HORN";
+    case bet::World:
+      return "WORLD";
+    case bet::Over7:
+      return "OVER 7";
+    case bet::Under7:
+      return "UNDER 7";
+    default:
+      return {};
+  }
+}
+
 void PaintNamed(
     QPainter& painter, int number, const QRectF& box, const QString& name, double least) {
   const bool split = PartsOf(number) > 1;
@@ -268,18 +288,8 @@ void PaintPropositionLettering(QPainter& painter, const TableLayout& layout, dou
       PaintDiscs(painter, box, least);
     } else if (IsBet(number) && !PairOf(number).isNull()) {
       PaintDiceBet(painter, number, box, least);
-    } else if (number == bet::Seven) {
-      PaintNamed(painter, number, box, "SEVEN", least);
-    } else if (number == bet::Craps) {
-      PaintNamed(painter, number, box, "ANY CRAPS", least);
-    } else if (number == bet::Horn) {
-      PaintNamed(painter, number, box, "HORN", least);
-    } else if (number == bet::World) {
-      PaintNamed(painter, number, box, "WORLD", least);
-    } else if (number == bet::Over7) {
-      PaintNamed(painter, number, box, "OVER 7", least);
-    } else if (number == bet::Under7) {
-      PaintNamed(painter, number, box, "UNDER 7", least);
+    } else if (const QString name = NameOf(number); !name.isEmpty()) {
+      PaintNamed(painter, number, box, name, least);
     } else if (number >= bet::AllSmall && number <= bet::Fire && number != bet::Midway) {
       PaintPlate(painter, number, box, least);
     }
