@@ -76,7 +76,7 @@ std::vector<PropositionRow> StickBox(double scale) {
 }
 
 std::vector<PropositionRow> Hops() {
-  std::vector<PropositionRow> rows(3, {56, {}});
+  std::vector<PropositionRow> rows(3, {54, {}});
   for (int hop = bet::Hop13; hop <= bet::Hop55; ++hop)
     rows[static_cast<size_t>(hop - bet::Hop13) / 6].spots.push_back(hop);
   rows.back().spots.push_back(PropositionSwitch);
@@ -87,8 +87,8 @@ std::vector<PropositionRow> Specials(const LayoutOptions& options) {
   using namespace bet;
   std::vector<PropositionRow> rows;
   if (options.specials) {
-    rows = {{88, {AllSmall, MakeAll, AllTall}},
-            {58, {FourRollsNo7, Point7, SevenPoint7}},
+    rows = {{90, {AllSmall, MakeAll, AllTall}},
+            {62, {FourRollsNo7, Point7, SevenPoint7}},
             {66, {SharpShooter, RideTheLine}}};
   }
   if (options.fire) {
@@ -100,7 +100,7 @@ std::vector<PropositionRow> Specials(const LayoutOptions& options) {
 }
 
 void AddWholeField(TableLayout& layout) {
-  constexpr double Disc = 40, Margin = Disc + 6;
+  constexpr double Disc = 37, Margin = Disc + 9;
   const std::vector<PropositionRow> box = StickBox(1);
   std::vector<PropositionRow> below = {{6, {}}, {40, {bet::Under7, bet::Over7}}, {6, {}}};
   for (const auto& part : {Hops(), Specials(layout.options)})

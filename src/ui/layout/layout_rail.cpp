@@ -32,16 +32,16 @@ bool StandsAtEnd(int place) {
   return place <= 2 || place >= 7;
 }
 
-// Stacks lie on the far side of the plate, seen from the stick side of the reading order.
+// Stacks lie two by two beside the plate: below it at the ends, else on the side of the stick.
 QRectF StackArea(int place, int stack) {
   const QRectF area = PlaceArea(place);
   const int column = stack / 2, row = stack % 2;
   if (StandsAtEnd(place)) {
-    return {area.left() + row * StackSide, area.bottom() - (2 - column) * StackSide, StackSide,
-            StackSide};
+    const double top = area.bottom() - 2 * StackSide;
+    return {area.left() + row * StackSide, top + column * StackSide, StackSide, StackSide};
   }
-  return {area.right() - (2 - column) * StackSide, area.top() + row * StackSide, StackSide,
-          StackSide};
+  const double left = place > 4 ? area.left() : area.right() - 2 * StackSide;
+  return {left + column * StackSide, area.top() + row * StackSide, StackSide, StackSide};
 }
 
 }  // namespace
@@ -49,7 +49,8 @@ QRectF StackArea(int place, int stack) {
 QRectF RailPlaceArea(int place) {
   const QRectF area = PlaceArea(place);
   constexpr double Stacks = 2 * StackSide + 4;
-  return StandsAtEnd(place) ? area.adjusted(0, 0, 0, -Stacks) : area.adjusted(0, 0, -Stacks, 0);
+  if (StandsAtEnd(place)) return area.adjusted(0, 0, 0, -Stacks);
+  return place > 4 ? area.adjusted(Stacks, 0, 0, 0) : area.adjusted(0, 0, -Stacks, 0);
 }
 
 void AddRail(TableLayout& layout) {

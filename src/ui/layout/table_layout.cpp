@@ -55,13 +55,15 @@ void AddRegion(TableLayout& layout,
   layout.regions.push_back({spot, outline});
   if (!IsBet(spot)) return;
   const auto [columns, rows] = RoomiestRows(stand, static_cast<int>(places.size()));
-  const double stepX = stand.width() / columns;
+  // Checks keep away from the sides, so that those of neighbouring boxes stay apart.
+  constexpr double Margin = 5;
+  const double stepX = (stand.width() - 2 * Margin) / columns;
   const double stepY = std::min(stand.height() / rows, CheckDiameter + 6);
   int k = 0;
   for (const int place : places) {
     const int column = k / rows, row = k % rows;
-    At(At(layout.positions, place), spot) =
-        QPointF(stand.left() + (column + 0.5) * stepX, stand.bottom() - (rows - row - 0.5) * stepY);
+    At(At(layout.positions, place), spot) = QPointF(stand.left() + Margin + (column + 0.5) * stepX,
+                                                    stand.bottom() - (rows - row - 0.5) * stepY);
     ++k;
   }
 }

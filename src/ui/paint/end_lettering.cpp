@@ -20,6 +20,14 @@ struct EndPainter {
   QRectF Area(double left, double top, double rightEdge, double bottom) const {
     return Mirrored(QRectF(QPointF(left, top), QPointF(rightEdge, bottom)), right);
   }
+  // The region of a bet at this end; empty when the layout is without it.
+  QRectF AreaOf(int spot) const {
+    for (const Region& region : layout.regions) {
+      const QRectF box = region.outline.boundingRect();
+      if (region.spot == spot && (box.center().x() > Middle) == right) return box;
+    }
+    return {};
+  }
   Lettering Ink(int number, double most) const { return {ColourOfBet(number), most, least}; }
 };
 
@@ -30,27 +38,35 @@ QRectF Inset(const QRectF& area, double x, double y) {
 void PaintNumberBox(const EndPainter& end, int point) {
   const QRectF column = NumberColumn(PointIndex(point), end.right);
   const auto band = [&](double top, double bottom) {
-    return Inset({QPointF(column.left(), top), QPointF(column.right(), bottom)}, 4, 4);
+    return Inset({QPointF(column.left(), top), QPointF(column.right(), bottom)}, 2, 4);
   };
   const auto words = [&](const QRectF& area, Family family, const QStringList& names) {
     const QString pay = ' ' + PayText(BetOn(family, point));
     QStringList texts;
     for (const QString& name : names)
       texts << name + '\n' + pay.mid(1) << name + pay;
-    PaintWords(end.painter, area, texts + names, {QuietInk(), 24, end.least});
+    PaintWords(end.painter, area, texts + names, {QuietInk(), 20, end.least});
   };
   words(band(LayTop, DontComeTop), LayFamily, {"LAY"});
-  PaintWords(end.painter, band(DontComeTop, DontComeOddsTop), {"DON'T COME", "DON'T\nCOME", "DC"},
-             {QuietInk(), 24, end.least});
+  PaintWords(end.painter, band(DontComeTop, DontComeOddsTop), {"DON'T\nCOME", "DC"},
+             {QuietInk(), 20, end.least});
   words(band(DontComeOddsTop, ComeNumberTop), DontComeOddsFamily, {"ODDS"});
   words(band(ComeOddsTop, PlaceTop), ComeOddsFamily, {"ODDS"});
   words(band(PlaceTop, BuyTop), PlaceFamily, {"PLACE"});
   words(band(BuyTop, ComeTop), BuyFamily, {"BUY"});
 
   const QString name = point == 6 ? "SIX" : point == 9 ? "NINE" : QString::number(point);
-  const double size = name.size() > 2 ? 38 : 78;
-  PaintWords(end.painter, Inset(band(ComeNumberTop, ComeOddsTop), 4, 0), {name},
+  // Words are set tall, as high as the widest of them can be, to stand beside the figures.
+  constexpr double Tall = 1.5;
+  const bool word = name.size() > 2;
+  const double size = word ? FittingSize({0, 0, BoxWidth - 18, 100}, "NINE", {{}, 60, 0}) : 78;
+  const QRectF area = Inset(band(ComeNumberTop, ComeOddsTop), 7, 0);
+  end.painter.save();
+  end.painter.translate(area.center());
+  if (word) end.painter.scale(1, Tall);
+  PaintWords(end.painter, area.translated(-area.center()), {name},
              {ColourOfBet(BetOn(ComeFamily, point)), size, 0});
+  end.painter.restore();
 }
 
 // "BAR" and the barred pair after it, as one group in the middle of `area`.
@@ -59,14 +75,15 @@ void PaintDontPass(const EndPainter& end) {
   const QRectF area = end.Area(BendX, DontPassTop, DontPassOddsLeft, PassTop);
   constexpr double Size = 34, Die = 34, Gap = 14;
   const QString text = "DON'T PASS BAR";
-  const double width = WidthOfWords(text, Size), whole = width + Gap + 2.16 * Die;
+  const double width = WidthOfWords(text, Size), whole = width + Gap + PairWidth * Die;
   const double left = area.center().x() - whole / 2;
   PaintWords(end.painter, {left, area.top(), width, area.height()}, {text},
              end.Ink(bet::DontPass, Size));
-  PaintPrintedPair(end.painter, {left + width + Gap, area.center().y() - Die / 2, 2.16 * Die, Die},
-                   face, face, LineInk());
+  PaintPrintedPair(end.painter,
+                   {left + width + Gap, area.center().y() - Die / 2, PairWidth * Die, Die}, face,
+                   face, LineInk());
   PaintWords(end.painter, Inset(end.Area(DontPassOddsLeft, DontPassTop, EndRight, PassTop), 8, 6),
-             {"ODDS"}, end.Ink(bet::DontPassOdds, 28));
+             {"ODDS"}, {QuietInk(), 26, end.least});
 }
 
 void PaintDontCome(const EndPainter& end) {
@@ -87,21 +104,19 @@ QString MidwayPays() {
 }
 
 void PaintCorner(const EndPainter& end) {
-  for (const Region& region : end.layout.regions) {
-    const QRectF box = region.outline.boundingRect();
-    if ((box.center().x() > Middle) != end.right) continue;
-    const QRectF area = Inset(box, 6, 8);
-    if (region.spot == bet::Midway) {
-      PaintWords(end.painter, area, {"MIDWAY\n" + MidwayPays(), "MIDWAY\n6 · 7 · 8", "MID\nWAY"},
-                 end.Ink(bet::Midway, 26));
-    } else if (region.spot == bet::Big6 || region.spot == bet::Big8) {
-      const QRectF name(area.left(), area.top(), area.width(), area.height() * 0.32);
-      const QString pays = PayText(region.spot);
-      PaintWords(end.painter, name, {"BIG  " + pays, "BIG"}, end.Ink(region.spot, 26));
-      PaintWords(end.painter,
-                 {area.left(), name.bottom() + 4, area.width(), area.bottom() - name.bottom() - 4},
-                 {region.spot == bet::Big6 ? "6" : "8"}, end.Ink(region.spot, 74));
-    }
+  const QRectF midway = end.AreaOf(bet::Midway);
+  if (!midway.isEmpty()) {
+    PaintWords(end.painter, Inset(midway, 6, 8),
+               {"MIDWAY\n" + MidwayPays(), "MIDWAY\n6 · 7 · 8", "MID\nWAY"},
+               end.Ink(bet::Midway, 26));
+  }
+  for (const int number : {bet::Big6, bet::Big8}) {
+    const QRectF area = Inset(end.AreaOf(number), 6, 8);
+    if (!area.isValid()) continue;
+    const QRectF name(area.left(), area.top(), area.width(), area.height() * 0.32);
+    PaintWords(end.painter, name, {"BIG  " + PayText(number), "BIG"}, end.Ink(number, 26));
+    PaintWords(end.painter, area.adjusted(0, name.height() + 4, 0, 0),
+               {number == bet::Big6 ? "6" : "8"}, end.Ink(number, 74));
   }
 }
 
@@ -132,6 +147,14 @@ QList<FieldNumber> FieldNumbers() {
   return numbers;
 }
 
+// What all of the numbers pay; empty when they differ.
+QString CommonPay(const QList<FieldNumber>& numbers) {
+  for (const FieldNumber& number : numbers) {
+    if (number.pays != numbers.first().pays) return {};
+  }
+  return numbers.isEmpty() ? QString() : numbers.first().pays;
+}
+
 void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QRectF& cell) {
   const QString total = QString::number(number.total);
   if (number.total == 2 || number.total == 12) {
@@ -150,24 +173,42 @@ void PaintFieldNumber(const EndPainter& end, const FieldNumber& number, const QR
                end.Ink(bet::Field, 56));
     return;
   }
-  PaintWords(end.painter, {cell.left() + 2, cell.top(), cell.width() - 4, 36}, {total},
-             end.Ink(bet::Field, 44));
+  PaintWords(end.painter, {cell.left() - 3, cell.top(), cell.width() + 6, 36}, {total},
+             end.Ink(bet::Field, 38));
   const double width = cell.width() / static_cast<double>(number.pairs.size());
+  constexpr double LeastDie = 7, Margin = 3;
+  if (width - 2 * Margin < PairWidth * LeastDie) return;
   double left = cell.left();
   for (const QPoint pair : number.pairs) {
-    PaintPrintedPair(end.painter, Inset({left, cell.top() + 41, width, 15}, 3, 0), pair.x(),
+    PaintPrintedPair(end.painter, Inset({left, cell.top() + 41, width, 15}, Margin, 0), pair.x(),
                      pair.y(), LineInk());
     left += width;
   }
 }
 
 double ShareOf(const FieldNumber& number) {
-  return static_cast<double>(number.pairs.size()) + 0.3;
+  return static_cast<double>(number.pairs.size()) + 1.5;
+}
+
+// The name with what the plain numbers pay behind it, where there is one payoff and room for it.
+void PaintFieldName(const EndPainter& end, const QRectF& area, const QString& pays) {
+  constexpr double Size = 42, Gap = 18;
+  const double paySize = std::max(24.0, end.least);
+  const double name = WidthOfWords("FIELD", Size), pay = WidthOfWords(pays, paySize);
+  if (pays.isEmpty() || name + Gap + pay > area.width()) {
+    PaintWords(end.painter, area, {"FIELD"}, end.Ink(bet::Field, Size));
+    return;
+  }
+  const double left = area.center().x() - (name + Gap + pay) / 2;
+  PaintWords(end.painter, {left, area.top(), name, area.height()}, {"FIELD"},
+             end.Ink(bet::Field, Size));
+  PaintWords(end.painter, {left + name + Gap, area.top(), pay, area.height()}, {pays},
+             {QuietInk(), paySize, end.least});
 }
 
 void PaintField(const EndPainter& end) {
   QList<FieldNumber> numbers = FieldNumbers();
-  QRectF area = Inset(end.Area(BoxLeft, FieldTop, EndRight, DontPassTop), 10, 8);
+  QRectF area = Inset(end.AreaOf(bet::Field), 10, 8);
   constexpr double Circle = 106;
   if (!numbers.isEmpty() && numbers.first().total == 2) {
     PaintFieldNumber(end, numbers.takeFirst(), {area.left(), area.top(), Circle, area.height()});
@@ -187,8 +228,7 @@ void PaintField(const EndPainter& end) {
     PaintFieldNumber(end, number, {left, area.top(), width, area.height()});
     left += width;
   }
-  PaintWords(end.painter, {area.left(), area.bottom() - 40, area.width(), 38}, {"FIELD"},
-             end.Ink(bet::Field, 46));
+  PaintFieldName(end, {area.left(), area.bottom() - 40, area.width(), 38}, CommonPay(numbers));
 }
 
 // Letters run down the end, around the corner and on towards the stick, and stand upright for the
@@ -203,11 +243,14 @@ void PaintLineLettering(const EndPainter& end) {
     if (!end.right) return path;
     return QTransform(-1, 0, 0, 1, LayoutWidth, 0).map(path).toReversed();
   };
-  PaintAlongPath(end.painter, band(BendX - (PassLeft + CornerLeft) / 2), "PASS LINE", 46, 26,
+  PaintAlongPath(end.painter, band(BendX - (PassLeft + CornerLeft) / 2), "PASS LINE", 50, 30,
                  ColourOfBet(bet::PassLine));
-  const Lettering ink = end.Ink(bet::PassLineOdds, 26);
+  QPainterPath leg(QPointF(MirroredX((OddsLeft + PassLeft) / 2, end.right), LineTop));
+  leg.lineTo(leg.currentPosition() + QPointF(0, BendY - LineTop));
+  PaintAlongPath(end.painter, end.right ? leg.toReversed() : leg, "ODDS", std::max(24.0, end.least),
+                 4, QuietInk());
   PaintWords(end.painter, Inset(end.Area(BendX + 20, OddsTop, EndRight, OddsBottom), 0, 6),
-             {"ODDS"}, ink);
+             {"O D D S"}, {QuietInk(), 20, end.least});
 }
 
 }  // namespace
@@ -218,8 +261,7 @@ void PaintEndLettering(QPainter& painter, const TableLayout& layout, double pixe
     for (const int point : PointNumbers)
       PaintNumberBox(end, point);
     PaintDontCome(end);
-    PaintWords(painter, Inset(end.Area(BoxLeft, ComeTop, EndRight, FieldTop), 20, 14), {"C O M E"},
-               end.Ink(bet::Come, 96));
+    PaintWords(painter, Inset(end.AreaOf(bet::Come), 20, 14), {"C O M E"}, end.Ink(bet::Come, 96));
     PaintCorner(end);
     PaintField(end);
     PaintDontPass(end);

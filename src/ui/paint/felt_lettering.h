@@ -31,6 +31,7 @@ QColor QuietInk();
 struct DiceInk {
   QColor body, pips;
 };
+inline constexpr double PairWidth = 2.16;  // of two dice with their gap, in sides of a die
 void PaintPrintedDie(QPainter& painter, const QRectF& square, int face, const DiceInk& ink);
 void PaintPrintedPair(
     QPainter& painter, const QRectF& area, int die1, int die2, const DiceInk& ink);

@@ -100,8 +100,8 @@ void PaintPrintedDie(QPainter& painter, const QRectF& square, int face, const Di
 
 void PaintPrintedPair(
     QPainter& painter, const QRectF& area, int die1, int die2, const DiceInk& ink) {
-  constexpr double Gap = 0.16;  // of a die
-  const double side = std::min(area.height(), area.width() / (2 + Gap));
+  constexpr double Gap = PairWidth - 2;
+  const double side = std::min(area.height(), area.width() / PairWidth);
   const QPointF middle = area.center();
   for (const int k : {0, 1}) {
     const double left = middle.x() + side * (k == 0 ? -1 - Gap / 2 : Gap / 2);

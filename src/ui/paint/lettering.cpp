@@ -46,7 +46,8 @@ double HeightOfLines(qsizetype count) {
 }
 
 double FittingSize(const QRectF& area, const QStringList& lines, const Lettering& lettering) {
-  const double size = std::min({lettering.most, area.height() / HeightOfLines(lines.size()),
+  const double size = std::min({std::max(lettering.most, lettering.least),
+                                area.height() / HeightOfLines(lines.size()),
                                 area.width() / (WidestLine(lines) * LeastSqueeze)});
   return size < lettering.least ? 0 : size;
 }

@@ -50,11 +50,11 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
   const QPoint pair = PairOf(number);
   const bool hard = number >= bet::Hard4 && number <= bet::Hard10;
   const DiceInk ink = hard ? HardwayInk() : PropositionInk();
-  const Lettering lettering{QuietInk(), 32, least};
-  const QRectF area = Inset(box, 8, 7);
+  const Lettering lettering{QuietInk(), 30, least};
+  const QRectF area = Inset(box, 6, 5);
   // Wide boxes have their words beside the dice, others below them.
   if (box.width() > 2.6 * box.height()) {
-    const double dice = std::min(area.width() * 0.42, 2.16 * area.height() * 0.86);
+    const double dice = std::min(area.width() * 0.42, PairWidth * area.height() * 0.86);
     PaintPrintedPair(painter, {area.left() + 4, area.top(), dice, area.height()}, pair.x(),
                      pair.y(), ink);
     PaintWords(painter,
@@ -62,12 +62,20 @@ void PaintDiceBet(QPainter& painter, int number, const QRectF& box, double least
                {PayText(number)}, lettering);
     return;
   }
-  const QRectF words(area.left(), area.bottom() - area.height() * 0.44, area.width(),
-                     area.height() * 0.44);
-  const bool paid = PaintWords(painter, words, {PayText(number)}, lettering);
-  const double height = paid ? area.height() * 0.5 : area.height() * 0.7;
-  const double top = paid ? area.top() : area.center().y() - height / 2;
-  PaintPrintedPair(painter, {area.left(), top, area.width(), height}, pair.x(), pair.y(), ink);
+  // Words below the dice, both as one group in the middle.
+  constexpr double Capitals = 0.74, DiceShare = 0.52;
+  const double size = std::max(least, std::min(32.0, area.height() * 0.34));
+  const bool paid =
+      FittingSize({0, 0, area.width(), Capitals * size}, PayText(number), {{}, size, least}) > 0;
+  const double words = paid ? Capitals * size : 0;
+  const double dice =
+      paid ? std::min(area.height() * DiceShare, area.height() - words - 5) : area.height() * 0.7;
+  const double gap = (area.height() - dice - words) / (paid ? 3 : 2);
+  PaintPrintedPair(painter, {area.left(), area.top() + gap, area.width(), dice}, pair.x(), pair.y(),
+                   ink);
+  if (!paid) return;
+  PaintWords(painter, {area.left(), area.bottom() - gap - words, area.width(), words},
+             {PayText(number)}, {QuietInk(), size, least});
 }
 
 // Lamps of the special bets: what they stand for and whether the game has lit them.
@@ -110,26 +118,30 @@ QList<Lamp> LampsOf(int number) {
   }
 }
 
-// Where a special bet has its name, its lamps and what it pays.
+// Where a special bet has its name, its lamps and what it pays: one below the other, or in a low
+// plate the payoff beside the name.
 struct PlateParts {
   QRectF name, lamps, pays;
 };
 
-PlateParts PartsOfPlate(const QRectF& box, bool hasLamps) {
+PlateParts PartsOfPlate(const QRectF& box, bool hasLamps, double least) {
   const QRectF area = Inset(box, 7, 6);
-  const double third = area.height() * (hasLamps ? 0.32 : 0.5);
-  const double lamps = hasLamps ? area.height() - 2 * third : 0;
-  return {{area.left(), area.top(), area.width(), third - 2},
-          {area.left(), area.top() + third, area.width(), lamps},
-          {area.left(), area.bottom() - third + 2, area.width(), third - 2}};
+  const int rows = !hasLamps || area.height() < 3.1 * least || area.height() < 75 ? 2 : 3;
+  const double step = area.height() / rows;
+  const auto row = [&](int index) {
+    return QRectF(area.left(), area.top() + index * step, area.width(), step).adjusted(0, 2, 0, -2);
+  };
+  return {row(0), row(1), hasLamps && rows == 2 ? QRectF() : row(rows - 1)};
 }
 
 void PaintLamps(QPainter& painter, const QRectF& area, int number, double least, bool litOnes) {
   const QList<Lamp> lamps = LampsOf(number);
-  const double step = area.width() / static_cast<double>(lamps.size());
-  const double radius = std::min(step * 0.46, area.height() / 2 - 1);
+  constexpr double WidestStep = 46;
+  const double count = static_cast<double>(lamps.size());
+  const double step = std::min(WidestStep, area.width() / count);
+  const double radius = std::min({step * 0.46, area.height() / 2, 16.0});
   const QColor ink = ColourOfBet(number);
-  double x = area.left() + step / 2;
+  double x = area.center().x() - step * (count - 1) / 2;
   for (const Lamp& lamp : lamps) {
     const QPointF middle(x, area.center().y());
     x += step;
@@ -137,7 +149,7 @@ void PaintLamps(QPainter& painter, const QRectF& area, int number, double least,
     painter.setPen(QPen(ink, 1.6));
     painter.setBrush(litOnes ? QBrush(QColor(255, 206, 84)) : QBrush(Qt::NoBrush));
     painter.drawEllipse(middle, radius, radius);
-    const double side = 1.56 * radius;
+    const double side = 1.64 * radius;
     PaintWords(painter, {middle.x() - side / 2, middle.y() - side / 2, side, side}, {lamp.label},
                {litOnes ? QColor(30, 22, 0) : ink, 1.5 * radius, least});
   }
@@ -188,20 +200,21 @@ QStringList PlatePays(int number) {
 
 void PaintPlate(QPainter& painter, int number, const QRectF& box, double least) {
   const bool hasLamps = !LampsOf(number).isEmpty();
-  const PlateParts parts = PartsOfPlate(box, hasLamps);
-  const Lettering name{ColourOfBet(number), 30, least}, pays{QuietInk(), 24, least};
-  if (hasLamps && PaintWords(painter, parts.name, PlateNames(number), name)) {
-    PaintWords(painter, parts.pays, PlatePays(number), pays);
-    PaintLamps(painter, parts.lamps, number, least, false);
+  const PlateParts parts = PartsOfPlate(box, hasLamps, least);
+  const QStringList names = PlateNames(number), pays = PlatePays(number);
+  const Lettering name{ColourOfBet(number), 28, least}, quiet{QuietInk(), 24, least};
+  if (hasLamps) PaintLamps(painter, parts.lamps, number, least, false);
+  if (parts.pays.isNull()) {
+    QStringList inOne;
+    for (const QString& pay : pays)
+      inOne << names.first() + "  " + pay;
+    PaintWords(painter, parts.name, inOne + names, name);
     return;
   }
-  if (FittingSize(parts.name, PlateNames(number).first(), name) > 0 &&
-      FittingSize(parts.pays, PlatePays(number).last(), pays) > 0) {
-    PaintWords(painter, parts.name, PlateNames(number), name);
-    PaintWords(painter, parts.pays, PlatePays(number), pays);
-    return;
-  }
-  PaintWords(painter, Inset(box, 7, 6), PlateNames(number), name);
+  const bool both = FittingSize(parts.name, names.first(), name) > 0 &&
+                    FittingSize(parts.pays, pays.last(), quiet) > 0;
+  PaintWords(painter, both || hasLamps ? parts.name : Inset(box, 7, 6), names, name);
+  if (both) PaintWords(painter, parts.pays, pays, quiet);
 }
 
 void PaintDiscs(QPainter& painter, const QRectF& pair, double least) {
@@ -220,6 +233,26 @@ void PaintDiscs(QPainter& painter, const QRectF& pair, double least) {
     const double side = 1.3 * radius;
     PaintWords(painter, {middle.x() - side / 2, middle.y() - side / 2, side, side}, {disc.letter},
                {ColourOfTable(colour::Felt), 1.5 * radius, std::min(least, 1.5 * radius)});
+  }
+}
+
+// The names of the bets that are nothing but a name and a payoff.
+QString NameOf(int number) {
+  switch (number) {
+    case bet::Seven:
+      return "SEVEN";
+    case bet::Craps:
+      return "ANY CRAPS";
+    case bet::Horn:
+      return "HORN";
+    case bet::World:
+      return "WORLD";
+    case bet::Over7:
+      return "OVER 7";
+    case bet::Under7:
+      return "UNDER 7";
+    default:
+      return {};
   }
 }
 
@@ -255,18 +288,8 @@ void PaintPropositionLettering(QPainter& painter, const TableLayout& layout, dou
       PaintDiscs(painter, box, least);
     } else if (IsBet(number) && !PairOf(number).isNull()) {
       PaintDiceBet(painter, number, box, least);
-    } else if (number == bet::Seven) {
-      PaintNamed(painter, number, box, "SEVEN", least);
-    } else if (number == bet::Craps) {
-      PaintNamed(painter, number, box, "ANY CRAPS", least);
-    } else if (number == bet::Horn) {
-      PaintNamed(painter, number, box, "HORN", least);
-    } else if (number == bet::World) {
-      PaintNamed(painter, number, box, "WORLD", least);
-    } else if (number == bet::Over7) {
-      PaintNamed(painter, number, box, "OVER 7", least);
-    } else if (number == bet::Under7) {
-      PaintNamed(painter, number, box, "UNDER 7", least);
+    } else if (const QString name = NameOf(number); !name.isEmpty()) {
+      PaintNamed(painter, number, box, name, least);
     } else if (number >= bet::AllSmall && number <= bet::Fire && number != bet::Midway) {
       PaintPlate(painter, number, box, least);
     }
@@ -274,11 +297,12 @@ void PaintPropositionLettering(QPainter& painter, const TableLayout& layout, dou
 }
 
 void PaintLitLamps(QPainter& painter, const TableLayout& layout, double pixelsPerUnit) {
+  const double least = LeastLettering(pixelsPerUnit);
   for (const Region& region : layout.regions) {
     if (region.spot < bet::AllSmall || region.spot > bet::Fire || LampsOf(region.spot).isEmpty())
       continue;
-    const PlateParts parts = PartsOfPlate(region.outline.boundingRect(), true);
-    PaintLamps(painter, parts.lamps, region.spot, LeastLettering(pixelsPerUnit), true);
+    const PlateParts parts = PartsOfPlate(region.outline.boundingRect(), true, least);
+    PaintLamps(painter, parts.lamps, region.spot, least, true);
   }
 }
 

@@ -40,26 +40,25 @@ QPainterPath FeltOutline() {
   return Rounded(FeltArea(), FeltBend);
 }
 
-// Textures are seen at the size of the table, not of the screen.
-QBrush PartBrush(TexturedPart part, int index, double size) {
+// What of `outer` lies outside of `inner`.
+QPainterPath Ring(const QPainterPath& outer, const QPainterPath& inner) {
+  QPainterPath ring = outer;
+  ring.addPath(inner);
+  ring.setFillRule(Qt::OddEvenFill);
+  return ring;
+}
+
+// Cloth has its grain at the size of the screen's pixels: there it is finest, and drawn fastest.
+QBrush ClothBrush(TexturedPart part, int index, double pixelsPerUnit) {
   QBrush brush = TextureBrush(TextureInForce(part), ColourOfTable(index));
-  brush.setTransform(QTransform::fromScale(size, size));
+  brush.setTransform(QTransform::fromScale(1 / pixelsPerUnit, 1 / pixelsPerUnit));
   return brush;
 }
 
-void PaintFloor(QPainter& painter) {
-  // The floor goes on beyond the drawing where the window is of another shape.
-  const QRectF room(-LayoutWidth, -LayoutWidth, 3 * LayoutWidth, 2 * LayoutWidth + LayoutHeight);
-  painter.fillRect(room, PartBrush(TexturedPart::Floor, colour::Floor, 1));
-  QRadialGradient dusk(QPointF(Middle, LayoutHeight / 2), LayoutWidth * 0.62);
-  dusk.setColorAt(0.7, QColor(0, 0, 0, 40));
-  dusk.setColorAt(1, QColor(0, 0, 0, 150));
-  painter.fillRect(room, dusk);
-}
-
-// A soft edge along an outline: strokes that grow wider and fainter. Clipped by the caller.
+// A soft edge along an outline: strokes that grow wider and fainter to both sides. What shall not
+// show them is painted later.
 void PaintSoftEdge(QPainter& painter, const QPainterPath& outline, QColor tint, double width) {
-  constexpr int Steps = 6;
+  constexpr int Steps = 4;
   tint.setAlphaF(tint.alphaF() / Steps);
   painter.setBrush(Qt::NoBrush);
   for (int k = 1; k <= Steps; ++k) {
@@ -68,29 +67,72 @@ void PaintSoftEdge(QPainter& painter, const QPainterPath& outline, QColor tint, 
   }
 }
 
-void PaintWood(QPainter& painter) {
-  const QPainterPath wood = WoodOutline();
-  painter.save();
-  PaintSoftEdge(painter, wood.translated(0, 5), QColor(0, 0, 0, 170), 16);
-  const QBrush along = PartBrush(TexturedPart::RailOutside, colour::RailOutside, 1);
-  QBrush down = along;
-  down.setTransform(QTransform().rotate(90));
-  painter.fillPath(wood, along);
-  // The boards of the ends run the other way and meet the others in the middle of the bend.
-  constexpr double Meeting = 190;
-  for (const bool right : {false, true}) {
-    QPainterPath end;
-    const double edge = MirroredX(0, right), inside = MirroredX(Meeting, right);
-    end.addPolygon(QPolygonF(
-        {{edge, 0}, {inside, Meeting}, {inside, LayoutHeight - Meeting}, {edge, LayoutHeight}}));
-    end.closeSubpath();
-    painter.fillPath(wood.intersected(end), down);
+// The table is painted from the felt outwards, so that each part hides how the shadows on the one
+// inside of it run out.
+void PaintFelt(QPainter& painter, double pixelsPerUnit) {
+  painter.fillRect(FeltArea(), ClothBrush(TexturedPart::Felt, colour::Felt, pixelsPerUnit));
+  // A lamp hangs over the stick.
+  QRadialGradient lamp(QPointF(Middle, 420), 1150);
+  lamp.setColorAt(0, QColor(255, 255, 255, 16));
+  lamp.setColorAt(0.45, QColor(255, 255, 255, 0));
+  lamp.setColorAt(1, QColor(0, 0, 0, 84));
+  painter.fillRect(FeltArea(), lamp);
+  PaintSoftEdge(painter, FeltOutline().translated(0, 3), QColor(0, 0, 0, 190), 15);
+}
+
+void PaintPadding(QPainter& painter) {
+  const QPainterPath pad = PadOutline();
+  QBrush leather =
+      TextureBrush(TextureInForce(TexturedPart::RailInside), ColourOfTable(colour::RailInside));
+  leather.setTransform(QTransform::fromScale(0.6, 0.6));
+  painter.fillPath(Ring(pad, FeltOutline()), leather);
+  PaintSoftEdge(painter, pad, QColor(0, 0, 0, 170), 10);
+  // The round of the padding catches the light of the lamp along its middle.
+  const QRectF middle = MirroredArea((PadLeft + FeltLeft) / 2, (PadTop + FeltTop) / 2, 895);
+  painter.setBrush(Qt::NoBrush);
+  for (const double width : {13.0, 8.0, 3.5}) {
+    painter.setPen(QPen(QColor(255, 255, 255, 22), width));
+    painter.drawPath(Rounded(middle, FeltBend + 13));
   }
-  painter.setClipPath(wood);
-  PaintSoftEdge(painter, wood, QColor(0, 0, 0, 150), 9);
+}
+
+// The boards of an end run the other way and meet those of the sides in the middle of the bend.
+QPainterPath BoardsOfEnd(bool right) {
+  constexpr double Meeting = 190;
+  const double edge = MirroredX(0, right), inside = MirroredX(Meeting, right);
+  QPainterPath end;
+  end.addPolygon(QPolygonF(
+      {{edge, 0}, {inside, Meeting}, {inside, LayoutHeight - Meeting}, {edge, LayoutHeight}}));
+  end.closeSubpath();
+  return Ring(WoodOutline(), PadOutline()).intersected(end);
+}
+
+void PaintWood(QPainter& painter) {
+  static const QPainterPath boards = Ring(WoodOutline(), PadOutline());
+  static const std::array<QPainterPath, 2> ends = {BoardsOfEnd(false), BoardsOfEnd(true)};
+  QBrush wood =
+      TextureBrush(TextureInForce(TexturedPart::RailOutside), ColourOfTable(colour::RailOutside));
+  painter.fillPath(boards, wood);
+  wood.setTransform(QTransform().rotate(90));
+  for (const QPainterPath& end : ends)
+    painter.fillPath(end, wood);
+  PaintSoftEdge(painter, PadOutline(), QColor(0, 0, 0, 120), 6);
   painter.setPen(QPen(QColor(255, 255, 255, 46), 2));
-  painter.drawPath(Rounded(MirroredArea(WoodLeft + 4, WoodTop + 4, WoodBottom - 4), 232));
-  painter.restore();
+  painter.drawPath(Rounded(MirroredArea(WoodLeft + 5, WoodTop + 5, WoodBottom - 5), 231));
+}
+
+void PaintFloor(QPainter& painter, double pixelsPerUnit) {
+  // The floor goes on beyond the drawing where the window is of another shape.
+  const QRectF room(-LayoutWidth, -LayoutWidth, 3 * LayoutWidth, 2 * LayoutWidth + LayoutHeight);
+  QPainterPath walls;
+  walls.addRect(room);
+  const QPainterPath floor = Ring(walls, WoodOutline());
+  painter.fillPath(floor, ClothBrush(TexturedPart::Floor, colour::Floor, pixelsPerUnit));
+  QRadialGradient dusk(QPointF(Middle, LayoutHeight / 2), LayoutWidth * 0.62);
+  dusk.setColorAt(0.7, QColor(0, 0, 0, 40));
+  dusk.setColorAt(1, QColor(0, 0, 0, 150));
+  painter.fillPath(floor, dusk);
+  PaintSoftEdge(painter, WoodOutline().translated(0, 2), QColor(0, 0, 0, 190), 9);
 }
 
 // The two grooves for checks along the players' side, from the end to the stick.
@@ -129,38 +171,6 @@ void PaintBowl(QPainter& painter) {
   painter.drawRoundedRect(bowl, radius, radius);
 }
 
-void PaintPadding(QPainter& painter) {
-  const QPainterPath pad = PadOutline();
-  painter.save();
-  PaintSoftEdge(painter, pad, QColor(0, 0, 0, 120), 7);
-  painter.fillPath(pad, PartBrush(TexturedPart::RailInside, colour::RailInside, 0.6));
-  painter.setClipPath(pad);
-  PaintSoftEdge(painter, pad, QColor(0, 0, 0, 170), 10);
-  // The round of the padding catches the light of the lamp along its middle.
-  const QRectF middle = MirroredArea((PadLeft + FeltLeft) / 2, (PadTop + FeltTop) / 2, 895);
-  painter.setBrush(Qt::NoBrush);
-  for (const double width : {13.0, 8.0, 3.5}) {
-    painter.setPen(QPen(QColor(255, 255, 255, 22), width));
-    painter.drawPath(Rounded(middle, FeltBend + 13));
-  }
-  painter.restore();
-}
-
-void PaintFelt(QPainter& painter) {
-  const QPainterPath felt = FeltOutline();
-  painter.save();
-  painter.fillPath(felt, PartBrush(TexturedPart::Felt, colour::Felt, 0.75));
-  // A lamp hangs over the stick.
-  QRadialGradient lamp(QPointF(Middle, 420), 1150);
-  lamp.setColorAt(0, QColor(255, 255, 255, 16));
-  lamp.setColorAt(0.45, QColor(255, 255, 255, 0));
-  lamp.setColorAt(1, QColor(0, 0, 0, 84));
-  painter.fillPath(felt, lamp);
-  painter.setClipPath(felt);
-  PaintSoftEdge(painter, felt.translated(0, 3), QColor(0, 0, 0, 190), 15);
-  painter.restore();
-}
-
 bool IsInsideNumberBox(int spot) {
   return spot >= 1 && spot < bet::PassLine;
 }
@@ -194,7 +204,7 @@ void PaintName(QPainter& painter, const TableLayout& layout, double least) {
 
 // The light over the point: on both boxes of the number.
 void PaintSpotlight(QPainter& painter) {
-  constexpr std::array<int, 4> Strength = {0, 46, 84, 130};
+  constexpr std::array<int, 4> Strength = {0, 34, 58, 84};
   if (!IsPointNumber(Table.Point) || Settings.Spotlight <= 0) return;
   const int strength = At(Strength, std::min(Settings.Spotlight, 3));
   for (const bool right : {false, true}) {
@@ -220,12 +230,12 @@ void PaintSpotlight(QPainter& painter) {
 void PaintTable(QPainter& painter, const TableLayout& layout, double pixelsPerUnit) {
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-  PaintFloor(painter);
+  PaintFelt(painter, pixelsPerUnit);
+  PaintPadding(painter);
   PaintWood(painter);
   PaintGrooves(painter);
   PaintBowl(painter);
-  PaintPadding(painter);
-  PaintFelt(painter);
+  PaintFloor(painter, pixelsPerUnit);
   PaintLines(painter, layout);
   PaintEndLettering(painter, layout, pixelsPerUnit);
   PaintPropositionLettering(painter, layout, pixelsPerUnit);

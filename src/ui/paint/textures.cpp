@@ -2,7 +2,6 @@
 
 #include <QHash>
 #include <QImage>
-#include <QPixmap>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -143,12 +142,12 @@ Texture TextureInForce(TexturedPart part) {
 }
 
 QBrush TextureBrush(Texture texture, const QColor& colour) {
-  static QHash<quint64, QPixmap> tiles;
+  static QHash<quint64, QImage> tiles;
   // Moving a colour bar makes a tile for every step of it.
   constexpr qsizetype MostTiles = 24;
   if (tiles.size() > MostTiles) tiles.clear();
-  QPixmap& tile = tiles[(static_cast<quint64>(texture) << 32) | colour.rgb()];
-  if (tile.isNull()) tile = QPixmap::fromImage(MakeTile(texture, colour));
+  QImage& tile = tiles[(static_cast<quint64>(texture) << 32) | colour.rgb()];
+  if (tile.isNull()) tile = MakeTile(texture, colour);
   return QBrush(tile);
 }
 
