@@ -432,8 +432,6 @@ void MainWindow::BuildMenus() {
   menus.Auto();
   menus.Window();
   menus.Help();
-  for (const MenuOfWindow& menu : menus_)
-    connect(menu.menu, &QMenu::aboutToShow, this, [this] { UpdateEntries(); });
   connect(players_, &QMenu::aboutToShow, this, [this] { ListPlayers(); });
 }
 

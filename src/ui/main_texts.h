@@ -8,17 +8,17 @@ namespace tessarel::texts {
 // clang-format off
 inline constexpr SixTexts
     // Menus
-    MenuGame = {"&Game", "&Juego", "&Spiel", "&Jeu", "&Oyun", "&Gioco"},
+    MenuGame = {"&Game", "&Partida", "&Spiel", "&Partie", "&Oyun", "&Gioco"},
     MenuPlayers = {"&Players", "Ju&gadores", "S&pieler", "Jo&ueurs", "O&yuncular", "G&iocatori"},
     MenuBets = {"&Bets", "&Apuestas", "&Wetten", "&Mises", "&Bahisler", "&Puntate"},
-    MenuDice = {"&Dice", "&Dados", "Wür&fel", "&Dés", "&Zarlar", "&Dadi"},
+    MenuDice = {"&Dice", "&Dados", "Wü&rfel", "&Dés", "&Zarlar", "&Dadi"},
     MenuView = {"&View", "&Ver", "&Ansicht", "&Affichage", "&Görünüm", "&Vista"},
     MenuOptions = {"&Options", "&Opciones", "&Optionen", "&Options", "&Seçenekler", "&Opzioni"},
-    MenuAuto = {"&Auto", "Au&to", "Au&tomatik", "Au&to", "&Otomatik", "&Auto"},
+    MenuAuto = {"&Auto", "Au&to", "Au&tomatik", "Au&to", "Oto&matik", "&Auto"},
     MenuWindow = {"&Window", "Ve&ntana", "&Fenster", "&Fenêtre", "&Pencere", "&Finestra"},
-    MenuHelp = {"&Help", "A&yuda", "&Hilfe", "&Aide", "&Yardim", "&Aiuto"},
+    MenuHelp = {"&Help", "A&yuda", "&Hilfe", "Aid&e", "Yar&dim", "Ai&uto"},
     // Game
-    GameNew = {"&New...", "&Nuevo...", "&Neu...", "&Nouveau...", "&Yeni...", "&Nuovo..."},
+    GameNew = {"&New...", "&Nueva...", "&Neu...", "&Nouvelle...", "&Yeni...", "&Nuovo..."},
     GameOpen = {"&Open...", "&Abrir...", "Ö&ffnen...", "&Ouvrir...", "&Aç...", "&Apri..."},
     GameSave = {"&Save", "&Guardar", "&Speichern", "&Enregistrer", "&Kaydet", "&Salva"},
     GameSaveAs = {"Save &As...", "Guardar &como...", "Speichern &unter...", "Enregistrer &sous...",

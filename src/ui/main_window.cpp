@@ -193,12 +193,12 @@ void MainWindow::PumpEvents() {
 
 void MainWindow::RefreshStatus() {
   bar_->Refresh();
+  UpdateEntries();
   setWindowTitle(Shown(GameFile.WindowTitle));
   ShowSmallWindows();
 }
 
 void MainWindow::RefreshAll() {
-  UpdateEntries();
   RefreshStatus();
   ShowHint();
 }
@@ -315,7 +315,6 @@ void MainWindow::RightClick() {
 
 void MainWindow::ShowPlayerMenu(int, QPoint at) {
   QMenu menu(this);
-  UpdateEntries();
   for (const char* name :
        {"mnuRenamePlayer", "mnuBuyIn", "mnuMovePlayer", "mnuRemovePlayer", "mnuPassDice"})
     menu.addAction(Entry(name));
@@ -462,7 +461,6 @@ bool MainWindow::HandleKey(QKeyEvent* event) {
 bool MainWindow::HandleTableKey(int key) {
   for (const PlainKey& plain : PlainKeys) {
     if (plain.key != key) continue;
-    UpdateEntries();
     Entry(plain.entry)->trigger();
     return true;
   }

@@ -83,8 +83,8 @@ TEST_F(WindowTest, ModesLastForOneClickAndTheRightButtonCancels) {
   ClickBet(bet::Place4);
   EXPECT_EQ(Table.BetWorking[4][bet::Place4], CalledOff);
   EXPECT_EQ(TablePlay.TableAction, ActionNormal);
-  Press(Qt::Key_F5);
-  Press(Qt::Key_Escape);  // with the pointer on the bet the command acts at once
+  // With the pointer on the bet the command acts at once, and tells the vig.
+  AnswerInTurn({Key(Qt::Key_Return)}, [&] { Press(Qt::Key_F5); });
   EXPECT_EQ(Bet(4, bet::Buy4), 10);
   // The Place area of a bought number is the bought bet.
   EXPECT_EQ(View().SpotUnder(View().PixelOf(4, bet::Place4)), bet::Buy4);
@@ -212,6 +212,7 @@ TEST_F(WindowTest, WhatAClickWillDoIsSaidBefore) {
   EXPECT_FALSE(come.possible);
   EXPECT_EQ(come.text, "You may not make a Come bet until a point is established.");
   EXPECT_EQ(Bet(4, bet::PassLine), 0) << "looking changes nothing";
+  Settings.Notices = 0;
   Table.Amount = 20;
   PlaceBet(4, bet::Buy4);
   Settings.InfoTipLevel = 4;

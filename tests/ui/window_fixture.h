@@ -17,7 +17,7 @@
 #include "base/message.h"
 #include "base/temporary_folder.h"
 #include "config/settings.h"
-#include "engine/rail.h"
+#include "engine/players.h"
 #include "engine/roll_driver.h"
 #include "engine/table.h"
 #include "files/game_views.h"
@@ -37,7 +37,8 @@ class WindowTest : public testing::Test {
   void Open() {
     window = std::make_unique<MainWindow>(folder.Path());
     window->Start();
-    QApplication::processEvents();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
 
   // The steps answer one dialog each, in the order in which they come up while `open` runs.
@@ -88,7 +89,7 @@ class WindowTest : public testing::Test {
   // Seats somebody without asking.
   void Seat(int place, const char* name, Money bankroll) {
     SeatPlayer(place, name, bankroll);
-    View().DrawTable();
+    FrontEnd.DrawTable();
   }
 
   TemporaryFolder folder;
