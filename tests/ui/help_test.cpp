@@ -94,6 +94,7 @@ class HelpWindowTest : public testing::Test {
     ShowHelp(nullptr, 30);
     window_ = Window();
     ASSERT_NE(window_, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_));
     page_ = window_->findChild<QTextBrowser*>();
     topics_ = window_->findChild<QListWidget*>();
     find_ = window_->findChild<QLineEdit*>();
@@ -130,8 +131,8 @@ TEST_F(HelpWindowTest, GoesWhereItIsSentAndBack) {
   EXPECT_EQ(topics_->currentRow(), 0);
   topics_->setCurrentRow(2);
   EXPECT_EQ(page_->documentTitle(), topics_->item(2)->text());
-  page_->backward();
-  page_->backward();
+  QTest::keyClick(topics_, Qt::Key_Left, Qt::AltModifier);
+  QTest::keyClick(page_, Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(page_->documentTitle(), first);
   EXPECT_EQ(Marked(), first);
   page_->setSource(QUrl("file:///etc/passwd"));

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QTextCursor>
@@ -145,6 +146,10 @@ HelpWindow::HelpWindow()
   find_->installEventFilter(this);
   connect(back_, &QToolButton::clicked, page_, &QTextBrowser::backward);
   connect(forward_, &QToolButton::clicked, page_, &QTextBrowser::forward);
+  new QShortcut(
+      Qt::ALT | Qt::Key_Left, page_, [this] { page_->backward(); }, Qt::WindowShortcut);
+  new QShortcut(
+      Qt::ALT | Qt::Key_Right, page_, [this] { page_->forward(); }, Qt::WindowShortcut);
   connect(page_, &QTextBrowser::backwardAvailable, back_, &QWidget::setEnabled);
   connect(page_, &QTextBrowser::forwardAvailable, forward_, &QWidget::setEnabled);
   // The browser's own source still is the page before.
@@ -321,7 +326,7 @@ void HelpWindow::BringUp(QWidget* asker) {
 
 // --- Events ------------------------------------------------------------------------------------
 
-// Keys are taken here rather than as shortcuts, which a hot key of the table would take away.
+// Ctrl+F is taken here rather than as a shortcut, which a hot key of the table would take away.
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
   const bool finds = event->matches(QKeySequence::Find);
   if (finds) {
