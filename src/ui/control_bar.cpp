@@ -52,6 +52,17 @@ QIcon DiceIcon(int die1, int die2, double pixelRatio) {
   return QIcon(picture);
 }
 
+// A button's caption on two lines, so that both buttons leave room for the rest of the bar.
+QString InTwoLines(std::string_view caption) {
+  QString text = Shown(caption);
+  const auto space = text.indexOf(' ');
+  return space < 0 ? text : text.replace(space, 1, '\n');
+}
+
+QString DrivingCaption(int64_t rate) {
+  return Shown(GetText(114)) + "\n" + Shown(FillIn(texts::RollsASecond, {Count(rate)}));
+}
+
 QString PointText() {
   return Table.Point == 0 ? Shown(texts::ComeOut)
                           : Shown(FillIn(texts::PointIs, {std::to_string(Table.Point)}));
@@ -206,16 +217,14 @@ void ControlBar::SetCaptions() {
   checks_->setAccessibleName(Shown(texts::ChecksName));
   enterBet_->setAccessibleName(Shown(texts::KeyedAmountName));
   // The buttons keep the width of their longest caption, so that nothing moves when play starts.
-  const auto widest = [](QPushButton* button, std::initializer_list<int> ids, const QString& more) {
-    int width = button->fontMetrics().horizontalAdvance(more);
-    for (const int id : ids) {
-      const QString caption = WithoutMark(Shown(GetText(id)));
-      width = std::max(width, button->fontMetrics().horizontalAdvance(caption));
-    }
+  const auto widest = [](QPushButton* button, std::initializer_list<QString> captions) {
+    int width = 0;
+    for (const QString& caption : captions)
+      width = std::max(width, button->fontMetrics().size(0, WithoutMark(caption)).width());
     button->setFixedWidth(width + 28);
   };
-  widest(autoRoll_, {115, 117}, {});
-  widest(hyperDrive_, {112, 114}, Shown(FillIn(texts::RollsASecond, {"99,999,999"})));
+  widest(autoRoll_, {InTwoLines(GetText(115)), InTwoLines(GetText(117))});
+  widest(hyperDrive_, {InTwoLines(GetText(112)), DrivingCaption(99'999'999)});
   counts_->setMinimumWidth(counts_->fontMetrics().horizontalAdvance(
       Shown(FillIn(texts::Counts, {"9,999,999", "999,999"}))));
   Refresh();
@@ -240,10 +249,8 @@ void ControlBar::Refresh() {
   roll_->setEnabled(TableIsIdle());
   autoRoll_->setEnabled(!hyper);
   hyperDrive_->setEnabled(!autoRoll);
-  autoRoll_->setText(Shown(AutoRollCaption()));
-  QString drive = Shown(HyperDriveCaption());
-  if (hyper) drive += "\n" + Shown(FillIn(texts::RollsASecond, {Count(RollsASecond())}));
-  hyperDrive_->setText(drive);
+  autoRoll_->setText(InTwoLines(AutoRollCaption()));
+  hyperDrive_->setText(hyper ? DrivingCaption(RollsASecond()) : InTwoLines(HyperDriveCaption()));
   enterBet_->setVisible(IsOn(TableOption::KeyInBetAmounts) || !TablePlay.EnteredAmount.empty());
   enterBet_->setText(TablePlay.EnteredAmount.empty() ? QString()
                                                      : "$" + Shown(TablePlay.EnteredAmount));

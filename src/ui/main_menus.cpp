@@ -322,7 +322,8 @@ void MainMenus::Notices() {
     const auto shown = [bit] { return (Settings.Notices & bit) != 0; };
     const std::string name = "chkNotify" + std::to_string(row);
     Add(
-        name.c_str(), NoticeRows.at(row).Caption, "", [bit, shown] { SetNotice(bit, !shown()); }, {}, shown);
+        name.c_str(), NoticeRows.at(row).Caption, "", [bit, shown] { SetNotice(bit, !shown()); },
+        {}, shown);
   }
   menu = outer;
 }
@@ -457,6 +458,45 @@ void MainWindow::UpdateEntries() {
   }
 }
 
+namespace {
+
+// The letters of a caption that its shortcut mark may stand before: its own first, then those that
+// begin words, then all others.
+std::vector<int> MarkPositions(const QString& caption) {
+  std::vector<int> positions;
+  const QString plain = WithoutMark(caption);
+  const auto own = static_cast<int>(caption.indexOf('&'));
+  if (own >= 0) positions.push_back(own);
+  for (const bool starts : {true, false}) {
+    for (int k = 0; k < plain.size() && plain[k] != '\t'; ++k) {
+      const bool isStart = k == 0 || plain[k - 1] == ' ';
+      if (isStart == starts && plain[k].isLetterOrNumber()) positions.push_back(k);
+    }
+  }
+  return positions;
+}
+
+// Every entry of a menu gets a shortcut letter that no other one has, its own mark if it can.
+void GiveShortcutLetters(const QMenu& menu) {
+  constexpr QChar Mark(1);
+  QString used;
+  for (QAction* action : menu.actions()) {
+    const QString caption = action->text();
+    if (caption.isEmpty()) continue;
+    QString plain = WithoutMark(caption);
+    for (const int position : MarkPositions(caption)) {
+      const QChar letter = plain[position].toLower();
+      if (used.contains(letter)) continue;
+      used += letter;
+      plain.insert(position, Mark);
+      break;
+    }
+    action->setText(plain.replace('&', "&&").replace(Mark, '&'));
+  }
+}
+
+}  // namespace
+
 void MainWindow::SetCaptions() {
   for (const MenuOfWindow& menu : menus_)
     menu.menu->setTitle(Shown(*menu.caption));
@@ -469,6 +509,8 @@ void MainWindow::SetCaptions() {
     }
     entry.action->setText(caption + entry.action->property("shownKeys").toString());
   }
+  for (const MenuOfWindow& menu : menus_)
+    GiveShortcutLetters(*menu.menu);
   bar_->SetCaptions();
 }
 

@@ -275,27 +275,23 @@ std::string StateText(int place, int number) {
   }
 }
 
-std::string TipAmount(Money amount) {
-  return FormatNumber(amount, "#,0.####");
-}
-
 // What goes with a standing bet besides its amount.
 void AddCompanions(std::string& tip, int place, int number) {
   const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
   if (lay || buy) {
     const auto& vigs = lay ? At(Table.LayVig, place) : At(Table.BuyVig, place);
-    tip +=
-        "\r" + std::string(Localized(texts::Vig)) + TipAmount(At(vigs, (number - 1) % FamilySize));
+    tip += "\r" + std::string(Localized(texts::Vig)) +
+           FormatExact(At(vigs, (number - 1) % FamilySize));
   }
   const bool line = number == bet::PassLine || number == bet::DontPass;
   if (line && HasBet(place, number + 1)) {
-    tip += "\r" + std::string(Localized(texts::TipOdds)) + TipAmount(Bet(place, number + 1));
+    tip += "\r" + std::string(Localized(texts::TipOdds)) + FormatExact(Bet(place, number + 1));
   }
   tip += "\r" + std::string(TrimSpaces(StateText(place, number)));
 }
 
 std::string FullTip(int place, int number) {
-  std::string tip = SpotName(number) + ": " + TipAmount(Bet(place, number));
+  std::string tip = SpotName(number) + ": " + FormatExact(Bet(place, number));
   if (!IsBet(number)) return tip;
   if (HasBet(place, number)) AddCompanions(tip, place, number);
   return tip + "\r" + std::string(TrimSpaces(PayoffText(number)));
@@ -519,11 +515,11 @@ std::string InfoTipOf(int spot) {
   const Money amount = Bet(place, number);
   switch (Settings.InfoTipLevel) {
     case 1:
-      return amount == Money() ? std::string() : TipAmount(amount);
+      return amount == Money() ? std::string() : FormatExact(amount);
     case 2:
       return SpotName(number);
     case 3:
-      return SpotName(number) + ": " + TipAmount(amount);
+      return SpotName(number) + ": " + FormatExact(amount);
     case 4:
       return FullTip(place, number);
     default:

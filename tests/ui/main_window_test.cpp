@@ -286,7 +286,7 @@ std::vector<std::string> ClashesIn(const QMenu& menu) {
   std::vector<std::string> clashes;
   std::set<QString> used;
   for (const QAction* action : menu.actions()) {
-    if (action->isSeparator()) continue;
+    if (action->isSeparator() || action->text().isEmpty()) continue;
     const QString key = QKeySequence::mnemonic(action->text()).toString();
     if (key.isEmpty() || !used.insert(key).second)
       clashes.push_back(Typed(menu.title() + " > " + action->text()));

@@ -73,6 +73,9 @@ class WindowTest : public testing::Test {
 
   TableView& View() { return *window->View(); }
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    // Without a window manager a closed dialog leaves no window active.
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QTest::keyClick(&View(), key, modifiers);
   }
   void Click(QPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
