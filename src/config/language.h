@@ -36,13 +36,13 @@ using SixTexts = std::array<std::string_view, LanguageCount>;
 // The variant in the language in force.
 std::string_view Localized(const SixTexts& texts);
 
-// The same as a string of its own.
-std::string LocalizedText(const SixTexts& texts);
-
 // `text` with "%1" to "%9" replaced by the values in their order; a mark without a value goes.
 std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values);
 std::string FillIn(std::string_view text, std::string_view first, std::string_view second = {});
 std::string FillIn(const SixTexts& texts, std::initializer_list<std::string_view> values);
+
+// The variant in the language in force as a string of its own.
+std::string LocalizedText(const SixTexts& texts);
 
 // Puts a language in force (outside 0 to 5: English) together with the title of fault reports.
 void SetLanguage(int32_t language);
