@@ -12,6 +12,7 @@
 #include "base/record_file.h"
 #include "config/settings.h"
 #include "dice/generators.h"
+#include "dice/popup_roll.h"
 #include "engine/bets.h"
 #include "engine/players.h"
 #include "engine/roll_driver.h"
@@ -68,6 +69,7 @@ void Play(const uint8_t* data, size_t size) {
   OpenGame(Name);
   RequireNone(CheckTable());
   RequireNone(CheckBooks());
+  ClosePopupRoll();  // which would be waited for
   Settings.BetNeededToShoot = 0;
   Settings.Throttle = 0;
   for (int roll = 0; roll < Rolls; ++roll)

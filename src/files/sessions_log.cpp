@@ -140,6 +140,14 @@ std::vector<Session> ReadSessions(const std::string& name) {
   return sessions;
 }
 
+bool EndsWithSession(const std::string& name, const Record& record) {
+  const int32_t last = CountSessions(name);
+  if (last == 0) return false;
+  std::string bytes;
+  CopySessions(name, last, last, [&bytes](std::string_view part) { bytes += part; });
+  return bytes == BytesOf(record);
+}
+
 Record SessionRecord(int place) {
   Record record;
   const Session session = SessionSoFar(place);

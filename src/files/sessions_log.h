@@ -39,6 +39,9 @@ int32_t CountSessions(const std::string& name);
 // MaxSessionsRead sessions raise the file access fault.
 std::vector<Session> ReadSessions(const std::string& name);
 
+// Whether the last session of a log has this record. File faults.
+bool EndsWithSession(const std::string& name, const Record& record);
+
 // The record of a place's session as it stands: its figures, then its first 20 check stacks.
 Record SessionRecord(int place);
 

@@ -18,6 +18,7 @@
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 #include "engine/table.h"
+#include "files/sessions_log.h"
 
 namespace tessarel {
 namespace {
@@ -564,11 +565,22 @@ TEST_F(Sim, EverySessionGoesIntoTheLogOfEachPlayerIfLogsAreAskedFor) {
     for (const auto* log : {"new/logs/ann b.slg", "new/logs/c.slg"})
       EXPECT_EQ(Read(log).size(), 256 * (sessions + 1));
   }
-  // Going on with a game adds a session only when it rolls.
+  // Going on with a game logs its session anew when it rolls, as a whole.
   Run(run + " --save a.tsg --sessions-log saved");
-  for (const auto& [rolls, sessions] : {std::pair{"0", 3}, {"5", 4}}) {
-    EXPECT_EQ(Run(std::string("run a.tsg --sessions-log saved --rolls ") + rolls).status, 0);
-    EXPECT_EQ(Read("saved/c.slg").size(), 256u * static_cast<size_t>(sessions + 1));
+  const std::pair<const char*, std::vector<int>> continued[] = {
+      {"a.tsg --rolls 0", {20, 20, 20}},
+      {"a.tsg --rolls 5 --save b.tsg", {20, 20, 25}},
+      {"b.tsg --new --rolls 2", {20, 20, 25, 2}},
+      {"a.tsg --rolls 6", {20, 20, 25, 2, 26}},
+  };
+  for (const auto& [arguments, rolls] : continued) {
+    EXPECT_EQ(Run(std::string("run --quiet --sessions-log saved ") + arguments).status, 0);
+    for (const auto* log : {"saved/ann b.slg", "saved/c.slg"}) {
+      std::vector<int> logged;
+      for (const Session& session : ReadSessions(Path(log)))
+        logged.push_back(static_cast<int>(session[SessionRolls].Floor()));
+      EXPECT_EQ(logged, rolls) << log << " " << arguments;
+    }
   }
   Write("new/logs/c.slg", "precious");
   const Outcome refused = Run(run + " --sessions-log new/logs");

@@ -323,11 +323,13 @@ void RunCommand(const RunOptions& options) {
   UseSessionsLogs(options.sessionsLog);
   SetUp(options);
   CheckSessionsLogs(options);
+  const auto continued = SessionsLoggedBefore();
   Recording recording(options.record);
   OpenEventsLog(options.eventsLog);
   const RunFacts facts = Play(options, recording);
   // A session of the game that this run has not gone on with was the last one of another run.
   if (Session.Rolls() > 0) LogLastSession();
+  RemoveContinued(continued);
   WriteResults(options, facts, recording);
   ShutDown();
 }

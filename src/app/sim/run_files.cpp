@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <vector>
 
 #include "app/sim/failure.h"
 #include "base/fault.h"
@@ -15,6 +14,7 @@
 #include "engine/table.h"
 #include "files/events_log.h"
 #include "files/sessions_log.h"
+#include "stats/store.h"
 
 namespace tessarel::sim {
 
@@ -169,6 +169,26 @@ void LogLastSession() {
     WithFile("sessions log", SessionsLogNameOf(place), "cannot be continued",
              [place] { WriteSession(place); });
   });
+}
+
+std::vector<LoggedSession> SessionsLoggedBefore() {
+  std::vector<LoggedSession> sessions;
+  if (SessionsLog.KeepLogs == 0 || RollsInSession() == 0) return sessions;
+  ForEachPlayer([&sessions](int place) {
+    const std::string& log = SessionsLogNameOf(place);
+    WithFile("sessions log", log, "cannot be continued", [&] {
+      if (EndsWithSession(log, SessionRecord(place))) sessions.push_back({log, CountSessions(log)});
+    });
+  });
+  return sessions;
+}
+
+void RemoveContinued(const std::vector<LoggedSession>& sessions) {
+  for (const auto& [log, number] : sessions) {
+    WithFile("sessions log", log, "cannot be continued", [&log = log, number = number] {
+      if (CountSessions(log) > number) DeleteSessions(log, number, number);
+    });
+  }
 }
 
 Recording::Recording(const std::string& name) : name_(name) {

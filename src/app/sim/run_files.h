@@ -2,8 +2,10 @@
 // be read or written is told before the first roll, with the file's name.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "app/sim/run_options.h"
 
@@ -34,6 +36,16 @@ void UseSessionsLogs(const std::string& folder);
 void CheckSessionsLogs(const RunOptions& options);
 // Adds the session that has just been played.
 void LogLastSession();
+
+// The records in the logs of a session that is gone on with, as the run that saved it has left
+// them: the last ones, if they tell what the table tells. To be found before the first roll. When
+// the session has been added anew, as a whole, they are taken out.
+struct LoggedSession {
+  std::string log;
+  int32_t number;
+};
+std::vector<LoggedSession> SessionsLoggedBefore();
+void RemoveContinued(const std::vector<LoggedSession>& sessions);
 
 // Records to a file beside the named one, which takes its place when the run is done. Without a
 // name nothing is recorded and nothing here does anything.
