@@ -1,5 +1,7 @@
 // The desktop program: sets the core up, shows the table and leaves in order.
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 
 #include "app/session.h"
@@ -19,6 +21,14 @@ std::string CommandLine() {
   return QCoreApplication::arguments().mid(1).join(' ').toStdString();
 }
 
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const QFileInfo& picture :
+       QDir(QString::fromStdString(tessarel::DataFolder() + "/icons")).entryInfoList({"*.png"}))
+    icon.addFile(picture.filePath());
+  return icon;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -26,7 +36,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Tessarel");
   QApplication::setDesktopFileName("tessarel");
-  QApplication::setWindowIcon(QIcon(QString::fromStdString(DataFolder() + "/icons/tessarel.svg")));
+  QApplication::setWindowIcon(ProgramIcon());
   ApplyCasinoStyle();
 
   const std::string folder = ProgramFolder();
