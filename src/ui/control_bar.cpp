@@ -236,6 +236,11 @@ void ControlBar::ShowState() {
   counts_->setText(Shown(FillIn(texts::Counts, {Count(RollsInSession()), Count(hands)})));
 }
 
+void ControlBar::ShowRun() {
+  ShowState();
+  hyperDrive_->setText(DrivingCaption(RollsASecond()));
+}
+
 void ControlBar::Refresh() {
   const bool hyper = Table.HyperDriveOn != 0;
   const bool autoRoll = Table.AutoRollOn != 0 && !hyper;

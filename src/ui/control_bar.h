@@ -38,6 +38,8 @@ class ControlBar : public QWidget {
 
   // Brings everything in step with the table; cheap enough for every roll that is seen.
   void Refresh();
+  // The figures of a run of the Hyper-Drive; all else stands still meanwhile.
+  void ShowRun();
   // The captions in the language in force.
   void SetCaptions();
   void ShowHint(const QString& text, bool possible);

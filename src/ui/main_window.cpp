@@ -37,7 +37,7 @@ namespace tessarel {
 namespace {
 
 constexpr int LeastWidth = 1024, LeastHeight = 700;
-constexpr qint64 PumpEveryNs = 16'000'000;
+constexpr qint64 PumpEveryNs = 16'000'000, FiguresEveryMs = 120;
 
 // The window of the program, for the core's callbacks.
 MainWindow* Main = nullptr;
@@ -94,6 +94,7 @@ MainWindow::MainWindow(const std::string& appFolder)
   OpenHelpTopic = [this](int32_t topic) { ShowHelp(this, topic); };
   qApp->installEventFilter(this);
   sincePump_.start();
+  sinceFigures_.start();
 }
 
 MainWindow::~MainWindow() {
@@ -183,7 +184,10 @@ void MainWindow::PumpEvents() {
     batch_ *= 2;
     untilLook_ = batch_;
     if (sincePump_.nsecsElapsed() < PumpEveryNs) return;
-    bar_->Refresh();
+    if (sinceFigures_.elapsed() >= FiguresEveryMs) {
+      bar_->ShowRun();
+      sinceFigures_.restart();
+    }
     QCoreApplication::processEvents();
     sincePump_.restart();
     batch_ = untilLook_ = 1;

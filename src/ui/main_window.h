@@ -100,7 +100,7 @@ class MainWindow : public QMainWindow {
   QMenu* players_ = nullptr;
   std::vector<QAction*> playerEntries_;
   QPointer<QWidget> moveWindow_;
-  QElapsedTimer sincePump_;
+  QElapsedTimer sincePump_, sinceFigures_;
   int64_t batch_ = 1, untilLook_ = 1;
   bool thrown_ = false;
 };
