@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <cstdio>
+#include <string_view>
 
 #include "app/session.h"
 #include "base/front_end.h"
@@ -29,10 +31,28 @@ QIcon ProgramIcon() {
   return icon;
 }
 
+// What a shell may ask before there is a window. Returns whether that was all.
+bool AnswersShell(int argc, char** argv) {
+  const std::string_view word = argc == 2 ? argv[1] : "";
+  if (word == "--version") {
+    std::puts("Tessarel " TESSAREL_VERSION);
+  } else if (word == "--help" || word == "-h") {
+    std::puts(
+        "Usage: tessarel [GAME.tsg]\n"
+        "Opens the craps table: the game named, else the one of the last time.\n\n"
+        "TESSAREL_HOME names the folder of what the program writes. The table without a window is\n"
+        "tessarel-sim.");
+  } else {
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace tessarel;
+  if (AnswersShell(argc, argv)) return 0;
   QApplication application(argc, argv);
   QApplication::setApplicationName("Tessarel");
   QApplication::setDesktopFileName("tessarel");

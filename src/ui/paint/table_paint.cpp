@@ -10,6 +10,7 @@
 #include "ui/paint/contrast.h"
 #include "ui/paint/felt_lettering.h"
 #include "ui/paint/textures.h"
+#include "ui/program_folders.h"
 #include "ui/table_colours.h"
 
 namespace tessarel {
@@ -276,7 +277,7 @@ QColor ColourOfTable(int index) {
 QFont LayoutFont(double units) {
   static const QString family = [] {
     const int id = QFontDatabase::addApplicationFont(
-        QStringLiteral(TESSAREL_DATA "/fonts/texgyreschola-bold.otf"));
+        QString::fromStdString(DataFolder() + "/fonts/texgyreschola-bold.otf"));
     const QStringList families = QFontDatabase::applicationFontFamilies(id);
     return families.isEmpty() ? QStringLiteral("serif") : families.first();
   }();
