@@ -14,6 +14,7 @@
 #include "config/settings.h"
 #include "engine/table.h"
 #include "ui/paint/check_paint.h"
+#include "ui/program_folders.h"
 #include "ui/sound/sound_lists.h"
 #include "ui/sound/sounds.h"
 
@@ -271,7 +272,8 @@ std::vector<int> Samples(const QString& path) {
 }
 
 TEST_F(Things, ShippedSoundsAreWholeAndNotClipped) {
-  QDirIterator files(TESSAREL_DATA "/sounds", QDir::Files, QDirIterator::Subdirectories);
+  QDirIterator files(QString::fromStdString(DataFolder() + "/sounds"), QDir::Files,
+                     QDirIterator::Subdirectories);
   qint64 total = 0;
   int count = 0;
   while (files.hasNext()) {
@@ -298,12 +300,12 @@ TEST_F(Things, ShippedSoundsAreWholeAndNotClipped) {
 }
 
 TEST_F(Things, FreshTableHasASoundOfEveryKind) {
-  LoadSounds(TESSAREL_DATA, "");
+  LoadSounds(DataFolder(), "");
   EXPECT_FALSE(SoundFiles(SoundKind::Dice, Settings.DiceSound).empty());
   EXPECT_FALSE(SoundFiles(SoundKind::Check, Settings.CheckSound).empty());
   EXPECT_FALSE(SoundFiles(SoundKind::Win, Settings.WinSound).empty());
   EXPECT_EQ(SoundFiles(SoundKind::StickPerson, Settings.StickPersonVoice).size(), 18U);
-  const SoundLists lists = ReadSoundLists({TESSAREL_DATA "/sounds"});
+  const SoundLists lists = ReadSoundLists({QString::fromStdString(DataFolder() + "/sounds")});
   for (const SoundEntry& person : lists.Of(SoundKind::StickPerson)) {
     for (int call = 1; call <= 18; ++call)
       EXPECT_FALSE(CallFile(person, call).isEmpty()) << call;
