@@ -157,11 +157,13 @@ void MainWindow::FillFrontEnd() {
 void MainWindow::Animate() {
   PlayTableSound(Sound::DiceThrown);
   thrown_ = true;
-  bar_->RollButton()->setEnabled(false);
+  TablePlay.DiceInAir = true;
+  RefreshStatus();
   ShowDiceWindowIfUsed();
-  if (IsSmallShown(SmallWindowKind::Dice)) RefreshSmallWindow(diceWindow_);
   view_->AnimateDice();
+  TablePlay.DiceInAir = false;
   bar_->Refresh();
+  UpdateEntries();
 }
 
 // Once after a throw: whoever has won something hears it.
@@ -386,8 +388,7 @@ bool MainWindow::IsSmallShown(SmallWindowKind kind) const {
 }
 
 void MainWindow::ShowDiceWindowIfUsed() {
-  constexpr int32_t InWindow = 3;
-  ShowSmall(SmallWindowKind::Dice, Settings.DiceAction == InWindow);
+  if (Settings.DiceAction == DiceInWindow) ShowSmall(SmallWindowKind::Dice, true);
 }
 
 void MainWindow::ShowSmallWindows() {
@@ -419,7 +420,15 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  if (view_->IsAnimating() || !HandleKey(event)) QMainWindow::keyPressEvent(event);
+  if (!HandleKey(event)) QMainWindow::keyPressEvent(event);
+}
+
+// Tab belongs to a keyed amount, as Enter does.
+bool MainWindow::focusNextPrevChild(bool next) {
+  if (TablePlay.EnteredAmount.empty()) return QMainWindow::focusNextPrevChild(next);
+  ClickSpot(TablePlay.HotSpot);
+  RefreshAll();
+  return true;
 }
 
 namespace {
@@ -482,10 +491,6 @@ bool MainWindow::HandleTableKey(int key) {
       return true;
     case Qt::Key_Escape:
       if (!GiveUpSomething() && Table.AutoRollOn != 0) StopAutoRoll();
-      return true;
-    case Qt::Key_Tab:
-      if (TablePlay.EnteredAmount.empty()) return false;
-      ClickSpot(TablePlay.HotSpot);
       return true;
   }
   return HandleDigit(key);

@@ -20,6 +20,9 @@
 
 namespace tessarel {
 
+// The values of Settings.DiceAction.
+enum DiceActionValue : int32_t { DiceNormal, DiceStationary, DiceCenter, DiceInWindow };
+
 class TableView : public QWidget {
  public:
   explicit TableView(QWidget* parent = nullptr);
@@ -123,6 +126,7 @@ class TableView : public QWidget {
   double DiceSide() const;
   QRectF DiceArea() const;
   void PressLeft(QPoint pixel);
+  void PressRight();
   void ReleaseLeft(QPoint pixel, Qt::KeyboardModifiers modifiers);
   void KeepClickedPosition(int spot, QPoint pixel);
 

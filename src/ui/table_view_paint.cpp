@@ -61,10 +61,9 @@ bool MotionIsReduced() {
     const QString gtkWish = gtk.value("Settings/gtk-enable-animations", "1").toString().toLower();
     const QSettings kde(config + "kdeglobals", QSettings::IniFormat);
     const double kdeFactor = kde.value("KDE/AnimationDurationFactor", 1.0).toDouble();
-    return gtkWish == "0" || gtkWish == "false" || kdeFactor == 0 ||
-           qEnvironmentVariableIntValue("TESSAREL_REDUCED_MOTION") != 0;
+    return gtkWish == "0" || gtkWish == "false" || kdeFactor == 0;
   }();
-  return reduced;
+  return reduced || qEnvironmentVariableIntValue("TESSAREL_REDUCED_MOTION") != 0;
 }
 
 // --- Still things ------------------------------------------------------------------------------
@@ -232,13 +231,6 @@ void TableView::ShowerChecks() {
 
 // --- Dice --------------------------------------------------------------------------------------
 
-namespace {
-
-// The values of Settings.DiceAction.
-enum DiceActionValue : int32_t { DiceNormal, DiceStationary, DiceCenter, DiceInWindow };
-
-}  // namespace
-
 QPointF TableView::DiceStand() const {
   const bool centre = Settings.DiceAction == DiceCenter && (animating_ || centreDice_.isActive());
   return centre ? FeltArea().center() : DiceRest();
@@ -291,8 +283,11 @@ void TableView::AnimateDice() {
     if (Settings.DiceAction == DiceCenter) centreDice_.start(static_cast<int>(CentreMs));
     return update();
   }
+  // A press from before the throw means nothing after it.
+  pressed_ = dragging_ = panning_ = false;
   animating_ = true;
   dicePhase_ = 0;
+  if (DicePhaseChanged) DicePhaseChanged(dicePhase_);
   QEventLoop loop;
   QElapsedTimer time;
   time.start();
