@@ -399,8 +399,12 @@ void MainWindow::ShowSmallWindows() {
 }
 
 void MainWindow::ShowMoveWindow() {
-  if (moveWindow_ == nullptr) moveWindow_ = MakeMoveWindow(this, view_);
-  moveWindow_->setVisible(!moveWindow_->isVisible());
+  if (moveWindow_ != nullptr) {
+    moveWindow_->close();
+    return;
+  }
+  moveWindow_ = MakeMoveWindow(this, view_);
+  moveWindow_->show();
 }
 
 // --- Keys --------------------------------------------------------------------------------------
