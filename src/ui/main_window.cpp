@@ -216,6 +216,10 @@ void MainWindow::Start() {
   if (Table.BankrollStopPlace != 0) BankrollLimitStop(Table.BankrollStopPlace);
   Message.MsgText.clear();
   OfferUnfinishedTable();
+  if (!autosave_.CanWrite()) {
+    ShowMessage(FillIn(texts::FolderIsReadOnly, {std::string(Folders.AppFolder)}),
+                std::string(Localized(texts::FolderTitle)), msg::OkAlert);
+  }
   autosave_.Start([this] { return Table.RollInProgress == 0 && AutoBet.ScriptRunning == 0; });
 }
 

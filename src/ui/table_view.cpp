@@ -77,8 +77,10 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
     const QString text = Shown(InfoTipOf(TablePlay.HotSpot));
     if (!text.isEmpty()) QToolTip::showText(mapToGlobal(pointer_ + QPoint(14, 18)), text, this);
   });
-  centreDice_.setSingleShot(true);
-  connect(&centreDice_, &QTimer::timeout, this, [this] { update(); });
+  for (QTimer* shown : {&centreDice_, &call_}) {
+    shown->setSingleShot(true);
+    connect(shown, &QTimer::timeout, this, [this] { update(); });
+  }
 }
 
 // --- The picture -------------------------------------------------------------------------------

@@ -115,6 +115,8 @@ class TableView : public QWidget {
   void PaintPiles(QPainter& painter, const QRectF& area);
   void PaintMovingThings(QPainter& painter);
   void PaintDice(QPainter& painter);
+  void PaintCall(QPainter& painter) const;
+  void RestDice();
   void PaintFocus(QPainter& painter);
 
   void SetHotSpot(int spot);
@@ -142,7 +144,7 @@ class TableView : public QWidget {
   std::vector<Flight> flights_;
   std::vector<FallingCheck> shower_;
   QElapsedTimer clock_;
-  QTimer motion_, ring_, settleSize_, tip_, centreDice_;
+  QTimer motion_, ring_, settleSize_, tip_, centreDice_, call_;
   bool flash_ = false;
   int ringTicks_ = 0;
 
