@@ -31,6 +31,10 @@ Autosave::Autosave(const std::string& folder)
   owns_ = lock_->tryLock(0);
 }
 
+bool Autosave::CanWrite() const {
+  return lock_->error() != QLockFile::PermissionError && lock_->error() != QLockFile::UnknownError;
+}
+
 bool Autosave::FindsTable() const {
   return owns_ && FileExists(file_);
 }

@@ -16,6 +16,8 @@ class Autosave {
   // Keeps its file in `folder`, the program's.
   explicit Autosave(const std::string& folder);
 
+  // Whether the folder can be written, so that an orderly end can keep the table.
+  bool CanWrite() const;
   // Whether a table was left behind, and when it was saved in local time ("" without one).
   bool FindsTable() const;
   std::string TimeOfTable() const;

@@ -79,7 +79,7 @@ QString StateText() {
 // --- The checks --------------------------------------------------------------------------------
 
 CheckChooser::CheckChooser(QWidget* parent) : QWidget(parent) {
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);
   setMouseTracking(true);
   setFixedSize(sizeHint());
 }
@@ -199,6 +199,8 @@ ControlBar::ControlBar(QWidget* parent)
   for (QPushButton* button : {roll_, autoRoll_, hyperDrive_}) {
     button->setMinimumHeight(CheckSide);
     button->setAutoDefault(false);
+    // A click leaves the keys with the table.
+    button->setFocusPolicy(Qt::TabFocus);
   }
   hint_->setAlignment(Qt::AlignCenter);
   hint_->setMinimumWidth(60);
@@ -246,7 +248,7 @@ void ControlBar::Refresh() {
   const bool autoRoll = Table.AutoRollOn != 0 && !hyper;
   ShowState();
   const int die1 = Table.Die1 == 0 ? 3 : Table.Die1, die2 = Table.Die2 == 0 ? 4 : Table.Die2;
-  if (!hyper && (die1 != shownDie1_ || die2 != shownDie2_)) {
+  if (!hyper && !TablePlay.DiceInAir && (die1 != shownDie1_ || die2 != shownDie2_)) {
     shownDie1_ = die1;
     shownDie2_ = die2;
     roll_->setIcon(DiceIcon(die1, die2, devicePixelRatioF()));

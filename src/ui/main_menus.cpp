@@ -7,6 +7,7 @@
 #include <QWidgetAction>
 #include <functional>
 #include <initializer_list>
+#include <utility>
 
 #include "app/session.h"
 #include "autobet/values.h"
@@ -35,7 +36,7 @@ namespace {
 using Check = std::function<bool()>;
 
 bool HasPlayer() {
-  return CurrentPlace() != 0 && Table.HyperDriveOn == 0;
+  return CurrentPlace() != 0 && TableIsOpen();
 }
 
 bool NotDriving() {
@@ -52,7 +53,7 @@ void TellWhereToJoin() {
 
 // All odds of the current player at once.
 void FullOdds(void (*bet)(int)) {
-  if (CurrentPlace() == 0 || !ConfirmScriptActive()) return;
+  if (!HasPlayer() || !ConfirmScriptActive()) return;
   Table.TableDirty = -1;
   bet(CurrentPlace());
   FrontEnd.DrawTable();
@@ -188,7 +189,7 @@ void MainMenus::Players() {
   Add("mnuRemovePlayer", texts::PlayersRemove, "", RemoveCurrentPlayer, HasPlayer);
   Line();
   Add("mnuBuyIn", texts::PlayersBuyIn, "", BuyInCurrentPlayer, HasPlayer);
-  Add("mnuPassDice", texts::PlayersPassDice, "\tP", PassTheDice, NotDriving);
+  Add("mnuPassDice", texts::PlayersPassDice, "\tP", PassTheDice, TableIsOpen);
   Line();
   window.players_ = menu;
 }
@@ -238,15 +239,16 @@ void MainMenus::Dice() {
   Line();
   Choices(
       texts::DiceAction,
-      {{"mnuDiceNormal", &texts::DiceNormal, 0},
-       {"mnuDiceStationary", &texts::DiceStationary, 1},
-       {"mnuDiceCenter", &texts::DiceCenter, 2},
-       {"mnuDiceWindow", &texts::DiceWindowed, 3}},
+      {{"mnuDiceNormal", &texts::DiceNormal, DiceNormal},
+       {"mnuDiceStationary", &texts::DiceStationary, DiceStationary},
+       {"mnuDiceCenter", &texts::DiceCenter, DiceCenter},
+       {"mnuDiceWindow", &texts::DiceWindowed, DiceInWindow}},
       [] { return Settings.DiceAction; },
       [&w = window](int32_t action) {
-        Settings.DiceAction = action;
+        const int32_t before = std::exchange(Settings.DiceAction, action);
         Table.TableDirty = -1;
-        w.ShowDiceWindowIfUsed();
+        if (before == DiceInWindow || action == DiceInWindow)
+          w.ShowSmall(SmallWindowKind::Dice, action == DiceInWindow);
         FrontEnd.DrawTable();
       });
 }

@@ -171,6 +171,24 @@ inline constexpr SixTexts
                  "Tessarel %1\r\rUn tavolo di craps per imparare il gioco e scoprire che cosa fa "
                  "davvero un sistema di puntata."},
     // Messages
+    FolderTitle = {"Nothing is kept", "No se guarda nada", "Nichts wird aufbewahrt",
+                   "Rien n'est conservé", "Hiçbir sey saklanmiyor", "Nulla viene conservato"},
+    FolderIsReadOnly = {
+        "The table cannot be kept for the next time, because nothing can be written to the "
+        "folder\r%1\r\rTo keep it, use Save As on the Game menu and choose another folder.",
+        "La mesa no se puede guardar para la próxima vez, porque no se puede escribir en la "
+        "carpeta\r%1\r\rPara conservarla, use Guardar como en el menú Partida y elija otra carpeta.",
+        "Der Tisch kann nicht für das nächste Mal aufbewahrt werden, weil in diesen Ordner nicht "
+        "geschrieben werden kann:\r%1\r\rMit \"Speichern unter\" im Menü Spiel können Sie ihn in "
+        "einem anderen Ordner speichern.",
+        "La table ne peut pas être conservée pour la prochaine fois, car rien ne peut être écrit "
+        "dans le dossier\r%1\r\rPour la conserver, choisissez Enregistrer sous dans le menu Partie "
+        "et prenez un autre dossier.",
+        "Masa bir dahaki sefere saklanamiyor, çünkü su klasöre yazilamiyor:\r%1\r\rSaklamak için "
+        "Oyun menüsündeki Farkli kaydet ile baska bir klasör seçin.",
+        "Il tavolo non può essere conservato per la prossima volta, perché non si può scrivere "
+        "nella cartella\r%1\r\rPer conservarlo usare Salva con nome nel menu Gioco e scegliere "
+        "un'altra cartella."},
     UnfinishedTitle = {"Unfinished game", "Partida interrumpida", "Unterbrochenes Spiel",
                        "Partie interrompue", "Yarim kalan oyun", "Partita interrotta"},
     UnfinishedQuestion = {"Tessarel did not end in the usual way the last time. The table was "

@@ -158,11 +158,13 @@ void MainWindow::FillFrontEnd() {
 void MainWindow::Animate() {
   PlayTableSound(Sound::DiceThrown);
   thrown_ = true;
-  bar_->RollButton()->setEnabled(false);
+  TablePlay.DiceInAir = true;
+  RefreshStatus();
   ShowDiceWindowIfUsed();
-  if (IsSmallShown(SmallWindowKind::Dice)) RefreshSmallWindow(diceWindow_);
   view_->AnimateDice();
+  TablePlay.DiceInAir = false;
   bar_->Refresh();
+  UpdateEntries();
 }
 
 // Once after a throw: whoever has won something hears it.
@@ -218,6 +220,10 @@ void MainWindow::Start() {
   if (Table.BankrollStopPlace != 0) BankrollLimitStop(Table.BankrollStopPlace);
   Message.MsgText.clear();
   OfferUnfinishedTable();
+  if (!autosave_.CanWrite()) {
+    ShowMessage(FillIn(texts::FolderIsReadOnly, {std::string(Folders.AppFolder)}),
+                std::string(Localized(texts::FolderTitle)), msg::OkAlert);
+  }
   autosave_.Start([this] { return Table.RollInProgress == 0 && AutoBet.ScriptRunning == 0; });
 }
 
@@ -390,8 +396,7 @@ bool MainWindow::IsSmallShown(SmallWindowKind kind) const {
 }
 
 void MainWindow::ShowDiceWindowIfUsed() {
-  constexpr int32_t InWindow = 3;
-  ShowSmall(SmallWindowKind::Dice, Settings.DiceAction == InWindow);
+  if (Settings.DiceAction == DiceInWindow) ShowSmall(SmallWindowKind::Dice, true);
 }
 
 void MainWindow::ShowSmallWindows() {
@@ -402,8 +407,12 @@ void MainWindow::ShowSmallWindows() {
 }
 
 void MainWindow::ShowMoveWindow() {
-  if (moveWindow_ == nullptr) moveWindow_ = MakeMoveWindow(this, view_);
-  moveWindow_->setVisible(!moveWindow_->isVisible());
+  if (moveWindow_ != nullptr) {
+    moveWindow_->close();
+    return;
+  }
+  moveWindow_ = MakeMoveWindow(this, view_);
+  moveWindow_->show();
 }
 
 // --- Keys --------------------------------------------------------------------------------------
@@ -423,7 +432,15 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  if (view_->IsAnimating() || !HandleKey(event)) QMainWindow::keyPressEvent(event);
+  if (!HandleKey(event)) QMainWindow::keyPressEvent(event);
+}
+
+// Tab belongs to a keyed amount, as Enter does.
+bool MainWindow::focusNextPrevChild(bool next) {
+  if (TablePlay.EnteredAmount.empty()) return QMainWindow::focusNextPrevChild(next);
+  ClickSpot(TablePlay.HotSpot);
+  RefreshAll();
+  return true;
 }
 
 namespace {
@@ -486,10 +503,6 @@ bool MainWindow::HandleTableKey(int key) {
       return true;
     case Qt::Key_Escape:
       if (!GiveUpSomething() && Table.AutoRollOn != 0) StopAutoRoll();
-      return true;
-    case Qt::Key_Tab:
-      if (TablePlay.EnteredAmount.empty()) return false;
-      ClickSpot(TablePlay.HotSpot);
       return true;
   }
   return HandleDigit(key);

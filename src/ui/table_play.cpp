@@ -72,32 +72,36 @@ Money CheckValue() {
 
 struct Trial {
   Money delta;
-  std::string refusal;
+  std::string refusal, title;
+  int32_t flags = 0;
 };
 
-std::string* HeardBy = nullptr;
+Trial* HeardBy = nullptr;
 
 void Hear() {
-  if (HeardBy->empty()) *HeardBy = Message.MsgText;
+  if (!HeardBy->refusal.empty()) return;
+  HeardBy->refusal = Message.MsgText;
+  HeardBy->title = Message.MsgTitle;
+  HeardBy->flags = Message.MsgFlags;
 }
 
-// Lets `change` work on the table, keeps its BetDelta and the first message, and puts everything
-// back as it was.
+// Lets `change` work on the table, keeps its BetDelta and the first message that `notices` lets
+// through, and puts everything back as it was.
 template <class Change>
-Trial TryOut(Change&& change) {
+Trial TryOut(int32_t notices, Change&& change) {
   const auto table = std::make_unique<TableState>(Table);
   const FrontEndCallbacks frontEnd = FrontEnd;
   const MessageState message = Message;
-  const int32_t notices = std::exchange(Settings.Notices, NoticeActionsNotAllowed | NoticeLimits);
+  const int32_t noticesInForce = std::exchange(Settings.Notices, notices);
   Trial trial;
-  HeardBy = &trial.refusal;
+  HeardBy = &trial;
   FrontEnd = FrontEndCallbacks{};
   FrontEnd.ShowMessage = Hear;
   change();
   trial.delta = Table.BetDelta;
   FrontEnd = frontEnd;
   Message = message;
-  Settings.Notices = notices;
+  Settings.Notices = noticesInForce;
   Table = *table;
   return trial;
 }
@@ -105,7 +109,7 @@ Trial TryOut(Change&& change) {
 // --- Changing bets -----------------------------------------------------------------------------
 
 bool MayChange() {
-  return Table.HyperDriveOn == 0 && ConfirmScriptActive();
+  return TableIsOpen() && ConfirmScriptActive();
 }
 
 void ChangeAmount(int place, int number, Money amount) {
@@ -179,16 +183,17 @@ void FinishMove(int spot) {
 
 void ClickRail(int place) {
   if (IsTaken(Table, place)) return SelectPlace(place);
-  if (Table.HyperDriveOn != 0 || !AddPlayer(place)) return;
+  if (!TableIsOpen() || !AddPlayer(place)) return;
   Table.TableDirty = -1;
   SelectPlace(place);
 }
 
 // The current player, after telling that there is none.
 int PlayerForCommand() {
+  if (!TableIsOpen()) return 0;
   const int place = CurrentPlace();
   if (place == 0) TellNobodyHere();
-  return Table.HyperDriveOn != 0 ? 0 : place;
+  return place;
 }
 
 std::string OutlookOnRail(int place) {
@@ -232,7 +237,7 @@ ClickOutlook OutlookOfBet(int number) {
   const std::optional<Money> entered =
       TablePlay.EnteredAmount.empty() ? std::nullopt : ParseMoney(TablePlay.EnteredAmount);
   const Money change = entered ? *entered - Bet(place, number) : CheckValue();
-  const Trial trial = TryOut([=] {
+  const Trial trial = TryOut(NoticeActionsNotAllowed | NoticeLimits, [=] {
     Table.Amount = change;
     ChangeBet(place, number);
   });
@@ -341,7 +346,10 @@ int SpotOfPixel(int value) {
     const bool neither = !HasBet(place, value) && !HasBet(place, FlatUnder(value));
     return neither ? FlatUnder(value) : value;
   }
-  if (value == bet::DontPass && HasBet(place, value) && Table.Point != 0) return bet::DontPassOdds;
+  if (value == bet::DontPass || value == bet::DontPassOdds) {
+    if (value == bet::DontPassOdds && HasBet(place, value)) return value;
+    return HasBet(place, bet::DontPass) && Table.Point != 0 ? bet::DontPassOdds : bet::DontPass;
+  }
   if (InFamily(value, PlaceFamily) && HasBet(place, value + FamilySize)) return value + FamilySize;
   const int item = value % RailSpot(1, 0);
   const bool ownStack = IsRailSpot(value) && PlaceOfSpot(value) == place &&
@@ -356,6 +364,7 @@ int NumberOfSpot(int spot) {
 }
 
 void ClickSpot(int spot, ClickKind kind) {
+  if (TablePlay.DiceInAir) return;
   if (TablePlay.TableAction > ActionMovePlayer) return FinishMove(spot);
   if (IsRailSpot(spot)) return ClickRail(PlaceOfSpot(spot));
   if (spot == PropositionSwitch) {
@@ -378,13 +387,21 @@ void DragBet(int from, int to) {
   const Money amount = Bet(place, source);
   if (target != 0) {
     // What the rules would not take at its new spot is not taken down from the old one either.
-    const Trial trial = TryOut([=] {
-      SilentBets silent;
-      ChangeAmount(place, source, -amount);
-      Table.Amount = -Table.BetDelta;
-      ChangeBet(place, target);
+    Money off;
+    const Trial trial = TryOut(Settings.Notices, [&] {
+      {
+        const SilentBets silent;
+        ChangeAmount(place, source, -amount);
+      }
+      off = amount - Bet(place, source);
+      Table.Amount = off;
+      Table.BetDelta = Money();
+      if (off > Money()) ChangeBet(place, target);
     });
-    if (trial.delta <= Money()) return ChangeAmount(place, target, amount);
+    if (off > Money() && trial.delta <= Money()) {
+      if (!trial.refusal.empty()) ShowMessage(trial.refusal, trial.title, trial.flags);
+      return;
+    }
   }
   ChangeAmount(place, source, -amount);
   const Money taken = amount - Bet(place, source);
@@ -462,7 +479,7 @@ void BuyInCurrentPlayer() {
 }
 
 void PassTheDice() {
-  if (Table.HyperDriveOn != 0 || !MayChange()) return;
+  if (!MayChange()) return;
   Table.TableDirty = -1;
   PassDice(PlayerAsked);
   FrontEnd.DrawTable();
@@ -474,6 +491,10 @@ void RollTheDice() {
 
 bool TableIsIdle() {
   return Table.RollInProgress == 0 && Table.HyperDriveOn == 0 && Table.AutoRollOn == 0;
+}
+
+bool TableIsOpen() {
+  return !TablePlay.DiceInAir && Table.HyperDriveOn == 0;
 }
 
 bool KeyAmount(char key) {

@@ -25,6 +25,7 @@ struct TablePlayState {
   int HotSpot = 0;  // the spot under the pointer, or chosen by the arrow keys
   int TableAction = ActionNormal;
   std::string EnteredAmount;  // txtEnterBet: the digits keyed in so far
+  bool DiceInAir = false;     // a roll has begun and is not settled: nothing may change
 };
 
 extern TablePlayState TablePlay;
@@ -86,8 +87,12 @@ void PassTheDice();
 // or a run is on its way.
 void RollTheDice();
 
-// Whether a person can do something at the table now.
+// Whether a person can roll, or change the table as a whole, now.
 bool TableIsIdle();
+
+// Whether bets and players may be changed now: also in the pauses of Auto-Roll, but not while the
+// dice are in the air or under the Hyper-Drive.
+bool TableIsOpen();
 
 // A digit, a point or a backspace (8) for the keyed amount. Returns whether it was taken.
 bool KeyAmount(char key);

@@ -77,8 +77,10 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
     const QString text = Shown(InfoTipOf(TablePlay.HotSpot));
     if (!text.isEmpty()) QToolTip::showText(mapToGlobal(pointer_ + QPoint(14, 18)), text, this);
   });
-  centreDice_.setSingleShot(true);
-  connect(&centreDice_, &QTimer::timeout, this, [this] { update(); });
+  for (QTimer* shown : {&centreDice_, &call_}) {
+    shown->setSingleShot(true);
+    connect(shown, &QTimer::timeout, this, [this] { update(); });
+  }
 }
 
 // --- The picture -------------------------------------------------------------------------------
@@ -289,8 +291,8 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
   if (pressed_ && !dragging_ && far) {
     const int number = NumberOfSpot(pressedSpot_);
     const bool own = number != 0 && CurrentPlace() != 0 && Bet(CurrentPlace(), number) > Money();
-    dragging_ = own;
-    panning_ = !own && pressedSpot_ == 0 && ZoomPercent() > 100;
+    dragging_ = own && TablePlay.TableAction == ActionNormal;
+    panning_ = !dragging_ && pressedSpot_ == 0 && ZoomPercent() > 100;
     if (dragging_) setCursor(Qt::ClosedHandCursor);
   }
   if (dragging_) {
@@ -311,15 +313,30 @@ void TableView::leaveEvent(QEvent*) {
 
 void TableView::mousePressEvent(QMouseEvent* event) {
   setFocus(Qt::MouseFocusReason);
-  if (animating_) return EndAnimation();
   pointer_ = event->pos();
+  const bool right = event->button() == Qt::RightButton;
+  if (animating_) {
+    EndAnimation();
+    if (right && Table.AutoRollOn != 0 && RightClick) RightClick();
+    return;
+  }
   if (event->button() == Qt::LeftButton) PressLeft(event->pos());
-  if (event->button() != Qt::RightButton) return;
+  if (right) PressRight();
+}
+
+// Any button applies a keyed amount; a command that waits is given up first.
+void TableView::PressRight() {
   if (TablePlay.TableAction != ActionNormal) {
     TablePlay.TableAction = ActionNormal;
     return DrawTable();
   }
-  if (RightClick) RightClick();
+  const int spot = SpotUnder(pointer_);
+  if (!TablePlay.EnteredAmount.empty() && NumberOfSpot(spot) != 0) {
+    ClickSpot(spot);
+    SetHotSpot(SpotUnder(pointer_));
+  } else if (RightClick) {
+    RightClick();
+  }
 }
 
 void TableView::PressLeft(QPoint pixel) {

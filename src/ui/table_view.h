@@ -20,6 +20,9 @@
 
 namespace tessarel {
 
+// The values of Settings.DiceAction.
+enum DiceActionValue : int32_t { DiceNormal, DiceStationary, DiceCenter, DiceInWindow };
+
 class TableView : public QWidget {
  public:
   explicit TableView(QWidget* parent = nullptr);
@@ -112,6 +115,8 @@ class TableView : public QWidget {
   void PaintPiles(QPainter& painter, const QRectF& area);
   void PaintMovingThings(QPainter& painter);
   void PaintDice(QPainter& painter);
+  void PaintCall(QPainter& painter) const;
+  void RestDice();
   void PaintFocus(QPainter& painter);
 
   void SetHotSpot(int spot);
@@ -123,6 +128,7 @@ class TableView : public QWidget {
   double DiceSide() const;
   QRectF DiceArea() const;
   void PressLeft(QPoint pixel);
+  void PressRight();
   void ReleaseLeft(QPoint pixel, Qt::KeyboardModifiers modifiers);
   void KeepClickedPosition(int spot, QPoint pixel);
 
@@ -138,7 +144,7 @@ class TableView : public QWidget {
   std::vector<Flight> flights_;
   std::vector<FallingCheck> shower_;
   QElapsedTimer clock_;
-  QTimer motion_, ring_, settleSize_, tip_, centreDice_;
+  QTimer motion_, ring_, settleSize_, tip_, centreDice_, call_;
   bool flash_ = false;
   int ringTicks_ = 0;
 

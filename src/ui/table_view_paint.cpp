@@ -12,16 +12,19 @@
 #include "base/front_end.h"
 #include "config/settings.h"
 #include "engine/bet_limits.h"
+#include "ui/paint/lettering.h"
 #include "ui/paint/rail_paint.h"
 #include "ui/paint/table_paint.h"
 #include "ui/table_view.h"
+#include "ui/windows/roll_console.h"
 
 namespace tessarel {
 
 namespace {
 
 constexpr qint64 FlightMs = 200;
-constexpr double ThrowMs = 600, CentreMs = 1500;
+constexpr double ThrowMs = 600;
+constexpr int CentreMs = 1500, CallMs = 2500;
 constexpr double StandSide = 46, CentreSide = 84;  // of a die, in layout units
 constexpr int ChecksInShower = 70;
 
@@ -61,10 +64,9 @@ bool MotionIsReduced() {
     const QString gtkWish = gtk.value("Settings/gtk-enable-animations", "1").toString().toLower();
     const QSettings kde(config + "kdeglobals", QSettings::IniFormat);
     const double kdeFactor = kde.value("KDE/AnimationDurationFactor", 1.0).toDouble();
-    return gtkWish == "0" || gtkWish == "false" || kdeFactor == 0 ||
-           qEnvironmentVariableIntValue("TESSAREL_REDUCED_MOTION") != 0;
+    return gtkWish == "0" || gtkWish == "false" || kdeFactor == 0;
   }();
-  return reduced;
+  return reduced || qEnvironmentVariableIntValue("TESSAREL_REDUCED_MOTION") != 0;
 }
 
 // --- Still things ------------------------------------------------------------------------------
@@ -177,6 +179,7 @@ void TableView::PaintPiles(QPainter& painter, const QRectF& area) {
 
 void TableView::PaintMovingThings(QPainter& painter) {
   PaintDice(painter);
+  PaintCall(painter);
   const qint64 now = clock_.elapsed();
   for (const Flight& flight : flights_) {
     const double t = std::clamp(
@@ -232,13 +235,6 @@ void TableView::ShowerChecks() {
 
 // --- Dice --------------------------------------------------------------------------------------
 
-namespace {
-
-// The values of Settings.DiceAction.
-enum DiceActionValue : int32_t { DiceNormal, DiceStationary, DiceCenter, DiceInWindow };
-
-}  // namespace
-
 QPointF TableView::DiceStand() const {
   const bool centre = Settings.DiceAction == DiceCenter && (animating_ || centreDice_.isActive());
   return centre ? FeltArea().center() : DiceRest();
@@ -280,6 +276,35 @@ void TableView::PaintDice(QPainter& painter) {
   }
 }
 
+// The total in words beside the dice, for as long as it takes to read it.
+void TableView::PaintCall(QPainter& painter) const {
+  if (!call_.isActive() || animating_ || Settings.DiceAction == DiceInWindow) return;
+  QFont font = painter.font();
+  font.setBold(true);
+  font.setPixelSize(static_cast<int>(std::ceil(std::max(20.0, 1.2 * LeastLettering(Scale())))));
+  const QFontMetricsF metrics(font);
+  const QString call = DiceCall();
+  QRectF plate(0, 0, metrics.horizontalAdvance(call) + 32, metrics.height() + 10);
+  const bool atRest = DiceStand() == DiceRest();
+  const double away = DiceSide() * 0.8 + plate.height() / 2 + 6;
+  plate.moveCenter(DiceStand() + QPointF(0, atRest ? -away : away));
+  painter.save();
+  painter.setFont(font);
+  painter.setPen(QPen(QColor(255, 255, 255, 90), 1.5));
+  painter.setBrush(QColor(14, 18, 26, 225));
+  painter.drawRoundedRect(plate, plate.height() / 2, plate.height() / 2);
+  painter.setPen(Qt::white);
+  painter.drawText(plate, Qt::AlignCenter, call);
+  painter.restore();
+}
+
+// After a throw: the dice lie, and their total is called.
+void TableView::RestDice() {
+  if (Settings.DiceAction == DiceCenter) centreDice_.start(CentreMs);
+  call_.start(CallMs);
+  update();
+}
+
 void TableView::EndAnimation() {
   if (endAnimation_) endAnimation_();
 }
@@ -287,12 +312,12 @@ void TableView::EndAnimation() {
 void TableView::AnimateDice() {
   ++throws_;
   if (animating_ || !isVisible()) return update();
-  if (MotionIsReduced()) {
-    if (Settings.DiceAction == DiceCenter) centreDice_.start(static_cast<int>(CentreMs));
-    return update();
-  }
+  if (MotionIsReduced()) return RestDice();
+  // A press from before the throw means nothing after it.
+  pressed_ = dragging_ = panning_ = false;
   animating_ = true;
   dicePhase_ = 0;
+  if (DicePhaseChanged) DicePhaseChanged(dicePhase_);
   QEventLoop loop;
   QElapsedTimer time;
   time.start();
@@ -312,8 +337,7 @@ void TableView::AnimateDice() {
   animating_ = false;
   dicePhase_ = 1;
   if (DicePhaseChanged) DicePhaseChanged(dicePhase_);
-  if (Settings.DiceAction == DiceCenter) centreDice_.start(static_cast<int>(CentreMs));
-  update();
+  RestDice();
 }
 
 }  // namespace tessarel

@@ -83,6 +83,8 @@ TEST_F(WindowTest, ModesLastForOneClickAndTheRightButtonCancels) {
   ClickBet(bet::Place4);
   EXPECT_EQ(Table.BetWorking[4][bet::Place4], CalledOff);
   EXPECT_EQ(TablePlay.TableAction, ActionNormal);
+  // Without the bet below them the Don't Pass Odds are that bet.
+  EXPECT_EQ(View().SpotUnder(View().PixelOf(4, bet::DontPassOdds)), bet::DontPass);
   // With the pointer on the bet the command acts at once, and tells the vig.
   AnswerInTurn({Key(Qt::Key_Return)}, [&] { Press(Qt::Key_F5); });
   EXPECT_EQ(Bet(4, bet::Buy4), 10);
@@ -114,8 +116,65 @@ TEST_F(WindowTest, APileIsDraggedToAnotherBetAndOffTheLayout) {
   AnswerInTurn({Key(Qt::Key_Return)},
                [&] { drag(View().PixelOf(4, bet::PassLine), View().PixelOf(4, bet::Come)); });
   EXPECT_EQ(Bet(4, bet::PassLine), 15);
+  // What has to stay is not bet a second time where it was dragged.
+  Table.Point = 6;
+  SetBetContract(4, bet::PassLine, 15);
+  AnswerInTurn({Key(Qt::Key_Return)},
+               [&] { drag(View().PixelOf(4, bet::PassLine), View().PixelOf(4, bet::Field)); });
+  EXPECT_EQ(Bet(4, bet::PassLine), 15);
+  EXPECT_EQ(Bet(4, bet::Field), 0);
+  Table.Point = 0;
   drag(View().PixelOf(4, bet::PassLine), QPoint(3, 3));
   EXPECT_EQ(Bet(4, bet::PassLine), 0);
+}
+
+TEST_F(WindowTest, NothingChangesWhileTheDiceAreInTheAir) {
+  Seat(4, "Ann", 1000);
+  Seat(7, "Bob", 1000);
+  SelectPlace(4);
+  ClickBet(bet::PassLine);
+  const QPoint pile = View().PixelOf(4, bet::PassLine), felt(3, 3);
+  qputenv("TESSAREL_REDUCED_MOTION", "0");
+  QTest::mousePress(&View(), Qt::LeftButton, {}, pile);
+  QTimer::singleShot(100, [&] {
+    ASSERT_TRUE(View().IsAnimating());
+    QTest::mouseMove(&View(), felt);
+    QTest::mouseRelease(&View(), Qt::LeftButton, {}, felt);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Backspace, Qt::Key_P, Qt::Key_F2})
+      QTest::keyClick(&View(), key);
+    QTest::keyClick(&View(), Qt::Key_Delete, Qt::ShiftModifier);
+    for (const char* entry : {"mnuRemoveAllBets", "mnuMovePlayer", "mnuRemovePlayer", "mnuNew"})
+      window->Entry(entry)->trigger();
+    EXPECT_EQ(Bet(4, bet::PassLine), 5);
+    QTest::mouseClick(&View(), Qt::LeftButton, {}, View().PixelOf(4, bet::Field));
+  });
+  RollDice(2, 2);
+  qputenv("TESSAREL_REDUCED_MOTION", "1");
+  EXPECT_FALSE(View().IsAnimating());
+  EXPECT_EQ(Bet(4, bet::PassLine), 5);
+  EXPECT_EQ(Bet(4, bet::Field), 0);
+  EXPECT_EQ(Table.Shooter, 4);
+  EXPECT_EQ(RollsInSession(), 1);
+  EXPECT_EQ(TablePlay.TableAction, ActionNormal);
+  EXPECT_TRUE(window->Entry("mnuRemoveAllBets")->isEnabled());
+}
+
+TEST_F(WindowTest, AKeyedAmountIsTakenByTabAndByEitherButton) {
+  Seat(4, "Ann", 1000);
+  Press(Qt::Key_F9);
+  const auto amount = [&](Qt::Key digit) {
+    Press(digit);
+    Press(Qt::Key_0);
+  };
+  amount(Qt::Key_2);
+  QTest::mouseMove(&View(), View().PixelOf(4, bet::Field));
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Bet(4, bet::Field), 20);
+  EXPECT_TRUE(View().hasFocus());
+  amount(Qt::Key_3);
+  QTest::mouseClick(&View(), Qt::RightButton, {}, View().PixelOf(4, bet::Field));
+  EXPECT_EQ(Bet(4, bet::Field), 30);
+  EXPECT_EQ(RollsInSession(), 0);
 }
 
 TEST_F(WindowTest, PlayersAreSelectedAndMovedOnTheRail) {
@@ -161,7 +220,6 @@ TEST_F(WindowTest, ARefusedClickSaysWhy) {
       {bet::Come, nothing, "You may not make a Come bet until a point is established."},
       {bet::DontCome, nothing, "You may not make a Don't Come bet until a point is established."},
       {bet::PassLineOdds, nothing, "You may not make a Pass Line Odds bet unless you also have"},
-      {bet::DontPassOdds, nothing, "You may not make a Don't Pass Odds bet unless you also have"},
       {bet::Come4Odds, nothing, "until you've established a Come 4 bet."},
       {bet::DontCome4, point, "directly on a point number."},
       {bet::PassLine, noPuts, "(Unless you check \"Allow Put Bets\""},

@@ -21,6 +21,24 @@ QColor FeltColor() {
   return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
 }
 
+QString TotalInWords() {
+  const int total = Table.Die1 + Table.Die2;
+  if (total < 2 || total > 12) return Shown(NoRollYet);
+  return Shown(At(TotalWords, total - 2));
+}
+
+QString NoteOnTotal() {
+  switch (const int total = Table.Die1 + Table.Die2) {
+    case 2:
+    case 3:
+    case 12:
+      return Shown(CrapsCall);
+    default:
+      const bool hard = total > 0 && Table.Die1 == Table.Die2;
+      return hard ? Shown(HardWayCall) : QString();
+  }
+}
+
 class DiceWindow : public FloatingWindow {
  public:
   explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
@@ -29,7 +47,7 @@ class DiceWindow : public FloatingWindow {
   }
   void Refresh() override {
     setWindowTitle(Shown(DiceTitle));
-    setAccessibleDescription(Call());
+    setAccessibleDescription(DiceCall());
     update();
   }
   void SetPhase(double phase) {
@@ -43,38 +61,12 @@ class DiceWindow : public FloatingWindow {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QString Word() const;
-  QString Note() const;
-  QString Call() const;
   void PaintFelt(QPainter& painter) const;
   void PaintBothDice(QPainter& painter, const QRectF& area) const;
   void PaintCall(QPainter& painter, const QRectF& area) const;
 
   double phase_ = 1;
 };
-
-QString DiceWindow::Word() const {
-  const int total = Table.Die1 + Table.Die2;
-  if (total < 2 || total > 12) return Shown(NoRollYet);
-  return Shown(At(TotalWords, total - 2));
-}
-
-QString DiceWindow::Note() const {
-  switch (const int total = Table.Die1 + Table.Die2) {
-    case 2:
-    case 3:
-    case 12:
-      return Shown(CrapsCall);
-    default:
-      const bool hard = total > 0 && Table.Die1 == Table.Die2;
-      return hard ? Shown(HardWayCall) : QString();
-  }
-}
-
-QString DiceWindow::Call() const {
-  const QString note = Note();
-  return note.isEmpty() ? Word() : Word() + ' ' + note;
-}
 
 void DiceWindow::PaintFelt(QPainter& painter) const {
   const QColor felt = FeltColor();
@@ -100,7 +92,7 @@ void DiceWindow::PaintBothDice(QPainter& painter, const QRectF& area) const {
 
 // As large as the line allows, but readable in any window.
 void DiceWindow::PaintCall(QPainter& painter, const QRectF& area) const {
-  const QString call = Call();
+  const QString call = DiceCall();
   QFont font = painter.font();
   font.setBold(true);
   constexpr int Smallest = 13;  // pixels
@@ -132,6 +124,11 @@ void DiceWindow::paintEvent(QPaintEvent*) {
 }
 
 }  // namespace
+
+QString DiceCall() {
+  const QString note = NoteOnTotal();
+  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
+}
 
 QWidget* MakeDiceWindow(QWidget* parent) {
   return new DiceWindow(parent);

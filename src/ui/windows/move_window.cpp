@@ -40,6 +40,10 @@ QWidget* MakeMoveWindow(QWidget* parent, TableView* view) {
   AddSlider(form, texts::Rotation, 0, 359, view->Degrees(),
             [view](int degrees) { view->SetView(view->ZoomPercent(), degrees); });
   zoom->setFocus();
+  // In the upper right corner, where it covers no bet of a table that is not zoomed.
+  window->adjustSize();
+  const QPoint corner = view->mapToGlobal(view->rect().topRight());
+  window->move(corner + QPoint(-window->width() - 16, 8));
   return window;
 }
 

@@ -2,6 +2,7 @@
 // that float over the table.
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 namespace tessarel {
@@ -9,6 +10,9 @@ namespace tessarel {
 // The floating panel "Dice Rolls", on which the user picks the outcome of the next roll. It keeps
 // its display, options and colours in GameViews.
 QWidget* MakeRollConsole(QWidget* parent);
+
+// The last roll in words, as the stick calls it: "Eight the hard way".
+QString DiceCall();
 
 // The window in which the dice are shown with DiceAction 3.
 QWidget* MakeDiceWindow(QWidget* parent);
