@@ -240,14 +240,16 @@ bool AskToStopUnattended() {
   const bool hyper = Table.HyperDriveOn != 0;
   if (!hyper && Table.AutoRollOn == 0) return true;
   const int title = hyper ? 114 : 117, question = hyper ? 118 : 119;
-  if (ShowMessage(Text(question), Text(title), msg::AskYesDefault) != AnswerYes) return false;
+  if (ShowMessage(Text(question), Text(title), msg::AskYesDefault, help::AutoRoll) != AnswerYes)
+    return false;
   StopUnattended();
   return true;
 }
 
 bool AskToStopScripts() {
   if (AutoBet.ScriptRunning == 0) return true;
-  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault) != AnswerYes) return false;
+  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
+    return false;
   InterruptAutoBetting();
   return true;
 }
@@ -265,7 +267,8 @@ bool SaveScript(int place) {
 bool OfferToSaveScript(int place) {
   if (!At(Scripts.Places, place).changed) return true;
   const std::string question = FillIn(FileTexts.AskToSaveScript, {At(Table.PlayerName, place)});
-  const int32_t answer = ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel);
+  const int32_t answer =
+      ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel, help::BettingSystems);
   return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
 }
 
@@ -300,6 +303,25 @@ bool SaveGameTo(const std::string& file) {
   return !file.empty() && Trapped("SaveGame", [&file] { SaveGame(file); });
 }
 
+bool SaveGameUnderItsName() {
+  return GameFile.GameFileName.empty() ? SaveGameAs()
+                                       : SaveGameTo(std::string(GameFile.GameFileName));
+}
+
+bool OfferToSaveGame() {
+  if (Table.TableDirty == 0) return true;
+  const int32_t answer =
+      ShowMessage(Text(141), Text(139), msg::AskYesDefault | msg::Cancel, help::Saving);
+  return answer == AnswerNo || (answer == AnswerYes && SaveGameUnderItsName());
+}
+
+// A table that finds no room on the disk is given up only by somebody who says so.
+bool KeepTable() {
+  return SaveDefaultGame() ||
+         ShowMessage(LocalizedText(FileTexts.LeaveUnsaved), std::string(GameFile.WindowTitle),
+                     msg::AskNoDefault, help::Saving) == AnswerYes;
+}
+
 void SetUpNewTable(const std::string& appFolder) {
   ResetModules();
   StartSessionForScript = StartSessionOfScript;
@@ -325,12 +347,14 @@ void NewSession(const SessionOptions& options) {
 
 bool StartNewGame(const SessionOptions& options, bool keepScripts) {
   if (Table.HyperDriveOn != 0) return false;
+  if (!keepScripts && !OfferToSaveScripts()) return false;
   // The automatic game file is that of the program with a table to be seen.
   if (GameFile.MainWindowShown && Table.TableDirty != 0) SaveDefaultGame();
   if (!keepScripts) EmptyScripts();
   const bool restart = Scripts.ScriptActive[0] != 0;
   if (restart && !Scripts.ProgramReady) Trapped("CheckScriptErrors", CheckScriptErrors);
   NewSession(options);
+  Table.TableDirty = -1;
   if (!restart) return true;
   Trapped("StartNewGame", DeleteRollClipboard);
   if (Scripts.ProgramReady) InitializeScripts();
@@ -339,7 +363,7 @@ bool StartNewGame(const SessionOptions& options, bool keepScripts) {
 
 bool SaveGameInUse() {
   if (GameFile.GameFileName.empty()) return SaveGameAs();
-  return OfferToSaveScripts() && SaveGameTo(std::string(GameFile.GameFileName));
+  return OfferToSaveScripts() && SaveGameUnderItsName();
 }
 
 bool SaveGameAs() {
@@ -366,9 +390,12 @@ bool AskToLeave() {
   return AskToStopUnattended() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
 }
 
+bool AskToReplaceGame() {
+  return OfferToSaveScripts() && OfferToSaveMatrix() && OfferToSaveGame();
+}
+
 bool Leave() {
-  if (!AskToLeave()) return false;
-  SaveDefaultGame();
+  if (!AskToLeave() || !KeepTable()) return false;
   WriteHotKeys();
   ShutDown();
   Trapped("Leave", DeleteRollClipboard);

@@ -23,14 +23,19 @@ void NewSession(const SessionOptions& options);
 
 // The New command of the game: NewSession, with the scripts kept or emptied. Active scripts that
 // are kept are compiled first (the first one in error is told) and then run for one initialising
-// cycle. A game on a shown table that is not saved goes to the automatic game file first. Returns
-// false, with nothing done, under the Hyper-Drive.
+// cycle. Changed scripts that are emptied may be saved before. A game on a shown table that is not
+// saved goes to the automatic game file first. Returns false, with nothing done, under the
+// Hyper-Drive and when the user gives up.
 bool StartNewGame(const SessionOptions& options, bool keepScripts);
 
 // The Save and the Save As command of the game. Save offers to save changed scripts first; a game
 // without a name is asked for one. False when the user gives up or a file cannot be written.
 bool SaveGameInUse();
 bool SaveGameAs();
+
+// Before another game takes the table: offers to save changed scripts, a changed matrix and the
+// game itself. Returns false when the user gives up or something cannot be saved.
+bool AskToReplaceGame();
 
 // Puts every module in its start-up state in `appFolder`, the program's folder: default settings,
 // payoffs and units, every generator seeded from the clock, an empty table. Warns of missing
@@ -49,8 +54,9 @@ void OpenDefaultGame(std::string_view commandLine);
 bool AskToLeave();
 
 // The way out of the program with a shown table: AskToLeave, then the game goes to the automatic
-// game file, with the roll file that is still open, the hot keys to theirs, and all is shut down.
-// Returns false when the program is not to end.
+// game file, with the roll file that is still open, the hot keys to theirs, and all is shut down. A
+// table that cannot be saved is given up only after a question. Returns false when the program is
+// not to end.
 bool Leave();
 
 // Closes what is open. What was recorded is on disk when it returns.

@@ -104,7 +104,7 @@ bool ShowText(const ScriptCommand& command, int32_t flags) {
     return false;
   }
   ShowMessage(MessageLines(TextOf(command.arguments[0])), ScriptMessageTitle(),
-              flags | msg::HideNotice8);
+              flags | msg::HideNotice8, help::BettingSystems);
   return true;
 }
 

@@ -20,6 +20,7 @@
 #include "base/message.h"
 #include "base/trap.h"
 #include "engine/table.h"
+#include "files/file_texts.h"
 
 namespace tessarel {
 
@@ -523,14 +524,8 @@ std::optional<ScriptError> AddScript(int slot,
 }
 
 void TellOfFaultyScript(int place) {
-  const std::string& name = At(Table.PlayerName, place);
-  ShowMessage(name +
-                  "'s auto-bet script contains an error which must be corrected before you can run "
-                  "it.\r\rSelect " +
-                  name +
-                  " on the auto-bet screen and click the \"Check Script\" button to see the "
-                  "error.",
-              "Auto-bet script error", msg::OkAlert);
+  ShowMessage(FillIn(FileTexts.FaultyScript, {At(Table.PlayerName, place)}),
+              LocalizedText(FileTexts.FaultyScriptTitle), msg::OkAlert, help::BettingSystems);
 }
 
 }  // namespace

@@ -97,8 +97,8 @@ void RunFirstCycle() {
 bool WantsFirstCycle(const SixTexts& question, std::string_view name = "") {
   if (Table.RollInProgress != 0) return false;
   constexpr int AutoBetTitle = 156;
-  return ShowMessage(FillIn(question, {name}), std::string(GetText(AutoBetTitle)), msg::AskYesNo) ==
-         AnswerYes;
+  return ShowMessage(FillIn(question, {name}), std::string(GetText(AutoBetTitle)), msg::AskYesNo,
+                     help::BettingSystems) == AnswerYes;
 }
 
 void ActivateAll() {
@@ -117,7 +117,7 @@ void RunHotKey(const std::string& path) {
   if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, "File not found");
   if (!CompileHotKeyScript()) {
     ShowMessage(LocalizedText(FileTexts.HotKeyScriptError),
-                LocalizedText(FileTexts.ScriptErrorTitle), msg::OkAlert);
+                LocalizedText(FileTexts.ScriptErrorTitle), msg::OkAlert, help::BettingSystems);
     return;
   }
   Scripts.ProgramReady = true;

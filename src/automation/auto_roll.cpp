@@ -8,7 +8,6 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/money.h"
-#include "base/single_byte_text.h"
 #include "config/language.h"
 #include "config/settings.h"
 #include "engine/roll_driver.h"
@@ -47,8 +46,9 @@ void Start(UnattendedMode mode) {
 
 // The number that the user types over the present one.
 std::optional<Money> AskForNumber(std::string_view question, std::string_view title, Money now) {
-  if (!AskForText(std::string(question), std::string(title), PlainText(now))) return std::nullopt;
-  return ParseMoney(TrimSpaces(Message.MsgInput));
+  if (!AskForText(std::string(question), std::string(title), PlainText(now), help::AutoRoll))
+    return std::nullopt;
+  return ParseTypedMoney(Message.MsgInput);
 }
 
 }  // namespace
@@ -96,8 +96,8 @@ bool ConfirmScriptActive() {
   const std::string question =
       std::string(GetText(StopAutoBettingText)) + "\r\r" +
       FillIn(RollTexts.ScriptProcessing, {At(Table.PlayerName, AutoBet.CurrentScriptPlayer)});
-  const int32_t answer =
-      ShowMessage(question, std::string(GetText(AutoBetActiveText)), msg::AskNoDefault);
+  const int32_t answer = ShowMessage(question, std::string(GetText(AutoBetActiveText)),
+                                     msg::AskNoDefault, help::BettingSystems);
   if (answer != AnswerYes) return false;
   InterruptAutoBetting();
   return true;

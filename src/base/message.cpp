@@ -30,18 +30,19 @@ void ShowMessage() {
   FrontEnd.ShowMessage();
 }
 
-int32_t ShowMessage(std::string text, std::string title, int32_t flags) {
+int32_t ShowMessage(std::string text, std::string title, int32_t flags, int32_t topic) {
   Message.MsgText = std::move(text);
   Message.MsgTitle = std::move(title);
   Message.MsgFlags = flags;
-  Message.MsgWidth = Message.MsgHelpId = Message.MsgTimeout = 0;
+  Message.MsgHelpId = topic;
+  Message.MsgWidth = Message.MsgTimeout = 0;
   ShowMessage();
   return Message.MsgResult;
 }
 
-bool AskForText(std::string text, std::string title, std::string offered) {
+bool AskForText(std::string text, std::string title, std::string offered, int32_t topic) {
   Message.MsgInput = std::move(offered);
-  return ShowMessage(std::move(text), std::move(title), msg::OkInput) != AnswerCancel;
+  return ShowMessage(std::move(text), std::move(title), msg::OkInput, topic) != AnswerCancel;
 }
 
 std::string OnOneLine(std::string_view text) {

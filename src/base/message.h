@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/help_topics.h"
+
 namespace tessarel {
 
 // The bits of MsgFlags.
@@ -42,7 +44,7 @@ struct MessageState {
   std::string MsgTitle;    // empty: no title
   int32_t MsgWidth = 0;    // of the text, in the box's units; 0 takes the default
   int32_t MsgFlags = 0;    // bits of msg::
-  int32_t MsgHelpId = 0;   // help topic; 0 for none
+  int32_t MsgHelpId = 0;   // one of help::
   int32_t MsgResult = 0;   // the answer: MessageAnswer, or the index of a button
   int32_t MsgTimeout = 0;  // milliseconds after which the box answers by itself; 0 never
   std::string MsgInput;    // with msg::Input: the text offered, and on return the text typed
@@ -57,13 +59,18 @@ extern MessageState Message;
 // Shows the call block and leaves the answer in MsgResult (and MsgInput).
 void ShowMessage();
 
-// Fills the call block and shows it; width, help topic and time-out take their defaults.
-// Returns MsgResult.
-int32_t ShowMessage(std::string text, std::string title, int32_t flags);
+// Fills the call block and shows it; width and time-out take their defaults. Returns MsgResult.
+int32_t ShowMessage(std::string text,
+                    std::string title,
+                    int32_t flags,
+                    int32_t topic = help::NoTopic);
 
 // Puts a question whose answer is a text. Returns false on Cancel, else the answer stands in
 // Message.MsgInput.
-bool AskForText(std::string text, std::string title, std::string offered);
+bool AskForText(std::string text,
+                std::string title,
+                std::string offered,
+                int32_t topic = help::NoTopic);
 
 // A message's text with its line breaks shown as " / ".
 std::string OnOneLine(std::string_view text);

@@ -1,5 +1,7 @@
 #include "base/money.h"
 
+#include "base/single_byte_text.h"
+
 namespace tessarel {
 
 namespace {
@@ -49,6 +51,29 @@ std::optional<Money> ParseMoney(std::string_view text) {
     if (__builtin_mul_overflow(raw, 10, &raw)) return std::nullopt;
   }
   return Money::FromRaw(raw);
+}
+
+std::optional<Money> ParseTypedMoney(std::string_view text) {
+  constexpr size_t GroupSize = 3;
+  std::string plain;
+  size_t sinceComma = 0;  // digits behind the last comma, or from the start
+  bool grouped = false, fraction = false;
+  for (const char c : TrimSpaces(text)) {
+    const bool signOnly = plain.empty() || plain == "-" || plain == "+";
+    if (c == '$' && signOnly) continue;
+    if (c == ',' || c == '.') {
+      if (grouped && !fraction && sinceComma != GroupSize) return std::nullopt;
+      if (c == ',' && (fraction || sinceComma == 0 || sinceComma > GroupSize)) return std::nullopt;
+      (c == ',' ? grouped : fraction) = true;
+      sinceComma = 0;
+      if (c == ',') continue;
+    } else if (IsDigit(c)) {
+      ++sinceComma;
+    }
+    plain += c;
+  }
+  if (grouped && !fraction && sinceComma != GroupSize) return std::nullopt;
+  return ParseMoney(plain);
 }
 
 }  // namespace tessarel

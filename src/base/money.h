@@ -128,4 +128,8 @@ std::string PlainText(Money amount);
 // text is anything else or does not fit.
 std::optional<Money> ParseMoney(std::string_view text);
 
+// The same of an amount that a user typed as the program shows it: with a "$" and with commas
+// between groups of three digits too. A comma anywhere else is refused, not dropped.
+std::optional<Money> ParseTypedMoney(std::string_view text);
+
 }  // namespace tessarel

@@ -249,9 +249,9 @@ struct ConfigurationTextTable {
       "Ripristina pagamenti predefiniti"};
   // The rows of a bet that is paid by count; %1 is "3" or "10+".
   SixTexts PointRow = {
-      "      %1 point", "      %1 punto", "      %1 Point", "      %1 point", "      %1 puan", "      %1 punto"};
+      "      %1 point", "      %1 punto", "      %1 Point", "      %1 point", "      %1 point", "      %1 punto"};
   SixTexts PointsRow = {
-      "      %1 points", "      %1 puntos", "      %1 Points", "      %1 points", "      %1 puan", "      %1 punti"};
+      "      %1 points", "      %1 puntos", "      %1 Points", "      %1 points", "      %1 point", "      %1 punti"};
   SixTexts PassRow = {
       "      %1 pass", "      %1 pase", "      %1 Pass", "      %1 passe", "      %1 pas", "      %1 pass"};
   SixTexts PassesRow = {

@@ -249,7 +249,7 @@ constexpr auto Texts = std::to_array<TextRow>({
            "Pago a ",
            "Auszahlung zu ",
            "Paiement à ",
-           "Ödeme orani: ",
+           "Ödeme orani ",
            "Pagamento a "}},
     { 50, {"&Take bet",
            "&Retirar apuesta",

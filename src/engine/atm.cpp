@@ -60,7 +60,7 @@ Money ATM(int place, bool deposit, Money amount, bool tell) {
   }
   if (!text.empty() && tell && Table.HyperDriveOn == 0) {
     const SixTexts& title = deposit ? RailTexts.AtmDeposit : RailTexts.AtmWithdrawal;
-    ShowMessage(std::move(text), LocalizedText(title), msg::OkAlert);
+    ShowMessage(std::move(text), LocalizedText(title), msg::OkAlert, help::Players);
   }
   if (allowed != Money()) MoveBankroll(place, deposit ? -allowed : allowed);
   return allowed;

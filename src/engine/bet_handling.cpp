@@ -47,7 +47,8 @@ void TellHowItStands(int place, Title&& title) {
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
-  Message.MsgHelpId = Message.MsgTimeout = 0;
+  Message.MsgHelpId = help::SettledBets;
+  Message.MsgTimeout = 0;
   ShowMessage();
 }
 

@@ -156,49 +156,49 @@ struct BetTextTable {
       "No puede reducir ni retirar una apuesta Pass Line mientras haya un punto establecido.",
       "Sie dürfen eine Pass Line-Wette nicht verringern oder entfernen, solange ein Point steht.",
       "Vous ne pouvez ni réduire ni retirer une mise Pass Line tant qu'un point est établi.",
-      "Puan belirlenmisken Pass Line bahsini azaltamaz veya kaldiramazsiniz.",
+      "Point belirlenmisken Pass Line bahsini azaltamaz veya kaldiramazsiniz.",
       "Non è possibile ridurre né ritirare una puntata Pass Line mentre è stabilito un punto."};
   SixTexts KeepPassLine = {
       "You may not decrease or remove your Pass Line bet while a point is established.",
       "No puede reducir ni retirar su apuesta Pass Line mientras haya un punto establecido.",
       "Sie dürfen Ihre Pass Line-Wette nicht verringern oder entfernen, solange ein Point steht.",
       "Vous ne pouvez ni réduire ni retirer votre mise Pass Line tant qu'un point est établi.",
-      "Puan belirlenmisken kendi Pass Line bahsinizi azaltamaz veya kaldiramazsiniz.",
+      "Point belirlenmisken kendi Pass Line bahsinizi azaltamaz veya kaldiramazsiniz.",
       "Non può ridurre né ritirare la Sua puntata Pass Line mentre è stabilito un punto."};
   SixTexts DecreaseCome = {
       "You may not decrease or remove a Come bet which is established on a point.",
       "No puede reducir ni retirar una apuesta Come establecida en un punto.",
       "Sie dürfen eine Come-Wette, die auf einem Point steht, nicht verringern oder entfernen.",
       "Vous ne pouvez ni réduire ni retirer une mise Come établie sur un point.",
-      "Bir puana yerlesmis Come bahsini azaltamaz veya kaldiramazsiniz.",
+      "Bir point'e yerlesmis Come bahsini azaltamaz veya kaldiramazsiniz.",
       "Non è possibile ridurre né ritirare una puntata Come stabilita su un punto."};
   SixTexts DecreaseEstablished = {
       "You may not decrease or remove a %1 bet which is established on a point.",
       "No puede reducir ni retirar una apuesta %1 establecida en un punto.",
       "Sie dürfen eine %1-Wette, die auf einem Point steht, nicht verringern oder entfernen.",
       "Vous ne pouvez ni réduire ni retirer une mise %1 établie sur un point.",
-      "Bir puana yerlesmis %1 bahsini azaltamaz veya kaldiramazsiniz.",
+      "Bir point'e yerlesmis %1 bahsini azaltamaz veya kaldiramazsiniz.",
       "Non è possibile ridurre né ritirare una puntata %1 stabilita su un punto."};
   SixTexts DecreaseDuringPoint = {
       "You may not decrease or remove a %1 bet while a point is established.",
       "No puede reducir ni retirar una apuesta %1 mientras haya un punto establecido.",
       "Sie dürfen eine %1-Wette nicht verringern oder entfernen, solange ein Point steht.",
       "Vous ne pouvez ni réduire ni retirer une mise %1 tant qu'un point est établi.",
-      "Puan belirlenmisken %1 bahsini azaltamaz veya kaldiramazsiniz.",
+      "Point belirlenmisken %1 bahsini azaltamaz veya kaldiramazsiniz.",
       "Non è possibile ridurre né ritirare una puntata %1 mentre è stabilito un punto."};
   SixTexts PutPassLine = {
       "You may not make or increase a Pass Line bet while a point is established.",
       "No puede hacer ni aumentar una apuesta Pass Line mientras haya un punto establecido.",
       "Sie dürfen eine Pass Line-Wette nicht setzen oder erhöhen, solange ein Point steht.",
       "Vous ne pouvez ni placer ni augmenter une mise Pass Line tant qu'un point est établi.",
-      "Puan belirlenmisken Pass Line bahsi oynayamaz veya artiramazsiniz.",
+      "Point belirlenmisken Pass Line bahsi oynayamaz veya artiramazsiniz.",
       "Non è possibile fare né aumentare una puntata Pass Line mentre è stabilito un punto."};
   SixTexts PutCome = {
       "You may not make or increase a Come bet directly on a point number.",
       "No puede hacer ni aumentar una apuesta Come directamente en un número de punto.",
       "Sie dürfen eine Come-Wette nicht direkt auf einer Point-Zahl setzen oder erhöhen.",
       "Vous ne pouvez ni placer ni augmenter une mise Come directement sur un numéro de point.",
-      "Dogrudan bir puan sayisina Come bahsi oynayamaz veya artiramazsiniz.",
+      "Dogrudan bir point sayisina Come bahsi oynayamaz veya artiramazsiniz.",
       "Non è possibile fare né aumentare una puntata Come direttamente su un numero punto."};
   SixTexts UnlessPutBets = {
       "(Unless you check \"Allow Put Bets\" on the Configuration screen.)",
@@ -212,35 +212,35 @@ struct BetTextTable {
       "No puede hacer una apuesta Come hasta que haya un punto establecido.",
       "Sie dürfen eine Come-Wette erst setzen, wenn ein Point steht.",
       "Vous ne pouvez pas placer de mise Come avant qu'un point soit établi.",
-      "Puan belirlenmeden Come bahsi oynayamazsiniz.",
+      "Point belirlenmeden Come bahsi oynayamazsiniz.",
       "Non è possibile fare una puntata Come finché non è stabilito un punto."};
   SixTexts DontPassDuringPoint = {
       "You may not make or increase a Don't Pass bet while a point is established.",
       "No puede hacer ni aumentar una apuesta Don't Pass mientras haya un punto establecido.",
       "Sie dürfen eine Don't Pass-Wette nicht setzen oder erhöhen, solange ein Point steht.",
       "Vous ne pouvez ni placer ni augmenter une mise Don't Pass tant qu'un point est établi.",
-      "Puan belirlenmisken Don't Pass bahsi oynayamaz veya artiramazsiniz.",
+      "Point belirlenmisken Don't Pass bahsi oynayamaz veya artiramazsiniz.",
       "Non è possibile fare né aumentare una puntata Don't Pass mentre è stabilito un punto."};
   SixTexts DontComeWithoutPoint = {
       "You may not make a Don't Come bet until a point is established.",
       "No puede hacer una apuesta Don't Come hasta que haya un punto establecido.",
       "Sie dürfen eine Don't Come-Wette erst setzen, wenn ein Point steht.",
       "Vous ne pouvez pas placer de mise Don't Come avant qu'un point soit établi.",
-      "Puan belirlenmeden Don't Come bahsi oynayamazsiniz.",
+      "Point belirlenmeden Don't Come bahsi oynayamazsiniz.",
       "Non è possibile fare una puntata Don't Come finché non è stabilito un punto."};
   SixTexts OddsWithoutPassLine = {
       "You may not make a Pass Line Odds bet unless you also have a Pass Line bet and a point is established.",
       "Solo puede hacer una apuesta Pass Line Odds si tiene también una apuesta Pass Line y hay un punto establecido.",
       "Sie dürfen eine Pass Line Odds-Wette nur setzen, wenn Sie auch eine Pass Line-Wette haben und ein Point steht.",
       "Vous ne pouvez placer une mise Pass Line Odds que si vous avez aussi une mise Pass Line et qu'un point est établi.",
-      "Pass Line bahsiniz yoksa veya puan belirlenmemisse Pass Line Odds bahsi oynayamazsiniz.",
+      "Pass Line bahsiniz yoksa veya point belirlenmemisse Pass Line Odds bahsi oynayamazsiniz.",
       "È possibile fare una puntata Pass Line Odds solo se c'è anche una puntata Pass Line ed è stabilito un punto."};
   SixTexts OddsWithoutDontPass = {
       "You may not make a Don't Pass Odds bet unless you also have a Don't Pass bet and a point is established.",
       "Solo puede hacer una apuesta Don't Pass Odds si tiene también una apuesta Don't Pass y hay un punto establecido.",
       "Sie dürfen eine Don't Pass Odds-Wette nur setzen, wenn Sie auch eine Don't Pass-Wette haben und ein Point steht.",
       "Vous ne pouvez placer une mise Don't Pass Odds que si vous avez aussi une mise Don't Pass et qu'un point est établi.",
-      "Don't Pass bahsiniz yoksa veya puan belirlenmemisse Don't Pass Odds bahsi oynayamazsiniz.",
+      "Don't Pass bahsiniz yoksa veya point belirlenmemisse Don't Pass Odds bahsi oynayamazsiniz.",
       "È possibile fare una puntata Don't Pass Odds solo se c'è anche una puntata Don't Pass ed è stabilito un punto."};
   SixTexts OddsWithoutFlat = {  // %1 the odds, %2 the bet under them
       "You may not make a %1 bet until you've established a %2 bet.",
@@ -254,7 +254,7 @@ struct BetTextTable {
       "No puede hacer ni aumentar una apuesta Don't Come directamente en un número de punto.",
       "Sie dürfen eine Don't Come-Wette nicht direkt auf einer Point-Zahl setzen oder erhöhen.",
       "Vous ne pouvez ni placer ni augmenter une mise Don't Come directement sur un numéro de point.",
-      "Dogrudan bir puan sayisina Don't Come bahsi oynayamaz veya artiramazsiniz.",
+      "Dogrudan bir point sayisina Don't Come bahsi oynayamaz veya artiramazsiniz.",
       "Non è possibile fare né aumentare una puntata Don't Come direttamente su un numero punto."};
   SixTexts SmallNumbersMarked = {
       "You may not make or increase an %1 bet while any small numbers are marked.",
@@ -355,10 +355,10 @@ struct BetTextTable {
   // The settle prompt.
   SixTexts PointWon = {
       "(%1 point won)", "(%1 punto ganado)", "(%1 Point gewonnen)",
-      "(%1 point gagné)", "(%1 puan kazanildi)", "(%1 punto vinto)"};
+      "(%1 point gagné)", "(%1 point kazanildi)", "(%1 punto vinto)"};
   SixTexts PointsWon = {
       "(%1 points won)", "(%1 puntos ganados)", "(%1 Points gewonnen)",
-      "(%1 points gagnés)", "(%1 puan kazanildi)", "(%1 punti vinti)"};
+      "(%1 points gagnés)", "(%1 point kazanildi)", "(%1 punti vinti)"};
   SixTexts PassMade = {
       "(%1 pass made)", "(%1 pase logrado)", "(%1 Pass geschafft)",
       "(%1 passe réussie)", "(%1 pas yapildi)", "(%1 pass riuscito)"};
@@ -367,10 +367,10 @@ struct BetTextTable {
       "(%1 passes réussies)", "(%1 pas yapildi)", "(%1 pass riusciti)"};
   SixTexts PointMade = {
       "(%1 point made)", "(%1 punto logrado)", "(%1 Point geschafft)",
-      "(%1 point réussi)", "(%1 puan yapildi)", "(%1 punto realizzato)"};
+      "(%1 point réussi)", "(%1 point yapildi)", "(%1 punto realizzato)"};
   SixTexts PointsMade = {
       "(%1 points made)", "(%1 puntos logrados)", "(%1 Points geschafft)",
-      "(%1 points réussis)", "(%1 puan yapildi)", "(%1 punti realizzati)"};
+      "(%1 points réussis)", "(%1 point yapildi)", "(%1 punti realizzati)"};
   SixTexts PaysTo = {"%1 to %2", "%1 a %2", "%1 zu %2", "%1 contre %2", "%1:%2", "%1 a %2"};
   SixTexts PaysFor = {"%1 for %2", "%1 por %2", "%1 für %2", "%1 pour %2", "%1 / %2", "%1 per %2"};
   SixTexts PartOfBet = {
@@ -389,7 +389,7 @@ struct BetTextTable {
       "Net payoff (rounded): ", "Pago neto (redondeado): ", "Nettoauszahlung (gerundet): ",
       "Paiement net (arrondi) : ", "Net ödeme (yuvarlanmis): ", "Pagamento netto (arrotondato): "};
   SixTexts LossAt = {
-      "Loss at %1", "Pérdida a %1", "Verlust zu %1", "Perte à %1", "Kayip orani: %1", "Perdita a %1"};
+      "Loss at %1", "Pérdida a %1", "Verlust zu %1", "Perte à %1", "Kayip orani %1", "Perdita a %1"};
   SixTexts NetLoss = {
       "Net loss: ", "Pérdida neta: ", "Nettoverlust: ",
       "Perte nette : ", "Net kayip: ", "Perdita netta: "};

@@ -179,7 +179,7 @@ class Change {
       text_ += "\r\r" + FillIn(delta_ == Money() ? BetTexts.AlreadyBet : BetTexts.BeingBet,
                                {FormatMoney(Total())});
     }
-    ShowMessage(std::move(text_), BetTitle(number_), msg::OkAlert | hide_);
+    ShowMessage(std::move(text_), BetTitle(number_), msg::OkAlert | hide_, help::Bets);
   }
 
   int place_, number_;
@@ -200,7 +200,8 @@ void TellVig(int number, Money vig, Money change, bool upFront) {
     text += "\r" + FillIn(change > Money() ? BetTexts.VigIncreased : BetTexts.VigDecreased,
                           {FormatMoney(Abs(change))});
   }
-  ShowMessage(std::move(text), BetTitle(number), msg::Ok | msg::PictureAlert | msg::HideNotice4);
+  ShowMessage(std::move(text), BetTitle(number), msg::Ok | msg::PictureAlert | msg::HideNotice4,
+              help::OddsVigAndCalls);
 }
 
 void MoveVig(int number, Money& stored, Money vig, Money& onTable, bool upFront, bool silent) {
@@ -247,7 +248,7 @@ void ChangeStack(int place, int number) {
     text += "\r\r" + FillIn(delta == Money() ? BetTexts.AlreadyStacked : BetTexts.BeingStacked,
                             {FormatMoney(amount + delta)});
   }
-  ShowMessage(std::move(text), BetTitle(number), msg::OkAlert | msg::HideNotice2);
+  ShowMessage(std::move(text), BetTitle(number), msg::OkAlert | msg::HideNotice2, help::Bets);
 }
 
 // Changes within a roll are shown when it ends.
@@ -293,7 +294,8 @@ bool CanBeCalled(int number) {
 
 void TellNotAllowed(std::string text) {
   if (Quiet(ShowRejections) || (Settings.Notices & NoticeActionsNotAllowed) == 0) return;
-  ShowMessage(std::move(text), std::string(GetText(58)), msg::OkAlert | msg::HideNotice1);
+  ShowMessage(std::move(text), std::string(GetText(58)), msg::OkAlert | msg::HideNotice1,
+              help::OddsVigAndCalls);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "base/single_byte_text.h"
 #include "config/language.h"
 #include "config/settings.h"
 #include "engine/bets.h"
@@ -35,7 +34,7 @@ constexpr int NextShooterPlace(int place) {
 void TellPassing(PassReason reason, std::string text) {
   const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
   if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
-  ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::OkAlert);
+  ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::OkAlert, help::Players);
 }
 
 // The first place after the shooter's that `qualifies` accepts; 0 when none does.
@@ -108,9 +107,10 @@ void SetBankroll(int place, Money amount) {
 std::optional<Money> AskBankroll(const std::string& question,
                                  const std::string& title,
                                  const std::string& offered) {
-  std::string text = question;
-  while (AskForText(text, title, offered)) {
-    const std::optional<Money> amount = ParseMoney(TrimSpaces(Message.MsgInput));
+  std::string text = question, shown = offered;
+  while (AskForText(text, title, shown, help::Players)) {
+    shown = Message.MsgInput;
+    const std::optional<Money> amount = ParseTypedMoney(shown);
     if (amount && Abs(*amount) <= BankrollLimit) return amount;
     const bool tooLow = amount && *amount < Money();
     text = std::string(GetText(tooLow ? 11 : 10)) + (tooLow ? "-$" : "$") +
@@ -152,7 +152,8 @@ void ShowPassedDiceNote() {
   } else if (RollsInHand() == 0 && handBefore && Table.PreviousShooter == 0) {
     text = LocalizedText(RailTexts.LastHandOfGonePlayer);
   }
-  if (!text.empty()) ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::Ok);
+  if (!text.empty())
+    ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::Ok, help::Players);
 }
 
 void PassDice(PassReason reason) {
@@ -182,14 +183,15 @@ void BankrollLimitStop(int place) {
     const SixTexts& text = negative ? RailTexts.StoppedBelowLimit : RailTexts.StoppedAboveLimit;
     Table.StopReason = gone ? reset : withReset(FillIn(text, {LimitText}));
   } else if (gone) {
-    ShowMessage(reset, "", msg::OkAlert);
+    ShowMessage(reset, "", msg::OkAlert, help::NewSession);
   } else if (negative) {
     ShowMessage(withReset(FillIn(RailTexts.BelowLimit, {NameOf(place), LimitText})), "",
-                msg::OkAlert);
+                msg::OkAlert, help::NewSession);
   } else {
     const bool first = Table.BankrollStopPlace == 0;
     if (first && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::LimitBroken);
-    ShowMessage(withReset(FillIn(RailTexts.AboveLimit, {NameOf(place), LimitText})), "", msg::Ok);
+    ShowMessage(withReset(FillIn(RailTexts.AboveLimit, {NameOf(place), LimitText})), "", msg::Ok,
+                help::NewSession);
   }
   StopUnattended();
   Table.BankrollStopPlace = place;

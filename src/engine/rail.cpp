@@ -15,6 +15,7 @@
 #include "engine/bet_refusals.h"
 #include "engine/place_fields.h"
 #include "engine/players.h"
+#include "engine/rail_texts.h"
 #include "engine/table.h"
 #include "files/event_lines.h"
 #include "files/sessions_commands.h"
@@ -27,6 +28,8 @@ namespace tessarel {
 namespace {
 
 constexpr const char* UsualBuyIn = "1000";
+// The name of a player's sessions log, which holds his, is one that every disk takes.
+constexpr size_t MostNameCharacters = 60;
 
 std::string Text(int id) {
   return std::string(GetText(id));
@@ -35,11 +38,16 @@ std::string Text(int id) {
 // Asks `question` until the answer is a name that can be given; empty when the user gives up.
 std::string AskName(const std::string& question, const std::string& title, int place) {
   std::string text = question;
-  const std::string offered = place == 0 ? "" : At(Table.PlayerName, place);
-  while (AskForText(text, title, offered)) {
+  const std::string before = place == 0 ? "" : At(Table.PlayerName, place);
+  std::string offered = before;
+  while (AskForText(text, title, offered, help::Players)) {
     const std::string name(TrimSpaces(Message.MsgInput));
-    if (name.empty() || (place != 0 && name == offered)) return "";
-    if (const auto taken = NameRefusal(name, place)) {
+    if (name.empty() || name == before) return "";
+    offered = name;
+    if (ToSingleByte(name).size() > MostNameCharacters) {
+      const std::string most = std::to_string(MostNameCharacters);
+      text = FillIn(RailTexts.NameTooLong, {most}) + "\r\r" + question;
+    } else if (const auto taken = NameRefusal(name, place)) {
       text = *taken + "\r\r" + question;
     } else if (const auto reserved = PlayerNameRefusal(name)) {
       text = *reserved + question;
@@ -97,7 +105,7 @@ bool ConfirmRemoval(int place, const std::vector<AbandonedBet>& abandoned) {
     text += "\r\r" + name + Text(19) + ListOf(abandoned) + Text(24) + "\r\r" + Text(25) +
             FormatMoney(Total(abandoned));
   }
-  return ShowMessage(text, Text(26), msg::AskNoDefault) == AnswerYes;
+  return ShowMessage(text, Text(26), msg::AskNoDefault, help::Players) == AnswerYes;
 }
 
 void LoseAbandoned(int place, const std::vector<AbandonedBet>& bets) {
@@ -126,12 +134,13 @@ std::optional<std::string> NameRefusal(const std::string& name, int place) {
 
 bool AddPlayer(int place) {
   if (IsTaken(Table, place)) return false;
-  if (ShowMessage(Text(3), Text(5), msg::AskYesDefault) != AnswerYes) return false;
+  if (ShowMessage(Text(3), Text(5), msg::AskYesDefault, help::Players) != AnswerYes) return false;
   const std::string name = AskName(Text(4), Text(5), 0);
   if (name.empty()) return false;
   const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
   if (!buyIn) return false;
   SeatPlayer(place, name, *buyIn);
+  Table.TableDirty = -1;
   FrontEnd.DrawTable();
   return true;
 }
@@ -142,6 +151,7 @@ bool RenamePlayer(int place) {
   const std::string name = AskName(Text(13) + before, Text(14), place);
   if (name.empty()) return false;
   SetPlayerName(place, name);
+  Table.TableDirty = -1;
   LogPlayerRenamed(before, name);
   OfferToRenameSessionsLog(place);
   FrontEnd.DrawTable();
@@ -169,6 +179,7 @@ bool DeletePlayer(int place, bool ask) {
   const std::vector<AbandonedBet> abandoned = AbandonedBets(place);
   if (ask && !ConfirmRemoval(place, abandoned)) return false;
   LoseAbandoned(place, abandoned);
+  Table.TableDirty = -1;
   LogCashOut(place, Total(abandoned));
   Trapped("DeletePlayer", [place] { WriteSession(place); });
   ClearPlace(place);
@@ -196,6 +207,7 @@ bool MovePlayer(int from, int to) {
   }
   FollowInViews(from, to);
   Scripts.ProgramReady = false;
+  Table.TableDirty = -1;
   RebuildDerived();
   LogPlayerMoved(to);
   FrontEnd.DrawTable();

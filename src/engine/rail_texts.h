@@ -95,6 +95,14 @@ struct RailTextTable {
       "Son eli artik masada olmayan bir oyuncu atti.",
       "L'ultima mano è stata lanciata da un giocatore che non è più al tavolo."};
 
+  SixTexts NameTooLong = {  // %1 the most characters
+      "A player's name can't have more than %1 characters.",
+      "El nombre de un jugador no puede tener más de %1 caracteres.",
+      "Ein Spielername darf höchstens %1 Zeichen haben.",
+      "Le nom d'un joueur ne peut pas dépasser %1 caractères.",
+      "Bir oyuncunun adi en çok %1 karakter olabilir.",
+      "Il nome di un giocatore non può superare %1 caratteri."};
+
   // Bankrolls and their limits.
   SixTexts AskBeginningBankroll = {
       "Enter %1's beginning bankroll:",

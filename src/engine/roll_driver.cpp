@@ -39,7 +39,8 @@ namespace {
 
 // A roll that cannot be made: the message outside the Hyper-Drive, and the reason that a run ends.
 bool Refuse(std::string text, std::string title, std::string reason) {
-  if (Table.HyperDriveOn == 0) ShowMessage(std::move(text), std::move(title), msg::OkAlert);
+  if (Table.HyperDriveOn == 0)
+    ShowMessage(std::move(text), std::move(title), msg::OkAlert, help::Dice);
   Table.StopReason = std::move(reason);
   return false;
 }
@@ -371,7 +372,7 @@ void PauseAutoRoll() {
   if (AutoStopIsDue()) {
     StopUnattended();
     ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
-                msg::OkAlert);
+                msg::OkAlert, help::AutoRoll);
   } else {
     WaitForNextRoll();
   }

@@ -11,7 +11,8 @@ void StopUnattended() {
   if (Table.AutoRollOn == 0 && Table.HyperDriveOn == 0) return;
   Table.AutoRollOn = Table.HyperDriveOn = 0;
   if (!Table.StopReason.empty()) {
-    ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert);
+    ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert,
+                help::AutoRoll);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

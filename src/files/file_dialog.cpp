@@ -156,12 +156,13 @@ bool MayTake(const std::string& path, const ActionRow& row) {
   const bool exists = FileExists(path);
   if (row.purpose == Purpose::Save) {
     if (RefusesTarget(path)) return false;
-    return !exists || ShowMessage(FillIn(FileTexts.AskToOverwrite, {path}),
-                                  LocalizedText(row.title), msg::AskNoDefault) == AnswerYes;
+    return !exists ||
+           ShowMessage(FillIn(FileTexts.AskToOverwrite, {path}), LocalizedText(row.title),
+                       msg::AskNoDefault, help::Saving) == AnswerYes;
   }
   if (!exists) {
     ShowMessage(std::string(GetText(FileNotFoundText)) + "\r\r" + path,
-                std::string(GetText(UnableToOpenFile)), msg::OkAlert);
+                std::string(GetText(UnableToOpenFile)), msg::OkAlert, help::Saving);
   }
   return exists;
 }
@@ -187,7 +188,8 @@ void BackToDefaultSessionsLog(int place) {
   std::string& log = At(Table.SessionLogName, place);
   log = DefaultSessionsLogName(name);
   const SixTexts& text = FileExists(log) ? FileTexts.ExistingLogInstead : FileTexts.NewLogInstead;
-  ShowMessage(FillIn(text, {log}), FillIn(FileTexts.SessionsLogOf, {name}), msg::OkAlert);
+  ShowMessage(FillIn(text, {log}), FillIn(FileTexts.SessionsLogOf, {name}), msg::OkAlert,
+              help::SessionsLogs);
 }
 
 void GiveUpAndDelete(const std::string& path) {

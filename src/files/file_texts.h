@@ -447,6 +447,13 @@ struct FileTextTable {
       "Voulez-vous enregistrer le script de mises automatiques de %1 ?",
       "%1 adli oyuncunun otomatik bahis betigi kaydedilsin mi?",
       "Salvare lo script di puntate automatiche di %1?"};
+  SixTexts LeaveUnsaved = {
+      "The table could not be saved and will be lost.\r\rDo you want to leave all the same?",
+      "No se pudo guardar la mesa y se perderá.\r\r¿Desea salir de todos modos?",
+      "Der Tisch konnte nicht gespeichert werden und geht verloren.\r\rMöchten Sie trotzdem beenden?",
+      "La table n'a pas pu être enregistrée et sera perdue.\r\rVoulez-vous quitter quand même ?",
+      "Masa kaydedilemedi ve kaybolacak.\r\rYine de çikmak istiyor musunuz?",
+      "Non è stato possibile salvare il tavolo, che andrà perduto.\r\rUscire comunque?"};
   SixTexts HotKeyScriptError = {
       "The Auto-Bet script for this hot-key contains a syntax error which must be corrected before you can use it.",
       "El script de apuestas automáticas de esta tecla rápida contiene un error de sintaxis que debe corregir antes de usarlo.",
@@ -454,6 +461,16 @@ struct FileTextTable {
       "Le script de mises automatiques de ce raccourci contient une erreur de syntaxe à corriger avant de l'utiliser.",
       "Bu kisayol tusunun otomatik bahis betiginde, kullanmadan önce düzeltilmesi gereken bir sözdizimi hatasi var.",
       "Lo script di puntate automatiche di questo tasto rapido contiene un errore di sintassi da correggere prima di usarlo."};
+  SixTexts FaultyScript = {  // %1 the player
+      "%1's auto-bet script contains an error which must be corrected before you can run it.\r\rSelect %1 on the auto-bet screen and click the \"Check Script\" button to see the error.",
+      "El script de apuestas automáticas de %1 contiene un error que debe corregir antes de ejecutarlo.\r\rSeleccione a %1 en la pantalla de apuestas automáticas y pulse el botón \"Comprobar script\" para ver el error.",
+      "Das Skript der automatischen Wetten von %1 enthält einen Fehler, der vor dem Ausführen behoben werden muss.\r\rWählen Sie %1 im Fenster der automatischen Wetten und klicken Sie auf \"Skript prüfen\", um den Fehler zu sehen.",
+      "Le script de mises automatiques de %1 contient une erreur à corriger avant de l'exécuter.\r\rSélectionnez %1 dans l'écran des mises automatiques et cliquez sur le bouton \"Vérifier le script\" pour voir l'erreur.",
+      "%1 adli oyuncunun otomatik bahis betiginde, çalistirmadan önce düzeltilmesi gereken bir hata var.\r\rHatayi görmek için otomatik bahis ekraninda %1 adini seçip \"Betigi Denetle\" dügmesine tiklayin.",
+      "Lo script di puntate automatiche di %1 contiene un errore da correggere prima di eseguirlo.\r\rSelezionare %1 nella schermata delle puntate automatiche e fare clic su \"Controlla script\" per vedere l'errore."};
+  SixTexts FaultyScriptTitle = {
+      "Auto-bet script error", "Error en el script de apuestas automáticas", "Fehler im Skript der automatischen Wetten",
+      "Erreur du script de mises automatiques", "Otomatik bahis betigi hatasi", "Errore nello script di puntate automatiche"};
   SixTexts ScriptErrorTitle = {
       "Auto-Bet Script Error", "Error en el script de apuestas automáticas", "Fehler im Skript der automatischen Wetten",
       "Erreur du script de mises automatiques", "Otomatik Bahis Betigi Hatasi", "Errore nello script di puntate automatiche"};

@@ -58,7 +58,7 @@ void NameGame(const std::string& path) {
 // --- Opening -----------------------------------------------------------------------------------
 
 void Refuse(const SixTexts& why, const std::string& path) {
-  ShowMessage(FillIn(why, {ShortName(path)}), Message.ErrorTitle, msg::OkAlert);
+  ShowMessage(FillIn(why, {ShortName(path)}), Message.ErrorTitle, msg::OkAlert, help::Saving);
 }
 
 bool IsGameFile(const RecordFile& file, const std::string& path) {
@@ -131,7 +131,7 @@ bool NamesGameFile(const std::string& argument) {
 void TellUnrecognized(const std::string& argument, bool automaticFollows) {
   std::string text = FillIn(FileTexts.UnrecognizedGame, {argument});
   if (automaticFollows) text.append("\r\r").append(Localized(FileTexts.DefaultGameInstead));
-  ShowMessage(std::move(text), std::string(GetText(UnableToOpenText)), msg::OkAlert);
+  ShowMessage(std::move(text), std::string(GetText(UnableToOpenText)), msg::OkAlert, help::Saving);
 }
 
 void WriteGame(const std::string& path, bool automatic) {
@@ -175,8 +175,9 @@ bool OpenGame(const std::string& name) {
 bool LoadStartGame(std::string_view commandLine) {
   const std::string argument = WithoutQuotes(commandLine);
   // What is typed in a shell is meant from its folder.
-  const std::string named = FileExists(argument) ? FullName(argument) : argument;
-  if (NamesGameFile(argument) && OpenGame(named)) return true;
+  const std::string named =
+      FullName(FileExists(argument) ? argument : InFolder(Folders.AppFolder, argument));
+  if (NamesGameFile(argument) && FileExists(named) && OpenGame(named)) return true;
   const bool automatic = FileExists(AutomaticGamePath());
   if (!argument.empty()) TellUnrecognized(argument, automatic);
   return automatic && OpenGame(AutomaticGamePath());

@@ -48,7 +48,7 @@ bool HasOpenPlace() {
 }
 
 void TellWhereToJoin() {
-  ShowMessage(std::string(GetText(1)), std::string(GetText(2)), msg::Ok);
+  ShowMessage(std::string(GetText(1)), std::string(GetText(2)), msg::Ok, help::Players);
 }
 
 // All odds of the current player at once.

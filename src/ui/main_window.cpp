@@ -116,6 +116,8 @@ QAction* MainWindow::Entry(const QString& name) const {
 
 void MainWindow::FillFrontEnd() {
   FrontEnd.ShowMessage = [] {
+    // Before the table is shown a message stands in the middle of the screen.
+    if (!Main->isVisible()) return ShowMessageWindow(nullptr);
     Main->RefreshStatus();
     ShowMessageWindow(Main);
   };
@@ -147,7 +149,8 @@ void MainWindow::FillFrontEnd() {
   FrontEnd.PlaySoundFile = PlaySoundOfFile;
   FrontEnd.ReportScriptError = [](int, int, const std::string& text) {
     if (Table.HyperDriveOn == 0)
-      ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert);
+      ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert,
+                  help::BettingSystems);
   };
   FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
     return AskFile(Main, FileActionOfTitle(title).value_or(FileAction::SaveSession), offered);
@@ -236,13 +239,14 @@ void MainWindow::TakeUpGame() {
   RestoreSmallWindow(diceWindow_);
   ShowDiceWindowIfUsed();
   RefreshAll();
+  TellOtherWindows();
 }
 
 void MainWindow::OfferUnfinishedTable() {
   if (!autosave_.FindsTable()) return;
   const std::string question = FillIn(texts::UnfinishedQuestion, {autosave_.TimeOfTable()});
   const std::string title(Localized(texts::UnfinishedTitle));
-  const bool goOn = ShowMessage(question, title, msg::AskYesDefault) == AnswerYes;
+  const bool goOn = ShowMessage(question, title, msg::AskYesDefault, help::Saving) == AnswerYes;
   if (!goOn) return autosave_.Discard();
   if (autosave_.TakeUp() && OpenGame(std::string(AutomaticGameFile))) {
     Table.TableDirty = -1;
@@ -314,8 +318,9 @@ void MainWindow::ShowHint() {
 void MainWindow::RightClick() {
   if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
     const bool hyper = Table.HyperDriveOn != 0;
-    const int32_t answer = ShowMessage(std::string(GetText(hyper ? 118 : 119)),
-                                       std::string(GetText(hyper ? 114 : 117)), msg::AskYesDefault);
+    const int32_t answer =
+        ShowMessage(std::string(GetText(hyper ? 118 : 119)),
+                    std::string(GetText(hyper ? 114 : 117)), msg::AskYesDefault, help::AutoRoll);
     if (answer == AnswerYes) StopAutoRoll();
   } else {
     RollTheDice();
@@ -345,15 +350,16 @@ void MainWindow::ToggleRun(bool hyperDrive) {
 
 void MainWindow::NewGame() {
   const auto answer = AskNewGame(this);
-  if (!answer) return;
-  StartNewGame(answer->options, answer->keepScripts);
+  if (!answer || !StartNewGame(answer->options, answer->keepScripts)) return;
   TablePlay = TablePlayState{};
   view_->DrawTable();
 }
 
 void MainWindow::OpenGameFile() {
   const std::string file = AskFile(this, FileAction::OpenSession, GameFile.GameFileName);
-  if (file.empty() || !OpenGame(file)) return;
+  if (file.empty() || !AskToReplaceGame()) return;
+  // A file that is cut off is reported, and what was read of it stands on the table.
+  OpenGame(file);
   TakeUpGame();
 }
 
@@ -362,6 +368,15 @@ void MainWindow::TakeUpLanguage() {
   SetCaptions();
   view_->DrawTable();
   RefreshAll();
+  TellOtherWindows();
+}
+
+// The windows that set their own captions: help and view.
+void MainWindow::TellOtherWindows() {
+  QEvent change(QEvent::LanguageChange);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window != this) QCoreApplication::sendEvent(window, &change);
+  }
 }
 
 void MainWindow::TakeUpFontSize() {

@@ -62,6 +62,7 @@ class MainWindow : public QMainWindow {
   void ToggleRun(bool hyperDrive);
   void ShowHint();
   void TakeUpLanguage();
+  void TellOtherWindows();
   void NewGame();
   void OpenGameFile();
   void Animate();

@@ -466,9 +466,9 @@ void BuyInCurrentPlayer() {
   const std::string question = FillIn(texts::BuyInQuestion, {NameOf(place)});
   const std::string title(Localized(texts::BuyInTitle));
   std::string offered = PlainText(Settings.AtmAmount);
-  while (AskForText(question, title, offered)) {
+  while (AskForText(question, title, offered, help::Players)) {
     offered = Message.MsgInput;
-    const std::optional<Money> amount = ParseMoney(TrimSpaces(offered));
+    const std::optional<Money> amount = ParseTypedMoney(offered);
     if (amount && *amount > Money()) {
       ATM(place, false, *amount, true);
       Table.TableDirty = -1;

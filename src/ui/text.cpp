@@ -1,6 +1,16 @@
 #include "ui/text.h"
 
+#include "base/single_byte_text.h"
+
 namespace tessarel {
+
+namespace {
+
+bool Keeps(QChar letter) {
+  return letter == '?' || ToSingleByte(QString(letter).toStdString()) != "?";
+}
+
+}  // namespace
 
 QString Shown(std::string_view utf8) {
   QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
@@ -13,6 +23,20 @@ QString Shown(const SixTexts& texts) {
 
 std::string Typed(const QString& text) {
   return text.toStdString();
+}
+
+QString InCodePage(const QString& text) {
+  QString kept;
+  for (const QChar letter : text) {
+    const QString plain = letter == QChar(0x131) ? QStringLiteral("i")
+                          : Keeps(letter)
+                              ? QString(letter)
+                              : QString(letter).normalized(QString::NormalizationForm_KD);
+    for (const QChar part : plain) {
+      if (!part.isMark() && Keeps(part)) kept += part;
+    }
+  }
+  return kept;
 }
 
 QString WithoutMark(QString caption) {

@@ -18,6 +18,10 @@ QString Shown(const SixTexts& texts);
 // What was typed, as the core takes it.
 std::string Typed(const QString& text);
 
+// The text as files can keep it: letters outside Windows-1252 without their marks, as the Turkish
+// texts are written; what then still has no place in it is left out.
+QString InCodePage(const QString& text);
+
 // A caption without its shortcut mark.
 QString WithoutMark(QString caption);
 

@@ -451,6 +451,35 @@ TEST_F(Session, SavingOffersTheScriptsFirstAndAsksForAName) {
   EXPECT_EQ(Table.TableDirty, 0);
 }
 
+TEST_F(Session, AnotherGameDoesNotReplaceOneThatIsUnsavedWithoutAsking) {
+  EXPECT_TRUE(AskToReplaceGame());
+  EXPECT_TRUE(Shown.empty());
+  SeatPlayer(2, "Ann", 100);
+  Table.TableDirty = -1;
+  Answers = {"-"};
+  EXPECT_FALSE(AskToReplaceGame());
+  EXPECT_EQ(Shown, std::vector<std::string>{"Save Session: Your current session has not been "
+                                            "saved.\r\rDo you want to save it now?"});
+  EXPECT_FALSE(AskToReplaceGame());  // it gets no name
+  FrontEnd.AskSaveFile = [](const std::string&, const std::string&) {
+    return std::string("ann.tsg");
+  };
+  EXPECT_TRUE(AskToReplaceGame());
+  EXPECT_EQ(Table.TableDirty, 0);
+  EXPECT_TRUE(std::filesystem::exists(Folder.Path() + "ann.tsg"));
+}
+
+TEST_F(Session, ATableThatCannotBeSavedIsNotLostUnasked) {
+  std::filesystem::create_directory(Folder.Path() + "default.tsg");
+  EXPECT_FALSE(Leave());
+  ASSERT_EQ(Shown.size(), 2u);
+  EXPECT_EQ(Shown[1],
+            "Tessarel: The table could not be saved and will be lost.\r\rDo you want to leave all "
+            "the same?");
+  std::filesystem::remove(Folder.Path() + "default.tsg");
+  EXPECT_TRUE(Leave());
+}
+
 TEST_F(Session, ANewGameKeepsTheOneOnAShownTable) {
   const std::string file = Folder.Path() + "default.tsg";
   for (const bool shown : {false, true}) {
@@ -473,6 +502,11 @@ TEST_F(Session, ANewGameKeepsOrEmptiesTheScripts) {
   EXPECT_EQ(Scripts.Places[2].lines.size(), 1u);
   EXPECT_EQ(Scripts.ScriptActiveAfterRoll[2], -1);
   EXPECT_FALSE(std::filesystem::exists(Folder.Path() + "rollcopyfile.rll"));
+  Scripts.Places[2].changed = true;
+  Answers = {"-"};
+  EXPECT_FALSE(StartNewGame({}, false));
+  EXPECT_EQ(Scripts.Places[2].lines.size(), 1u);
+  Scripts.Places[2].changed = false;
   EXPECT_TRUE(StartNewGame({}, false));
   EXPECT_EQ(Scripts.Places[2], ScriptPlace());
   EXPECT_EQ(Scripts.ScriptActive[0], 0);

@@ -113,5 +113,20 @@ TEST(Money, OtherSpellingsAreReadOrRefused) {
   }
 }
 
+TEST(Money, TypedAmountsMayLookAsTheyAreShown) {
+  const std::pair<const char*, int64_t> good[] = {{" 1,000 ", 1000},
+                                                  {"$1,234,567", 1'234'567},
+                                                  {"-$500", -500},
+                                                  {"$-9,999,999.00", -9'999'999},
+                                                  {"12", 12}};
+  for (const auto& [text, whole] : good) {
+    EXPECT_EQ(ParseTypedMoney(text), Money::FromWhole(whole)) << text;
+  }
+  for (const char* text : {"", "$", "0,5", "1,5", "1,00", "1000,000", ",500", "1,0000", "1,000,",
+                           "1.5,000", "5$", "1,000 000", "1,00.5"}) {
+    EXPECT_EQ(ParseTypedMoney(text), std::nullopt) << text;
+  }
+}
+
 }  // namespace
 }  // namespace tessarel

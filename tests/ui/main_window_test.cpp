@@ -1,6 +1,7 @@
 // Plays at the main window with mouse and keys, and looks at what the table says to a refused
 // click, in all languages.
 #include <QAction>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -10,6 +11,7 @@
 #include "automation/auto_roll.h"
 #include "config/language.h"
 #include "engine/bets.h"
+#include "engine/rail.h"
 #include "files/game_file.h"
 #include "files/hot_keys.h"
 #include "stats/store.h"
@@ -193,6 +195,23 @@ TEST_F(WindowTest, PlayersAreSelectedAndMovedOnTheRail) {
 }
 
 // Every refusal of a click, in the words of the rules.
+TEST_F(WindowTest, APlayersNameIsAskedUntilItCanBeKept) {
+  Seat(2, "Joe", 100);
+  const std::string tooLong(61, 'w');
+  const auto foreign = [](QDialog& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>("txtInput");
+    EXPECT_EQ(name->text(), "Joe");  // what was refused stands to be mended
+    name->clear();
+    name->insert(QString(QChar(0x15E)) + "ule" + QChar(0x418));
+    QTest::keyClick(name, Qt::Key_Return);
+  };
+  AnswerInTurn(
+      {Key(Qt::Key_Y), Text(tooLong.c_str()), Text("Joe"), foreign, Text("1,0"), Text("$1,500")},
+      [] { AddPlayer(5); });
+  EXPECT_EQ(Table.PlayerName[5], "Sule");
+  EXPECT_EQ(BankrollOf(5), 1500);
+}
+
 TEST_F(WindowTest, ARefusedClickSaysWhy) {
   Seat(4, "Ann", 1000);
   const auto nothing = [] {};
@@ -322,6 +341,20 @@ TEST_F(WindowTest, TheTableComesBackAtTheNextStart) {
   EXPECT_EQ(Table.PlayerName[4], "Ann");
   EXPECT_EQ(Bet(4, bet::PassLine), 5);
   EXPECT_EQ(window->size(), QSize(1100, 750));
+}
+
+TEST_F(WindowTest, ATableIsNotReplacedUnasked) {
+  Seat(4, "Ann", 640);
+  SaveGame("ann.tsg");
+  Seat(5, "Bob", 640);
+  Table.TableDirty = -1;
+  for (const bool saves : {false, true}) {
+    std::vector<std::function<void(QDialog&)>> answers = {
+        Text("ann.tsg"), Key(saves ? Qt::Key_Return : Qt::Key_Escape)};
+    AnswerInTurn(answers, [&] { window->Entry("mnuOpen")->trigger(); });
+    EXPECT_EQ(Table.PlayerName[5], "Bob") << saves;
+    EXPECT_EQ(Table.TableDirty == 0, saves);
+  }
 }
 
 TEST_F(WindowTest, ATableLeftBehindIsOffered) {

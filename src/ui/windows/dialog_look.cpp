@@ -2,10 +2,12 @@
 
 #include <QFontMetrics>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <algorithm>
 #include <cmath>
 
 #include "config/settings.h"
+#include "ui/windows/message_window.h"
 
 namespace tessarel {
 
@@ -14,13 +16,32 @@ namespace {
 constexpr double MarginSteps = 4, GapSteps = 2, LeastButtonSteps = 19;
 constexpr double HeadingScale = 1.25;
 
-// A text whose words all fit into `width`, but for paths: those may break behind each folder.
-QString Breakable(QString text, const QFontMetrics& metrics, int width) {
-  for (const QString& word : text.split(QRegularExpression(QStringLiteral("\\s")))) {
-    if (metrics.horizontalAdvance(word) <= width) continue;
-    return text.replace('/', QStringLiteral("/\u200B"));
+// A word of which every piece fits into `width`: a path breaks behind its folders, all else that
+// is too long anywhere.
+QString BreakableWord(const QString& word, const QFontMetrics& metrics, int width) {
+  const QChar breakHere(0x200B);
+  QStringList pieces = word.split('/');
+  for (QString& piece : pieces) {
+    if (metrics.horizontalAdvance(piece) <= width) continue;
+    QString letters;
+    for (const QChar letter : piece)
+      (letters += letter) += breakHere;
+    piece = letters;
   }
-  return text;
+  return pieces.join(QString('/') + breakHere);
+}
+
+QString Breakable(const QString& text, const QFontMetrics& metrics, int width) {
+  static const QRegularExpression Words(QStringLiteral("\\S+"));
+  QString broken;
+  qsizetype end = 0;
+  for (const QRegularExpressionMatch& match : Words.globalMatch(text)) {
+    broken += QStringView(text).mid(end, match.capturedStart() - end);
+    const QString word = match.captured();
+    broken += metrics.horizontalAdvance(word) <= width ? word : BreakableWord(word, metrics, width);
+    end = match.capturedEnd();
+  }
+  return broken + text.mid(end);
 }
 
 }  // namespace
@@ -46,6 +67,12 @@ int LookStep(double steps) {
 void DressWindow(QWidget& window, const QString& title) {
   window.setFont(DialogFont());
   window.setWindowTitle(title);
+}
+
+void HelpOnF1(QWidget& window, int32_t topic) {
+  new QShortcut(Qt::Key_F1, &window, [topic] {
+    if (OpenHelpTopic) OpenHelpTopic(topic);
+  });
 }
 
 QVBoxLayout* MakeColumn(QWidget& window) {

@@ -9,7 +9,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
+#include <cstdint>
 #include <functional>
+
+#include "base/help_topics.h"
 
 namespace tessarel {
 
@@ -22,6 +25,9 @@ int LookStep(double steps);
 
 // Gives a window the common font and its title.
 void DressWindow(QWidget& window, const QString& title);
+
+// F1 in a window, also a modal one, opens the page of a topic of the help.
+void HelpOnF1(QWidget& window, int32_t topic);
 
 // The column that fills a window, with the common margins and gaps.
 QVBoxLayout* MakeColumn(QWidget& window);

@@ -47,12 +47,13 @@ class FileWindow : public QDialog {
  public:
   explicit FileWindow(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmFile"));
-    DressWindow(*this, Shown(FileActionCaption(FileDialog.Action)));
+    DressWindow(*this, Shown(FileActionTitle(FileDialog.Action)));
     QVBoxLayout* const column = MakeColumn(*this);
     AddFolderRow(column);
     AddList(column);
     AddFields(column);
     AddButtons(column);
+    HelpOnF1(*this, help::Saving);
     ShowFolder();
     resize(LookStep(150), LookStep(110));
     if (SavesFile(FileDialog.Action) || filList_->count() == 0) {
@@ -242,10 +243,6 @@ class FileWindow : public QDialog {
 };
 
 }  // namespace
-
-std::string_view FileActionCaption(FileAction action) {
-  return Localized(At(file_text::Titles, static_cast<int>(action)));
-}
 
 std::string AskFile(QWidget* parent, FileAction action, const std::string& offered) {
   LoadFileDialog(action, offered);

@@ -37,9 +37,6 @@ std::optional<NewGameAnswer> AskNewGame(QWidget* parent);
 // The file dialog for an action: the full name of the file chosen; empty on Cancel.
 std::string AskFile(QWidget* parent, FileAction action, const std::string& offered);
 
-// What an action is called in the language in force.
-std::string_view FileActionCaption(FileAction action);
-
 // Called when another language was put in force: every open window sets its captions again.
 extern std::function<void()> LanguageChanged;
 

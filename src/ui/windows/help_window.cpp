@@ -363,7 +363,8 @@ bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void HelpWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) TakeUpSettings();
+  const bool activated = event->type() == QEvent::ActivationChange && isActiveWindow();
+  if (activated || event->type() == QEvent::LanguageChange) TakeUpSettings();
   if (event->type() == QEvent::PaletteChange && page_->source().isValid()) {
     page_->DressPage();
     page_->reload();

@@ -36,6 +36,7 @@ class LanguageWindow : public QDialog {
     QHBoxLayout* const row = AddButtonRow(column);
     AddButton(row, Shown(Choose), [this] { accept(); })->setDefault(true);
     AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    HelpOnF1(*this, help::SoundsAndLanguage);
     lstLanguages_->setFocus();
   }
 

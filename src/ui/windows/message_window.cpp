@@ -196,6 +196,14 @@ class MessageBox : public QDialog {
       txtInput_->setObjectName(QStringLiteral("txtInput"));
       txtInput_->setMinimumWidth(LookStep(60));
       txtInput_->selectAll();
+      QObject::connect(txtInput_, &QLineEdit::textEdited, txtInput_, [this](const QString& typed) {
+        const QString kept = InCodePage(typed);
+        if (kept == typed) return;
+        const int cursor =
+            txtInput_->cursorPosition() + static_cast<int>(kept.size() - typed.size());
+        txtInput_->setText(kept);
+        txtInput_->setCursorPosition(std::max(cursor, 0));
+      });
       side->addWidget(txtInput_);
     }
   }

@@ -1,8 +1,10 @@
 #include "ui/windows/move_window.h"
 
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSlider>
+#include <vector>
 
 #include "ui/main_texts.h"
 #include "ui/table_view.h"
@@ -12,34 +14,57 @@ namespace tessarel {
 
 namespace {
 
-// A slider with its caption; `change` gets every position.
-template <class Change>
-QSlider* AddSlider(QFormLayout* form, const SixTexts& caption, int least, int most, int now,
-                   Change change) {
-  auto* slider = new QSlider(Qt::Horizontal);
-  slider->setRange(least, most);
-  slider->setValue(now);
-  slider->setMinimumWidth(240);
-  auto* label = new QLabel(Shown(caption));
-  label->setBuddy(slider);
-  form->addRow(label, slider);
-  QObject::connect(slider, &QSlider::valueChanged, slider, change);
-  return slider;
-}
+class MoveWindow : public QWidget {
+ public:
+  MoveWindow(QWidget* parent, TableView* view)
+      : QWidget(parent, Qt::Tool), form_(new QFormLayout(this)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    form_->setContentsMargins(14, 14, 14, 14);
+    QSlider* zoom = AddSlider(view->LeastZoom, view->MostZoom, view->ZoomPercent());
+    connect(zoom, &QSlider::valueChanged, this,
+            [view](int percent) { view->SetView(percent, view->Degrees()); });
+    connect(AddSlider(0, 359, view->Degrees()), &QSlider::valueChanged, this,
+            [view](int degrees) { view->SetView(view->ZoomPercent(), degrees); });
+    SetCaptions();
+    zoom->setFocus();
+  }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) SetCaptions();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    event->key() == Qt::Key_Escape ? void(close()) : QWidget::keyPressEvent(event);
+  }
+
+ private:
+  QSlider* AddSlider(int least, int most, int now) {
+    auto* slider = new QSlider(Qt::Horizontal);
+    slider->setRange(least, most);
+    slider->setValue(now);
+    slider->setMinimumWidth(240);
+    auto* label = new QLabel;
+    label->setBuddy(slider);
+    form_->addRow(label, slider);
+    labels_.push_back(label);
+    return slider;
+  }
+
+  void SetCaptions() {
+    setWindowTitle(WithoutMark(Shown(texts::ViewMove)));
+    labels_[0]->setText(Shown(texts::Zoom));
+    labels_[1]->setText(Shown(texts::Rotation));
+  }
+
+  QFormLayout* form_;
+  std::vector<QLabel*> labels_;
+};
 
 }  // namespace
 
 QWidget* MakeMoveWindow(QWidget* parent, TableView* view) {
-  auto* window = new QWidget(parent, Qt::Tool);
-  window->setAttribute(Qt::WA_DeleteOnClose);
-  window->setWindowTitle(WithoutMark(Shown(texts::ViewMove)));
-  auto* form = new QFormLayout(window);
-  form->setContentsMargins(14, 14, 14, 14);
-  QSlider* zoom = AddSlider(form, texts::Zoom, view->LeastZoom, view->MostZoom, view->ZoomPercent(),
-                            [view](int percent) { view->SetView(percent, view->Degrees()); });
-  AddSlider(form, texts::Rotation, 0, 359, view->Degrees(),
-            [view](int degrees) { view->SetView(view->ZoomPercent(), degrees); });
-  zoom->setFocus();
+  auto* window = new MoveWindow(parent, view);
   // In the upper right corner, where it covers no bet of a table that is not zoomed.
   window->adjustSize();
   const QPoint corner = view->mapToGlobal(view->rect().topRight());

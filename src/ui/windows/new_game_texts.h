@@ -32,7 +32,7 @@ inline constexpr SixTexts
                     "&Basa sarip oynat", "Ria&vvolgi e riproduci"},
     NoRollFile   = {"no file is open", "ningún archivo abierto", "keine Datei geöffnet",
                     "aucun fichier ouvert", "açik dosya yok", "nessun file aperto"},
-    Start        = {"&Start Session", "&Iniciar sesión", "Sitzung &beginnen",
+    Start        = {"&Start Session", "&Empezar la sesión", "Sitzung &beginnen",
                     "C&ommencer la session", "Oturumu ba&slat", "&Inizia sessione"};
 // clang-format on
 

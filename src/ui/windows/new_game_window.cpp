@@ -49,6 +49,7 @@ class NewGameWindow : public QDialog {
     QPushButton* const cmdOK = AddButton(row, Shown(Start), [this] { accept(); });
     cmdOK->setDefault(true);
     AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    HelpOnF1(*this, help::NewSession);
     chkPreserveCheckstacks_->setFocus();
   }
 

@@ -60,6 +60,7 @@ class SettleBetWindow : public QDialog {
     AddRow(grid, 0, ModifyButton, Shown(settle_text::Modify), prompt_.modify);
     AddRow(grid, 1, SetButton, Shown(settle_text::Set), prompt_.set);
     column->addLayout(grid);
+    HelpOnF1(*this, help::SettledBets);
     buttons_[SameButton]->setDefault(true);
     buttons_[SameButton]->setFocus();
   }
