@@ -311,7 +311,9 @@ void MainWindow::ConnectTable() {
 void MainWindow::ShowHint() {
   const ClickOutlook outlook = OutlookOfSpot(TablePlay.HotSpot);
   const bool nobody = outlook.text.empty() && Table.PlayerCount == 0;
-  bar_->ShowHint(Shown(nobody ? GetText(1) : std::string_view(outlook.text)), outlook.possible);
+  const QString hint = Shown(nobody ? GetText(1) : std::string_view(outlook.text));
+  bar_->ShowHint(hint, outlook.possible);
+  view_->setAccessibleDescription(hint);
 }
 
 // The right button rolls; during a run it asks to stop.

@@ -9,8 +9,6 @@ namespace tessarel::texts {
 inline constexpr SixTexts
     AddToBet = {"%1: add $%2", "%1: añadir $%2", "%1: $%2 dazulegen", "%1 : ajouter %2 $",
                 "%1: $%2 ekle", "%1: aggiungi $%2"},
-    TakeFromBet = {"%1: take off $%2", "%1: retirar $%2", "%1: $%2 wegnehmen", "%1 : retirer %2 $",
-                   "%1: $%2 al", "%1: togli $%2"},
     SetBetTo = {"%1: bet $%2", "%1: apostar $%2", "%1: $%2 setzen", "%1 : miser %2 $",
                 "%1: $%2 oyna", "%1: punta $%2"},
     CallOnHere = {"%1: call ON", "%1: activar (ON)", "%1: ON ansagen", "%1 : annoncer ON",
@@ -72,11 +70,7 @@ inline constexpr SixTexts
                     "Bitte geben Sie einen Betrag über null ein.",
                     "Veuillez saisir un montant supérieur à zéro.",
                     "Lütfen sifirdan büyük bir tutar girin.",
-                    "Inserire un importo maggiore di zero."},
-    NobodyToBetFor = {"Nobody is at the table to bet.", "No hay nadie en la mesa para apostar.",
-                      "Niemand ist am Tisch, der setzen könnte.",
-                      "Personne à la table pour miser.", "Masada bahis yapacak kimse yok.",
-                      "Nessuno al tavolo può puntare."};
+                    "Inserire un importo maggiore di zero."};
 // clang-format on
 
 }  // namespace tessarel::texts

@@ -280,6 +280,8 @@ void TableView::SetHotSpot(int spot) {
 }
 
 void TableView::mouseMoveEvent(QMouseEvent* event) {
+  // The move that snaps the pointer to a chosen spot is nobody's.
+  if (event->pos() != pointer_) chosenByKeys_ = false;
   pointer_ = event->pos();
   if (panning_) {
     shift_ += pointer_ - pressedAt_;
@@ -307,7 +309,7 @@ void TableView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TableView::leaveEvent(QEvent*) {
-  if (!dragging_) SetHotSpot(0);
+  if (!dragging_ && !chosenByKeys_) SetHotSpot(0);
   tip_.stop();
 }
 
@@ -415,6 +417,7 @@ void TableView::MoveHotSpot(int dx, int dy) {
   }
   if (best == 0) return;
   SetHotSpot(best);
+  chosenByKeys_ = true;
   if (Settings.SnapMouse == 0) return;
   pointer_ = PixelOf(place, best);
   QCursor::setPos(mapToGlobal(pointer_));

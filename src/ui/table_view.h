@@ -154,6 +154,7 @@ class TableView : public QWidget {
   std::function<void()> endAnimation_;
 
   bool pressed_ = false, dragging_ = false, panning_ = false;
+  bool chosenByKeys_ = false;  // the HotSpot: the pointer's leaving does not give it up
   int pressedSpot_ = 0, dropSpot_ = 0;
   QPoint pressedAt_, pointer_;
   int litSpot_ = 0;

@@ -61,6 +61,9 @@ TEST_F(WindowTest, BetsAreMadeByKeysAlone) {
   EXPECT_EQ(Bet(4, bet::PassLine), 25);
   Press(Qt::Key_Delete);
   EXPECT_EQ(Bet(4, bet::PassLine), 0);
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&View(), &leave);
+  EXPECT_EQ(TablePlay.HotSpot, bet::PassLine) << "chosen by keys";
   // Every bet can be reached: whatever the direction, the selection moves on and comes round.
   std::set<int> seen;
   for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Right}) {
