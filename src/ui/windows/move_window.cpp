@@ -64,7 +64,12 @@ class MoveWindow : public QWidget {
 }  // namespace
 
 QWidget* MakeMoveWindow(QWidget* parent, TableView* view) {
-  return new MoveWindow(parent, view);
+  auto* window = new MoveWindow(parent, view);
+  // In the upper right corner, where it covers no bet of a table that is not zoomed.
+  window->adjustSize();
+  const QPoint corner = view->mapToGlobal(view->rect().topRight());
+  window->move(corner + QPoint(-window->width() - 16, 8));
+  return window;
 }
 
 }  // namespace tessarel
