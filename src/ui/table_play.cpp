@@ -514,12 +514,15 @@ bool KeyAmount(char key) {
 // --- What is there -----------------------------------------------------------------------------
 
 ClickOutlook OutlookOfSpot(int spot) {
+  const bool moves = TablePlay.TableAction > ActionMovePlayer;
+  if (moves && !IsRailSpot(spot)) {
+    return {Text(12) + NameOf(TablePlay.TableAction - ActionMovePlayer), true};
+  }
   if (spot == 0) {
     const bool picks = TablePlay.TableAction != ActionNormal;
     return {picks ? std::string(Localized(texts::PickABet)) : std::string(), true};
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
-  if (TablePlay.TableAction > ActionMovePlayer) return {};
   if (spot == PropositionSwitch) {
     return {std::string(Localized(IsOn(TableOption::DisplayPropBets) ? texts::HidePropositions
                                                                      : texts::ShowPropositions)),

@@ -242,14 +242,14 @@ TEST_F(Session, BankrollsStartByTheirType) {
        -9999999,
        -9999999,
        ask + enter + " [500] | " + ask + "The maximum player bankroll is $9,999,999\r\r" + enter +
-           " [500]"},
+           " [10000000]"},
       {1,
        500,
        {"-10000000", "9999999"},
        9999999,
        9999999,
        ask + enter + " [500] | " + ask + "The minimum player bankroll is -$9,999,999\r\r" + enter +
-           " [500]"},
+           " [-10000000]"},
       {1, 20'000'000, {}, 9999999, 9999999, ask + enter + " [9999999]"},
   };
   for (const Case& test : cases) {

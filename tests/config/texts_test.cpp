@@ -158,7 +158,7 @@ TEST_F(TextsAtTheTable, ARefusedBetIsExplainedInTheLanguageInForce) {
   } cases[] = {
       {English, "Come Bet: Ann,\r\rYou may not make a Come bet until a point is established."},
       {German, "Come-Wette: Ann,\r\rSie dürfen eine Come-Wette erst setzen, wenn ein Point steht."},
-      {Turkish, "Come Bahsi: Ann,\r\rPuan belirlenmeden Come bahsi oynayamazsiniz."},
+      {Turkish, "Come Bahsi: Ann,\r\rPoint belirlenmeden Come bahsi oynayamazsiniz."},
   };
   for (const auto& [language, text] : cases) {
     SetLanguage(language);
@@ -213,7 +213,7 @@ TEST_F(TextsAtTheTable, TheSettlePromptSpeaksTheLanguageInForce) {
   std::vector<std::string> rows;
   for (const auto& [caption, figure] : prompt.rows)
     rows.push_back(caption + "|" + figure);
-  EXPECT_EQ(rows, (std::vector<std::string>{"Buy 4|$20", "Ödeme orani: 2:1:|$40", "%5 komisyon:|$1",
+  EXPECT_EQ(rows, (std::vector<std::string>{"Buy 4|$20", "Ödeme orani 2:1:|$40", "%5 komisyon:|$1",
                                             "Net ödeme: |$39"}));
 }
 

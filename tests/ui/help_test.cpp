@@ -13,6 +13,7 @@
 #include <QWindow>
 #include <set>
 
+#include "base/help_topics.h"
 #include "config/language.h"
 #include "config/settings.h"
 #include "ui/windows/help_pages.h"
@@ -177,6 +178,14 @@ TEST_F(HelpWindowTest, CanBeUsedOverAModalWindow) {
   box.close();
   ShowHelp(nullptr, HelpContents);
   EXPECT_EQ(clickRow(1), 1);
+}
+
+TEST(HelpTopicNumbers, EachHasAPage) {
+  for (const int32_t topic : {help::Bets, help::OddsVigAndCalls, help::Players, help::Dice,
+                              help::AutoRoll, help::Saving, help::NewSession, help::SettledBets,
+                              help::SessionsLogs, help::BettingSystems, help::SoundsAndLanguage}) {
+    EXPECT_EQ(HelpTopicOfFile(HelpFileOfTopic(topic)), topic);
+  }
 }
 
 }  // namespace

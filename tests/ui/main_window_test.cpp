@@ -188,6 +188,9 @@ TEST_F(WindowTest, PlayersAreSelectedAndMovedOnTheRail) {
   Click(View().PixelOfSpot(RailSpot(7, PlaceItself)));
   EXPECT_EQ(CurrentPlace(), 7);
   window->Entry("mnuMovePlayer")->trigger();
+  for (const int spot : {0, static_cast<int>(bet::Field)}) {
+    EXPECT_EQ(OutlookOfSpot(spot).text, "Click the rail where you want to put Bob");
+  }
   Click(View().PixelOfSpot(RailSpot(2, PlaceItself)));
   EXPECT_EQ(Table.PlayerName[2], "Bob");
   EXPECT_EQ(CurrentPlace(), 2);
