@@ -19,7 +19,7 @@ trap finish EXIT
 # What the program draws, it draws below this environment's own folders only.
 export HOME=$home XDG_RUNTIME_DIR=$home TESSAREL_HOME=$home TESSAREL_REDUCED_MOTION=1
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-(cd "$home" && "$sim" run --player Ann@4=1000 --set HandleWinningBets@4=2 --set HandleLosingBets@4=2 \
+(cd "$home" && "$sim" run --player Ann@4=1000 --set Notices=0 --set HandleWinningBets@4=2 --set HandleLosingBets@4=2 \
   --rolls 0 --save default.tsg) >/dev/null
 
 mkfifo "$home/display"
@@ -46,8 +46,10 @@ click 245 700
 click 245 700
 click 230 955
 sleep 1
+# No window manager gives the window the focus.
+xdotool windowfocus --sync "$window"
 xdotool key ctrl+q
-for _ in $(seq 50); do
+for _ in $(seq 200); do
   kill -0 "$window_program" 2>/dev/null || break
   sleep 0.1
 done
