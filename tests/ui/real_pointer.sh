@@ -19,8 +19,8 @@ trap finish EXIT
 # What the program draws, it draws below this environment's own folders only.
 export HOME=$home XDG_RUNTIME_DIR=$home TESSAREL_HOME=$home TESSAREL_REDUCED_MOTION=1
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-(cd "$home" && "$sim" run --player Ann@4=1000 --set Notices=0 --set HandleWinningBets@4=2 --set HandleLosingBets@4=2 \
-  --rolls 0 --save default.tsg) >/dev/null
+(cd "$home" && "$sim" run --player Ann@4=1000 --set Notices=0 --set HandleWinningBets@4=2 \
+  --set HandleLosingBets@4=2 --rolls 0 --save default.tsg) >/dev/null
 
 mkfifo "$home/display"
 Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$home/display" 2>/dev/null &
