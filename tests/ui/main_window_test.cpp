@@ -405,6 +405,12 @@ TEST_F(WindowTest, EveryCaptionFitsInEveryLanguage) {
     window->TakeUpGame();
     QApplication::processEvents();
     EXPECT_EQ(TextsThatDoNotFit(*window), std::vector<std::string>{});
+    window->Entry("mnuTableMove")->trigger();
+    for (QWidget* tool : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      if (!tool->isWindow() || !tool->isVisible()) continue;
+      EXPECT_EQ(TextsThatDoNotFit(*tool), std::vector<std::string>{});
+    }
+    window->Entry("mnuTableMove")->trigger();
     std::set<QString> bar;
     for (const QAction* action : window->menuBar()->actions()) {
       EXPECT_TRUE(bar.insert(QKeySequence::mnemonic(action->text()).toString()).second)
