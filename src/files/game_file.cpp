@@ -1,5 +1,7 @@
 #include "files/game_file.h"
 
+#include <filesystem>
+#include <system_error>
 #include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/file_io.h"
@@ -128,6 +130,12 @@ bool NamesGameFile(const std::string& argument) {
   return LowerCase(argument).ends_with(GameFileEnding);
 }
 
+// The automatic file is written when the program ends; what could not be opened is kept beside it.
+void SetAutomaticGameAside() {
+  std::error_code ignored;
+  std::filesystem::rename(AutomaticGamePath(), AutomaticGamePath() + ".unread", ignored);
+}
+
 void TellUnrecognized(const std::string& argument, bool automaticFollows) {
   std::string text = FillIn(FileTexts.UnrecognizedGame, {argument});
   if (automaticFollows) text.append("\r\r").append(Localized(FileTexts.DefaultGameInstead));
@@ -180,7 +188,10 @@ bool LoadStartGame(std::string_view commandLine) {
   if (NamesGameFile(argument) && FileExists(named) && OpenGame(named)) return true;
   const bool automatic = FileExists(AutomaticGamePath());
   if (!argument.empty()) TellUnrecognized(argument, automatic);
-  return automatic && OpenGame(AutomaticGamePath());
+  if (!automatic) return false;
+  if (OpenGame(AutomaticGamePath())) return true;
+  SetAutomaticGameAside();
+  return false;
 }
 
 }  // namespace tessarel

@@ -45,6 +45,7 @@ bool OpenGame(const std::string& path);
 
 // Opens what the program is started with: the game file named on the command line, else the
 // automatic one. Returns false when neither could be opened; the table is then to be set up anew.
+// An automatic file that cannot be opened is set aside as "default.tsg.unread".
 bool LoadStartGame(std::string_view commandLine);
 
 }  // namespace tessarel

@@ -556,8 +556,11 @@ TEST_F(GameFileTest, StartsWithTheNamedGameElseTheAutomaticOne) {
   EXPECT_EQ(start(""), "Zoe|");
   EXPECT_EQ(start("bad.tsg"), "Zoe|Unable to Open File: " + unknown + "bad.tsg" + instead);
   Write("default.tsg", Bytes("a.tsg").substr(0, (FixedRecords + 10) * Record::Size));
+  const std::string damaged = Bytes("default.tsg");
   EXPECT_EQ(start("").substr(0, 1), "|");
   EXPECT_EQ(Table.PlayerCount, 0);
+  ASSERT_TRUE(SaveDefaultGame());
+  EXPECT_EQ(Bytes("default.tsg.unread"), damaged) << "leaving overwrites what was not opened";
 }
 
 TEST_F(GameFileTest, KilledItLeavesTheOldFileOrTheNewOne) {
