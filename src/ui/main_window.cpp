@@ -102,6 +102,12 @@ MainWindow::~MainWindow() {
   LanguageChanged = nullptr;
   NoticesChanged = nullptr;
   OpenHelpTopic = nullptr;
+  // The table may still lose the pointer and the focus while the window below this one goes.
+  view_->OutlookChanged = nullptr;
+  view_->RightClick = nullptr;
+  view_->DiceClick = nullptr;
+  view_->DicePhaseChanged = nullptr;
+  view_->PlayerMenu = nullptr;
   Main = nullptr;
 }
 

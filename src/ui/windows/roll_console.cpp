@@ -42,6 +42,7 @@ constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114;
 class RollConsole : public FloatingWindow {
  public:
   explicit RollConsole(QWidget* parent);
+  ~RollConsole() override;
   void Refresh() override;
 
  protected:
@@ -117,6 +118,13 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
   });
   Refresh();
   pad_->setFocus();
+}
+
+// The pad may still lose the focus while the window below this one goes.
+RollConsole::~RollConsole() {
+  pad_->OnRoll = nullptr;
+  pad_->OnStop = nullptr;
+  pad_->OnHint = nullptr;
 }
 
 void RollConsole::AddDisplayMenu() {
