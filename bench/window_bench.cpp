@@ -95,7 +95,12 @@ void HyperDrive(benchmark::State& state) {
   state.counters["rolls"] = benchmark::Counter(RollsOfRun * static_cast<double>(state.iterations()),
                                                benchmark::Counter::kIsRate);
 }
-BENCHMARK(HyperDrive)->ArgName("window")->Arg(0)->Arg(1)->Iterations(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(HyperDrive)
+    ->ArgName("window")
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(4)
+    ->Unit(benchmark::kMillisecond);
 
 void StartToFirstPaint(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {

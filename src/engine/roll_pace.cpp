@@ -14,7 +14,7 @@ RollPaceState RollPace;
 
 namespace {
 
-constexpr int64_t LookEvery = 1;         // milliseconds
+constexpr int64_t LookEvery = 1;        // milliseconds
 constexpr int64_t MessageCredit = 600;  // milliseconds
 
 void CountTo(int64_t steps) {
