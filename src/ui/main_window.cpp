@@ -146,7 +146,10 @@ void MainWindow::FillFrontEnd() {
     }
     Main->RefreshStatus();
   };
-  FrontEnd.RefreshViews = [] { Main->RefreshStatus(); };
+  // The Hyper-Drive shows its figures by itself; what scripts do meanwhile waits for its end.
+  FrontEnd.RefreshViews = [] {
+    if (Table.HyperDriveOn == 0) Main->RefreshStatus();
+  };
   FrontEnd.PlaySound = [](Sound sound) {
     PlayTableSound(sound);
     if (sound == Sound::LimitBroken) Main->view_->ShowerChecks();
