@@ -50,7 +50,6 @@ class TableView : public QWidget {
   int SpotUnder(QPoint pixel) const;
   QPoint PixelOf(int place, int number) const;  // where the checks of a bet stand
   QPoint PixelOfSpot(int spot) const;           // inside the region of a spot
-  const QImage& HitMap() const { return hitMap_; }
   bool IsAnimating() const { return animating_; }
 
   std::function<void()> OutlookChanged;                  // another HotSpot, or another meaning
