@@ -6,12 +6,12 @@
 #include <filesystem>
 #include <string>
 
-#include "app/session.h"
 #include "dice/generators.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
 #include "files/game_file.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
 
 namespace tessarel {
 namespace {

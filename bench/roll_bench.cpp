@@ -5,15 +5,16 @@
 #include <bit>
 #include <vector>
 
-#include "app/session.h"
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "engine/seats.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {
@@ -52,8 +53,8 @@ void SetTable(int players, std::vector<Wager> wagers) {
   Settings.BetNeededToShoot = 0;
   for (int place = 1; place <= players; ++place) {
     SeatPlayer(place, "Player " + std::to_string(place), 1'000'000);
-    At(Table.AllowNegBankroll, place) = -1;
-    At(Table.AutoTakeFullOdds, place) = At(Table.AutoLayFullOdds, place) = -1;
+    Table.AllowNegBankroll[place] = -1;
+    Table.AutoTakeFullOdds[place] = Table.AutoLayFullOdds[place] = -1;
   }
   Bench.wagers = std::move(wagers);
 }

@@ -5,16 +5,16 @@
 #include <string>
 #include <vector>
 
-#include "app/session.h"
 #include "autobet/checker.h"
 #include "autobet/interpreter.h"
 #include "autobet/script_files.h"
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "dice/generators.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {
@@ -33,10 +33,10 @@ void SetTable(int sample, int players) {
   Settings.BetNeededToShoot = 0;
   for (int place = 1; place <= players; ++place) {
     SeatPlayer(place, "Player " + std::to_string(place), 1'000'000);
-    At(Table.AllowNegBankroll, place) = -1;
+    Table.AllowNegBankroll[place] = -1;
     ReadScriptFile(place, TESSAREL_SAMPLES "/sample" + std::to_string(sample) + ".bet");
     // A system that stops when it has won enough would end the measurement.
-    std::erase_if(At(Scripts.Places, place).lines, [](const std::string& line) {
+    std::erase_if(Scripts.Places[place].lines, [](const std::string& line) {
       return line.find("stop autoroll/hyperdrive") != std::string::npos;
     });
     SetScriptActive(place, true);

@@ -6,12 +6,12 @@
 #include <fstream>
 #include <string>
 
-#include "app/session.h"
-#include "engine/players.h"
-#include "engine/table.h"
 #include "files/sessions_commands.h"
 #include "files/sessions_log.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -5,11 +5,11 @@
 
 #include <vector>
 
-#include "app/session.h"
 #include "dice/generators.h"
-#include "engine/players.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -7,8 +7,8 @@
 #include <QImage>
 #include <QPainter>
 
-#include "config/payoffs.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/table.h"
 #include "ui/layout/hit_map.h"
 #include "ui/layout/table_layout.h"
 #include "ui/paint/table_paint.h"

@@ -6,13 +6,13 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "app/session.h"
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/settings.h"
 #include "ui/main_window.h"
 
 namespace tessarel {

@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <string>
 
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/folders.h"
-#include "files/events_log.h"
-#include "files/events_log_reader.h"
 #include "files/events_log_view.h"
 #include "fuzz_helpers.h"
+#include "log/events_log.h"
+#include "log/events_log_reader.h"
 
 namespace tessarel {
 namespace {

@@ -7,19 +7,19 @@
 #include <cstdint>
 #include <string>
 
-#include "app/session.h"
 #include "base/file_io.h"
 #include "base/record_file.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/popup_roll.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
 #include "files/game_file.h"
 #include "fuzz_helpers.h"
-#include "stats/books.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books_check.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

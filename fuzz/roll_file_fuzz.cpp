@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "config/folders.h"
+#include "base/folders.h"
 #include "dice/popup_roll.h"
 #include "dice/roll_file_edit.h"
-#include "engine/table.h"
 #include "fuzz_helpers.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -7,17 +7,17 @@
 #include <string_view>
 #include <vector>
 
-#include "app/session.h"
 #include "autobet/checker.h"
 #include "autobet/interpreter.h"
-#include "autobet/script_store.h"
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "dice/generators.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
 #include "fuzz_helpers.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -7,12 +7,12 @@
 #include <string>
 
 #include "base/file_io.h"
-#include "config/folders.h"
-#include "engine/table.h"
+#include "base/folders.h"
 #include "files/sessions_commands.h"
 #include "files/sessions_log.h"
 #include "fuzz_helpers.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

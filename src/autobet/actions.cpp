@@ -6,22 +6,22 @@
 #include <utility>
 
 #include "autobet/file_actions.h"
+#include "autobet/script_host.h"
 #include "autobet/script_messages.h"
-#include "autobet/script_store.h"
 #include "autobet/variables.h"
 #include "base/message.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "engine/atm.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_texts.h"
-#include "engine/table.h"
 #include "engine/unattended.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/roll_texts.h"
 
 namespace tessarel {
 
-void (*StartSessionForScript)(bool keepStacks, bool keepRollFile) = [](bool, bool) {};
+constinit ScriptHostCallbacks ScriptHost;
 
 namespace {
 
@@ -55,8 +55,8 @@ void StartSession(const ScriptCommand& command) {
   if (!HasRight(Scripts.AllowReset, 853)) return;
   const bool stops = Table.StopReason == Localized(RollTexts.StoppedByCommand);
   const int32_t form = command.action;
-  StartSessionForScript(form == PreserveStacks || form == PreserveBoth,
-                        form == PreserveRollFile || form == PreserveBoth);
+  ScriptHost.StartSession(form == PreserveStacks || form == PreserveBoth,
+                          form == PreserveRollFile || form == PreserveBoth);
   if (stops) Table.StopReason = Localized(RollTexts.StoppedByCommand);
   AutoBet.TableWasReset = AutoBet.NewSessionBegins = -1;
   AutoBet.Initializing = 0;
@@ -78,7 +78,7 @@ void PassTheDice(const ScriptCommand&) {
   const bool shoots = AutoBet.CurrentScriptPlayer == Table.Shooter;
   if (!shoots && !HasRight(Scripts.AllowAct4Others, 855)) return;
   const SilentBets silent;
-  PassDice(PlayerAsked);
+  ScriptHost.PassDice();
 }
 
 void SeedFromClock(const ScriptCommand&) {

@@ -22,9 +22,4 @@ void RunCommand(const ScriptCommand& command);
 // Whether the message boxes and questions of scripts are shown in the mode in force.
 bool ScriptMessagesShown();
 
-// Starts a new session that keeps the data of former ones and the sessions logs, and as asked the
-// check stacks and the roll file where it stands. Set by whoever owns the sessions, which lie above
-// the language; does nothing until then.
-extern void (*StartSessionForScript)(bool keepStacks, bool keepRollFile);
-
 }  // namespace tessarel

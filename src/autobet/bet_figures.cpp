@@ -2,8 +2,8 @@
 
 #include "autobet/roll_figures.h"
 #include "config/advantage.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
 #include "stats/summary_view.h"
 
 namespace tessarel {
@@ -27,7 +27,7 @@ int32_t LastRollOf(int scope) {
       return RollsInSession() - RollsInHand();
     case LastSession:
     case AllSessions:
-      return At(Stats.RollCount, scope)[0];
+      return Stats.RollCount[scope][0];
     default:
       return RollsInSession();
   }
@@ -35,7 +35,7 @@ int32_t LastRollOf(int scope) {
 
 Period PeriodOf(int place, int hand) {
   const int scope = SlotOf(0, hand);
-  return {scope + place, At(Stats.RollCount, scope)[0], LastRollOf(scope)};
+  return {scope + place, Stats.RollCount[scope][0], LastRollOf(scope)};
 }
 
 // 0, with the script's error set.
@@ -64,7 +64,7 @@ double RollsSinceEntry(const BetMeasures& measures, const Period& period) {
 
 double PerHour(Money amount, Money count, const Period& period, EmptyError error) {
   if (count == Money()) return Fail(error);
-  return Quotient(amount, SimHours(At(Stats.Hands, period.slot).RollTotal), error);
+  return Quotient(amount, SimHours(Stats.Hands[period.slot].RollTotal), error);
 }
 
 double MeasureFigure(const BetMeasures& measures,
@@ -169,7 +169,7 @@ double AmountOrCount(Money amount, bool count) {
 // What the statistics have of a bet.
 double RecordFigure(int place, const Reference& reference) {
   const Period period = PeriodOf(place, reference.hand);
-  const BetRecord& record = At(At(Stats.Bets, period.slot), reference.number);
+  const BetRecord& record = Stats.Bets[period.slot][reference.number];
   switch (reference.first) {
     case ModWins:
       return MeasureFigure(record.Won, reference.second, period, NoWins);
@@ -203,8 +203,8 @@ int SlotOf(int place, int hand) {
 
 double BetFigure(int place, const Reference& reference) {
   const int number = reference.number;
-  const auto before = [=] { return At(At(Table.BetAmountBefore, place), number); };
-  const auto working = [=] { return At(At(Table.BetWorking, place), number); };
+  const auto before = [=] { return Table.BetAmountBefore[place][number]; };
+  const auto working = [=] { return Table.BetWorking[place][number]; };
   switch (reference.second) {
     case ModCurrentAmount:
     case ModCurrentNumber:

@@ -4,7 +4,7 @@
 #include "autobet/functions.h"
 #include "autobet/token_names.h"
 #include "autobet/token_walk.h"
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

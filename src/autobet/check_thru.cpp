@@ -7,7 +7,7 @@
 #include "autobet/token_walk.h"
 #include "base/fault.h"
 #include "engine/bet_limits.h"
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

@@ -1,8 +1,8 @@
 #include "autobet/checker.h"
 
-#include "autobet/script_store.h"
 #include "autobet/token_walk.h"
 #include "base/fault.h"
+#include "state/scripts.h"
 
 namespace tessarel {
 
@@ -44,7 +44,7 @@ int FunctionQualifierCount(int32_t function) {
 std::optional<ScriptError> RewriteScript(int slot,
                                          CompiledScript& script,
                                          std::vector<int32_t>* lineLevels) {
-  const auto& lines = At(Scripts.Places, slot).lines;
+  const auto& lines = Scripts.Places[slot].lines;
   if (auto error = TranslateScript(slot, lines, script)) return error;
   if (auto error = CheckLists(script)) return error;
   if (auto error = CheckReferences(slot, script)) return error;

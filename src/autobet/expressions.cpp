@@ -8,8 +8,8 @@
 #include "autobet/functions.h"
 #include "autobet/token_names.h"
 #include "engine/bet_limits.h"
-#include "engine/bet_numbers.h"
-#include "engine/table.h"
+#include "state/bet_numbers.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -161,7 +161,7 @@ std::string ListAsTargetHelp() {
 
 std::string LackingBetsText(int32_t number) {
   const std::string_view family =
-      number == bet::Big6 || number == bet::Big8 ? "Big" : At(BetName, number);
+      number == bet::Big6 || number == bet::Big8 ? "Big" : BetName[number];
   return "Table not configured for " + std::string(family) +
          " bets.\r\rCheck 'Bets' tab on Configuration screen.";
 }

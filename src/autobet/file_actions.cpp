@@ -7,16 +7,16 @@
 #include <system_error>
 
 #include "autobet/function_call.h"
-#include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/single_byte_text.h"
-#include "config/folders.h"
-#include "config/settings.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
+#include "state/scripts.h"
+#include "state/settings.h"
 
 namespace tessarel {
 
@@ -98,7 +98,7 @@ bool LoadProbabilities(const std::string& name) {
 }
 
 std::string& OutputFileOfScript() {
-  return At(Scripts.Places, AutoBet.CurrentScriptPlayer).OutputFile;
+  return Scripts.Places[AutoBet.CurrentScriptPlayer].OutputFile;
 }
 
 // Opens the output file, writes the bytes and closes it again. False when any of it fails; a null

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "autobet/actions.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

@@ -6,7 +6,7 @@
 
 #include "base/message.h"
 #include "base/single_byte_text.h"
-#include "files/file_texts.h"
+#include "texts/file_texts.h"
 
 namespace tessarel {
 

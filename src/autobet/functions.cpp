@@ -12,8 +12,8 @@
 #include "autobet/text_functions.h"
 #include "autobet/variables.h"
 #include "base/message.h"
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 

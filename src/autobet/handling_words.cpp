@@ -6,7 +6,7 @@
 #include "autobet/values.h"
 #include "base/single_byte_text.h"
 #include "engine/bet_handling.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

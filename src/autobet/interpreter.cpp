@@ -19,8 +19,8 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
-#include "engine/table.h"
-#include "files/file_texts.h"
+#include "state/table.h"
+#include "texts/file_texts.h"
 
 namespace tessarel {
 
@@ -321,7 +321,7 @@ class Cycle {
 void Cycle::ShowStep(std::string text) const {
   const int place = AutoBet.CurrentScriptPlayer;
   std::string title = "Auto-Bet Steps";
-  if (place > 0) title += " (" + At(Table.PlayerName, place) + ")";
+  if (place > 0) title += " (" + Table.PlayerName[place] + ")";
   FrontEnd.ShowStep({place, Current().line, std::move(text), std::move(title)});
 }
 
@@ -524,7 +524,7 @@ std::optional<ScriptError> AddScript(int slot,
 }
 
 void TellOfFaultyScript(int place) {
-  ShowMessage(FillIn(FileTexts.FaultyScript, {At(Table.PlayerName, place)}),
+  ShowMessage(FillIn(FileTexts.FaultyScript, {Table.PlayerName[place]}),
               LocalizedText(FileTexts.FaultyScriptTitle), msg::OkAlert, help::BettingSystems);
 }
 
@@ -536,7 +536,7 @@ void CheckScriptErrors() {
   ScriptProgram program;
   std::vector<ScriptString> strings(1);
   for (int place = 1; place <= LastPlace; ++place) {
-    if (At(Scripts.ScriptActive, place) == 0) continue;
+    if (Scripts.ScriptActive[place] == 0) continue;
     if (AddScript(place, program, strings)) return TellOfFaultyScript(place);
   }
   LoadProgram(std::move(program), std::move(strings));

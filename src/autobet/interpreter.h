@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "autobet/script_store.h"
 #include "autobet/values.h"
+#include "state/scripts.h"
 
 namespace tessarel {
 

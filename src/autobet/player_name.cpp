@@ -3,7 +3,7 @@
 #include "autobet/number_text.h"
 #include "autobet/vocabulary.h"
 #include "base/single_byte_text.h"
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

@@ -7,11 +7,11 @@
 
 #include "autobet/bet_figures.h"
 #include "autobet/variables.h"
-#include "engine/table.h"
+#include "state/books.h"
+#include "state/table.h"
 #include "stats/chi_square.h"
 #include "stats/roll_events.h"
 #include "stats/selection.h"
-#include "stats/store.h"
 
 namespace tessarel {
 
@@ -174,7 +174,7 @@ double Percent(double part, double whole) {
 int64_t CountOf(const RollOfSet& roll, int slot) {
   int64_t count = 0;
   for (const int code : roll.codes) {
-    if (code != 0) count += At(At(Stats.RollCount, slot), code);
+    if (code != 0) count += Stats.RollCount[slot][code];
   }
   return count;
 }
@@ -221,7 +221,7 @@ double SumOver(const RollSet& set, RollMask mask, Figure&& figure) {
 }
 
 double DiceFigure(int32_t function, const RollSet& set, RollMask mask, int slot) {
-  const double rolls = At(Stats.RollCount, slot)[0];
+  const double rolls = Stats.RollCount[slot][0];
   const auto count = [slot](const RollOfSet& roll) {
     return static_cast<double>(CountOf(roll, slot));
   };
@@ -266,7 +266,7 @@ RollMask TotalsOfKind(HandRow row, int secondModifier) {
 int64_t RowSum(int slot, HandRow row, RollMask totals) {
   int64_t sum = 0;
   for (int total = 2; total <= 12; ++total) {
-    if ((totals >> total & 1) != 0) sum += At(At(At(Stats.HandTable, slot), total), row);
+    if ((totals >> total & 1) != 0) sum += Stats.HandTable[slot][total][row];
   }
   return sum;
 }
@@ -285,7 +285,7 @@ double WholeOf(HandRow row, bool all, int slot) {
   if (row != HandComeoutRolls)
     return static_cast<double>(RowSum(slot, HandPasses, AllTotals) +
                                RowSum(slot, HandMisses, AllTotals));
-  if (all) return At(Stats.RollCount, slot)[0];
+  if (all) return Stats.RollCount[slot][0];
   return static_cast<double>(RowSum(slot, row, AllTotals));
 }
 
@@ -316,7 +316,7 @@ bool HasRunningPoint(int slot, int point) {
 // Every miss of a point is the same seven, so a point's misses are what is neither passed nor still
 // on.
 int64_t MissedPoints(int slot, int point) {
-  const auto& row = At(At(Stats.HandTable, slot), point);
+  const auto& row = Stats.HandTable[slot][point];
   const int32_t running = HasRunningPoint(slot, point) ? 1 : 0;
   return std::max(row[HandComeoutRolls] - row[HandPasses] - running, 0);
 }

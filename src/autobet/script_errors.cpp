@@ -5,7 +5,7 @@
 
 #include "autobet/token_names.h"
 #include "autobet/values.h"
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

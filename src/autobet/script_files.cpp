@@ -7,13 +7,13 @@
 #include "autobet/older_scripts.h"
 #include "autobet/values.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "config/language.h"
-#include "engine/table.h"
-#include "files/file_texts.h"
+#include "state/table.h"
+#include "texts/file_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -108,7 +108,7 @@ void ActivateAll() {
 
 void ActivateOne(int place) {
   SetScriptActive(place, true);
-  if (!WantsFirstCycle(FileTexts.ScriptActivated, At(Table.PlayerName, place))) return;
+  if (!WantsFirstCycle(FileTexts.ScriptActivated, Table.PlayerName[place])) return;
   const OnlyScript alone(place);
   RunFirstCycle();
 }
@@ -136,7 +136,7 @@ bool ReadScriptLines(const std::string& path, std::vector<std::string>& lines) {
 }
 
 bool ReadScriptFile(int slot, const std::string& path) {
-  ScriptPlace& script = At(Scripts.Places, slot);
+  ScriptPlace& script = Scripts.Places[slot];
   std::vector<std::string> lines;
   if (!ReadScriptLines(InFolder(Folders.AppFolder, path), lines)) return false;
   script.lines = std::move(lines);
@@ -147,7 +147,7 @@ bool ReadScriptFile(int slot, const std::string& path) {
 }
 
 void SaveScriptFile(int slot) {
-  ScriptPlace& script = At(Scripts.Places, slot);
+  ScriptPlace& script = Scripts.Places[slot];
   std::string text;
   for (const std::string& line : script.lines)
     text.append(line).append("\n");
@@ -156,7 +156,7 @@ void SaveScriptFile(int slot) {
 }
 
 void SaveScriptFileAs(int slot, const std::string& path) {
-  ScriptPlace& script = At(Scripts.Places, slot);
+  ScriptPlace& script = Scripts.Places[slot];
   std::string before = std::exchange(script.ScriptFile, NameInFolder(Folders.AppFolder, path));
   try {
     SaveScriptFile(slot);

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "autobet/script_store.h"
+#include "state/scripts.h"
 
 namespace tessarel {
 

@@ -1,12 +1,12 @@
 #include "autobet/script_messages.h"
 
 #include "autobet/values.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 
 std::string ScriptMessageTitle() {
-  const std::string& name = At(Table.PlayerName, AutoBet.CurrentScriptPlayer);
+  const std::string& name = Table.PlayerName[AutoBet.CurrentScriptPlayer];
   return AutoBet.CurrentScriptPlayer == 0 ? "Auto-Bet" : "Auto-Bet (" + name + ")";
 }
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

@@ -10,7 +10,7 @@
 #include "autobet/number_text.h"
 #include "autobet/vocabulary.h"
 #include "base/single_byte_text.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -30,7 +30,7 @@ struct NamePhrase {
 std::vector<NamePhrase> NamePhrases() {
   std::vector<NamePhrase> phrases;
   for (int place = 1; place <= LastPlace; ++place) {
-    const std::string& name = At(Table.PlayerName, place);
+    const std::string& name = Table.PlayerName[place];
     if (TrimSpaces(name).empty()) continue;
     phrases.push_back({" " + LowerCase(name) + " ", " P" + std::to_string(place) + " "});
   }

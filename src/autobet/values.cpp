@@ -4,9 +4,9 @@
 #include <charconv>
 
 #include "autobet/number_text.h"
-#include "autobet/script_store.h"
 #include "base/clock.h"
-#include "engine/table.h"
+#include "state/scripts.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -55,7 +55,7 @@ bool MayActFor(int place) {
     return false;
   }
   const int owner = AutoBet.CurrentScriptPlayer;
-  if (place == owner || At(Scripts.AllowAct4Others, owner) != 0) return true;
+  if (place == owner || Scripts.AllowAct4Others[owner] != 0) return true;
   FailScript(852);
   return false;
 }
@@ -76,10 +76,10 @@ std::string TextOfSpecial(int32_t value) {
       break;
   }
   const int key = -value;
-  if (key > 900 && key <= 900 + LastPlace) return At(Table.PlayerName, key - 900);
+  if (key > 900 && key <= 900 + LastPlace) return Table.PlayerName[key - 900];
   const int place = key / 1000, stack = key % 1000 - 800;
   if (place >= 1 && place <= LastPlace && stack >= 0 && stack < StackCount)
-    return At(At(Table.CheckStackName, place), stack);
+    return Table.CheckStackName[place][stack];
   return {};
 }
 
@@ -93,7 +93,7 @@ std::string TextOf(const ScriptValue& value) {
   if (!IsText(value)) return NumberText(value.value);
   const auto index = static_cast<int32_t>(value.value);
   if (index <= 0) return TextOfSpecial(index);
-  return At(AutoBet.Strings, index).text;
+  return AutoBet.Strings[index].text;
 }
 
 double LeadingNumber(std::string_view text) {

@@ -5,15 +5,15 @@
 #include "autobet/handling_words.h"
 #include "autobet/variables.h"
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_handling.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
-#include "engine/players.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "engine/seats.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -100,12 +100,12 @@ constexpr HandlingVariable LossVariable = {&TableState::HandleLosingBets,
                                            BadLossHandling};
 
 void TakeChoice(const HandlingVariable& variable, int place, const HandlingChoice& choice) {
-  At(Table.*variable.mode, place) = choice.mode;
+  (Table.*variable.mode)[place] = choice.mode;
   if (!choice.hasAmount) return;
   const int slot = choice.mode == variable.modifyMode ? variable.modifySlot : variable.setSlot;
-  At(At(Table.HandleAmount, place), slot) = choice.amount;
-  At(At(Table.HandleOperator, place), slot) = choice.operation;
-  At(At(Table.HandleUnits, place), slot) = Money();
+  Table.HandleAmount[place][slot] = choice.amount;
+  Table.HandleOperator[place][slot] = choice.operation;
+  Table.HandleUnits[place][slot] = Money();
 }
 
 void WriteHandling(const HandlingVariable& variable, int place, const ScriptValue& value) {
@@ -114,7 +114,7 @@ void WriteHandling(const HandlingVariable& variable, int place, const ScriptValu
     if (choice) return TakeChoice(variable, place, *choice);
     FailScript(variable.error);
   } else if (const auto mode = WholeWithin(value.value, 1, 8, variable.error)) {
-    At(Table.*variable.mode, place) = *mode - 1;
+    (Table.*variable.mode)[place] = *mode - 1;
   }
 }
 
@@ -123,7 +123,7 @@ void WriteSwitch(int place, int32_t number, bool on) {
   constexpr std::array<PerPlace<int32_t> TableState::*, 4> Switches = {
       &TableState::AutoTakeFullOdds, &TableState::AutoLayFullOdds, &TableState::AutoDownPlaceBets,
       &TableState::DeclinesDice};
-  At(Table.*At(Switches, number - 700), place) = on ? -1 : 0;
+  (Table.*At(Switches, number - 700))[place] = on ? -1 : 0;
   if (!on) return;
   const SilentBets silent;
   if (number == 700) BetFullOdds(place);
@@ -137,11 +137,11 @@ void WriteSwitch(int place, int32_t number, bool on) {
 // The bankroll of a session that has not begun, cut to what the table allows.
 void WriteBankroll(int place, double value) {
   if (RollsInSession() > 0) return FailScript(SessionHasBegun);
-  const bool mayBeNegative = At(Table.AllowNegBankroll, place) != 0;
+  const bool mayBeNegative = Table.AllowNegBankroll[place] != 0;
   const Money lowest =
-      mayBeNegative ? -BankrollLimit : std::max(At(Table.MoneyOnTable, place), Money());
+      mayBeNegative ? -BankrollLimit : std::max(Table.MoneyOnTable[place], Money());
   const Money amount = std::max(std::min(MoneyToCut(value), BankrollLimit), lowest);
-  if (At(Stats.RollCount, AllSessions)[0] == 0) BeginBankroll(place + AllSessions, amount);
+  if (Stats.RollCount[AllSessions][0] == 0) BeginBankroll(place + AllSessions, amount);
   SetBankroll(place, amount);
   if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
 }

@@ -5,13 +5,13 @@
 #include "autobet/bet_figures.h"
 #include "autobet/roll_figures.h"
 #include "base/clock.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
-#include "engine/table.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "stats/bankroll_graph.h"
 #include "stats/comps.h"
-#include "stats/store.h"
 #include "stats/summary_view.h"
 
 namespace tessarel {
@@ -26,21 +26,21 @@ constexpr int32_t FirstStatistic = 1000, FirstTableVariable = 5000;
 double OwnFigure(int place, int32_t number) {
   switch (number) {
     case 651:
-      return (BankrollOf(place) - At(Table.MoneyOnTable, place)).ToDouble();
+      return (BankrollOf(place) - Table.MoneyOnTable[place]).ToDouble();
     case 655:
-      return At(Table.AvailableBankroll, place).ToDouble();
+      return Table.AvailableBankroll[place].ToDouble();
     case 670:
-      return At(Table.HandleWinningBets, place) + 1;
+      return Table.HandleWinningBets[place] + 1;
     case 671:
-      return At(Table.HandleLosingBets, place) + 1;
+      return Table.HandleLosingBets[place] + 1;
     case 700:
-      return At(Table.AutoTakeFullOdds, place);
+      return Table.AutoTakeFullOdds[place];
     case 701:
-      return At(Table.AutoLayFullOdds, place);
+      return Table.AutoLayFullOdds[place];
     case 702:
-      return At(Table.AutoDownPlaceBets, place);
+      return Table.AutoDownPlaceBets[place];
     case 703:
-      return At(Table.DeclinesDice, place);
+      return Table.DeclinesDice[place];
     default:
       return 0;
   }
@@ -72,26 +72,26 @@ double CompsOf(int slot) {
 // The hands begun: those that ended, and the one that runs in a scope that is counted into.
 int32_t HandsBegun(int slot, int hand) {
   const int place = slot % SlotsInScope;
-  const bool runs = hand != HandLast && hand != HandLastSession &&
-                    At(Stats.RollCount, CurrentHand + place)[0] > 0;
-  return At(Stats.Hands, slot).HandCount + (runs ? 1 : 0);
+  const bool runs =
+      hand != HandLast && hand != HandLastSession && Stats.RollCount[CurrentHand + place][0] > 0;
+  return Stats.Hands[slot].HandCount + (runs ? 1 : 0);
 }
 
 double RowPerHand(int slot, HandRow row) {
   int64_t sum = 0;
-  for (const auto& ofTotal : At(Stats.HandTable, slot))
+  for (const auto& ofTotal : Stats.HandTable[slot])
     sum += At(ofTotal, row);
-  const int32_t hands = At(Stats.Hands, slot).HandCount;
+  const int32_t hands = Stats.Hands[slot].HandCount;
   return hands > 0 ? static_cast<double>(sum) / hands : 0;
 }
 
 double RollsPerHand(int slot) {
-  const int32_t hands = At(Stats.Hands, slot).HandCount;
-  return hands > 0 ? static_cast<double>(At(Stats.RollCount, slot)[0]) / hands : 0;
+  const int32_t hands = Stats.Hands[slot].HandCount;
+  return hands > 0 ? static_cast<double>(Stats.RollCount[slot][0]) / hands : 0;
 }
 
 double HandFigure(int32_t number, int slot, int hand) {
-  const HandFigures& hands = At(Stats.Hands, slot);
+  const HandFigures& hands = Stats.Hands[slot];
   switch (number) {
     case 1500:
       return HandsBegun(slot, hand);
@@ -122,15 +122,15 @@ double SlotFigure(int32_t number, int place, int hand) {
     case 1100:
       return CompsOf(slot);
     case 1200:
-      return SimHours(At(Stats.Hands, slot).RollTotal);
+      return SimHours(Stats.Hands[slot].RollTotal);
     case 1300:
-      return At(Table.BankrollBegin, slot).ToDouble();
+      return Table.BankrollBegin[slot].ToDouble();
     case 1301:
-      return At(Table.Bankroll, slot).ToDouble();
+      return Table.Bankroll[slot].ToDouble();
     case 1302:
-      return At(Table.BankrollHigh, slot).ToDouble();
+      return Table.BankrollHigh[slot].ToDouble();
     case 1303:
-      return At(Table.BankrollLow, slot).ToDouble();
+      return Table.BankrollLow[slot].ToDouble();
     case 1304:
       return AverageBankroll(place, 0);
     default:

@@ -1,6 +1,6 @@
 #include "autobet/vocabulary.h"
 
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

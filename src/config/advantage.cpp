@@ -11,10 +11,10 @@
 
 #include "base/fault.h"
 #include "base/number_format.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "dice/probability.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -30,7 +30,7 @@ double Ratio(const PayoffRow& row) {
 }
 
 double RatioOf(int number) {
-  return Ratio(At(Payoffs.Payoff, number));
+  return Ratio(Payoffs.Payoff[number]);
 }
 
 // What a Lay or Buy bet pays with its vig taken into account. Vig paid with the bet counts as money
@@ -121,7 +121,7 @@ void SetHardWay(DiceCells& cells, int number) {
 }
 
 void SetHop(DiceCells& cells, int number) {
-  const std::string_view name = At(BetName, number);  // "Hop 13": the faces stand last
+  const std::string_view name = BetName[number];  // "Hop 13": the faces stand last
   cells.SetPair(name[4] - '0', name[5] - '0', RatioOf(number));
 }
 
@@ -140,12 +140,12 @@ void SetComeBox(DiceCells& cells, int number) {
 void SetField(DiceCells& cells) {
   for (int die1 = 1; die1 <= 6; ++die1) {
     for (int die2 = die1; die2 <= 6; ++die2)
-      cells.SetPair(die1, die2, Ratio(At(Payoffs.FieldPayoff, PairIndex(die1, die2))));
+      cells.SetPair(die1, die2, Ratio(Payoffs.FieldPayoff[PairIndex(die1, die2)]));
   }
 }
 
 void SetMidway(DiceCells& cells) {
-  const auto ratio = [](int row) { return Ratio(At(Payoffs.MidwayPayoff, row)); };
+  const auto ratio = [](int row) { return Ratio(Payoffs.MidwayPayoff[row]); };
   cells.SetTotal(6, ratio(2));
   cells.SetTotal(7, ratio(3));
   cells.SetTotal(8, ratio(4));

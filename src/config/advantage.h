@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

@@ -4,9 +4,9 @@
 
 #include "base/clock.h"
 #include "base/number_format.h"
-#include "config/configuration_texts.h"
 #include "config/payoff_editor.h"
-#include "config/settings.h"
+#include "state/settings.h"
+#include "texts/configuration_texts.h"
 
 namespace tessarel {
 

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "config/language.h"
-#include "config/payoffs.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
+#include "state/payoffs.h"
+#include "state/scripts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -37,10 +37,10 @@ Refusal TestDenominations() {
     return Refuse(ConfigTab::ChecksDice, LocalizedText(text), "Denomination", index);
   };
   for (int index = 1; index <= 5; ++index) {
-    const Money value = At(Settings.Denomination, index);
+    const Money value = Settings.Denomination[index];
     if (value <= Money()) return refuse(ConfigurationTexts.ChecksNotPositive, index);
     if (index == 1) continue;
-    if (value < At(Settings.Denomination, index - 1)) {
+    if (value < Settings.Denomination[index - 1]) {
       return refuse(ConfigurationTexts.ChecksNotAscending, index);
     }
     if (!IsMultiple(value, SmallestCheck()))
@@ -91,7 +91,7 @@ Refusal TestLargestBets() {
     if (limit >= Settings.MinPlacardPropBet) continue;
     const std::string amount = limit.IsWhole() ? PlainText(limit) : WithCents(limit);
     return Refuse(ConfigTab::Bets,
-                  FillIn(ConfigurationTexts.LargestBetTooSmall, {At(BetName, number), amount}),
+                  FillIn(ConfigurationTexts.LargestBetTooSmall, {BetName[number], amount}),
                   "MinPlacardPropBet");
   }
   return std::nullopt;
@@ -102,13 +102,13 @@ bool Ask(std::string text, const SixTexts& title) {
 }
 
 void CopyHouseWorking(int place) {
-  const PerBet<int32_t>& house = At(Table.BetWorkingDefault, 0);
-  std::copy_n(house.begin() + 1, LastWorkingBet, At(Table.BetWorkingDefault, place).begin() + 1);
+  const PerBet<int32_t>& house = Table.BetWorkingDefault[0];
+  std::copy_n(house.begin() + 1, LastWorkingBet, Table.BetWorkingDefault[place].begin() + 1);
 }
 
 // Players keep their own working tables unless they are given the new standard.
 void OfferHouseWorking(const PerBet<int32_t>& before) {
-  const PerBet<int32_t>& house = At(Table.BetWorkingDefault, 0);
+  const PerBet<int32_t>& house = Table.BetWorkingDefault[0];
   const bool same =
       std::equal(house.begin() + 1, house.begin() + 1 + LastWorkingBet, before.begin() + 1);
   if (same || Table.PlayerCount == 0) return;
@@ -116,7 +116,7 @@ void OfferHouseWorking(const PerBet<int32_t>& before) {
       Ask(LocalizedText(ConfigurationTexts.HouseWorkingChanged), ConfigurationTexts.WorkOnComeOut);
   if (!wanted) return;
   ForEachPlayer([](int place) {
-    if (Ask(FillIn(ConfigurationTexts.AskPlayerWorking, {At(Table.PlayerName, place)}),
+    if (Ask(FillIn(ConfigurationTexts.AskPlayerWorking, {Table.PlayerName[place]}),
             ConfigurationTexts.WorkOnComeOut))
       CopyHouseWorking(place);
   });
@@ -157,7 +157,7 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
   bool payable = true;
   ForEachPlayer([&](int place) {
     const Money rest = BankrollOf(place) - ChargeChangedVig(place);
-    if (rest < Money() && At(Table.AllowNegBankroll, place) == 0) payable = false;
+    if (rest < Money() && Table.AllowNegBankroll[place] == 0) payable = false;
   });
   if (payable) return true;
   Settings.*setting = before;
@@ -168,7 +168,7 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
 }
 
 bool RefuseNonNegative(int place, const SixTexts& why) {
-  ShowMessage(FillIn(why, {At(Table.PlayerName, place)}),
+  ShowMessage(FillIn(why, {Table.PlayerName[place]}),
               LocalizedText(ConfigurationTexts.AllowNegativeBankroll), msg::OkAlert);
   return false;
 }
@@ -199,7 +199,7 @@ void RequireBet(int number, int last) {
 
 std::string YesNoRow(bool yes, int number) {
   constexpr int YesText = 33, NoText = 34;
-  return std::string(GetText(yes ? YesText : NoText)) + " - " + std::string(At(BetName, number));
+  return std::string(GetText(yes ? YesText : NoText)) + " - " + std::string(BetName[number]);
 }
 
 }  // namespace
@@ -246,15 +246,15 @@ bool ChangeBetAvailability(LayoutOption option, bool use) {
 
 Money ChargeChangedVig(int place) {
   Money total;
-  At(Table.Standing, place).ForEach([&](int number) { total += Bet(place, number); });
+  Table.Standing[place].ForEach([&](int number) { total += Bet(place, number); });
   for (int k = 0; k < FamilySize; ++k) {
     const int lay = LayFamily + k, buy = BuyFamily + k;
-    At(At(Table.LayVig, place), k) = FigureLayVig(lay, Bet(place, lay));
-    At(At(Table.BuyVig, place), k) = FigureBuyVig(buy, Bet(place, buy));
-    if (Settings.LayVigAllBets != 0) total += At(At(Table.LayVig, place), k);
-    if (Settings.BuyVigAllBets != 0) total += At(At(Table.BuyVig, place), k);
+    Table.LayVig[place][k] = FigureLayVig(lay, Bet(place, lay));
+    Table.BuyVig[place][k] = FigureBuyVig(buy, Bet(place, buy));
+    if (Settings.LayVigAllBets != 0) total += Table.LayVig[place][k];
+    if (Settings.BuyVigAllBets != 0) total += Table.BuyVig[place][k];
   }
-  At(Table.MoneyOnTable, place) = total;
+  Table.MoneyOnTable[place] = total;
   return total;
 }
 
@@ -269,22 +269,22 @@ bool ChangeVig(int32_t SettingsState::*setting, int32_t value) {
 bool SetAllowNegBankroll(int place, bool allow) {
   if (!allow && BankrollOf(place) < Money())
     return RefuseNonNegative(place, ConfigurationTexts.BankrollIsNegative);
-  if (!allow && At(Table.MoneyOnTable, place) > BankrollOf(place)) {
+  if (!allow && Table.MoneyOnTable[place] > BankrollOf(place)) {
     return RefuseNonNegative(place, ConfigurationTexts.BetsExceedBankroll);
   }
-  At(Table.AllowNegBankroll, place) = allow ? -1 : 0;
+  Table.AllowNegBankroll[place] = allow ? -1 : 0;
   return true;
 }
 
 bool SetBankrollInitType(int place, int32_t type) {
   if (!AnyPlayer()) return false;
-  At(Table.BankrollInitType, place) = type;
+  Table.BankrollInitType[place] = type;
   return true;
 }
 
 bool SetBankrollInitAmount(int place, Money amount) {
   if (!AnyPlayer()) return false;
-  At(Table.BankrollInitAmount, place) = amount;
+  Table.BankrollInitAmount[place] = amount;
   return true;
 }
 
@@ -317,8 +317,8 @@ void ChangeWorkingDefaults(int place, std::span<const int> bets, ListChoice choi
   for (const int number : bets) {
     RequireBet(number, LastWorkingBet);
     const int32_t standard =
-        place == 0 ? OriginalHouseWorking(number) : At(Table.BetWorkingDefault[0], number);
-    int32_t& works = At(At(Table.BetWorkingDefault, place), number);
+        place == 0 ? OriginalHouseWorking(number) : Table.BetWorkingDefault[0][number];
+    int32_t& works = Table.BetWorkingDefault[place][number];
     works = Chosen(choice, works, standard, 1);
   }
 }
@@ -327,17 +327,17 @@ void ChangeCompBets(std::span<const int> bets, ListChoice choice) {
   constexpr auto Standard = SettingsState::DefaultCompBets();
   for (const int number : bets) {
     RequireBet(number, LastBet);
-    int32_t& counts = At(Settings.CompBet, number);
+    int32_t& counts = Settings.CompBet[number];
     counts = Chosen(choice, counts, At(Standard, number), -1);
   }
 }
 
 std::string WorkingRowText(int place, int number) {
-  return YesNoRow(At(At(Table.BetWorkingDefault, place), number) != 0, number);
+  return YesNoRow(Table.BetWorkingDefault[place][number] != 0, number);
 }
 
 std::string CompBetRowText(int number) {
-  return YesNoRow(At(Settings.CompBet, number) != 0, number);
+  return YesNoRow(Settings.CompBet[number] != 0, number);
 }
 
 bool RestoreDefaultDenoms() {

@@ -12,10 +12,10 @@
 #include <string_view>
 
 #include "base/money.h"
-#include "config/configuration_texts.h"
 #include "config/payoff_editor.h"
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/configuration_texts.h"
 
 namespace tessarel {
 

@@ -7,10 +7,10 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
-#include "config/configuration_texts.h"
-#include "config/settings.h"
 #include "engine/bet_limits.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/configuration_texts.h"
 
 namespace tessarel {
 
@@ -157,7 +157,7 @@ std::string BetCaption(int row) {
   const auto* block = std::ranges::find_if(
       Blocks, [row](const Block& run) { return row >= run.FirstRow && row <= run.LastRow; });
   if (block == std::end(Blocks) || block->Form == CaptionForm::BetName)
-    return std::string(At(BetName, shown.Bet));
+    return std::string(BetName[shown.Bet]);
   std::string caption(block->Before);
   if (block->Form == CaptionForm::Number) caption += std::to_string(PointOf(shown.Bet));
   return caption.append(block->After);
@@ -195,10 +195,10 @@ std::span<PayoffRow> OwnRows(int number) {
 
 PayoffRow& RowToEdit(PayoffCell cell) {
   RequireRow(cell);
-  if (cell.Grid == PayoffGrid::Field) return At(Payoffs.FieldPayoff, cell.Row);
+  if (cell.Grid == PayoffGrid::Field) return Payoffs.FieldPayoff[cell.Row];
   const PayoffEditorRow& shown = At(EditorRows, cell.Row);
   if (shown.Heading) RaiseIndexOutOfRange();
-  if (shown.SubIndex < 0) return At(Payoffs.Payoff, shown.Bet);
+  if (shown.SubIndex < 0) return Payoffs.Payoff[shown.Bet];
   const std::span<PayoffRow> rows = OwnRows(shown.Bet);
   return At(rows, shown.SubIndex);
 }
@@ -217,7 +217,7 @@ void StorePayoff(PayoffCell cell, Money num, Money form, Money den) {
   store(RowToEdit(cell));
   if (cell.Grid == PayoffGrid::Field) return;
   const PayoffEditorRow& shown = At(EditorRows, cell.Row);
-  if (const int twin = Twin(shown.Bet); twin != 0) store(At(Payoffs.Payoff, twin));
+  if (const int twin = Twin(shown.Bet); twin != 0) store(Payoffs.Payoff[twin]);
 }
 
 // The net win of a row that shows this payoff.
@@ -275,7 +275,7 @@ std::optional<PayoffCell> CellByName(std::string_view name) {
 std::string NoSuchRow(std::string_view name) {
   const int number = BetByName(name);
   if (number == 0) return "There is no payoff row named " + std::string(name) + ".";
-  const std::string bet(At(BetName, number));
+  const std::string bet(BetName[number]);
   for (int row = 1; row <= PayoffEditorRowCount; ++row) {
     const PayoffEditorRow& shown = At(EditorRows, row);
     if (shown.Heading || shown.SubIndex >= 0) continue;
@@ -352,7 +352,7 @@ std::string PayoffRowName(PayoffCell cell) {
   for (const CountWord& count : CountWords) {
     if (caption.ends_with(count.Word)) caption.remove_suffix(count.Word.size());
   }
-  return std::string(At(BetName, shown.Bet)) + " " + std::string(caption);
+  return std::string(BetName[shown.Bet]) + " " + std::string(caption);
 }
 
 const PayoffRow& PayoffOf(PayoffCell cell) {
@@ -411,23 +411,23 @@ bool RestoreDefaultPayoffs() {
 
 std::optional<PayoffRefusal> TestPayoffs() {
   const auto ownTable = [](int firstRow, int lastRow, int number) {
-    return TestTable({PayoffGrid::Bets, firstRow}, lastRow - firstRow + 1, At(BetName, number));
+    return TestTable({PayoffGrid::Bets, firstRow}, lastRow - firstRow + 1, BetName[number]);
   };
   std::optional<PayoffRefusal> refusal = TestPositive(1, 80);
-  if (!refusal) refusal = TestPositive(82, 83, At(BetName, bet::SevenPoint7));
-  if (!refusal) refusal = TestPositive(85, 89, At(BetName, bet::Midway));
+  if (!refusal) refusal = TestPositive(82, 83, BetName[bet::SevenPoint7]);
+  if (!refusal) refusal = TestPositive(85, 89, BetName[bet::Midway]);
   if (!refusal) refusal = ownTable(91, 101, bet::SharpShooter);
   if (!refusal) refusal = ownTable(103, 114, bet::RideTheLine);
   if (!refusal) refusal = TestMaxFireBet();
   if (!refusal) refusal = ownTable(116, 122, bet::Fire);
-  if (!refusal) refusal = TestTable({PayoffGrid::Field, 1}, FieldRowCount, At(BetName, bet::Field));
+  if (!refusal) refusal = TestTable({PayoffGrid::Field, 1}, FieldRowCount, BetName[bet::Field]);
   return refusal;
 }
 
 void FigureFieldBase() {
   std::optional<Money> common;
   for (int row = 1; row <= FieldRowCount; ++row) {
-    const PayoffRow& field = At(Payoffs.FieldPayoff, row);
+    const PayoffRow& field = Payoffs.FieldPayoff[row];
     if (field.PayNum <= Money()) continue;
     if (common && *common != field.PayDen) {
       common = Money(1);
@@ -435,7 +435,7 @@ void FigureFieldBase() {
     }
     common = field.PayDen;
   }
-  At(Payoffs.Payoff, bet::Field).PayDen = common.value_or(Money(1));
+  Payoffs.Payoff[bet::Field].PayDen = common.value_or(Money(1));
 }
 
 std::optional<std::string> SetPayoffByName(std::string_view assignment) {

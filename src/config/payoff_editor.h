@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "config/payoffs.h"
+#include "state/payoffs.h"
 
 namespace tessarel {
 

@@ -6,16 +6,16 @@
 #include <utility>
 #include <vector>
 
-#include "autobet/script_store.h"
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
 #include "config/configuration.h"
-#include "config/language.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "engine/bets.h"
-#include "engine/table.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -44,9 +44,9 @@ FieldValue Of(int place, int key) {
   else if constexpr (requires { Dice.*Member; })
     return Element(Dice.*Member, key);
   else if constexpr (requires { Scripts.*Member; })
-    return Element(At(Scripts.*Member, place), key);
+    return Element((Scripts.*Member)[place], key);
   else
-    return Element(At(Table.*Member, place), key);
+    return Element((Table.*Member)[place], key);
 }
 
 template <auto Member>
@@ -77,19 +77,19 @@ bool ChangeBankrollInitType(int place, Money value) {
 }
 
 bool ChangeDownPlaceBets(int place, Money value) {
-  At(Table.AutoDownPlaceBets, place) = static_cast<int32_t>(value.Floor());
+  Table.AutoDownPlaceBets[place] = static_cast<int32_t>(value.Floor());
   if (value != Money()) DownPlaceBets(place);
   return true;
 }
 
 bool ChangeTakeFullOdds(int place, Money value) {
-  At(Table.AutoTakeFullOdds, place) = static_cast<int32_t>(value.Floor());
+  Table.AutoTakeFullOdds[place] = static_cast<int32_t>(value.Floor());
   if (value != Money()) BetFullOdds(place);
   return true;
 }
 
 bool ChangeLayFullOdds(int place, Money value) {
-  At(Table.AutoLayFullOdds, place) = static_cast<int32_t>(value.Floor());
+  Table.AutoLayFullOdds[place] = static_cast<int32_t>(value.Floor());
   if (value != Money()) BetFullLay(place);
   return true;
 }

@@ -11,11 +11,11 @@
 #include "base/fault.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "config/language.h"
-#include "dice/dice_texts.h"
 #include "dice/probability.h"
-#include "engine/table.h"
-#include "files/event_lines.h"
+#include "log/event_lines.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "base/money.h"
+#include "dice/faces.h"
 #include "dice/twister.h"
 
 namespace tessarel {
@@ -49,11 +50,6 @@ struct DiceState {
 };
 
 extern DiceState Dice;
-
-// Two faces as a generator yields them. The formulas of RNG #5 and #6 can yield a 7.
-struct Faces {
-  int32_t die1, die2;
-};
 
 // Makes a roll's faces with CurrentRNG, through the probability matrix (dice/probability.h) if it
 // is active; then the fault of its DrawCell may come. `rollCount` is the table's count of rolls

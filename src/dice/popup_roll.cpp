@@ -3,13 +3,13 @@
 #include "base/clock.h"
 #include "base/fault.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "dice/dice_texts.h"
 #include "dice/roll_file.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
 
 namespace tessarel {
 

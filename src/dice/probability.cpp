@@ -8,8 +8,8 @@
 
 #include "base/fault.h"
 #include "base/number_format.h"
-#include "dice/dice_texts.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
 
 namespace tessarel {
 

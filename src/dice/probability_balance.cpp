@@ -8,7 +8,7 @@
 
 #include "base/fault.h"
 #include "dice/probability.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

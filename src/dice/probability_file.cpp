@@ -1,13 +1,13 @@
 #include "dice/probability_file.h"
 
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/message.h"
 #include "base/record_file.h"
 #include "base/single_byte_text.h"
-#include "config/folders.h"
-#include "config/language.h"
-#include "dice/dice_texts.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

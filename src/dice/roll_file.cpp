@@ -8,11 +8,11 @@
 #include <utility>
 
 #include "base/fault.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/folders.h"
-#include "dice/dice_texts.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
 
 namespace tessarel {
 

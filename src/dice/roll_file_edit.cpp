@@ -7,16 +7,16 @@
 
 #include "base/clock.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "dice/dice_texts.h"
 #include "dice/popup_roll.h"
-#include "engine/table.h"
 #include "engine/unattended.h"
-#include "files/event_lines.h"
+#include "log/event_lines.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
 
 namespace tessarel {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "engine/bet_limits.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -17,10 +17,10 @@ bool HasUnit(int number) {
 }
 
 int32_t BiasOf(int place, int number) {
-  if (InFamily(number, LayFamily)) return At(Table.LayBias, place);
-  if (IsLaidOdds(number)) return At(Table.DontBias, place);
-  if (IsTakenOdds(number)) return At(Table.DoBias, place);
-  return At(Table.PlaceBias, place);
+  if (InFamily(number, LayFamily)) return Table.LayBias[place];
+  if (IsLaidOdds(number)) return Table.DontBias[place];
+  if (IsTakenOdds(number)) return Table.DoBias[place];
+  return Table.PlaceBias[place];
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "engine/rail_texts.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/rail_texts.h"
 
 namespace tessarel {
 
@@ -20,24 +20,24 @@ std::string AmountsText(Money asked, Money allowed) {
 
 // Why a deposit was cut to what the bets on the table leave.
 std::string WageredText(int place, Money asked, Money allowed) {
-  const bool wagered = At(Table.MoneyOnTable, place) > Money();
+  const bool wagered = Table.MoneyOnTable[place] > Money();
   return AmountsText(asked, allowed) +
          FillIn(wagered ? RailTexts.AtmBelowWagered : RailTexts.AtmBelowZero,
-                {At(Table.PlayerName, place)});
+                {Table.PlayerName[place]});
 }
 
 std::string LimitText(int place, Money asked, Money allowed, bool deposit) {
   return AmountsText(asked, allowed) +
          FillIn(deposit ? RailTexts.AtmBelowLimit : RailTexts.AtmAboveLimit,
-                {At(Table.PlayerName, place), FormatMoney(BankrollLimit)});
+                {Table.PlayerName[place], FormatMoney(BankrollLimit)});
 }
 
 void MoveBankroll(int place, Money change) {
   const Money bankroll = BankrollOf(place) + change;
   SetBankrollSlots(place, bankroll);
-  At(Table.InvestedBankroll, place) += change;
-  At(Table.BankrollAtRoll, place) = bankroll;
-  At(At(Table.GraphBankroll, Table.GraphIndex), place) = bankroll;
+  Table.InvestedBankroll[place] += change;
+  Table.BankrollAtRoll[place] = bankroll;
+  Table.GraphBankroll[Table.GraphIndex][place] = bankroll;
   MoveHighAndLow(place);
   if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
 }
@@ -51,8 +51,8 @@ Money ATM(int place, bool deposit, Money amount, bool tell) {
       amount, std::max(deposit ? bankroll + BankrollLimit : BankrollLimit - bankroll, Money()));
   std::string text;
   if (allowed < amount) text = LimitText(place, amount, allowed, deposit);
-  if (deposit && At(Table.AllowNegBankroll, place) == 0) {
-    const Money left = std::max(bankroll - At(Table.MoneyOnTable, place), Money());
+  if (deposit && Table.AllowNegBankroll[place] == 0) {
+    const Money left = std::max(bankroll - Table.MoneyOnTable[place], Money());
     if (left < allowed) {
       allowed = left;
       text = WageredText(place, amount, allowed);

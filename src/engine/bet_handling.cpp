@@ -6,13 +6,13 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "config/language.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
-#include "engine/bet_texts.h"
 #include "engine/bets.h"
 #include "engine/settlement.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/bet_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -28,7 +28,7 @@ std::string Plain(std::string_view caption) {
 }
 
 Money AmountBefore(int place) {
-  return At(At(Table.BetAmountBefore, place), Table.CurrentBet);
+  return Table.BetAmountBefore[place][Table.CurrentBet];
 }
 
 // Tells how the bet stands now against the roll. `title` is only made when it is shown.
@@ -42,8 +42,8 @@ void TellHowItStands(int place, Title&& title) {
   const SixTexts& text = change == Money()  ? BetTexts.BetUnchanged
                          : change > Money() ? BetTexts.BetIncreased
                                             : BetTexts.BetDecreased;
-  Message.MsgText = FillIn(
-      text, {At(Table.PlayerName, place), At(BetName, Table.CurrentBet), FormatMoney(Abs(change))});
+  Message.MsgText =
+      FillIn(text, {Table.PlayerName[place], BetName[Table.CurrentBet], FormatMoney(Abs(change))});
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
@@ -69,7 +69,7 @@ void PutBack(int place, Money amount) {
 Money UnitToAdd(const HandlingRow& row, Money before) {
   if (row.units <= Money()) return 1;
   if (row.units == Money(1)) return Money::FromDouble(before.ToDouble() / 100);
-  return CheckOfUnits(row.units) * At(Payoffs.Payoff, Table.CurrentBet).PayDen;
+  return CheckOfUnits(row.units) * Payoffs.Payoff[Table.CurrentBet].PayDen;
 }
 
 Money ModifiedChange(const HandlingRow& row, Money before) {
@@ -98,8 +98,8 @@ class NearestAmounts {
  public:
   explicit NearestAmounts(int place)
       : place_(place),
-        saved_{At(Table.DoBias, place), At(Table.DontBias, place), At(Table.PlaceBias, place),
-               At(Table.LayBias, place)} {
+        saved_{Table.DoBias[place], Table.DontBias[place], Table.PlaceBias[place],
+               Table.LayBias[place]} {
     Set({2, 2, 2, 2});
   }
   ~NearestAmounts() { Set(saved_); }
@@ -108,10 +108,10 @@ class NearestAmounts {
 
  private:
   void Set(const std::array<int32_t, 4>& biases) {
-    At(Table.DoBias, place_) = biases[0];
-    At(Table.DontBias, place_) = biases[1];
-    At(Table.PlaceBias, place_) = biases[2];
-    At(Table.LayBias, place_) = biases[3];
+    Table.DoBias[place_] = biases[0];
+    Table.DontBias[place_] = biases[1];
+    Table.PlaceBias[place_] = biases[2];
+    Table.LayBias[place_] = biases[3];
   }
 
   int place_;
@@ -119,9 +119,9 @@ class NearestAmounts {
 };
 
 void StoreRow(int place, int slot, const HandlingRow& row) {
-  At(At(Table.HandleAmount, place), slot) = row.amount;
-  At(At(Table.HandleOperator, place), slot) = row.operation;
-  At(At(Table.HandleUnits, place), slot) = row.units;
+  Table.HandleAmount[place][slot] = row.amount;
+  Table.HandleOperator[place][slot] = row.operation;
+  Table.HandleUnits[place][slot] = row.units;
 }
 
 void ActOnWin(int place, int button) {
@@ -183,7 +183,7 @@ bool CanAsk(int place) {
 }
 
 void RunWinMode(int place, Outcome outcome) {
-  const int32_t mode = At(Table.HandleWinningBets, place);
+  const int32_t mode = Table.HandleWinningBets[place];
   if (mode == WinPrompt && CanAsk(place)) return AskHandling(place, outcome, true);
   if (Table.BetCantStay) return TakeDownBet(place);
   switch (mode) {
@@ -205,7 +205,7 @@ void RunWinMode(int place, Outcome outcome) {
 }
 
 void RunLossMode(int place, Outcome outcome) {
-  const int32_t mode = At(Table.HandleLosingBets, place);
+  const int32_t mode = Table.HandleLosingBets[place];
   if (mode == LossPrompt && CanAsk(place)) return AskHandling(place, outcome, false);
   if (Table.BetCantStay) return TakeDownBet(place);
   switch (mode) {
@@ -229,8 +229,8 @@ void RunLossMode(int place, Outcome outcome) {
 }  // namespace
 
 HandlingRow RowOfSlot(int place, int slot) {
-  return {At(At(Table.HandleAmount, place), slot), At(At(Table.HandleOperator, place), slot),
-          At(At(Table.HandleUnits, place), slot)};
+  return {Table.HandleAmount[place][slot], Table.HandleOperator[place][slot],
+          Table.HandleUnits[place][slot]};
 }
 
 void SameBet(int place) {
@@ -280,7 +280,7 @@ void SetBetUnits(int place, int slot) {
   if (row.units == Money(1)) {
     unit = Money::FromDouble(AmountBefore(place).ToDouble() / 100);
   } else if (row.units > Money()) {
-    const Money payUnit = At(Payoffs.Payoff, Table.CurrentBet).PayUnit;
+    const Money payUnit = Payoffs.Payoff[Table.CurrentBet].PayUnit;
     unit = Money::FromDouble(MulDiv(payUnit, CheckOfUnits(row.units), SmallestCheck()));
   }
   PutBack(place, row.amount * unit);
@@ -304,7 +304,7 @@ void HandleIdleOdds(int place) {
   Table.NetWin = Table.GrossWin = Money();
   Table.BetCantStay =
       Settings.AllowPutBets == 0 || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
-  const bool asLoss = At(At(Table.BetStreak, place), FlatUnder(odds)) < 2;
+  const bool asLoss = Table.BetStreak[place][FlatUnder(odds)] < 2;
   if (asLoss) {
     RunLossMode(place, Outcome::Idle);
   } else {

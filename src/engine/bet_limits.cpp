@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -124,8 +124,8 @@ template <size_t Count>
 Money StakeOfParts(int number, const std::array<int, Count>& hits) {
   std::array<PayoffRow, Count> rows;
   for (size_t k = 0; k < Count; ++k)
-    rows[k] = At(Payoffs.Payoff, hits[k]);
-  return StakeWithinRows(rows) * At(Payoffs.Payoff, number).PayDen;
+    rows[k] = Payoffs.Payoff[hits[k]];
+  return StakeWithinRows(rows) * Payoffs.Payoff[number].PayDen;
 }
 
 Money PropositionLimit(int number) {
@@ -146,7 +146,7 @@ Money PropositionLimit(int number) {
     case Midway:
       return Settings.MaxPlacardBet;
     default: {
-      const PayoffRow& row = At(Payoffs.Payoff, number);
+      const PayoffRow& row = Payoffs.Payoff[number];
       return StakeWithin(row.PayNum, row.PayDen);
     }
   }
@@ -217,7 +217,7 @@ Money FigureMaxBet(int place, int number) {
   } else if (IsOdds(number)) {
     limit = OddsLimit(place, number);
   } else if (InFamily(number, LayFamily)) {
-    const PayoffRow& row = At(Payoffs.Payoff, number);
+    const PayoffRow& row = Payoffs.Payoff[number];
     limit = Money::FromDouble(MulDiv(Settings.MaxPlacardBet, row.PayDen, row.PayNum));
   } else if (number == bet::Fire) {
     limit = Settings.MaxFireBet;
@@ -235,7 +235,7 @@ Money FigureBuyVig(int number, Money amount) {
 
 Money FigureLayVig(int number, Money amount) {
   if (!InFamily(number, LayFamily) || Settings.LayVigPct == Money()) return Money();
-  const PayoffRow& row = At(Payoffs.Payoff, number);
+  const PayoffRow& row = Payoffs.Payoff[number];
   const double vig = MulDiv(amount, row.PayNum, row.PayDen) * Settings.LayVigPct.ToDouble();
   return RoundVig(Money::FromDouble(vig), Settings.RoundLayVig, amount);
 }
@@ -243,19 +243,19 @@ Money FigureLayVig(int number, Money amount) {
 const PayoffRow& PayoffRowOf(int number) {
   if (Table.Point != 0) {
     const int index = PointIndex(Table.Point);
-    if (number == bet::PassLine) return At(Payoffs.Payoff, ComeFamily + index);
-    if (number == bet::PassLineOdds) return At(Payoffs.Payoff, ComeOddsFamily + index);
-    if (number == bet::DontPass) return At(Payoffs.Payoff, DontComeFamily + index);
-    if (number == bet::DontPassOdds) return At(Payoffs.Payoff, DontComeOddsFamily + index);
+    if (number == bet::PassLine) return Payoffs.Payoff[ComeFamily + index];
+    if (number == bet::PassLineOdds) return Payoffs.Payoff[ComeOddsFamily + index];
+    if (number == bet::DontPass) return Payoffs.Payoff[DontComeFamily + index];
+    if (number == bet::DontPassOdds) return Payoffs.Payoff[DontComeOddsFamily + index];
   }
-  return At(Payoffs.Payoff, number);
+  return Payoffs.Payoff[number];
 }
 
 void SetOddsPayoffRows() {
   if (Table.Point == 0) return;
   const auto copy = [](int to, Family family) {
-    const PayoffRow& from = At(Payoffs.Payoff, BetOn(family, Table.Point));
-    PayoffRow& row = At(Payoffs.Payoff, to);
+    const PayoffRow& from = Payoffs.Payoff[BetOn(family, Table.Point)];
+    PayoffRow& row = Payoffs.Payoff[to];
     row.PayNum = from.PayNum;
     row.PayForm = from.PayForm;
     row.PayDen = from.PayDen;

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/money.h"
-#include "config/payoffs.h"
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
+#include "state/payoffs.h"
 
 namespace tessarel {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <string_view>
 
-#include "config/settings.h"
-#include "engine/bet_texts.h"
 #include "engine/special_bets.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/bet_texts.h"
 
 namespace tessarel {
 
@@ -21,7 +21,7 @@ Verdict Refused(int place, int number, Money delta, RefusalKind refusal) {
       refusal == OddsWithoutFlat) {
     return {Money(), refusal};
   }
-  const Money missing = At(At(Table.BetContract, place), number) - Bet(place, number);
+  const Money missing = Table.BetContract[place][number] - Bet(place, number);
   return {std::clamp(missing, Money(), delta), refusal};
 }
 
@@ -48,7 +48,7 @@ Verdict JudgeNoChange(int place, int number) {
 RefusalKind IncreaseRefusal(int place, int number, Money total) {
   using enum RefusalKind;
   const bool point = Table.Point != 0;
-  const bool aboveContract = total > At(At(Table.BetContract, place), number);
+  const bool aboveContract = total > Table.BetContract[place][number];
   const bool handStarted = RollsInHand() > 0;
   if (InFamily(number, ComeFamily)) {
     const bool put = aboveContract && !Table.BetMoving && Settings.AllowPutBets == 0;
@@ -118,7 +118,7 @@ const SixTexts& MarkedText(int number) {
 Money HeldContract(int place, int number) {
   const bool byPoint = number == bet::PassLine || number == bet::SevenPoint7;
   const bool held = InFamily(number, ComeFamily) || (byPoint && Table.Point != 0);
-  return held ? At(At(Table.BetContract, place), number) : Money();
+  return held ? Table.BetContract[place][number] : Money();
 }
 
 Verdict JudgeChange(int place, int number, Money delta) {
@@ -129,7 +129,7 @@ Verdict JudgeChange(int place, int number, Money delta) {
 
 std::string RefusalText(RefusalKind refusal, int number) {
   using enum RefusalKind;
-  const std::string_view name = At(BetName, number);
+  const std::string_view name = BetName[number];
   const auto named = [name](const SixTexts& texts) { return FillIn(texts, {name}); };
   switch (refusal) {
     case None:
@@ -159,7 +159,7 @@ std::string RefusalText(RefusalKind refusal, int number) {
     case OddsWithoutDontPass:
       return LocalizedText(BetTexts.OddsWithoutDontPass);
     case OddsWithoutFlat:
-      return FillIn(BetTexts.OddsWithoutFlat, {name, At(BetName, number - FamilySize)});
+      return FillIn(BetTexts.OddsWithoutFlat, {name, BetName[number - FamilySize]});
     case DontComeOnNumber:
       return LocalizedText(BetTexts.DontComeOnNumber);
     case NumbersMarked:

@@ -7,13 +7,13 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "config/language.h"
-#include "config/settings.h"
 #include "engine/amount_adjustment.h"
 #include "engine/bet_limits.h"
 #include "engine/bet_refusals.h"
-#include "engine/bet_texts.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/bet_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -30,7 +30,7 @@ bool Quiet(int32_t messageSwitch) {
 
 std::string BetTitle(int number) {
   if (IsStack(number)) return "CheckStack #" + std::to_string(number - FirstStack);
-  return FillIn(BetTexts.BetTitle, {At(BetName, number)});
+  return FillIn(BetTexts.BetTitle, {BetName[number]});
 }
 
 // A change on its way through the rules: the change they leave so far and what they said.
@@ -78,9 +78,8 @@ class Change {
     const Verdict verdict = JudgeChange(place_, number_, delta_);
     delta_ = verdict.delta;
     if (verdict.refusal == RefusalKind::None) return false;
-    Say(NoticeActionsNotAllowed, [&] {
-      return At(Table.PlayerName, place_) + ",\r\r" + RefusalText(verdict.refusal, number_);
-    });
+    Say(NoticeActionsNotAllowed,
+        [&] { return Table.PlayerName[place_] + ",\r\r" + RefusalText(verdict.refusal, number_); });
     return true;
   }
 
@@ -92,7 +91,7 @@ class Change {
       return;
     }
     Say(NoticeLimits, [&] {
-      return FillIn(BetTexts.MinimumBet, {At(BetName, number_), FormatMoney(minimum)});
+      return FillIn(BetTexts.MinimumBet, {BetName[number_], FormatMoney(minimum)});
     });
     delta_ = minimum - Amount();
   }
@@ -100,7 +99,7 @@ class Change {
   void ApplyMaximum() {
     const Money limit = FigureMaxBet(place_, number_);
     if (Total() <= limit) return;
-    const std::string_view name = At(BetName, number_);
+    const std::string_view name = BetName[number_];
     Say(NoticeLimits, [&] { return FillIn(BetTexts.MaximumBet, {name, FormatMoney(limit)}); });
     const Money contract = HeldContract(place_, number_);
     if (contract > limit) {
@@ -112,7 +111,7 @@ class Change {
   }
 
   void Adjust() {
-    if (At(Table.AutoAdjustBetAmounts, place_) <= 0) return;
+    if (Table.AutoAdjustBetAmounts[place_] <= 0) return;
     const Adjustment adjustment = AdjustForOddsPayoff(place_, number_, Total());
     if (adjustment.possible) {
       delta_ = adjustment.total - Amount();
@@ -144,8 +143,8 @@ class Change {
   }
 
   void ApplyBankroll() {
-    if (Total() == Money() || At(Table.AllowNegBankroll, place_) != 0) return;
-    const Money left = BankrollOf(place_) - At(Table.MoneyOnTable, place_);
+    if (Total() == Money() || Table.AllowNegBankroll[place_] != 0) return;
+    const Money left = BankrollOf(place_) - Table.MoneyOnTable[place_];
     if (Cost(delta_) <= left) return;
     delta_ = LargestAffordable(left);
     const Money held = HeldContract(place_, number_);
@@ -215,17 +214,17 @@ void MoveVig(int number, Money& stored, Money vig, Money& onTable, bool upFront,
 // Puts a bet at `amount` with all that follows from it: the money on the table, the working state
 // of a bet that came off, and the vig.
 void StandAt(int place, int number, Money amount, bool silent) {
-  Money& onTable = At(Table.MoneyOnTable, place);
+  Money& onTable = Table.MoneyOnTable[place];
   onTable += amount - Bet(place, number);
   SetBetAmount(place, number, amount);
   if (amount == Money()) ResetBetWorking(place, number);
   Table.TableDirty = Table.BetChangedThisRoll = -1;
   const size_t index = static_cast<size_t>((number - 1) % FamilySize);
   if (InFamily(number, BuyFamily)) {
-    MoveVig(number, At(Table.BuyVig, place)[index], FigureBuyVig(number, amount), onTable,
+    MoveVig(number, Table.BuyVig[place][index], FigureBuyVig(number, amount), onTable,
             Settings.BuyVigAllBets != 0, silent);
   } else if (InFamily(number, LayFamily)) {
-    MoveVig(number, At(Table.LayVig, place)[index], FigureLayVig(number, amount), onTable,
+    MoveVig(number, Table.LayVig[place][index], FigureLayVig(number, amount), onTable,
             Settings.LayVigAllBets != 0, silent);
   }
 }
@@ -321,8 +320,8 @@ void ChangeBet(int place, int number) {
 }
 
 void PlaceBet(int place, int number, int x, int y) {
-  At(At(Table.BetX, place), number) = x;
-  At(At(Table.BetY, place), number) = y;
+  Table.BetX[place][number] = x;
+  Table.BetY[place][number] = y;
   PlaceBet(place, number);
 }
 
@@ -399,7 +398,7 @@ void BuyPlaceBet(int place, int number) {
     TellNotAllowed(std::string(GetText(57)));
     return;
   }
-  const int32_t working = At(At(Table.BetWorking, place), number);
+  const int32_t working = Table.BetWorking[place][number];
   const int buy = number + FamilySize;
   StandAt(place, number, Money(), true);
   RedrawBet(place, number);
@@ -412,11 +411,11 @@ void BuyPlaceBet(int place, int number) {
 void CallBet(int place, int number, CallState state) {
   if (!IsBet(number)) return;
   if (!CanBeCalled(number)) {
-    TellNotAllowed(FillIn(GetText(59), At(BetName, number)));
+    TellNotAllowed(FillIn(GetText(59), BetName[number]));
     return;
   }
   const int32_t opposite = state == CallOn ? CalledOff : CalledOn;
-  if (At(At(Table.BetWorking, place), number) == opposite) {
+  if (Table.BetWorking[place][number] == opposite) {
     ResetBetWorking(place, number);
   } else {
     SetBetWorking(place, number, state == CallOn ? CalledOn : CalledOff);
@@ -425,23 +424,22 @@ void CallBet(int place, int number, CallState state) {
 }
 
 void ResetBetWorking(int place, int number) {
-  const int32_t normal =
-      Table.Point != 0 ? IsWorking : At(At(Table.BetWorkingDefault, place), number);
-  if (At(At(Table.BetWorking, place), number) != normal) SetBetWorking(place, number, normal);
+  const int32_t normal = Table.Point != 0 ? IsWorking : Table.BetWorkingDefault[place][number];
+  if (Table.BetWorking[place][number] != normal) SetBetWorking(place, number, normal);
 }
 
 void UpdateWorkingFlags() {
   const bool pointOn = Table.Point != 0;
   ForEachPlayer([pointOn](int place) {
-    auto& working = At(Table.BetWorking, place);
-    const auto& defaults = At(Table.BetWorkingDefault, place);
+    auto& working = Table.BetWorking[place];
+    const auto& defaults = Table.BetWorkingDefault[place];
     for (size_t number = 1; number <= LastBet; ++number) {
       const int32_t state = working[number];
       const bool called = state == CalledOn || state == CalledOff;
       const int32_t normal = pointOn ? (state == NotWorking ? IsWorking : state) : defaults[number];
       working[number] = called ? state : normal;
     }
-    At(Table.WorkingChanged, place) = -1;
+    Table.WorkingChanged[place] = -1;
   });
 }
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/money.h"
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

@@ -6,10 +6,10 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "config/settings.h"
-#include "engine/bet_texts.h"
 #include "engine/bets.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/bet_texts.h"
 
 namespace tessarel {
 
@@ -29,7 +29,7 @@ std::vector<StackRow> StackRows(int place, bool zeros) {
   std::vector<StackRow> rows;
   for (int stack = 0; stack < StackCount; ++stack) {
     const Money value = Bet(place, FirstStack + stack);
-    const std::string& name = At(At(Table.CheckStackName, place), stack);
+    const std::string& name = Table.CheckStackName[place][stack];
     if (!zeros && value == Money() && name.empty()) continue;
     rows.push_back({stack, FormatMoney(value), name});
   }
@@ -43,7 +43,7 @@ void SetStackValue(int place, int stack, Money value) {
 }
 
 void SetStackName(int place, int stack, std::string name) {
-  At(At(Table.CheckStackName, place), stack) = std::move(name);
+  Table.CheckStackName[place][stack] = std::move(name);
 }
 
 void DeleteStackValues(int place) {
@@ -52,7 +52,7 @@ void DeleteStackValues(int place) {
 }
 
 void DeleteStackNames(int place) {
-  At(Table.CheckStackName, place) = {};
+  Table.CheckStackName[place] = {};
 }
 
 bool SetVisibleStacks(int place, const std::array<int, 4>& stacks) {
@@ -64,7 +64,7 @@ bool SetVisibleStacks(int place, const std::array<int, 4>& stacks) {
     return false;
   }
   for (int k = 0; k < 4; ++k) {
-    At(At(Table.VisibleStack, place), k + 1) = FirstStack + At(stacks, k);
+    Table.VisibleStack[place][k + 1] = FirstStack + At(stacks, k);
   }
   if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
   return true;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/money.h"
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

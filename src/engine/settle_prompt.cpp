@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "base/number_format.h"
-#include "config/language.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "engine/bet_handling.h"
-#include "engine/bet_texts.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/bet_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -129,8 +129,8 @@ SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
   prompt.outcome = outcome;
   prompt.offersPress = offersPress;
   const Money amount = Bet(place, prompt.number);
-  const std::string& name = At(Table.PlayerName, place);
-  prompt.rows.push_back({std::string(At(BetName, prompt.number)), Dollars(amount)});
+  const std::string& name = Table.PlayerName[place];
+  prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(amount)});
   switch (outcome) {
     case Outcome::Won:
       prompt.title = {name, std::string(GetText(35))};

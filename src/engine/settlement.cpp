@@ -7,16 +7,16 @@
 #include <utility>
 
 #include "base/front_end.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "engine/bet_handling.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/special_bets.h"
-#include "engine/table.h"
-#include "files/event_lines.h"
-#include "files/events_log.h"
-#include "stats/store.h"
+#include "log/event_lines.h"
+#include "log/events_log.h"
+#include "state/books.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -41,13 +41,13 @@ int HornPart() {
 const PayoffRow& MidwayRow() {
   const bool pair = Table.Die1 == Table.Die2;
   const int row = Table.DiceTotal == 7 ? 3 : Table.DiceTotal < 7 ? (pair ? 1 : 2) : (pair ? 5 : 4);
-  return At(Payoffs.MidwayPayoff, row);
+  return Payoffs.MidwayPayoff[row];
 }
 
 // With the point on at the roll, the line and its odds are paid by the rows of that number.
 const PayoffRow& LineRow(int number) {
   const auto row = [](Family family) -> const PayoffRow& {
-    return At(Payoffs.Payoff, BetOn(family, Table.LastPoint));
+    return Payoffs.Payoff[BetOn(family, Table.LastPoint)];
   };
   switch (number) {
     case bet::PassLine:
@@ -63,7 +63,7 @@ const PayoffRow& LineRow(int number) {
 
 // The row that a won bet is paid by.
 const PayoffRow& WinningRow(int number, int result) {
-  const auto& own = At(Payoffs.Payoff, number);
+  const auto& own = Payoffs.Payoff[number];
   switch (number) {
     case bet::PassLine:
     case bet::PassLineOdds:
@@ -71,20 +71,20 @@ const PayoffRow& WinningRow(int number, int result) {
     case bet::DontPassOdds:
       return Table.LastPoint != 0 ? LineRow(number) : own;
     case bet::CAndE:
-      return At(Payoffs.Payoff, Table.DiceTotal == 11 ? bet::Eleven : bet::Craps);
+      return Payoffs.Payoff[Table.DiceTotal == 11 ? bet::Eleven : bet::Craps];
     case bet::Horn:
     case bet::World:
-      return At(Payoffs.Payoff, HornPart());
+      return Payoffs.Payoff[HornPart()];
     case bet::Midway:
       return MidwayRow();
     case bet::SevenPoint7:
-      return At(Payoffs.SevenPointSevenPayoff, std::clamp(result, 1, 2));
+      return Payoffs.SevenPointSevenPayoff[std::clamp(result, 1, 2)];
     case bet::SharpShooter:
-      return At(Payoffs.SharpShooterPayoff, std::min(Table.SharpShooterPoints + 1, 11));
+      return Payoffs.SharpShooterPayoff[std::min(Table.SharpShooterPoints + 1, 11)];
     case bet::RideTheLine:
-      return At(Payoffs.RideTheLinePayoff, std::min(Table.RideTheLinePasses + 1, 12));
+      return Payoffs.RideTheLinePayoff[std::min(Table.RideTheLinePasses + 1, 12)];
     case bet::Fire:
-      return At(Payoffs.FirePayoff, Table.FirePoints);
+      return Payoffs.FirePayoff[Table.FirePoints];
     default:
       return own;
   }
@@ -97,12 +97,12 @@ const PayoffRow& ToScratch(const PayoffRow& row) {
 
 const PayoffRow& DecidingRow(int number, int result) {
   if (number == bet::Field) {
-    return ToScratch(At(Payoffs.FieldPayoff, PairIndex(Table.Die1, Table.Die2)));
+    return ToScratch(Payoffs.FieldPayoff[PairIndex(Table.Die1, Table.Die2)]);
   }
   if (result > 0) return ToScratch(WinningRow(number, result));
   PayoffRow lost;
   lost.PayNum = -1;
-  lost.PayForm = At(Payoffs.Payoff, number).PayForm;
+  lost.PayForm = Payoffs.Payoff[number].PayForm;
   return ToScratch(lost);
 }
 
@@ -110,10 +110,10 @@ const PayoffRow& DecidingRow(int number, int result) {
 Money VigOf(int place, int number, Money gross) {
   const auto index = static_cast<size_t>((number - 1) % FamilySize);
   if (InFamily(number, LayFamily) && (gross > Money() || Settings.LayVigAllBets != 0)) {
-    return At(Table.LayVig, place)[index];
+    return Table.LayVig[place][index];
   }
   if (InFamily(number, BuyFamily) && (gross > Money() || Settings.BuyVigAllBets != 0)) {
-    return At(Table.BuyVig, place)[index];
+    return Table.BuyVig[place][index];
   }
   return Money();
 }
@@ -142,7 +142,7 @@ bool HasToComeDown(int place, int number) {
 }
 
 void CountStreak(int place, int number) {
-  const int32_t streak = At(At(Table.BetStreak, place), number);
+  const int32_t streak = Table.BetStreak[place][number];
   if (Table.NetWin < Money()) {
     SetBetStreak(place, number, streak > 0 ? -1 : streak - 1);
   } else {
@@ -153,7 +153,7 @@ void CountStreak(int place, int number) {
 void BookResult(int place, int number, Money amount) {
   RecordBetResult(place, number, amount, Table.NetWin);
   if (InFamily(number, ComeFamily)) {
-    At(Table.ComeOriginal, place)[static_cast<size_t>(number - bet::Come4)] = Money();
+    Table.ComeOriginal[place][static_cast<size_t>(number - bet::Come4)] = Money();
   }
   SetBankrollSlots(place, BankrollOf(place) + Table.NetWin);
   SetBetContract(place, number, Money());
@@ -183,8 +183,8 @@ void Travel(int place, int from, int to, Money amount) {
   PlaceBet(place, to);
   SetBetContract(place, to, amount);
   if (!InFamily(to, ComeFamily)) return;
-  At(Table.ComeOriginal, place)[static_cast<size_t>(to - bet::Come4)] = amount;
-  if (At(Table.AutoDownPlaceBets, place) != 0) RemovePlaceBets(place, PointOf(to));
+  Table.ComeOriginal[place][static_cast<size_t>(to - bet::Come4)] = amount;
+  if (Table.AutoDownPlaceBets[place] != 0) RemovePlaceBets(place, PointOf(to));
 }
 
 // --- Which bets a roll touches ---------------------------------------------------------------
@@ -404,8 +404,8 @@ constexpr BetSet DecidedEachRoll = [] {
 // Calls decide(visit) for each visit whose place has one of the two bets, in the order of visits.
 template <class Decide>
 void ForEachHolder(int number, int odds, Decide&& decide) {
-  uint32_t visits = At(Table.Holders, number);
-  if (odds != 0) visits |= At(Table.Holders, odds);
+  uint32_t visits = Table.Holders[number];
+  if (odds != 0) visits |= Table.Holders[odds];
   for (; visits != 0; visits &= visits - 1)
     decide(std::countr_zero(visits) + 1);
 }
@@ -524,8 +524,8 @@ void BoxesTravel() {
   const int come = BetOn(ComeFamily, Table.DiceTotal);
   const int dontCome = BetOn(DontComeFamily, Table.DiceTotal);
   ForEachHolder(bet::Come, bet::DontCome, [&](int visit) {
-    MoveBet(At(PlaceOfVisit, visit), bet::Come, come);
-    MoveBet(At(PlaceOfVisit, visit), bet::DontCome, dontCome);
+    MoveBet(PlaceOfVisit[visit], bet::Come, come);
+    MoveBet(PlaceOfVisit[visit], bet::DontCome, dontCome);
   });
 }
 
@@ -581,11 +581,11 @@ void FigurePayoff(int place, int number, int result, Money amount) {
 }
 
 void ResolveBet(int visit, int result, int number) {
-  const int place = At(PlaceOfVisit, visit);
+  const int place = PlaceOfVisit[visit];
   const Money amount = Bet(place, number);
   if (amount == Money()) return;
   Table.CurrentBet = number;
-  if (At(At(Table.BetWorking, place), number) < IsWorking) {
+  if (Table.BetWorking[place][number] < IsWorking) {
     const bool odds = number != bet::SevenPoint7 && (result == WinOdds || result == LoseOdds);
     if (odds) HandleIdleOdds(place);
     return;
@@ -614,9 +614,9 @@ void MoveBet(int place, int from, int to) {
 
 void FigureUnit(int place, int number) {
   const Money amount = Bet(place, number);
-  const Money unit = At(Payoffs.Payoff, number).PayUnit;
+  const Money unit = Payoffs.Payoff[number].PayUnit;
   for (int check = 5; check >= 1; --check) {
-    const Money value = At(Settings.Denomination, check);
+    const Money value = Settings.Denomination[check];
     Table.ChipUnit = Money::FromDouble(MulDiv(value, unit, SmallestCheck()));
     if (Table.ChipUnit <= Money()) continue;
     if (Table.ChipUnit < amount && IsMultiple(amount, Table.ChipUnit)) return;

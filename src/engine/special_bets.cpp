@@ -1,6 +1,6 @@
 #include "engine/special_bets.h"
 
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

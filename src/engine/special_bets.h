@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

@@ -2,8 +2,8 @@
 
 #include "base/front_end.h"
 #include "base/message.h"
-#include "engine/roll_texts.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/roll_texts.h"
 
 namespace tessarel {
 

@@ -7,16 +7,16 @@
 #include <utility>
 
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "config/language.h"
-#include "files/events_log.h"
-#include "files/events_log_reader.h"
-#include "files/file_texts.h"
+#include "log/events_log.h"
+#include "log/events_log_reader.h"
 #include "stats/report.h"
+#include "texts/file_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

@@ -1,6 +1,6 @@
 // What the events-log window does, without the window: it opens, renews and saves logs, follows the
 // rolls, finds and prints lines. The routines a user reaches report their faults and say what has
-// to be said; the lines themselves come from files/events_log_reader.h.
+// to be said; the lines themselves come from log/events_log_reader.h.
 #pragma once
 
 #include <cstdint>

@@ -6,16 +6,16 @@
 #include <system_error>
 
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "config/language.h"
 #include "dice/roll_file_edit.h"
-#include "engine/table.h"
-#include "files/events_log.h"
-#include "files/file_texts.h"
 #include "files/sessions_log.h"
+#include "log/events_log.h"
+#include "state/table.h"
+#include "texts/file_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -177,15 +177,15 @@ bool AskToDelete(const std::string& name, FileKind kind) {
 std::vector<int> PlayersWithSessionsLog(const std::string& path) {
   std::vector<int> places;
   ForEachPlayer([&](int place) {
-    const std::string& log = At(Table.SessionLogName, place);
+    const std::string& log = Table.SessionLogName[place];
     if (!log.empty() && IsSameFile(InFolder(Folders.AppFolder, log), path)) places.push_back(place);
   });
   return places;
 }
 
 void BackToDefaultSessionsLog(int place) {
-  const std::string& name = At(Table.PlayerName, place);
-  std::string& log = At(Table.SessionLogName, place);
+  const std::string& name = Table.PlayerName[place];
+  std::string& log = Table.SessionLogName[place];
   log = DefaultSessionsLogName(name);
   const SixTexts& text = FileExists(log) ? FileTexts.ExistingLogInstead : FileTexts.NewLogInstead;
   ShowMessage(FillIn(text, {log}), FillIn(FileTexts.SessionsLogOf, {name}), msg::OkAlert,

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "engine/table.h"
 #include "files/game_records.h"
+#include "state/table.h"
 
 namespace tessarel {
 

@@ -2,23 +2,22 @@
 
 #include <filesystem>
 #include <system_error>
-#include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/record_file.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "config/language.h"
 #include "dice/popup_roll.h"
 #include "dice/roll_file.h"
-#include "engine/rail.h"
-#include "engine/roll_driver.h"
-#include "files/file_texts.h"
+#include "engine/seats.h"
 #include "files/game_blocks.h"
 #include "files/game_views.h"
+#include "state/scripts.h"
+#include "texts/file_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -80,7 +79,6 @@ void ClearGame() {
   ClosePopupRoll();
   for (int place = 1; place <= LastPlace; ++place)
     ClearPlace(place);
-  Roll = RollState{};
   Table.StopReason.clear();
   Table.LastStopReason.clear();
   GameFile.ScriptWasActive = {};

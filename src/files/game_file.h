@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

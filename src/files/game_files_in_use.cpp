@@ -5,21 +5,21 @@
 #include <utility>
 
 #include "autobet/script_files.h"
-#include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/message.h"
 #include "base/trap.h"
-#include "config/folders.h"
 #include "dice/popup_roll.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
-#include "files/events_log.h"
 #include "files/events_log_view.h"
-#include "files/file_texts.h"
 #include "files/game_blocks.h"
 #include "files/sessions_log.h"
+#include "log/events_log.h"
+#include "state/scripts.h"
+#include "texts/file_texts.h"
 
 namespace tessarel {
 
@@ -59,13 +59,13 @@ void NoteEventsLog(FilesInUse& files) {
 }
 
 void NoteFilesOfPlace(FilesInUse& files, int place) {
-  const ScriptPlace& script = At(Scripts.Places, place);
+  const ScriptPlace& script = Scripts.Places[place];
   if (!script.ScriptFile.empty()) {
     const std::string path = InFolder(Folders.AppFolder, script.ScriptFile);
     At(files.Script, place) = {script.ScriptFile, LastModifiedText(path)};
   }
   At(files.ScriptOutput, place) = script.OutputFile;
-  At(files.SessionsLog, place) = FullName(At(Table.SessionLogName, place));
+  At(files.SessionsLog, place) = FullName(Table.SessionLogName[place]);
 }
 
 // --- Taking up ---------------------------------------------------------------------------------
@@ -139,7 +139,7 @@ bool CanReadScript(int place, const std::string& path) {
 void TakeUpScript(int place, const HeldFile& file) {
   if (file.Name.empty()) return;
   const std::string path = StoredPath(file.Name);
-  const std::string& name = At(Table.PlayerName, place);
+  const std::string& name = Table.PlayerName[place];
   if (!FileExists(path)) {
     NewScript(place);
     Tell(ScriptGone, path, name);
@@ -153,10 +153,10 @@ void TakeUpScript(int place, const HeldFile& file) {
 
 // A player without a log of his own goes on in the usual one, which need not be there yet.
 void TakeUpSessionsLog(int place, const std::string& log) {
-  const std::string& name = At(Table.PlayerName, place);
+  const std::string& name = Table.PlayerName[place];
   const std::string usual = FullName(DefaultSessionsLogName(name));
   const bool there = FileExists(log);
-  At(Table.SessionLogName, place) = there ? log : usual;
+  Table.SessionLogName[place] = there ? log : usual;
   if (there || log.empty() || log == usual) return;
   const SixTexts& text =
       FileExists(usual) ? FileTexts.LogGoneExistingInstead : FileTexts.LogGoneNewInstead;
@@ -189,7 +189,7 @@ void TakeUpFiles(const FilesInUse& files) {
   Attempt([&] { TakeUpProbability(files.Probability); });
   Attempt([&] { TakeUpEventsLog(StoredPath(files.EventsLog.Name)); });
   ForEachPlayer([&](int place) {
-    At(Scripts.Places, place).OutputFile = At(files.ScriptOutput, place);
+    Scripts.Places[place].OutputFile = At(files.ScriptOutput, place);
     Attempt([&] { TakeUpScript(place, At(files.Script, place)); });
     Attempt([&] { TakeUpSessionsLog(place, StoredPath(At(files.SessionsLog, place))); });
   });

@@ -4,13 +4,13 @@
 #include <array>
 
 #include "config/advantage.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/probability.h"
-#include "files/events_log.h"
 #include "files/file_dialog.h"
 #include "files/game_blocks.h"
 #include "files/game_views.h"
+#include "log/events_log.h"
+#include "state/settings.h"
 #include "stats/selection.h"
 
 namespace tessarel {

@@ -5,24 +5,24 @@
 #include <bit>
 #include <span>
 
-#include "autobet/script_store.h"
 #include "config/advantage.h"
-#include "config/language.h"
-#include "config/payoffs.h"
 #include "config/setting_fields.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/probability.h"
 #include "dice/roll_file_edit.h"
-#include "engine/rail.h"
+#include "engine/seats.h"
 #include "engine/special_bets.h"
-#include "engine/table.h"
 #include "files/game_blocks.h"
 #include "files/game_views.h"
+#include "state/books.h"
+#include "state/payoffs.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
-#include "stats/store.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -107,8 +107,8 @@ void MendBet(int place, int number) {
   for (auto* amounts : {&Table.BetAmount, &Table.BetAmountBefore, &Table.BetAmountAfterRoll})
     Confine(At(At(*amounts, place), number), Money(), limit);
   if (number > LastBet) return;
-  Confine(At(At(Table.BetContract, place), number), Money(), limit);
-  Confine<int32_t>(At(At(Table.BetWorking, place), number), CalledOff, CalledOn);
+  Confine(Table.BetContract[place][number], Money(), limit);
+  Confine<int32_t>(Table.BetWorking[place][number], CalledOff, CalledOn);
   for (auto* plane : {&Table.BetStreak, &Table.BetStreakBefore})
     Confine(At(At(*plane, place), number), -MaxRolls, MaxRolls);
 }
@@ -119,14 +119,14 @@ void MendVig(int place) {
     const auto limit = [=](Family family) {
       return Bet(place, family + k) > Money() ? AmountLimit : Money();
     };
-    Confine(At(At(Table.LayVig, place), k), Money(), limit(LayFamily));
-    Confine(At(At(Table.BuyVig, place), k), Money(), limit(BuyFamily));
-    Confine(At(At(Table.ComeOriginal, place), k), Money(), AmountLimit);
+    Confine(Table.LayVig[place][k], Money(), limit(LayFamily));
+    Confine(Table.BuyVig[place][k], Money(), limit(BuyFamily));
+    Confine(Table.ComeOriginal[place][k], Money(), AmountLimit);
   }
 }
 
 void MendVisibleStacks(int place) {
-  auto& visible = At(Table.VisibleStack, place);
+  auto& visible = Table.VisibleStack[place];
   visible[0] = 0;
   const std::span shown(visible.begin() + 1, 4);
   auto sorted = visible;
@@ -141,13 +141,13 @@ void MendPlace(int place) {
   for (int number = 0; number <= LastNumber; ++number)
     MendBet(place, number);
   for (int number = bet::SharpShooter; number <= bet::Fire; ++number)
-    At(At(Table.BetWorkingDefault, place), number) = IsWorking;
+    Table.BetWorkingDefault[place][number] = IsWorking;
   MendVig(place);
   MendVisibleStacks(place);
-  At(Table.BetWorkingBefore, place) = At(Table.BetWorking, place);
-  At(Scripts.ScriptActiveAfterRoll, place) = At(Scripts.ScriptActiveAfterRoll, place) != 0 ? -1 : 0;
-  At(Table.MoneyOnTable, place) = FigureMoneyOnTable(place);
-  At(Table.AvailableBankroll, place) = BankrollOf(place) - At(Table.MoneyOnTable, place);
+  Table.BetWorkingBefore[place] = Table.BetWorking[place];
+  Scripts.ScriptActiveAfterRoll[place] = Scripts.ScriptActiveAfterRoll[place] != 0 ? -1 : 0;
+  Table.MoneyOnTable[place] = FigureMoneyOnTable(place);
+  Table.AvailableBankroll[place] = BankrollOf(place) - Table.MoneyOnTable[place];
 }
 
 // The counted slots of a place hold one and the same bankroll.
@@ -175,13 +175,13 @@ void MendCounts() {
     const auto confine = [high = counted ? rolls : INT32_MAX](int32_t& count) {
       Confine(count, 0, high);
     };
-    std::ranges::for_each(At(Stats.RollCount, slot), confine);
-    HandFigures& hand = At(Stats.Hands, slot);
+    std::ranges::for_each(Stats.RollCount[slot], confine);
+    HandFigures& hand = Stats.Hands[slot];
     for (int32_t* figure : {&hand.HandCount, &hand.RollTotal, &hand.MostRolls,
                             &hand.MostComeoutRolls, &hand.MostPasses, &hand.MostMisses}) {
       confine(*figure);
     }
-    for (auto& row : At(Stats.HandTable, slot))
+    for (auto& row : Stats.HandTable[slot])
       std::ranges::for_each(row, confine);
   }
   for (int32_t* count : {&Stats.HandComeouts, &Stats.HandPassCount, &Stats.HandMissCount})
@@ -219,8 +219,8 @@ void MendBetRecords() {
       Confine(amount, Money(), SumLimit);
   }
   for (int place = 1; place <= LastPlace; ++place) {
-    At(Stats.HandBets, place) = BetsWithAnEntry(At(Stats.Bets, place + CurrentHand));
-    At(Stats.LastHandBets, place) = BetsWithAnEntry(At(Stats.Bets, place + LastHand));
+    Stats.HandBets[place] = BetsWithAnEntry(Stats.Bets[place + CurrentHand]);
+    Stats.LastHandBets[place] = BetsWithAnEntry(Stats.Bets[place + LastHand]);
   }
 }
 
@@ -228,9 +228,9 @@ void MendBetRecords() {
 void MendInvested() {
   ForEachPlayer([](int place) {
     Money invested = BankrollOf(place);
-    for (const BetRecord& record : At(Stats.Bets, place + CurrentSession))
+    for (const BetRecord& record : Stats.Bets[place + CurrentSession])
       invested -= record.Won.Sum - record.Lost.Sum;
-    At(Table.InvestedBankroll, place) = invested;
+    Table.InvestedBankroll[place] = invested;
   });
 }
 
@@ -319,7 +319,7 @@ void MendLoadedGame() {
   MendPayoffs();
   MendDice();
   for (int place = 1; place <= LastPlace; ++place) {
-    if (At(Table.PlayerName, place).empty()) ClearPlace(place);
+    if (Table.PlayerName[place].empty()) ClearPlace(place);
   }
   RebuildDerived();
   MendBankrolls();

@@ -1,10 +1,10 @@
 // The block of a place in a game file: its player with name, files and options, the bets with all
 // that is kept for them, check stacks, the bankroll's course and the statistics of bets.
-#include "autobet/script_store.h"
-#include "config/settings.h"
 #include "engine/bet_handling.h"
 #include "files/game_blocks.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/scripts.h"
+#include "state/settings.h"
 
 namespace tessarel {
 
@@ -19,14 +19,14 @@ bool PlaceNumberRecord(GameRecords& records, FilesInUse& files, int32_t& place) 
   records.Next();
   records.Amount(0, place);
   if (place < 1 || place > LastPlace) return false;
-  Money atmNet = records.Reading() ? Money()
-                                   : At(Table.InvestedBankroll, place) -
-                                         At(Table.BankrollBegin, place + CurrentSession);
+  Money atmNet = records.Reading()
+                     ? Money()
+                     : Table.InvestedBankroll[place] - Table.BankrollBegin[place + CurrentSession];
   const MoneyField fields[] = {
       {1, &atmNet},
       {2, &At(files.ScriptActive, place)},
-      {3, &At(Scripts.ScriptActiveAfterRoll, place)},
-      {6, &At(Table.VisibleStack, place)[1], 4},
+      {3, &Scripts.ScriptActiveAfterRoll[place]},
+      {6, &Table.VisibleStack[place][1], 4},
   };
   records.MoneysHere(fields);
   return true;
@@ -34,7 +34,7 @@ bool PlaceNumberRecord(GameRecords& records, FilesInUse& files, int32_t& place) 
 
 void NameRecords(GameRecords& records, FilesInUse& files, int place) {
   HeldFile& script = At(files.Script, place);
-  records.Text(At(Table.PlayerName, place));
+  records.Text(Table.PlayerName[place]);
   records.TextAndDate(script.Name, script.Date);
   records.Text(At(files.ScriptOutput, place));
   records.Text(At(files.SessionsLog, place));
@@ -42,23 +42,23 @@ void NameRecords(GameRecords& records, FilesInUse& files, int place) {
 
 void PlayerRecord(GameRecords& records, int place) {
   const MoneyField fields[] = {
-      {0, &At(Table.AllowNegBankroll, place)},
-      {1, &At(Table.BankrollInitType, place)},
-      {2, &At(Table.BankrollInitAmount, place)},
+      {0, &Table.AllowNegBankroll[place]},
+      {1, &Table.BankrollInitType[place]},
+      {2, &Table.BankrollInitAmount[place]},
       {3, &Settings.AtmAmount},
-      {4, &At(Table.BankrollSum, place)},
-      {5, &At(Table.InvestedBankroll, place)},
-      {6, &At(Table.AutoAdjustBetAmounts, place)},
-      {7, &At(Table.AutoTakeFullOdds, place)},
-      {8, &At(Table.AutoLayFullOdds, place)},
-      {9, &At(Table.AutoDownPlaceBets, place)},
-      {10, &At(Table.DeclinesDice, place)},
-      {11, &At(Table.HandleWinningBets, place)},
-      {12, &At(Table.HandleLosingBets, place)},
-      {13, &At(Table.LayBias, place)},
-      {14, &At(Table.PlaceBias, place)},
-      {15, &At(Table.DoBias, place)},
-      {16, &At(Table.DontBias, place)},
+      {4, &Table.BankrollSum[place]},
+      {5, &Table.InvestedBankroll[place]},
+      {6, &Table.AutoAdjustBetAmounts[place]},
+      {7, &Table.AutoTakeFullOdds[place]},
+      {8, &Table.AutoLayFullOdds[place]},
+      {9, &Table.AutoDownPlaceBets[place]},
+      {10, &Table.DeclinesDice[place]},
+      {11, &Table.HandleWinningBets[place]},
+      {12, &Table.HandleLosingBets[place]},
+      {13, &Table.LayBias[place]},
+      {14, &Table.PlaceBias[place]},
+      {15, &Table.DoBias[place]},
+      {16, &Table.DontBias[place]},
   };
   records.Moneys(fields);
 }
@@ -73,8 +73,8 @@ void AmountRecords(GameRecords& records, PerNumber<Money>& amounts, Money& first
 
 void VigRecord(GameRecords& records, int place) {
   const MoneyField fields[] = {
-      {1, At(Table.LayVig, place).data(), FamilySize},
-      {7, At(Table.BuyVig, place).data(), FamilySize},
+      {1, Table.LayVig[place].data(), FamilySize},
+      {7, Table.BuyVig[place].data(), FamilySize},
   };
   records.Moneys(fields);
 }
@@ -97,19 +97,19 @@ void WorkingRecords(GameRecords& records, int place) {
 }
 
 void BetRecords(GameRecords& records, int place) {
-  AmountRecords(records, At(Table.BetAmount, place), At(Table.BetAmount, place)[0]);
-  AmountRecords(records, At(Table.BetAmountBefore, place), At(Table.BankrollAtRoll, place));
-  AmountRecords(records, At(Table.BetAmountAfterRoll, place), At(Table.BankrollAfterRoll, place));
+  AmountRecords(records, Table.BetAmount[place], Table.BetAmount[place][0]);
+  AmountRecords(records, Table.BetAmountBefore[place], Table.BankrollAtRoll[place]);
+  AmountRecords(records, Table.BetAmountAfterRoll[place], Table.BankrollAfterRoll[place]);
   SlotRun contracts(records, Record::Moneys);
   for (int number = 1; number <= LastContract; ++number)
-    contracts.Amount(At(At(Table.BetContract, place), number));
+    contracts.Amount(Table.BetContract[place][number]);
   VigRecord(records, place);
   StreakRecords(records, place);
   WorkingRecords(records, place);
 }
 
 void StackNameRecords(GameRecords& records, int place) {
-  for (std::string& name : At(Table.CheckStackName, place))
+  for (std::string& name : Table.CheckStackName[place])
     records.LongText(name);
 }
 
@@ -123,7 +123,7 @@ void MeasureRecords(GameRecords& records, int place, BetMeasures BetRecord::*kin
   SlotRun run(records, Record::Moneys);
   for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
     for (int number = 1; number <= LastCountedBet; ++number) {
-      BetMeasures& measures = At(At(Stats.Bets, slot), number).*kind;
+      BetMeasures& measures = Stats.Bets[slot][number].*kind;
       for (Money BetMeasures::*measure :
            {&BetMeasures::Count, &BetMeasures::Sum, &BetMeasures::High, &BetMeasures::Low,
             &BetMeasures::LastRoll, &BetMeasures::Last}) {
@@ -136,10 +136,10 @@ void MeasureRecords(GameRecords& records, int place, BetMeasures BetRecord::*kin
 void ComeRecords(GameRecords& records, int place) {
   SlotRun travel(records, Record::Moneys);
   for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
-    for (Money& amount : At(Stats.ComeTravel, slot))
+    for (Money& amount : Stats.ComeTravel[slot])
       travel.Amount(amount);
   }
-  const MoneyField fields[] = {{1, At(Table.ComeOriginal, place).data(), FamilySize}};
+  const MoneyField fields[] = {{1, Table.ComeOriginal[place].data(), FamilySize}};
   records.Moneys(fields);
 }
 
@@ -154,14 +154,14 @@ void BankrollRecords(GameRecords& records) {
 }
 
 void HandlingRecord(GameRecords& records, int place) {
-  auto& operators = At(Table.HandleOperator, place);
+  auto& operators = Table.HandleOperator[place];
   const MoneyField fields[] = {
       {0, &operators[PromptWinModify]},
       {1, &operators[PromptLossModify]},
       {2, &operators[AutoWinModify]},
       {3, &operators[AutoLossModify]},
-      {4, &At(Table.HandleAmount, place)[PromptWinModify], 8},
-      {12, &At(Table.HandleUnits, place)[PromptWinModify], 8},
+      {4, &Table.HandleAmount[place][PromptWinModify], 8},
+      {12, &Table.HandleUnits[place][PromptWinModify], 8},
   };
   records.Moneys(fields);
 }

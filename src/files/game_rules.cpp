@@ -3,10 +3,10 @@
 #include <span>
 
 #include "config/advantage.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "files/game_blocks.h"
 #include "files/game_views.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
 
 namespace tessarel {
 
@@ -60,7 +60,7 @@ constexpr WordField TextureFields[] = {
 void CompBetRecords(GameRecords& records) {
   SlotRun run(records, Record::Words);
   for (int number = 1; number <= 100; ++number)
-    run.Word(At(Settings.CompBet, number));
+    run.Word(Settings.CompBet[number]);
 }
 
 // Field by field: the wins of all rows, then how they read, then what they are on.

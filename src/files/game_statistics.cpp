@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "files/game_blocks.h"
-#include "stats/store.h"
+#include "state/books.h"
 
 namespace tessarel {
 
@@ -26,7 +26,7 @@ void RollsSinceRecords(GameRecords& records) {
     run.Word(since);
     if (!records.Reading()) continue;
     const int64_t last = int64_t{RollsInSession()} - since;
-    At(Stats.LastCame, code) =
+    Stats.LastCame[code] =
         static_cast<int32_t>(std::clamp<int64_t>(last, 0, std::max(RollsInSession(), 0)));
   }
 }
@@ -34,7 +34,7 @@ void RollsSinceRecords(GameRecords& records) {
 void GapRecords(GameRecords& records) {
   SlotRun run(records, Record::Words);
   for (int code = 1; code < RollCodes; ++code) {
-    for (int32_t& count : At(Stats.GapCount, code))
+    for (int32_t& count : Stats.GapCount[code])
       run.Word(count);
   }
 }

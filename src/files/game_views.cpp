@@ -2,14 +2,14 @@
 // and the chips as they lie on the table.
 #include "files/game_views.h"
 
-#include "autobet/script_store.h"
-#include "config/settings.h"
 #include "dice/roll_file_edit.h"
 #include "files/game_blocks.h"
+#include "state/books.h"
+#include "state/scripts.h"
+#include "state/settings.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
-#include "stats/store.h"
 
 namespace tessarel {
 

@@ -4,23 +4,23 @@
 // that uses one checks its range.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "base/indexing.h"
 #include "base/money.h"
 #include "base/record_file.h"
 
 namespace tessarel {
 
 // A chip on the table; the meaning of the columns is the drawn table's.
-using ChipEntry = std::array<int32_t, 5>;
+using ChipEntry = Indexed<int32_t, 5>;
 inline constexpr int MostChips = 2000;
 
 struct GameViewsState {
-  using WordRow = std::array<int32_t, Record::Words>;
-  using MoneyRow = std::array<int32_t, Record::Moneys>;
+  using WordRow = Indexed<int32_t, Record::Words>;
+  using MoneyRow = Indexed<int32_t, Record::Moneys>;
 
   WordRow Windows{}, MoreWindows{};  // state, left, top, width and height of each window
   WordRow SavedViews{};              // 10 views of 4 words: rotation, two angles, zoom

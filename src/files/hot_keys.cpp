@@ -6,11 +6,11 @@
 
 #include "autobet/script_files.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "files/file_texts.h"
+#include "texts/file_texts.h"
 
 namespace tessarel {
 

@@ -7,16 +7,16 @@
 #include <vector>
 
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "config/folders.h"
-#include "config/language.h"
-#include "engine/table.h"
-#include "files/file_texts.h"
 #include "files/sessions_log.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
+#include "texts/file_texts.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -33,7 +33,7 @@ bool DoneFor(int place, const char* name, Command&& command) {
 }
 
 const std::string& NameOf(int place) {
-  return At(Table.PlayerName, place);
+  return Table.PlayerName[place];
 }
 
 void Tell(const SixTexts& text, const SixTexts& title) {
@@ -95,7 +95,7 @@ bool StartNewLog(int place) {
   const std::string name = DefaultSessionsLogName(NameOf(place));
   if (!MakesRoom(place, name)) return false;
   ClearSessionsLog(name);
-  At(Table.SessionLogName, place) = name;
+  Table.SessionLogName[place] = name;
   return true;
 }
 
@@ -166,7 +166,7 @@ bool OpenSessionsLog(int place, const std::string& name) {
       RefuseFile();
       return false;
     }
-    At(Table.SessionLogName, place) = path;
+    Table.SessionLogName[place] = path;
     return true;
   });
 }
@@ -243,7 +243,7 @@ bool OfferToRenameSessionsLog(int place) {
     const std::string name = MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)),
                                               FileTexts.RenameSessionsLog);
     if (name.empty()) return false;
-    At(Table.SessionLogName, place) = name;
+    Table.SessionLogName[place] = name;
     return true;
   });
 }

@@ -8,10 +8,10 @@
 
 #include "base/fault.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/single_byte_text.h"
-#include "config/folders.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -105,8 +105,8 @@ std::string DefaultSessionsLogName(const std::string& player) {
 }
 
 const std::string& SessionsLogNameOf(int place) {
-  std::string& name = At(Table.SessionLogName, place);
-  if (name.empty()) name = DefaultSessionsLogName(At(Table.PlayerName, place));
+  std::string& name = Table.SessionLogName[place];
+  if (name.empty()) name = DefaultSessionsLogName(Table.PlayerName[place]);
   return name;
 }
 

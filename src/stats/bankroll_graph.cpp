@@ -5,9 +5,9 @@
 
 #include "base/message.h"
 #include "base/number_format.h"
-#include "config/settings.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "stats/summary_view.h"
 #include "stats/view_text.h"
 
@@ -18,7 +18,7 @@ BankrollGraphState BankrollGraph;
 namespace {
 
 int32_t RollsOf(int place) {
-  return At(Stats.Hands, CurrentSession + place).RollTotal;
+  return Stats.Hands[CurrentSession + place].RollTotal;
 }
 
 // The position in the ring of a roll that it holds.
@@ -28,7 +28,7 @@ int32_t RingIndex(int32_t roll) {
 }
 
 Money HeldPoint(int place, int32_t roll) {
-  return At(At(Table.GraphBankroll, RingIndex(roll)), place);
+  return Table.GraphBankroll[RingIndex(roll)][place];
 }
 
 // Sums over the points that the ring holds of a player.
@@ -42,7 +42,7 @@ class PointSums {
   // From the first roll of the player's time at the table to `roll`.
   double MeanOfAll(int32_t roll) const {
     const int32_t since = held_.Last - roll;
-    const Money sum = At(Table.BankrollSum, place_) - Sum(roll + 1, held_.Last);
+    const Money sum = Table.BankrollSum[place_] - Sum(roll + 1, held_.Last);
     return sum.ToDouble() / (RollsOf(place_) - since);
   }
 
@@ -168,9 +168,9 @@ GraphLabels LabelsOfGraph(int place, RollSpan window) {
   const int32_t rolls = RollsInSession();
   const std::string rate = BankrollText(Settings.SimRollRate);
   return {
-      .Current = "  Current:  " + BankrollText(At(Table.Bankroll, slot)),
-      .High = "High:  " + BankrollText(At(Table.BankrollHigh, slot)),
-      .Low = "  Low:  " + BankrollText(At(Table.BankrollLow, slot)),
+      .Current = "  Current:  " + BankrollText(Table.Bankroll[slot]),
+      .High = "High:  " + BankrollText(Table.BankrollHigh[slot]),
+      .Low = "  Low:  " + BankrollText(Table.BankrollLow[slot]),
       .TotalRolls = CountText(int64_t{rolls}),
       .RollsPerHour = rate,
       .SimHours = Hours(rolls),

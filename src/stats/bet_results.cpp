@@ -57,7 +57,7 @@ WagerColumns ColumnsOf(const WagerTotals& totals, bool useSeparator) {
 WagerTotals WagersOn(int bet, Scope scope, PlaceSelection selection, double expectedValue) {
   WagerTotals totals;
   ForEachPlaceSlot(scope, selection,
-                   [&](int slot) { totals.Add(At(At(Stats.Bets, slot), bet), expectedValue); });
+                   [&](int slot) { totals.Add(Stats.Bets[slot][bet], expectedValue); });
   return totals;
 }
 
@@ -81,7 +81,7 @@ BetResultsView BetResults(Scope scope,
     const WagerTotals figures = WagersOn(bet, scope, selection, At(expected, bet));
     view.Figures.Add(figures);
     view.Rows.push_back(
-        {bet, std::string(At(BetName, bet)), figures, ColumnsOf(figures, useSeparator)});
+        {bet, std::string(BetName[bet]), figures, ColumnsOf(figures, useSeparator)});
   });
   view.Totals = ColumnsOf(view.Figures, useSeparator);
   return view;

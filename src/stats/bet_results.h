@@ -8,8 +8,8 @@
 
 #include "base/money.h"
 #include "base/number_set.h"
+#include "state/books.h"
 #include "stats/selection.h"
-#include "stats/store.h"
 
 namespace tessarel {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/number_format.h"
-#include "stats/store.h"
+#include "state/books.h"
 
 namespace tessarel {
 
@@ -25,9 +25,9 @@ BetTrendsView BetTrends(Scope scope, int place) {
     return view;
   }
   for (int bet = 1; bet <= LastBet; ++bet) {
-    const BetRecord& record = At(At(Stats.Bets, scope + place), bet);
+    const BetRecord& record = Stats.Bets[scope + place][bet];
     if (record.Tendered.Count == Money()) continue;
-    BetTrendsRow row{bet, std::string(At(BetName, bet)), {}};
+    BetTrendsRow row{bet, std::string(BetName[bet]), {}};
     AddEntry(row.Entries, record.Won, true);
     AddEntry(row.Entries, record.Lost, false);
     std::ranges::stable_sort(row.Entries, {}, &BetTrendEntry::Roll);

@@ -2,8 +2,8 @@
 
 #include "base/fault.h"
 #include "config/advantage.h"
-#include "config/settings.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/settings.h"
 
 namespace tessarel {
 
@@ -30,14 +30,14 @@ CompFigures FigureComps(int slot) {
   const DiceProbabilities dice = Settings.CompsUseTrueProbs != 0 ? TrueDice() : DiceInForce();
   CompFigures figures;
   for (int number = 1; number <= LastBet; ++number) {
-    const BetMeasures& wagered = At(At(Stats.Bets, slot), number).Tendered;
-    if (At(Settings.CompBet, number) == 0 || wagered.Sum <= Money()) continue;
+    const BetMeasures& wagered = Stats.Bets[slot][number].Tendered;
+    if (Settings.CompBet[number] == 0 || wagered.Sum <= Money()) continue;
     figures.Action += wagered.Sum;
     figures.Decisions += wagered.Count;
     figures.TheoreticalLoss += wagered.Sum.ToDouble() * FigureAdvantage(number, dice).EvPerDec;
   }
   if (figures.Decisions > Money()) {
-    const double hours = At(Stats.Hands, slot).RollTotal / Settings.SimRollRate.ToDouble();
+    const double hours = Stats.Hands[slot].RollTotal / Settings.SimRollRate.ToDouble();
     figures.AverageAction =
         Money::FromDouble(figures.Action.ToDouble() * hours / figures.Decisions.ToDouble());
   }

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/number_format.h"
-#include "stats/store.h"
+#include "state/books.h"
 #include "stats/view_text.h"
 
 namespace tessarel {
@@ -25,16 +25,16 @@ struct HandSums {
 };
 
 void AddSlot(HandSums& sums, int slot) {
-  const HandFigures& figures = At(Stats.Hands, slot);
+  const HandFigures& figures = Stats.Hands[slot];
   sums.Hands += figures.HandCount;
-  sums.Rolls += At(Stats.RollCount, slot)[0];
+  sums.Rolls += Stats.RollCount[slot][0];
   sums.MostRolls = std::max(sums.MostRolls, figures.MostRolls);
   sums.MostComeoutRolls = std::max(sums.MostComeoutRolls, figures.MostComeoutRolls);
   sums.MostPasses = std::max(sums.MostPasses, figures.MostPasses);
   sums.MostMisses = std::max(sums.MostMisses, figures.MostMisses);
   for (size_t total = 2; total <= 12; ++total) {
     for (size_t row = HandComeoutRolls; row <= HandMisses; ++row)
-      sums.Table[total][row] += At(Stats.HandTable, slot)[total][row];
+      sums.Table[total][row] += Stats.HandTable[slot][total][row];
   }
 }
 

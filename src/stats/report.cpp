@@ -4,11 +4,11 @@
 #include <bit>
 
 #include "base/clock.h"
-#include "config/folders.h"
-#include "config/language.h"
+#include "base/folders.h"
 #include "stats/hands_view.h"
 #include "stats/roll_totals.h"
 #include "stats/text_table.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -55,14 +55,14 @@ std::vector<std::string> BetResultsLine(const std::string& name, const WagerColu
 NumberSet ResolvedBets(Scope scope, int place) {
   NumberSet bets;
   for (int bet = 1; bet <= LastBet; ++bet) {
-    bets.Set(bet, At(At(Stats.Bets, scope + place), bet).Tendered.Count > Money());
+    bets.Set(bet, Stats.Bets[scope + place][bet].Tendered.Count > Money());
   }
   return bets;
 }
 
 std::string BetResultsOf(const ReportInputs& inputs, int place) {
   const NumberSet bets = ResolvedBets(inputs.Of, place);
-  const std::string title = "\nPlayer:  " + At(Table.PlayerName, place) + "\n";
+  const std::string title = "\nPlayer:  " + Table.PlayerName[place] + "\n";
   if (bets.Empty()) return title + "No bets were resolved.\n";
   const BetResultsView view = BetResults(inputs.Of, 1u << place, bets, inputs.Expected);
   TextRows rows = {{"Bet", "Tendered", "$", "Resolved", "$", "Wins", "$", "Losses", "$", "Net $",
@@ -122,7 +122,7 @@ std::string BankrollSection(const ReportInputs& inputs) {
     const SummaryView view = Summary(inputs.Of, 1u << place, inputs.Expected, inputs.Comps);
     const auto addColumn = [place](TextRows& rows, const std::vector<SummaryRow>& column) {
       rows.resize(column.size() + 1);
-      rows[0].push_back(At(Table.PlayerName, place));
+      rows[0].push_back(Table.PlayerName[place]);
       for (size_t k = 0; k < column.size(); ++k) {
         if (rows[k + 1].empty()) rows[k + 1].push_back(column[k].Caption);
         rows[k + 1].push_back(column[k].Value);
@@ -145,7 +145,7 @@ std::string ReportHeader(std::string_view title, std::string_view gameFile) {
 std::string SelectionHeader(Scope scope, PlaceSelection selection) {
   const PlaceSelection present = PresentPlaces(selection);
   const std::string players = std::has_single_bit(present)
-                                  ? "Player:  " + At(Table.PlayerName, std::countr_zero(present))
+                                  ? "Player:  " + Table.PlayerName[std::countr_zero(present)]
                                   : SelectionCaption(selection);
   return std::string(ScopeName(scope)) + "\n" + players + "\n";
 }

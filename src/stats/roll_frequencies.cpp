@@ -1,7 +1,7 @@
 #include "stats/roll_frequencies.h"
 
 #include "base/number_format.h"
-#include "stats/store.h"
+#include "state/books.h"
 #include "stats/view_text.h"
 
 namespace tessarel {
@@ -18,7 +18,7 @@ std::string ThreeDecimals(double value) {
 std::vector<RollFrequencyRow> RollFrequencies(int event, const SkewedDice& dice) {
   const double probable = EventProbability(event, dice);
   const int32_t rolls = RollsInSession();
-  const int32_t count = At(Stats.RollCount[CurrentSession], event);
+  const int32_t count = Stats.RollCount[CurrentSession][event];
   const double average = count > 0 ? static_cast<double>(rolls) / count : 0;
   const double share = rolls > 0 ? 100.0 * count / rolls : 0;
   return {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "state/books.h"
 #include "stats/chi_square.h"
 #include "stats/significant.h"
-#include "stats/store.h"
 #include "stats/view_text.h"
 
 namespace tessarel {
@@ -20,7 +20,7 @@ std::string ChiText(double chi) {
 // The rolls of the selection that made an event; item 0 is all of them.
 int64_t CountOf(Scope scope, PlaceSelection selection, int item) {
   int64_t count = 0;
-  ForEachSlot(scope, selection, [&](int slot) { count += At(At(Stats.RollCount, slot), item); });
+  ForEachSlot(scope, selection, [&](int slot) { count += Stats.RollCount[slot][item]; });
   return count;
 }
 

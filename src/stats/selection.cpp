@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <bit>
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "base/number_set.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

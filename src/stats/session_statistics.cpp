@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "base/number_format.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -127,7 +127,7 @@ void RepairSessionsView() {
 Session SessionSoFar(int place) {
   Session session{};
   session[SessionRolls] = RollsInSession();
-  const auto& bets = At(Stats.Bets, place + CurrentSession);
+  const auto& bets = Stats.Bets[place + CurrentSession];
   for (int number = 1; number <= LastBet; ++number) {
     const BetRecord& bet = At(bets, number);
     session[SessionBets] += bet.Tendered.Count;
@@ -143,7 +143,7 @@ Session SessionSoFar(int place) {
     session[SessionAdvantage] =
         Money::FromDouble(session[SessionNet].ToDouble() / session[SessionHandle].ToDouble());
   }
-  session[SessionInvested] = At(Table.InvestedBankroll, place);
+  session[SessionInvested] = Table.InvestedBankroll[place];
   session[SessionBankroll] = BankrollOf(place);
   return session;
 }

@@ -1,9 +1,9 @@
 #include "stats/status_box.h"
 
 #include "base/number_format.h"
-#include "config/language.h"
-#include "engine/table.h"
+#include "state/table.h"
 #include "stats/view_text.h"
+#include "texts/language.h"
 
 namespace tessarel {
 
@@ -49,14 +49,14 @@ StatusRow ResultRow(Money net) {
 std::vector<StatusRow> StatusBox(int place) {
   if (!IsTaken(Table, place)) return {};
   const Money bankroll = BankrollOf(place);
-  const Money onTable = At(Table.MoneyOnTable, place);
+  const Money onTable = Table.MoneyOnTable[place];
   int64_t bets = 0;
-  At(Table.Standing, place).ForEach([&bets](int) { ++bets; });
+  Table.Standing[place].ForEach([&bets](int) { ++bets; });
   return {
       {std::string(Localized(BankrollCaption)), Text(bankroll)},
       {std::string(Localized(RailCaption)), Text(bankroll - onTable)},
       {BetCountCaption(bets), Text(onTable)},
-      ResultRow(bankroll - At(Table.InvestedBankroll, place)),
+      ResultRow(bankroll - Table.InvestedBankroll[place]),
   };
 }
 

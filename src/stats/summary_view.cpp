@@ -3,8 +3,8 @@
 #include <bit>
 
 #include "base/number_format.h"
-#include "config/settings.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/settings.h"
 #include "stats/view_text.h"
 
 namespace tessarel {
@@ -24,8 +24,8 @@ struct PlayTime {
 };
 
 void AddPlay(PlayTime& play, int slot) {
-  play.Hands += At(Stats.Hands, slot).HandCount;
-  play.Rolls += At(Stats.Hands, slot).RollTotal;
+  play.Hands += Stats.Hands[slot].HandCount;
+  play.Rolls += Stats.Hands[slot].RollTotal;
 }
 
 std::string HoursText(int64_t rolls) {
@@ -74,10 +74,10 @@ std::string AverageText(Scope scope, PlaceSelection selection) {
 std::vector<SummaryRow> BankrollRows(Scope scope, PlaceSelection selection) {
   Money begin, end, high, low;
   ForEachSelected(selection, [&](int place) {
-    begin += At(Table.BankrollBegin, scope + place);
-    end += At(Table.Bankroll, scope + place);
-    high += At(Table.BankrollHigh, scope + place);
-    low += At(Table.BankrollLow, scope + place);
+    begin += Table.BankrollBegin[scope + place];
+    end += Table.Bankroll[scope + place];
+    high += Table.BankrollHigh[scope + place];
+    low += Table.BankrollLow[scope + place];
   });
   return {
       {"Beginning bankroll", AmountText(begin)},
@@ -122,16 +122,16 @@ std::vector<SummaryRow> CompRows(PlaceSelection selection, const PerPlace<CompFi
 std::string PlayerTitle(PlaceSelection selection) {
   const PlaceSelection present = PresentPlaces(selection);
   if (!std::has_single_bit(present)) return SelectionCaption(selection);
-  return At(Table.PlayerName, std::countr_zero(present));
+  return Table.PlayerName[std::countr_zero(present)];
 }
 
 }  // namespace
 
 std::optional<double> AverageBankroll(int place) {
   const int slot = CurrentSession + place;
-  const int32_t rolls = At(Stats.Hands, slot).RollTotal;
+  const int32_t rolls = Stats.Hands[slot].RollTotal;
   if (rolls == 0) return std::nullopt;
-  const Money sum = At(Table.BankrollBegin, slot) + At(Table.BankrollSum, place);
+  const Money sum = Table.BankrollBegin[slot] + Table.BankrollSum[place];
   return sum.ToDouble() / (rolls + 1.0);
 }
 

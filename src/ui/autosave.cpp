@@ -6,9 +6,9 @@
 
 #include "base/fault.h"
 #include "base/file_io.h"
-#include "config/folders.h"
-#include "engine/table.h"
+#include "base/folders.h"
 #include "files/game_file.h"
+#include "state/table.h"
 
 namespace tessarel {
 

@@ -11,13 +11,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "automation/auto_roll.h"
 #include "base/number_format.h"
-#include "config/settings.h"
-#include "dice/dice_texts.h"
 #include "dice/popup_roll.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/auto_roll.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/dice_texts.h"
 #include "ui/check_drag.h"
 #include "ui/control_bar_texts.h"
 #include "ui/paint/check_paint.h"
@@ -152,10 +152,10 @@ bool CheckChooser::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const int denomination = CheckAt(help->pos());
-    const QString text =
-        denomination == 0 ? QString()
-                          : Shown(FillIn(texts::BetWithCheck,
-                                         {FormatMoney(At(Settings.Denomination, denomination))}));
+    const QString text = denomination == 0
+                             ? QString()
+                             : Shown(FillIn(texts::BetWithCheck,
+                                            {FormatMoney(Settings.Denomination[denomination])}));
     QToolTip::showText(help->globalPos(), text, this);
     return true;
   }

@@ -1,7 +1,7 @@
 // Captions of the bar below the table, in six languages.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::texts {
 

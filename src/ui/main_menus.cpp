@@ -9,17 +9,17 @@
 #include <initializer_list>
 #include <utility>
 
-#include "app/session.h"
 #include "autobet/values.h"
-#include "automation/auto_roll.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "config/configuration.h"
-#include "config/settings.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
-#include "engine/roll_pace.h"
 #include "files/game_views.h"
+#include "play/auto_roll.h"
+#include "play/roll_pace.h"
+#include "play/session.h"
+#include "state/settings.h"
 #include "ui/main_texts.h"
 #include "ui/main_window.h"
 #include "ui/sound/sounds.h"
@@ -248,7 +248,7 @@ void MainMenus::Dice() {
         const int32_t before = std::exchange(Settings.DiceAction, action);
         Table.TableDirty = -1;
         if (before == DiceInWindow || action == DiceInWindow)
-          w.ShowSmall(SmallWindowKind::Dice, action == DiceInWindow);
+          w.ShowSmall(SmallWindowKind::Tray, action == DiceInWindow);
         FrontEnd.DrawTable();
       });
 }
@@ -410,8 +410,8 @@ void MainMenus::Window() {
       {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
   Add(
       "mnuWindowDice", texts::WindowDice, "",
-      [&w = window] { w.ShowSmall(SmallWindowKind::Dice, !w.IsSmallShown(SmallWindowKind::Dice)); },
-      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Dice); });
+      [&w = window] { w.ShowSmall(SmallWindowKind::Tray, !w.IsSmallShown(SmallWindowKind::Tray)); },
+      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Tray); });
   Add(
       "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
       [] { return IsOn(TableOption::StatusBox); });
@@ -444,7 +444,7 @@ void MainWindow::ListPlayers() {
     delete old;
   playerEntries_.clear();
   ForEachPlayer([this](int place) {
-    auto* entry = new QAction(Shown(At(Table.PlayerName, place)).replace('&', "&&"), this);
+    auto* entry = new QAction(Shown(Table.PlayerName[place]).replace('&', "&&"), this);
     entry->setCheckable(true);
     entry->setChecked(place == CurrentPlace());
     connect(entry, &QAction::triggered, this, [place] { SelectPlace(place); });

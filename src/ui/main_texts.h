@@ -1,7 +1,7 @@
 // Captions of the main window's menus and its few messages, in six languages.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::texts {
 

@@ -10,18 +10,18 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "app/session.h"
 #include "autobet/values.h"
-#include "automation/auto_roll.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/folders.h"
-#include "config/settings.h"
-#include "engine/players.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "files/game_views.h"
 #include "files/hot_keys.h"
+#include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/session.h"
+#include "state/settings.h"
 #include "ui/main_texts.h"
 #include "ui/sound/sounds.h"
 #include "ui/table_presets.h"
@@ -183,7 +183,7 @@ void MainWindow::Animate() {
 void MainWindow::HearWins() {
   if (!std::exchange(thrown_, false)) return;
   bool won = false;
-  ForEachPlayer([&](int place) { won |= BankrollOf(place) > At(Table.BankrollAtRoll, place); });
+  ForEachPlayer([&](int place) { won |= BankrollOf(place) > Table.BankrollAtRoll[place]; });
   if (won) PlayWinSound();
 }
 
@@ -306,7 +306,7 @@ void MainWindow::ConnectTable() {
     RefreshAll();
   };
   view_->DicePhaseChanged = [this](double phase) {
-    if (IsSmallShown(SmallWindowKind::Dice)) ShowThrow(diceWindow_, phase);
+    if (IsSmallShown(SmallWindowKind::Tray)) ShowThrow(diceWindow_, phase);
   };
   view_->PlayerMenu = [this](int place, QPoint at) { ShowPlayerMenu(place, at); };
   connect(bar_->RollButton(), &QPushButton::clicked, this, [this] {
@@ -403,7 +403,7 @@ QWidget* MainWindow::Small(SmallWindowKind kind) const {
   switch (kind) {
     case SmallWindowKind::Console:
       return console_;
-    case SmallWindowKind::Dice:
+    case SmallWindowKind::Tray:
       return diceWindow_;
     default:
       return statusBox_;
@@ -422,7 +422,7 @@ bool MainWindow::IsSmallShown(SmallWindowKind kind) const {
 }
 
 void MainWindow::ShowDiceWindowIfUsed() {
-  if (Settings.DiceAction == DiceInWindow) ShowSmall(SmallWindowKind::Dice, true);
+  if (Settings.DiceAction == DiceInWindow) ShowSmall(SmallWindowKind::Tray, true);
 }
 
 void MainWindow::ShowSmallWindows() {

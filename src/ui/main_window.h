@@ -9,7 +9,7 @@
 #include <functional>
 #include <vector>
 
-#include "config/language.h"
+#include "texts/language.h"
 #include "ui/autosave.h"
 #include "ui/control_bar.h"
 #include "ui/table_view.h"
@@ -17,7 +17,7 @@
 namespace tessarel {
 
 // The windows that float over the table.
-enum class SmallWindowKind { Console, Dice, Status };
+enum class SmallWindowKind { Console, Tray, Status };
 
 class MainWindow : public QMainWindow {
  public:

@@ -4,21 +4,21 @@
 #include <memory>
 #include <utility>
 
-#include "automation/auto_roll.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
-#include "config/language.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "engine/atm.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/rail.h"
-#include "engine/roll_driver.h"
 #include "files/game_views.h"
+#include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/rail.h"
+#include "play/roll_driver.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "texts/language.h"
 #include "ui/layout/table_layout.h"
 #include "ui/table_texts.h"
 
@@ -35,11 +35,11 @@ constexpr int PropositionsWord = 5, StatusBoxWord = 6;
 int32_t& WordOf(TableOption option) {
   switch (option) {
     case TableOption::DisplayPropBets:
-      return At(GameViews.Display, PropositionsWord);
+      return GameViews.Display[PropositionsWord];
     case TableOption::StatusBox:
-      return At(GameViews.Display, StatusBoxWord);
+      return GameViews.Display[StatusBoxWord];
     default:
-      return At(GameViews.Display, static_cast<int>(option));
+      return GameViews.Display[static_cast<int>(option)];
   }
 }
 
@@ -48,7 +48,7 @@ std::string Text(int id) {
 }
 
 std::string NameOf(int place) {
-  return At(Table.PlayerName, place);
+  return Table.PlayerName[place];
 }
 
 bool IsRailSpot(int spot) {
@@ -65,7 +65,7 @@ bool HasBet(int place, int number) {
 
 // The amount that a bare click adds; with `from` no more than stands on the bet.
 Money CheckValue() {
-  return At(Settings.Denomination, ChosenCheck());
+  return Settings.Denomination[ChosenCheck()];
 }
 
 // --- What a change would do --------------------------------------------------------------------
@@ -208,9 +208,9 @@ std::string OutlookOnRail(int place) {
 // --- Saying what is there ----------------------------------------------------------------------
 
 std::string SpotName(int number) {
-  if (IsBet(number)) return std::string(At(BetName, number));
+  if (IsBet(number)) return std::string(BetName[number]);
   const int place = CurrentPlace();
-  const std::string& name = At(At(Table.CheckStackName, place), number - FirstStack);
+  const std::string& name = Table.CheckStackName[place][number - FirstStack];
   return name.empty() ? "CheckStack #" + std::to_string(number - FirstStack) : name;
 }
 
@@ -268,7 +268,7 @@ std::string PayoffText(int number) {
 }
 
 std::string StateText(int place, int number) {
-  switch (At(At(Table.BetWorking, place), number)) {
+  switch (Table.BetWorking[place][number]) {
     case CalledOff:
       return std::string(Localized(texts::IsCalledOff));
     case CalledOn:
@@ -284,7 +284,7 @@ std::string StateText(int place, int number) {
 void AddCompanions(std::string& tip, int place, int number) {
   const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
   if (lay || buy) {
-    const auto& vigs = lay ? At(Table.LayVig, place) : At(Table.BuyVig, place);
+    const auto& vigs = lay ? Table.LayVig[place] : Table.BuyVig[place];
     tip += "\r" + std::string(Localized(texts::Vig)) +
            FormatExact(At(vigs, (number - 1) % FamilySize));
   }
@@ -315,7 +315,7 @@ void SetOption(TableOption option, bool on) {
 }
 
 int CurrentPlace() {
-  int32_t& place = At(GameViews.Table, SelectedPlaceWord);
+  int32_t& place = GameViews.Table[SelectedPlaceWord];
   if (place >= 1 && place <= LastPlace && IsTaken(Table, place)) return place;
   place = Table.TakenPlaces == 0 ? 0 : std::countr_zero(Table.TakenPlaces);
   return place;
@@ -323,17 +323,17 @@ int CurrentPlace() {
 
 void SelectPlace(int place) {
   if (place < 1 || place > LastPlace || !IsTaken(Table, place)) return;
-  At(GameViews.Table, SelectedPlaceWord) = place;
+  GameViews.Table[SelectedPlaceWord] = place;
   FrontEnd.DrawTable();
 }
 
 int ChosenCheck() {
-  const int32_t chosen = At(GameViews.General, ChosenCheckInt);
+  const int32_t chosen = GameViews.General[ChosenCheckInt];
   return chosen >= 1 && chosen <= 5 ? chosen : 2;
 }
 
 void ChooseCheck(int denomination) {
-  At(GameViews.General, ChosenCheckInt) = std::clamp(denomination, 1, 5);
+  GameViews.General[ChosenCheckInt] = std::clamp(denomination, 1, 5);
   FrontEnd.DrawStatus();
 }
 
@@ -360,7 +360,7 @@ int SpotOfPixel(int value) {
 int NumberOfSpot(int spot) {
   if (IsBet(spot)) return spot;
   if (spot <= FirstStack || spot > FirstStack + 4) return 0;
-  return At(At(Table.VisibleStack, CurrentPlace()), spot - FirstStack);
+  return Table.VisibleStack[CurrentPlace()][spot - FirstStack];
 }
 
 void ClickSpot(int spot, ClickKind kind) {

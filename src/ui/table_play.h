@@ -7,7 +7,7 @@
 #include <string>
 
 #include "base/money.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 

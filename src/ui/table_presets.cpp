@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "config/settings.h"
+#include "state/settings.h"
 #include "ui/table_colours.h"
 
 namespace tessarel {
@@ -203,7 +203,7 @@ void ApplyTablePreset(int index) {
   std::fill(colors.begin() + FirstForms, colors.end(), preset.forms);
   for (const auto& [entry, tone] : preset.overrides)
     colors[static_cast<size_t>(entry)] = tone;
-  Settings.TableTexture = preset.textures;
+  Settings.TableTexture = {preset.textures};
   Settings.Spotlight = preset.spotlight;
 }
 

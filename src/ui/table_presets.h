@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

@@ -1,7 +1,7 @@
 // What the table says about its spots in one line, in six languages.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::texts {
 

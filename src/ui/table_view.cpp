@@ -10,10 +10,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "automation/auto_roll.h"
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "files/game_views.h"
+#include "play/auto_roll.h"
+#include "state/settings.h"
 #include "ui/check_drag.h"
 #include "ui/layout/hit_map.h"
 #include "ui/paint/table_paint.h"
@@ -121,7 +121,7 @@ QPointF TableView::PositionOf(int place, int number) const {
   const QPointF own = At(At(positions_, place), number);
   if (Settings.AutoArrangeChips != 0 || number > LastBet) return own;
   // Checks that are not arranged stand where they were put, if that is still inside their region.
-  const QPointF put(At(At(Table.BetX, place), number), At(At(Table.BetY, place), number));
+  const QPointF put(Table.BetX[place][number], Table.BetY[place][number]);
   if (put.isNull()) return own;
   const bool inside = std::any_of(
       layout_.regions.begin(), layout_.regions.end(),
@@ -168,7 +168,7 @@ void TableView::DrawBet(int place, int number) {
   if (place < 1 || place > LastPlace || number < 1) return;
   int spot = number;
   if (IsStack(number)) {
-    const auto& visible = At(Table.VisibleStack, place);
+    const auto& visible = Table.VisibleStack[place];
     const auto at = std::find(visible.begin() + 1, visible.end(), number);
     if (at == visible.end()) return;
     spot = FirstStack + static_cast<int>(at - visible.begin());
@@ -187,8 +187,7 @@ void TableView::DrawTable() {
     for (int number = 1; number <= LastBet; ++number)
       At(At(shown_, place), number) = Bet(place, number);
     for (int stack = 1; stack <= 4; ++stack) {
-      At(At(shown_, place), FirstStack + stack) =
-          Bet(place, At(At(Table.VisibleStack, place), stack));
+      At(At(shown_, place), FirstStack + stack) = Bet(place, Table.VisibleStack[place][stack]);
     }
   }
   flights_.clear();
@@ -200,17 +199,17 @@ void TableView::DrawTable() {
 
 // A game that never set the zoom has 0 there.
 int TableView::ZoomPercent() const {
-  const int32_t zoom = At(GameViews.Table, ZoomWord);
+  const int32_t zoom = GameViews.Table[ZoomWord];
   return zoom == 0 ? 100 : std::clamp(zoom, LeastZoom, MostZoom);
 }
 
 int TableView::Degrees() const {
-  return (At(GameViews.Table, RotationWord) % 360 + 360) % 360;
+  return (GameViews.Table[RotationWord] % 360 + 360) % 360;
 }
 
 void TableView::SetView(int zoomPercent, int degrees) {
-  At(GameViews.Table, ZoomWord) = std::clamp(zoomPercent, LeastZoom, MostZoom);
-  At(GameViews.Table, RotationWord) = (degrees % 360 + 360) % 360;
+  GameViews.Table[ZoomWord] = std::clamp(zoomPercent, LeastZoom, MostZoom);
+  GameViews.Table[RotationWord] = (degrees % 360 + 360) % 360;
   if (ZoomPercent() <= 100) shift_ = {};
   DrawTable();
 }
@@ -231,15 +230,15 @@ void TableView::ResetView() {
 void TableView::SaveView(int view) {
   const int first = view * WordsOfView;
   for (int k = 0; k < WordsOfView; ++k)
-    At(GameViews.SavedViews, first + k) = At(GameViews.Table, RotationWord + k);
-  At(GameViews.SavedViews, first + WordsOfView - 1) = ZoomPercent();
+    GameViews.SavedViews[first + k] = GameViews.Table[RotationWord + k];
+  GameViews.SavedViews[first + WordsOfView - 1] = ZoomPercent();
 }
 
 void TableView::RestoreView(int view) {
   const int first = view * WordsOfView;
-  if (At(GameViews.SavedViews, first + WordsOfView - 1) == 0) return;
+  if (GameViews.SavedViews[first + WordsOfView - 1] == 0) return;
   for (int k = 0; k < WordsOfView; ++k)
-    At(GameViews.Table, RotationWord + k) = At(GameViews.SavedViews, first + k);
+    GameViews.Table[RotationWord + k] = GameViews.SavedViews[first + k];
   shift_ = {};
   DrawTable();
 }
@@ -383,8 +382,8 @@ void TableView::KeepClickedPosition(int spot, QPoint pixel) {
   if (Settings.AutoArrangeChips != 0 || place == 0 || !IsBet(spot)) return;
   if (Bet(place, spot) > Money()) return;
   const QPoint at = ToLayout(pixel).toPoint();
-  At(At(Table.BetX, place), spot) = at.x();
-  At(At(Table.BetY, place), spot) = at.y();
+  Table.BetX[place][spot] = at.x();
+  Table.BetY[place][spot] = at.y();
 }
 
 void TableView::wheelEvent(QWheelEvent* event) {

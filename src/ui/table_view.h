@@ -12,8 +12,8 @@
 #include <optional>
 #include <vector>
 
-#include "config/payoffs.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/table.h"
 #include "ui/layout/table_layout.h"
 #include "ui/paint/check_paint.h"
 #include "ui/table_play.h"

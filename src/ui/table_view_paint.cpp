@@ -10,8 +10,8 @@
 #include <numbers>
 
 #include "base/front_end.h"
-#include "config/settings.h"
 #include "engine/bet_limits.h"
+#include "state/settings.h"
 #include "ui/paint/lettering.h"
 #include "ui/paint/rail_paint.h"
 #include "ui/paint/table_paint.h"
@@ -84,7 +84,7 @@ PileLook TableView::LookOf(int place, int number) const {
   look.flash = look.current && flash_;
   look.showAmount = IsOn(TableOption::DisplayBetAmounts);
   if (!IsBet(number)) return look;
-  const int32_t working = At(At(Table.BetWorking, place), number);
+  const int32_t working = Table.BetWorking[place][number];
   if (working == CalledOn) {
     look.button = PileButton::On;
   } else if (working != IsWorking) {
@@ -159,7 +159,7 @@ void TableView::PaintFocus(QPainter& painter) {
 void TableView::PaintPiles(QPainter& painter, const QRectF& area) {
   const int draggedPlace = dragging_ ? CurrentPlace() : 0;
   for (int visit = 1; visit <= LastPlace; ++visit) {
-    const int place = At(PlaceOfVisit, visit);
+    const int place = PlaceOfVisit[visit];
     if (!IsTaken(Table, place)) continue;
     for (int number = 1; number <= LastBet; ++number) {
       Money amount = Bet(place, number);

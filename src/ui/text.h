@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

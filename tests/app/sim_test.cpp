@@ -17,8 +17,8 @@
 #include "base/temporary_folder.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
-#include "engine/table.h"
 #include "files/sessions_log.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

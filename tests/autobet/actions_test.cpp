@@ -1,4 +1,6 @@
 #include "autobet/actions.h"
+#include "autobet/script_host.h"
+#include "play/players.h"
 
 #include <gtest/gtest.h>
 
@@ -7,14 +9,14 @@
 #include <utility>
 #include <vector>
 
-#include "autobet/script_store.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "engine/rules_fixture.h"
+#include "state/scripts.h"
 
 namespace tessarel {
 namespace {
@@ -34,6 +36,7 @@ class Actions : public RulesTest {
     AutoBet.CurrentScriptPlayer = Ann;
     Table.Shooter = Table.LastShooter = Ann;
     SetAppFolder(Folder.Path());
+    ScriptHost.PassDice = [] { PassDice(PlayerAsked); };
   }
   void TearDown() override {
     CloseRollFile();
@@ -41,7 +44,7 @@ class Actions : public RulesTest {
     Scripts = {};
     Probability = {};
     Folders = {};
-    StartSessionForScript = [](bool, bool) {};
+    ScriptHost = {};
     RulesTest::TearDown();
   }
 
@@ -160,7 +163,7 @@ TEST_F(Actions, SwapValuesOrLeaveBothAlone) {
 
 TEST_F(Actions, StartSessionsThatKeepWhatIsAsked) {
   static std::string started;
-  StartSessionForScript = [](bool stacks, bool rolls) {
+  ScriptHost.StartSession = [](bool stacks, bool rolls) {
     started += (stacks ? "S" : "s") + std::string(rolls ? "R" : "r");
     Table.StopReason.clear();
   };

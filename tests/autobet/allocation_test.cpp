@@ -8,14 +8,14 @@
 #include <new>
 #include <string>
 
-#include "app/session.h"
 #include "autobet/interpreter.h"
 #include "autobet/script_files.h"
 #include "base/front_end.h"
-#include "config/settings.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace {
 

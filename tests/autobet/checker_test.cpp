@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "autobet/number_text.h"
-#include "autobet/script_store.h"
 #include "autobet/translation.h"
 #include "autobet/vocabulary.h"
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -3,17 +3,17 @@
 #include <string>
 #include <vector>
 
-#include "app/session.h"
 #include "autobet/interpreter.h"
-#include "autobet/script_store.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/settings.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

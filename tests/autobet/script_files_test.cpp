@@ -5,15 +5,15 @@
 #include <fstream>
 #include <iterator>
 
-#include "app/session.h"
 #include "autobet/older_scripts.h"
 #include "autobet/values.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
-#include "engine/players.h"
-#include "engine/table.h"
+#include "play/players.h"
+#include "play/session.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -30,22 +30,22 @@
 #include <string>
 #include <vector>
 
-#include "app/session.h"
 #include "autobet/checker.h"
 #include "autobet/interpreter.h"
-#include "autobet/script_store.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/temporary_folder.h"
 #include "config/setting_fields.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/scripts.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {
@@ -95,7 +95,7 @@ void TakeStep(const ScriptStep& step) {
     Runner.outcome[step.line] = step.text == "Condition is true." ? "true" : "false";
   else if (step.text == "Action taken.")
     Runner.outcome[step.line] =
-        Runner.setsName[step.line] ? At(Table.CheckStackName, step.place)[0] : "done";
+        Runner.setsName[step.line] ? Table.CheckStackName[step.place][0] : "done";
 }
 
 void AnswerQuestion() {
@@ -171,8 +171,8 @@ void ScriptFiles::ObeyDirective(const std::string& line) {
   } else if (word == "dice") {
     dice_ = FacesIn(rest);
   } else if (word == "rights") {
-    At(Scripts.AllowReset, owner_) = At(Scripts.AllowAct4Others, owner_) =
-        At(Scripts.AllowActProb, owner_) = -1;
+    Scripts.AllowReset[owner_] = Scripts.AllowAct4Others[owner_] = Scripts.AllowActProb[owner_] =
+        -1;
   } else if (word == "rolls") {
     const size_t blank = rest.find(' ');
     std::ofstream file(folder_.Path() + rest.substr(0, blank), std::ios::binary);
@@ -204,7 +204,7 @@ void ScriptFiles::Play(const std::filesystem::path& path) {
   Runner.file = path.filename().string();
   const std::vector<std::string> lines = LinesOf(path);
   ReadExpectations(lines);
-  At(Scripts.Places, owner_).lines = lines;
+  Scripts.Places[owner_].lines = lines;
   SetScriptActive(owner_, true);
   AutoBet.ShowSteps = -1;
   CompiledScript script;
@@ -216,8 +216,7 @@ void ScriptFiles::Play(const std::filesystem::path& path) {
   AutoBet.Initializing = 0;
   CompareCycle(dice_.empty());
   for (size_t k = 0; k < dice_.size(); ++k) {
-    Roll = {-1, dice_[k].die1, dice_[k].die2};
-    MakeRoll();
+    MakeRoll(dice_[k]);
     CompareCycle(k + 1 == dice_.size());
   }
 }
@@ -285,9 +284,9 @@ TEST_F(ScriptFiles, OfTheSamplesRunWithoutAnError) {
     Settings.AutoStopRolls = 2'000;
     Table.HyperDriveOn = -1;
     MakeRoll();
-    EXPECT_EQ(At(Stats.RollCount, AllSessions)[0], 2'000);
-    EXPECT_GT(At(Stats.Bets, AllSessions + 1)[bet::PassLine].Tendered.Count +
-                  At(Stats.Bets, AllSessions + 1)[bet::DontPass].Tendered.Count,
+    EXPECT_EQ(Stats.RollCount[AllSessions][0], 2'000);
+    EXPECT_GT(Stats.Bets[AllSessions + 1][bet::PassLine].Tendered.Count +
+                  Stats.Bets[AllSessions + 1][bet::DontPass].Tendered.Count,
               Money());
   }
 }

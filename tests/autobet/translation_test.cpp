@@ -11,7 +11,7 @@
 #include "autobet/number_text.h"
 #include "autobet/player_name.h"
 #include "autobet/vocabulary.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

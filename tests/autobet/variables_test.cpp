@@ -1,16 +1,17 @@
 #include "autobet/variables.h"
+#include "engine/seats.h"
 
 #include <algorithm>
 #include <cmath>
 #include <fstream>
 
-#include "autobet/script_store.h"
 #include "base/fault.h"
 #include "base/temporary_folder.h"
 #include "dice/probability.h"
 #include "engine/bet_handling.h"
-#include "engine/players.h"
-#include "engine/roll_fixture.h"
+#include "play/players.h"
+#include "play/roll_fixture.h"
+#include "state/scripts.h"
 #include "stats/chi_square.h"
 
 namespace tessarel {
@@ -372,7 +373,7 @@ TEST_F(VariablesTest, HandlingByWordsAndNumbers) {
       {671, "parlay", 8, 861},
   };
   // clang-format on
-  At(Table.HandleUnits, Ann).fill(3);
+  Table.HandleUnits[Ann].fill(3);
   for (const Case& row : cases) {
     SCOPED_TRACE(row.words);
     EXPECT_EQ(Write(row.number, row.words), row.error);
@@ -386,7 +387,7 @@ TEST_F(VariablesTest, HandlingByWordsAndNumbers) {
   EXPECT_EQ(Write(670, 8), None);
   EXPECT_EQ(Write(670, 9), 860);
   EXPECT_EQ(Write(671, 0.4), 861);
-  EXPECT_EQ(At(Table.HandleWinningBets, Ann), 7);
+  EXPECT_EQ(Table.HandleWinningBets[Ann], 7);
 }
 
 TEST_F(VariablesTest, SwitchesActAtOnce) {
@@ -399,7 +400,7 @@ TEST_F(VariablesTest, SwitchesActAtOnce) {
   EXPECT_EQ(Write(702, -1), None);
   EXPECT_EQ(Bet(Ann, bet::Place6), Money());
   EXPECT_EQ(Write(703, 5), None);
-  EXPECT_EQ(At(Table.DeclinesDice, Ann), -1);
+  EXPECT_EQ(Table.DeclinesDice[Ann], -1);
   EXPECT_EQ(Write(700, 0.0), None);
   EXPECT_EQ(Bet(Ann, bet::PassLineOdds), Money(30));
 }

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "base/clock.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
 
 namespace tessarel {
 namespace {

@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "base/fault.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {
@@ -49,7 +49,7 @@ double Pays(const PayoffRow& row) {
   return row.PayNum.ToDouble() / row.PayDen.ToDouble();
 }
 double Pays(int number) {
-  return Pays(At(Payoffs.Payoff, number));
+  return Pays(Payoffs.Payoff[number]);
 }
 
 // A Lay or Buy bet of 1 unit, as a share of the money put down with its vig.
@@ -124,7 +124,7 @@ double OneRollResult(int number, int die1, int die2) {
     case Midway:
       return MidwayResult(die1, die2);
     case Field:
-      return Pays(At(Payoffs.FieldPayoff, PairIndex(die1, die2)));
+      return Pays(Payoffs.FieldPayoff[PairIndex(die1, die2)]);
     default:
       return HopResult(number, die1, die2);
   }
@@ -187,9 +187,9 @@ Step PlayHand(int number, Life life, int total) {
   }
   if (total == 7) {
     const int made = std::popcount(life.Marks);
-    return Ends(Pays(number == bet::SharpShooter  ? At(Payoffs.SharpShooterPayoff, life.Count + 1)
-                     : number == bet::RideTheLine ? At(Payoffs.RideTheLinePayoff, life.Count + 1)
-                                                  : At(Payoffs.FirePayoff, made)));
+    return Ends(Pays(number == bet::SharpShooter  ? Payoffs.SharpShooterPayoff[life.Count + 1]
+                     : number == bet::RideTheLine ? Payoffs.RideTheLinePayoff[life.Count + 1]
+                                                  : Payoffs.FirePayoff[made]));
   }
   if (total != life.Point) return GoesOn(life);
   if (number == bet::Fire) {
@@ -376,7 +376,7 @@ bool IsLongBet(int number) {
 constexpr double SixDecimals = 5.001e-7;
 
 void ExpectFigures(int number, const DiceProbabilities& dice) {
-  SCOPED_TRACE(At(BetName, number));
+  SCOPED_TRACE(BetName[number]);
   const AdvantageResult result = FigureAdvantage(number, dice);
   const std::optional<Figures> played = Chain(number, dice).Solve();
   if (!played) {
@@ -534,9 +534,9 @@ TEST_F(HouseAdvantage, KnownFigures) {
   };
   for (const auto& c : cases) {
     const AdvantageResult result = FigureAdvantage(c.Number);
-    EXPECT_DOUBLE_EQ(result.EvPerRoll, c.EvPerRoll) << At(BetName, c.Number);
-    EXPECT_DOUBLE_EQ(result.EvPerDec, c.EvPerDec) << At(BetName, c.Number);
-    EXPECT_DOUBLE_EQ(result.RollsPerDec, c.RollsPerDec) << At(BetName, c.Number);
+    EXPECT_DOUBLE_EQ(result.EvPerRoll, c.EvPerRoll) << BetName[c.Number];
+    EXPECT_DOUBLE_EQ(result.EvPerDec, c.EvPerDec) << BetName[c.Number];
+    EXPECT_DOUBLE_EQ(result.RollsPerDec, c.RollsPerDec) << BetName[c.Number];
   }
   EXPECT_DOUBLE_EQ(FigureAdvantage(bet::AllSmall).EvPerDec, -0.077613);
   EXPECT_DOUBLE_EQ(FigureAdvantage(bet::MakeAll).EvPerDec, -0.074644);
@@ -587,7 +587,7 @@ TEST_F(HouseAdvantage, StaysFiniteForAnyDice) {
     const AdvantageResult result = FigureAdvantage(number, dice);
     for (const double figure : {result.EvPerRoll, result.EvPerDec, result.RollsPerDec,
                                 result.StDevPerRoll, result.StDevPerDec})
-      EXPECT_TRUE(std::isfinite(figure)) << At(BetName, number);
+      EXPECT_TRUE(std::isfinite(figure)) << BetName[number];
   }
 }
 
@@ -603,7 +603,7 @@ TEST_F(HouseAdvantage, RollsRoundAwayFromZeroAtATie) {
 TEST_F(HouseAdvantage, RefusesWhatIsNoBetAndWhatCannotBeDivided) {
   EXPECT_THROW(FigureAdvantage(0), Fault);
   EXPECT_THROW(FigureAdvantage(LastBet + 1), Fault);
-  At(Payoffs.Payoff, bet::Place6).PayDen = 0;
+  Payoffs.Payoff[bet::Place6].PayDen = 0;
   EXPECT_THROW(FigureAdvantage(bet::Place6), Fault);
 }
 

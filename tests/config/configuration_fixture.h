@@ -10,10 +10,10 @@
 
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "dice/generators.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -22,7 +22,7 @@ class ConfigurationTest : public ::testing::Test {
   void SetUp() override {
     Reset();
     for (int number = 1; number <= LastBet; ++number)
-      At(Table.BetWorkingDefault[0], number) = OriginalHouseWorking(number);
+      Table.BetWorkingDefault[0][number] = OriginalHouseWorking(number);
     FrontEnd.ShowMessage = [] {
       Shown.push_back({Message.MsgTitle, Message.MsgText, Message.MsgFlags});
       if (Answers.empty()) return;
@@ -51,7 +51,7 @@ class ConfigurationTest : public ::testing::Test {
     SetBankrollSlots(place, bankroll);
   }
   static void PutDown(int place, int number, Money amount) {
-    At(Table.MoneyOnTable, place) += amount - Bet(place, number);
+    Table.MoneyOnTable[place] += amount - Bet(place, number);
     SetBetAmount(place, number, amount);
   }
 

@@ -2,9 +2,9 @@
 
 #include "base/fault.h"
 #include "config/configuration_fixture.h"
-#include "config/language.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
+#include "texts/language.h"
 
 namespace tessarel {
 namespace {

@@ -84,7 +84,7 @@ TEST_F(PayoffEditor, EveryRowEditsItsOwnPayoffUnderItsOwnName) {
   EXPECT_EQ(edited.size(), 138u);
   EXPECT_EQ(names.size(), 138u);
   for (const int number : {bet::PassLineOdds, bet::DontPassOdds, bet::Field, bet::CAndE})
-    EXPECT_FALSE(edited.contains(&At(Payoffs.Payoff, number))) << number;
+    EXPECT_FALSE(edited.contains(&Payoffs.Payoff[number])) << number;
   for (const PayoffCell outside : {Row(0), Row(123), FieldRow(0), FieldRow(22)})
     EXPECT_THROW(PayoffOf(outside), Fault);
 }
@@ -117,9 +117,9 @@ TEST_F(PayoffEditor, TheBoxesPayLikeTheLinesTheyStandBeside) {
   EXPECT_EQ(Payoffs.Payoff[bet::PassLine].PayNum, Money(2));
   EXPECT_EQ(Payoffs.Payoff[bet::Come].PayNum, Money(2));
   for (const int number : {bet::DontPass, bet::DontCome}) {
-    EXPECT_EQ(At(Payoffs.Payoff, number).PayForm, Money(FormFor));
-    EXPECT_EQ(At(Payoffs.Payoff, number).PayDen, Money(3));
-    EXPECT_EQ(At(Payoffs.Payoff, number).PayNum, Money(-2));
+    EXPECT_EQ(Payoffs.Payoff[number].PayForm, Money(FormFor));
+    EXPECT_EQ(Payoffs.Payoff[number].PayDen, Money(3));
+    EXPECT_EQ(Payoffs.Payoff[number].PayNum, Money(-2));
   }
 }
 
@@ -138,7 +138,7 @@ double FieldSum() {
   double sum = 0;
   for (int first = 1; first <= 6; ++first) {
     for (int second = 1; second <= 6; ++second) {
-      const PayoffRow& row = At(Payoffs.FieldPayoff, PairIndex(first, second));
+      const PayoffRow& row = Payoffs.FieldPayoff[PairIndex(first, second)];
       sum += row.PayNum.ToDouble() / row.PayDen.ToDouble();
     }
   }

@@ -150,7 +150,7 @@ TEST_F(SettingFieldRows, WithoutAPlaceEveryPlayerIsSet) {
   Seat(7, "Bob", 1000);
   EXPECT_EQ(SetField("HandleWinningBets", {}, "2"), std::nullopt);
   for (int place = 1; place <= LastPlace; ++place)
-    EXPECT_EQ(At(Table.HandleWinningBets, place), place == 2 || place == 7 ? 2 : 0) << place;
+    EXPECT_EQ(Table.HandleWinningBets[place], place == 2 || place == 7 ? 2 : 0) << place;
   EXPECT_EQ(SetField("HandleWinningBets", 7, "5"), std::nullopt);
   EXPECT_EQ(Table.HandleWinningBets[2], 2);
   EXPECT_EQ(Table.HandleWinningBets[7], 5);

@@ -4,9 +4,9 @@
 
 #include "base/clock.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
-#include "engine/roll_fixture.h"
+#include "play/roll_fixture.h"
 
 namespace tessarel {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "base/temporary_folder.h"
 #include "dice/probability.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
-#include "config/language.h"
 #include "dice/probability_balance.h"
+#include "texts/language.h"
 
 namespace tessarel {
 namespace {

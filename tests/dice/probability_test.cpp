@@ -8,11 +8,11 @@
 
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/settings.h"
-#include "engine/roll_driver.h"
-#include "files/events_log.h"
-#include "files/events_log_fixture.h"
-#include "stats/store.h"
+#include "log/events_log.h"
+#include "log/events_log_fixture.h"
+#include "play/roll_driver.h"
+#include "state/books.h"
+#include "state/settings.h"
 
 namespace tessarel {
 namespace {

@@ -7,11 +7,11 @@
 
 #include "base/fault.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -88,7 +88,7 @@ TEST_F(AmountAdjustment, AmountsMoveToTheirUnitByTheBiasOfTheirKind) {
     test.Rule();
     Ask(test.Number, test.Request);
     EXPECT_EQ(PlainText(Bet(Ann, test.Number)), std::to_string(test.Left))
-        << At(BetName, test.Number) << " " << test.Request;
+        << BetName[test.Number] << " " << test.Request;
     EXPECT_EQ(Said(), test.Text);
     EXPECT_EQ(CheckTable(), "");
   }

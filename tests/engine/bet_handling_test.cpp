@@ -6,15 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "app/session.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {
@@ -56,14 +56,13 @@ class BetHandling : public testing::Test {
     PlaceBet(1, number);
   }
   static void Throw(int die1, int die2) {
-    Roll = {-1, die1, die2};
-    MakeRoll();
+    MakeRoll(Faces{die1, die2});
     EXPECT_EQ(CheckTable(), "");
   }
   static void SetRow(int slot, HandlingRow row) {
-    At(Table.HandleAmount[1], slot) = row.amount;
-    At(Table.HandleOperator[1], slot) = row.operation;
-    At(Table.HandleUnits[1], slot) = row.units;
+    Table.HandleAmount[1][slot] = row.amount;
+    Table.HandleOperator[1][slot] = row.operation;
+    Table.HandleUnits[1][slot] = row.units;
   }
   static std::string Rows(const SettlePrompt& prompt) {
     std::string text = prompt.title[0] + "/" + prompt.title[1];

@@ -167,7 +167,7 @@ TEST_F(BetLimits, OddsLimitsFollowPointAndFlatBet) {
     test.Rule();
     PutDown(Ann, test.Flat, Sum(test.OnFlat));
     EXPECT_EQ(PlainText(FigureMaxBet(Ann, test.Number)), PlainText(Sum(test.Limit)))
-        << At(BetName, test.Number) << " on " << test.Point;
+        << BetName[test.Number] << " on " << test.Point;
   }
 }
 
@@ -197,13 +197,13 @@ TEST_F(BetLimits, EveryBetHasItsLimitInWholeChecks) {
   for (const Case& test : cases) {
     UseChecks(1, 5, 25, 100, 500);
     EXPECT_EQ(PlainText(FigureMaxBet(Ann, test.Number)), PlainText(Sum(test.ByOnes)))
-        << At(BetName, test.Number);
+        << BetName[test.Number];
     UseChecks(0.25, 1, 5, 25, 100);
     EXPECT_EQ(PlainText(FigureMaxBet(0, test.Number)), PlainText(Sum(test.ByQuarters)))
-        << At(BetName, test.Number);
+        << BetName[test.Number];
     UseChecks(5, 10, 25, 100, 500);
     EXPECT_EQ(PlainText(FigureMaxBet(Ann, test.Number)), PlainText(Sum(test.ByFives)))
-        << At(BetName, test.Number);
+        << BetName[test.Number];
     EXPECT_EQ(Table.BetLimit, Sum(test.ByFives));
   }
 }
@@ -220,7 +220,7 @@ TEST_F(BetLimits, BetsOffTheLayoutHaveNone) {
                          : number >= AllSmall ? &SettingsState::UseSpecialPropBets
                                               : &SettingsState::UseBig68;
       const bool off = owner == option && (number >= AllSmall || big);
-      EXPECT_EQ(FigureMaxBet(Ann, number) == Money(), off) << At(BetName, number);
+      EXPECT_EQ(FigureMaxBet(Ann, number) == Money(), off) << BetName[number];
     }
   }
 }
@@ -256,7 +256,7 @@ TEST_F(BetLimits, VigIsRoundedToChecksAndNeverMissing) {
   };
   for (const Case& test : cases) {
     Settings.Denomination[1] = Sum(test.Check);
-    const std::string_view name = At(BetName, test.Number);
+    const std::string_view name = BetName[test.Number];
     EXPECT_EQ(vig(test, 0), PlainText(Sum(test.Normally))) << name << " " << test.Amount;
     EXPECT_EQ(vig(test, 1), PlainText(Sum(test.Down))) << name << " " << test.Amount;
     EXPECT_EQ(vig(test, 2), PlainText(Sum(test.Up))) << name << " " << test.Amount;
@@ -276,8 +276,8 @@ TEST_F(BetLimits, PayoffUnitsAreTheSmallestThatPayWholeChecks) {
       {Come4Odds + 1, 1, 2}};
   for (const Case& test : cases) {
     UseChecks(test.Check, 5, 25, 100, 500);
-    EXPECT_EQ(PlainText(At(Payoffs.Payoff, test.Number).PayUnit), PlainText(Sum(test.Unit)))
-        << At(BetName, test.Number);
+    EXPECT_EQ(PlainText(Payoffs.Payoff[test.Number].PayUnit), PlainText(Sum(test.Unit)))
+        << BetName[test.Number];
   }
   // The search ends after a million checks.
   UseChecks(1, 5, 25, 100, 500);

@@ -32,7 +32,7 @@ struct Case {
 };
 
 void Expect(const Case& test, Money left, const std::string& said) {
-  const std::string which = std::string(At(BetName, test.Number)) + " " +
+  const std::string which = std::string(BetName[test.Number]) + " " +
                             PlainText(Money::FromDouble(test.Amount)) + " asked for " +
                             PlainText(Money::FromDouble(test.Request));
   EXPECT_EQ(PlainText(left), PlainText(Money::FromDouble(test.Left))) << which;
@@ -171,8 +171,8 @@ TEST_F(Bets, RulesOfTheMomentCutWhatIsAsked) {
     test.Rule();
     Ask(test.Number, Sum(test.Request));
     if (!test.Text.empty()) {
-      ASSERT_EQ(Shown.size(), 1u) << At(BetName, test.Number);
-      EXPECT_EQ(Shown[0].Title, std::string(At(BetName, test.Number)) + " Bet");
+      ASSERT_EQ(Shown.size(), 1u) << BetName[test.Number];
+      EXPECT_EQ(Shown[0].Title, std::string(BetName[test.Number]) + " Bet");
       EXPECT_EQ(Shown[0].Flags, msg::OkAlert | msg::HideNotice1);
     }
     Case told = test;
@@ -226,7 +226,7 @@ TEST_F(Bets, AmountsAreBroughtIntoTheirLimits) {
     SetBetContract(Ann, test.Number, Sum(test.Contract));
     Ask(test.Number, Sum(test.Request));
     if (!test.Text.empty()) {
-      ASSERT_EQ(Shown.size(), 1u) << At(BetName, test.Number);
+      ASSERT_EQ(Shown.size(), 1u) << BetName[test.Number];
       EXPECT_EQ(Shown[0].Flags, msg::OkAlert | msg::HideNotice2);
     }
     Expect(test, Bet(Ann, test.Number), Said());
@@ -333,7 +333,7 @@ TEST_F(Bets, ChangesOfVigAreTold) {
   for (const Step& step : upFront) {
     Ask(step.Number, step.Change);
     for (const ShownMessage& message : Shown) {
-      EXPECT_EQ(message.Title, std::string(At(BetName, step.Number)) + " Bet");
+      EXPECT_EQ(message.Title, std::string(BetName[step.Number]) + " Bet");
       EXPECT_EQ(message.Flags & msg::HideNotice4, msg::HideNotice4);
     }
     EXPECT_EQ(Said(), step.Text) << step.Change;
@@ -428,7 +428,7 @@ TEST_F(Bets, OddsFollowTheirFlatBet) {
     PutDown(Ann, test.Odds, test.OddsBefore);
     Place(test.Flat, test.Change);
     EXPECT_EQ(PlainText(Bet(Ann, test.Odds)), std::to_string(test.OddsAfter))
-        << At(BetName, test.Odds) << " after " << test.Change;
+        << BetName[test.Odds] << " after " << test.Change;
     EXPECT_EQ(Table.BetDelta, Money(test.Change));
     EXPECT_EQ(Said(), "");
     EXPECT_EQ(CheckTable(), "");
@@ -504,8 +504,7 @@ TEST_F(Bets, LineTravelledAndHandBetsCannotBeCalled) {
     ASSERT_EQ(Shown.size(), refused ? 1u : 0u) << number;
     if (!refused) continue;
     EXPECT_EQ(Shown[0].Title, "Action not allowed");
-    EXPECT_EQ(Said(),
-              "You may not call the " + std::string(At(BetName, number)) + " bet ON or OFF.");
+    EXPECT_EQ(Said(), "You may not call the " + std::string(BetName[number]) + " bet ON or OFF.");
   }
 }
 
@@ -611,8 +610,8 @@ TEST_F(Bets, RandomRequestsKeepTheTableRight) {
       ASSERT_EQ(Table.BetDelta, after - before);
       ASSERT_TRUE(IsMultiple(after, SmallestCheck()));
       ASSERT_LE(Table.MoneyOnTable[Ann], bankroll);
-      ASSERT_LE(after, FigureMaxBet(Ann, number)) << At(BetName, number);
-      ASSERT_TRUE(after == Money() || after >= BetMinimum(number)) << At(BetName, number);
+      ASSERT_LE(after, FigureMaxBet(Ann, number)) << BetName[number];
+      ASSERT_TRUE(after == Money() || after >= BetMinimum(number)) << BetName[number];
     }
   }
 }

@@ -6,7 +6,7 @@
 
 #include "config/configuration_fixture.h"
 #include "engine/bets.h"
-#include "stats/store.h"
+#include "state/books.h"
 
 namespace tessarel {
 
@@ -26,7 +26,7 @@ class RulesTest : public ConfigurationTest {
     Shown.clear();
     FigurePayoffUnits();
     for (int number = 1; number <= LastBet; ++number)
-      At(Table.BetWorkingDefault[0], number) = OriginalHouseWorking(number);
+      Table.BetWorkingDefault[0][number] = OriginalHouseWorking(number);
     Table.BetWorkingDefault[Ann] = Table.BetWorkingDefault[0];
     Seat(Ann, "Ann", 10000);
   }

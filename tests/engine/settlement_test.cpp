@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "engine/bets.h"
-#include "engine/roll_fixture.h"
+#include "play/roll_fixture.h"
 
 namespace tessarel {
 namespace {
@@ -279,7 +279,7 @@ class RuleCard : public RollTest, public ::testing::WithParamInterface<House> {
     if (!CarriesVig(number)) return;
     auto& vigs = Between(number, 1, 6) ? Table.LayVig : Table.BuyVig;
     At(At(vigs, place), (number - 1) % 6) = Vig;
-    if (house.vigUpFront) At(Table.MoneyOnTable, place) += Vig;
+    if (house.vigUpFront) Table.MoneyOnTable[place] += Vig;
   }
 
   static void Compare(int place, int number, const Thrown& thrown) {
@@ -288,16 +288,16 @@ class RuleCard : public RollTest, public ::testing::WithParamInterface<House> {
     for (int other = 1; other <= LastBet; ++other) {
       if (Bet(place, other) != Money()) bets[other] = Bet(place, other);
     }
-    const int32_t streak = At(At(Table.BetStreak, place), number);
-    const Money pushed = At(At(Stats.Bets, place), number).Tendered.Count;
+    const int32_t streak = Table.BetStreak[place][number];
+    const Money pushed = Stats.Bets[place][number].Tendered.Count;
     if (Won(place) == expected.won && bets == expected.bets && streak == expected.streak &&
         pushed == Money(std::abs(streak))) {
       return;
     }
     std::ostringstream stands;
     for (const auto& [which, amount] : bets)
-      stands << At(BetName, which) << " $" << PlainText(amount) << ", ";
-    ADD_FAILURE() << At(BetName, number) << " on " << thrown.die1 << "-" << thrown.die2
+      stands << BetName[which] << " $" << PlainText(amount) << ", ";
+    ADD_FAILURE() << BetName[number] << " on " << thrown.die1 << "-" << thrown.die2
                   << (thrown.justOn ? ", just on point " : ", point ") << thrown.point << ": won "
                   << PlainText(Won(place)) << " instead of " << PlainText(expected.won)
                   << ", streak " << streak << ", standing: " << stands.str();
@@ -405,7 +405,7 @@ TEST_F(Settlement, HandBetsPayByWhatTheShooterMade) {
       PutDown(5, each.number, 10);
       Throw(each.hand(count));
       const int pays = At(each.pays, count);
-      EXPECT_EQ(Won(5), Money(10 * pays)) << At(BetName, each.number) << " after " << count;
+      EXPECT_EQ(Won(5), Money(10 * pays)) << BetName[each.number] << " after " << count;
       EXPECT_EQ(Bet(5, each.number), Money(pays > 0 ? 10 : 0));
       EXPECT_EQ(Table.FirePointsMask | Table.FirePoints | Table.SharpShooterPoints |
                     Table.RideTheLinePasses,
@@ -476,7 +476,7 @@ TEST_F(Settlement, MarksCompleteTheirBets) {
     EXPECT_EQ(Table.MarkedNumbers, each.marks);
     for (const int number : {bet::AllSmall, bet::AllTall, bet::MakeAll}) {
       const bool stands = std::count(each.stands.begin(), each.stands.end(), number) != 0;
-      EXPECT_EQ(Bet(3, number), Money(stands ? 10 : 0)) << At(BetName, number);
+      EXPECT_EQ(Bet(3, number), Money(stands ? 10 : 0)) << BetName[number];
     }
   }
 }
@@ -561,8 +561,8 @@ TEST_F(Settlement, PayoffIsRoundedDownToWholeSmallestChecks) {
   for (const auto& each : cases) {
     Settings.Denomination[1] = each.check;
     FigurePayoff(1, each.number, each.result, each.stake);
-    EXPECT_EQ(Table.GrossWin, each.gross) << At(BetName, each.number);
-    EXPECT_EQ(Table.NetWin, each.net) << At(BetName, each.number);
+    EXPECT_EQ(Table.GrossWin, each.gross) << BetName[each.number];
+    EXPECT_EQ(Table.NetWin, each.net) << BetName[each.number];
   }
 }
 
@@ -652,7 +652,7 @@ TEST_F(Settlement, VigIsTakenFromWinsAndFromLossesOnlyWhenChargedUpFront) {
     Settings.LayVigAllBets = each.number == bet::Lay4 ? each.upFront : ~each.upFront;
     Settings.BuyVigAllBets = each.number == bet::Buy10 ? each.upFront : ~each.upFront;
     FigurePayoff(1, each.number, each.result, 40);
-    EXPECT_EQ(Table.NetWin, each.net) << At(BetName, each.number) << each.upFront;
+    EXPECT_EQ(Table.NetWin, each.net) << BetName[each.number] << each.upFront;
   }
   Table.LayVig = Table.BuyVig = {};
 }
@@ -691,9 +691,9 @@ TEST_F(Settlement, ResultStandsInTheThreeCountedBankrolls) {
   PutDown(4, bet::Field, 10);
   Throw(1, 1);
   for (const int scope : {0, 18, 36})
-    EXPECT_EQ(At(Table.Bankroll, 4 + scope), Money(120));
+    EXPECT_EQ(Table.Bankroll[4 + scope], Money(120));
   for (const int scope : {9, 27})
-    EXPECT_EQ(At(Table.Bankroll, 4 + scope), Money());
+    EXPECT_EQ(Table.Bankroll[4 + scope], Money());
 }
 
 TEST_F(Settlement, WonBetComesDownOnlyWhereItCannotStay) {
@@ -769,7 +769,7 @@ TEST_F(Settlement, OffBetsAreLeftAndOffOddsFollowTheirFlatBet) {
       ResolveBet(2, single ? result / 2 : result, each.number);
       EXPECT_EQ(Bet(8, each.number), Money(each.stands ? 10 : 0)) << each.what;
       EXPECT_EQ(Won(8), Money()) << each.what;
-      EXPECT_EQ(At(Table.BetStreak[8], each.number), 0) << each.what;
+      EXPECT_EQ(Table.BetStreak[8][each.number], 0) << each.what;
     }
   }
 }
@@ -862,7 +862,7 @@ TEST_F(Settlement, WonComeBetForgetsWhatTravelled) {
   PutDown(1, bet::Come4 + 4, 20);
   Throw(5, 4);
   EXPECT_EQ(Table.ComeOriginal[1][4], Money());
-  EXPECT_EQ(At(Stats.ComeTravel, 1)[4], Money(15));
+  EXPECT_EQ(Stats.ComeTravel[1][4], Money(15));
 }
 
 TEST_F(Settlement, UnitIsTheLargestCheckThatDividesTheBet) {
@@ -878,7 +878,7 @@ TEST_F(Settlement, UnitIsTheLargestCheckThatDividesTheBet) {
   for (const auto& each : cases) {
     PutDown(1, each.number, each.amount);
     FigureUnit(1, each.number);
-    EXPECT_EQ(Table.ChipUnit, Money(each.unit)) << At(BetName, each.number) << each.amount;
+    EXPECT_EQ(Table.ChipUnit, Money(each.unit)) << BetName[each.number] << each.amount;
   }
 }
 }  // namespace

@@ -3,7 +3,7 @@
 #include "base/clock.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "files/events_log_fixture.h"
+#include "log/events_log_fixture.h"
 
 namespace tessarel {
 namespace {

@@ -5,15 +5,15 @@
 #include <filesystem>
 #include <set>
 
-#include "app/session.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
 #include "dice/roll_file.h"
-#include "engine/table.h"
-#include "files/events_log.h"
+#include "log/events_log.h"
+#include "play/session.h"
+#include "state/table.h"
 
 namespace tessarel {
 namespace {
@@ -45,9 +45,9 @@ class FileDialogRules : public ::testing::Test {
   std::string Path(const std::string& name) const { return folder_.Path() + name; }
   void Make(const std::string& name) const { WriteFileAtomically(Path(name), "x"); }
   void Seat(int place, const std::string& name, const std::string& log) const {
-    At(Table.PlayerName, place) = name;
+    Table.PlayerName[place] = name;
     Table.TakenPlaces |= static_cast<decltype(Table.TakenPlaces)>(1 << place);
-    At(Table.SessionLogName, place) = log;
+    Table.SessionLogName[place] = log;
   }
 
   TemporaryFolder folder_;
@@ -158,8 +158,8 @@ TEST_F(FileDialogRules, DeletingAsksAndGivesUpWhatIsInUse) {
   Make("bob.slg");
   EXPECT_TRUE(DeleteListedFile("Own.slg"));
   EXPECT_FALSE(FileExists(Path("Own.slg")));
-  EXPECT_EQ(At(Table.SessionLogName, 2), Path("ann.slg"));
-  EXPECT_EQ(At(Table.SessionLogName, 5), Path("bob.slg"));
+  EXPECT_EQ(Table.SessionLogName[2], Path("ann.slg"));
+  EXPECT_EQ(Table.SessionLogName[5], Path("bob.slg"));
   ASSERT_EQ(Shown.size(), 4u);
   EXPECT_EQ(Shown[1], "Delete Sessions File: Are you sure you want to delete:\r\rOwn.slg");
   EXPECT_EQ(Shown[2],

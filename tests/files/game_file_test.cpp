@@ -15,16 +15,13 @@
 #include <random>
 #include <thread>
 
-#include "app/session.h"
 #include "autobet/script_files.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/record_file.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "dice/popup_roll.h"
 #include "dice/probability.h"
@@ -34,16 +31,19 @@
 #include "engine/atm.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
-#include "engine/players.h"
-#include "engine/rail.h"
-#include "engine/roll_driver.h"
-#include "files/events_log.h"
 #include "files/file_dialog.h"
 #include "files/game_views.h"
-#include "stats/books.h"
+#include "log/events_log.h"
+#include "play/players.h"
+#include "play/rail.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/books_check.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
-#include "stats/store.h"
 
 namespace tessarel {
 namespace {
@@ -122,20 +122,20 @@ class RandomPlay {
       const int place = 1 + Upto(7);
       if (IsTaken(Table, place)) continue;
       SeatPlayer(place, "Player " + std::to_string(place), 200 + Upto(5000));
-      At(Table.HandleWinningBets, place) = Upto(7);
-      At(Table.HandleLosingBets, place) = Upto(7);
+      Table.HandleWinningBets[place] = Upto(7);
+      Table.HandleLosingBets[place] = Upto(7);
       for (int slot = FirstHandlingSlot; slot <= LastHandlingSlot; ++slot) {
-        At(At(Table.HandleAmount, place), slot) = Upto(3);
-        At(At(Table.HandleUnits, place), slot) = Upto(6);
+        Table.HandleAmount[place][slot] = Upto(3);
+        Table.HandleUnits[place][slot] = Upto(6);
       }
       for (const int slot : {5, 7, 9, 10})
-        At(At(Table.HandleOperator, place), slot) = Upto(2);
+        Table.HandleOperator[place][slot] = Upto(2);
       for (auto* flag : {&Table.AutoTakeFullOdds, &Table.AutoLayFullOdds, &Table.AllowNegBankroll,
                          &Table.DeclinesDice}) {
         At(*flag, place) = -Upto(1);
       }
       for (int number = 1; number <= bet::Midway; ++number)
-        At(At(Table.BetWorkingDefault, place), number) = Upto(1);
+        Table.BetWorkingDefault[place][number] = Upto(1);
     }
     Settings.OddsCalcMethod = Upto(5);
     Settings.LayVigAllBets = -Upto(1);
@@ -216,10 +216,9 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   ChangeBet(3, bet::Buy4);
   SetStackValue(3, 1, Money::FromRaw(15000));
   SetStackName(3, 99, "Lost so far");
-  Roll = {-1, 2, 4};
-  MakeRoll();
+  MakeRoll(Faces{2, 4});
   for (int slot = FirstHandlingSlot; slot <= LastHandlingSlot; ++slot)
-    At(Table.HandleUnits[3], slot) = (slot + 1) % 7;
+    Table.HandleUnits[3][slot] = (slot + 1) % 7;
   GameViews.Chips.assign(26, {1, 2, 3, 4, -5});
   GameViews.Windows[4] = 640;
   FileDialog.LastFolder[1] = "/systems/";
@@ -255,7 +254,7 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   for (const auto& [record, slot, amount] : amounts)
     EXPECT_EQ(PlainText(file.At(record).Amount(slot)), PlainText(amount)) << record << " " << slot;
   EXPECT_EQ(file.At(43).Short(bet::PassLine), 1);
-  EXPECT_EQ(file.At(ann + 40).Short(bet::Buy4), At(At(Table.BetWorking, 3), bet::Buy4));
+  EXPECT_EQ(file.At(ann + 40).Short(bet::Buy4), Table.BetWorking[3][bet::Buy4]);
   EXPECT_EQ(file.At(chips + 1).Short(4), -5);
 
   const RecordFile empty = [this] {
@@ -385,7 +384,7 @@ TEST_F(GameFileTest, UnitsOfHandledBetsAreMendedAndDollarsWhereNoneAreKept) {
   constexpr std::pair<int, int> Units[] = {{0, 0}, {6, 6}, {7, 6}, {-1, 0}, {INT32_MAX, 6}};
   for (const auto& [kept, read] : Units) {
     SCOPED_TRACE(kept);
-    At(Table.HandleUnits, 3).fill(5);
+    Table.HandleUnits[3].fill(5);
     SaveGame("a.tsg");
     RecordFile file = RecordFile::Load(Path("a.tsg"));
     for (const int slot : Slots)
@@ -393,7 +392,7 @@ TEST_F(GameFileTest, UnitsOfHandledBetsAreMendedAndDollarsWhereNoneAreKept) {
     file.Save(Path("a.tsg"));
     ASSERT_TRUE(OpenGame("a.tsg"));
     const PerHandlingSlot<Money> expected = {0, 0, 0, 0, 0, read, 5, 5, 5, 5, read, read, read};
-    EXPECT_EQ(At(Table.HandleUnits, 3), expected);
+    EXPECT_EQ(Table.HandleUnits[3], expected);
   }
 }
 

@@ -4,13 +4,13 @@
 
 #include <filesystem>
 
-#include "app/session.h"
-#include "autobet/script_store.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
+#include "play/session.h"
+#include "state/scripts.h"
 
 namespace tessarel {
 namespace {

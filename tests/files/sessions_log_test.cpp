@@ -6,17 +6,17 @@
 #include <fstream>
 #include <iterator>
 
-#include "app/session.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/folders.h"
-#include "engine/players.h"
-#include "engine/rail.h"
-#include "engine/table.h"
 #include "files/sessions_commands.h"
+#include "play/players.h"
+#include "play/rail.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/table.h"
 #include "stats/selection.h"
-#include "stats/store.h"
 
 namespace tessarel {
 namespace {

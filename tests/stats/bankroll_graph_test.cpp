@@ -1,4 +1,5 @@
 #include "stats/bankroll_graph.h"
+#include "engine/seats.h"
 
 #include <deque>
 

@@ -102,7 +102,7 @@ TEST_F(BetViews, ThePlayedTableIsTheSumOfItsPlayers) {
     EXPECT_NEAR(whole.Figures.Expected, sum.Expected, 1e-6);
   }
   const Money net = AllWagers(CurrentSession, 2, expected).Net();
-  EXPECT_EQ(net, BankrollOf(1) - At(Table.InvestedBankroll, 1));
+  EXPECT_EQ(net, BankrollOf(1) - Table.InvestedBankroll[1]);
   EXPECT_EQ(Text(ColumnsOf(AllWagers(AllSessions, WholeTable, expected))),
             Text(ColumnsOf(AllWagers(CurrentSession, WholeTable, expected))));
 }

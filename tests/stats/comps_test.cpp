@@ -4,11 +4,11 @@
 
 #include "base/fault.h"
 #include "config/advantage.h"
-#include "config/payoffs.h"
-#include "config/settings.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
 
 namespace tessarel {
 namespace {
@@ -22,7 +22,7 @@ class Comps : public ::testing::Test {
     Enter(bet::PassLine, 4, 100);
     Enter(bet::Seven, 6, 60);
     Enter(bet::PassLineOdds, 3, 500);  // odds count for nothing
-    At(Stats.Hands, Slot).RollTotal = 60;
+    Stats.Hands[Slot].RollTotal = 60;
   }
   void TearDown() override { Reset(); }
 
@@ -34,7 +34,7 @@ class Comps : public ::testing::Test {
     DefaultPayoffs();
   }
   static void Enter(int number, Money count, Money sum) {
-    BetMeasures& wagered = At(At(Stats.Bets, Slot), number).Tendered;
+    BetMeasures& wagered = Stats.Bets[Slot][number].Tendered;
     wagered.Count = count;
     wagered.Sum = sum;
   }
@@ -62,7 +62,7 @@ TEST_F(Comps, AreFiguredFromTheBaseOfTheConfiguration) {
 TEST_F(Comps, UseTheSkewedDiceOnlyIfAskedTo) {
   BalanceMatrix(TotalColumn, 6, 30'000);  // which favours the bet on seven
   Probability.ProbabilityMatrixActive = -1;
-  At(Settings.CompBet, bet::PassLine) = 0;
+  Settings.CompBet[bet::PassLine] = 0;
   const std::pair<int32_t, double> cases[] = {{-1, 60 * -0.166667}, {0, 60 * 0.50015}};
   for (const auto& [useTrue, loss] : cases) {
     Settings.CompsUseTrueProbs = useTrue;
@@ -74,8 +74,8 @@ TEST_F(Comps, UseTheSkewedDiceOnlyIfAskedTo) {
 }
 
 TEST_F(Comps, CountOnlyTheChosenBetsOfTheSlot) {
-  At(Settings.CompBet, bet::PassLine) = 0;
-  At(Settings.CompBet, bet::PassLineOdds) = -1;
+  Settings.CompBet[bet::PassLine] = 0;
+  Settings.CompBet[bet::PassLineOdds] = -1;
   EXPECT_EQ(FigureComps(Slot).Action, Money(560));
   const CompFigures other = FigureComps(Slot + 1);
   EXPECT_EQ(other.AverageAction, Money(0));

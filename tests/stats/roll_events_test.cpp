@@ -9,7 +9,7 @@
 #include "base/fault.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
-#include "stats/store.h"
+#include "state/books.h"
 
 namespace tessarel {
 namespace {

@@ -7,17 +7,17 @@
 #include <utility>
 #include <vector>
 
-#include "app/session.h"
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
-#include "config/folders.h"
-#include "config/settings.h"
 #include "dice/generators.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 

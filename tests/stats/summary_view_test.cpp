@@ -1,8 +1,8 @@
 #include "stats/summary_view.h"
 
-#include "config/language.h"
 #include "stats/stats_fixture.h"
 #include "stats/status_box.h"
+#include "texts/language.h"
 
 namespace tessarel {
 namespace {

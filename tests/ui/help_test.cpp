@@ -14,8 +14,8 @@
 #include <set>
 
 #include "base/help_topics.h"
-#include "config/language.h"
-#include "config/settings.h"
+#include "state/settings.h"
+#include "texts/language.h"
 #include "ui/windows/help_pages.h"
 #include "ui/windows/help_window.h"
 

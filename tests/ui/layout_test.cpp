@@ -6,9 +6,9 @@
 #include <cmath>
 #include <map>
 
-#include "config/payoffs.h"
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/layout/hit_map.h"
 #include "ui/layout/table_layout.h"
 #include "ui/paint/contrast.h"
@@ -223,7 +223,7 @@ TEST(Presets, LetteringIsLegibleInEveryScheme) {
 }
 
 TEST(Presets, HoldTheColoursTheyAreKnownBy) {
-  const auto row = [](int entry) { return At(Settings.TableColor, entry); };
+  const auto row = [](int entry) { return Settings.TableColor[entry]; };
   ApplyTablePreset(1);
   EXPECT_EQ(row(colour::Felt), TableRgb(68, 68, 0));
   EXPECT_EQ(row(colour::Lines), TableRgb(255, 255, 255));
@@ -268,7 +268,7 @@ TEST(TablePaint, FeltShowsPayoffsBarNumberAndLamps) {
   const QImage plain = PictureOfTable(layout, false);
   const auto area = [&](int spot) { return OutlineOf(layout, spot).boundingRect(); };
 
-  At(Payoffs.Payoff, bet::Seven).PayNum = 5;
+  Payoffs.Payoff[bet::Seven].PayNum = 5;
   const QImage repaid = PictureOfTable(layout, false);
   EXPECT_GT(Differences(plain, repaid, area(bet::Seven), 0.5), 10);
   EXPECT_EQ(Differences(plain, repaid, area(bet::Craps), 0.5), 0);

@@ -8,14 +8,15 @@
 #include <fstream>
 #include <set>
 
-#include "automation/auto_roll.h"
-#include "config/language.h"
 #include "engine/bets.h"
-#include "engine/rail.h"
+#include "engine/seats.h"
 #include "files/game_file.h"
 #include "files/hot_keys.h"
-#include "stats/store.h"
+#include "play/auto_roll.h"
+#include "play/rail.h"
+#include "state/books.h"
 #include "text_fit.h"
+#include "texts/language.h"
 #include "window_fixture.h"
 
 namespace tessarel {

@@ -8,11 +8,11 @@
 #include <memory>
 #include <set>
 
-#include "automation/auto_roll.h"
 #include "base/clock.h"
-#include "config/language.h"
-#include "engine/roll_fixture.h"
 #include "files/game_views.h"
+#include "play/auto_roll.h"
+#include "play/roll_fixture.h"
+#include "texts/language.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"
 #include "ui/windows/rate_meter.h"
@@ -131,12 +131,12 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
   SetButtonColor(RollKind::Seven, Qt::black);
   Console->setGeometry(40, 50, 500, 480);
   const QPoint place = Console->pos();
-  EXPECT_EQ(At(GameViews.Windows, ConsoleSlot), 1);
+  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 1);
   Part<QAction>("mnuHide")->trigger();
-  EXPECT_EQ(At(GameViews.Windows, ConsoleSlot), 0);
+  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 0);
   Console->show();
   Console->close();
-  EXPECT_EQ(At(GameViews.Windows, ConsoleSlot), 0);
+  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 0);
   RestoreSmallWindow(Console);
   EXPECT_FALSE(Console->isVisible());
   Open();
@@ -152,8 +152,8 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
 
 TEST_F(SmallWindows, WordsThatCannotBeUsedLeaveTheConsoleUsable) {
   for (const int32_t word : {-5, 0, 7, 64, 1'000'000}) {
-    At(GameViews.Display, 13) = word;
-    At(GameViews.Display, 39) = word < 0 ? word : 0x1FFFFFF;
+    GameViews.Display[13] = word;
+    GameViews.Display[39] = word < 0 ? word : 0x1FFFFFF;
     GameViews.Windows[ConsoleSlot + 1] = 900'000;
     GameViews.Windows[ConsoleSlot + 2] = -900'000;
     GameViews.Windows[ConsoleSlot + 3] = GameViews.Windows[ConsoleSlot + 4] = 300;

@@ -11,8 +11,8 @@
 #include <cmath>
 #include <vector>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/paint/check_paint.h"
 #include "ui/program_folders.h"
 #include "ui/sound/sound_lists.h"

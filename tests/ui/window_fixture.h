@@ -12,15 +12,16 @@
 #include <string>
 #include <vector>
 
-#include "app/session.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "config/settings.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
 #include "files/game_views.h"
+#include "play/manual_roll.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/main_window.h"
 
 namespace tessarel {
@@ -85,10 +86,7 @@ class WindowTest : public testing::Test {
   void ClickBet(int number, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     Click(View().PixelOf(CurrentPlace(), number), modifiers);
   }
-  void RollDice(int die1, int die2) {
-    Roll = {-1, die1, die2};
-    Press(Qt::Key_F2);
-  }
+  void RollDice(int die1, int die2) { RollChosen({die1, die2}); }
   // Seats somebody without asking.
   void Seat(int place, const char* name, Money bankroll) {
     SeatPlayer(place, name, bankroll);

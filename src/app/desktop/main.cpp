@@ -6,10 +6,10 @@
 #include <cstdio>
 #include <string_view>
 
-#include "app/session.h"
 #include "base/front_end.h"
-#include "engine/roll_pace.h"
 #include "files/hot_keys.h"
+#include "play/roll_pace.h"
+#include "play/session.h"
 #include "ui/main_window.h"
 #include "ui/palette.h"
 #include "ui/program_folders.h"

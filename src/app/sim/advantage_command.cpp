@@ -2,15 +2,15 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/output.h"
 #include "app/sim/probability_option.h"
 #include "base/number_format.h"
 #include "config/advantage.h"
-#include "engine/bet_numbers.h"
-#include "engine/table.h"
+#include "play/session.h"
+#include "state/bet_numbers.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 
@@ -23,7 +23,7 @@ std::string AdvantageJson() {
   for (int number = 1; number <= LastBet; ++number) {
     const AdvantageResult result = FigureAdvantage(number);
     bets.push_back({{"bet", number},
-                    {"name", At(BetName, number)},
+                    {"name", BetName[number]},
                     {"EvPerRoll", result.EvPerRoll},
                     {"EvPerDec", result.EvPerDec},
                     {"RollsPerDec", result.RollsPerDec},
@@ -50,7 +50,7 @@ std::string AdvantageTable() {
   for (int number = 1; number <= LastBet; ++number) {
     const AdvantageResult result = FigureAdvantage(number);
     table +=
-        Line(std::to_string(number), std::string(At(BetName, number)),
+        Line(std::to_string(number), std::string(BetName[number]),
              {percent(result.EvPerRoll), percent(result.StDevPerRoll), percent(result.EvPerDec),
               percent(result.StDevPerDec), FormatNumber(result.RollsPerDec, "0.00")});
   }

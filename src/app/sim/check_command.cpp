@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/failure.h"
@@ -13,10 +12,11 @@
 #include "app/sim/seating.h"
 #include "autobet/checker.h"
 #include "autobet/player_name.h"
-#include "autobet/script_store.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
-#include "engine/table.h"
+#include "play/session.h"
+#include "state/scripts.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 
@@ -62,7 +62,7 @@ ExitStatus CheckCommand(const CheckOptions& options) {
   LoadScript(slot, options.file);
   CompiledScript script;
   const auto error = options.tokens == TokensShown::Translated
-                         ? TranslateScript(slot, At(Scripts.Places, slot).lines, script)
+                         ? TranslateScript(slot, Scripts.Places[slot].lines, script)
                          : CheckScript(slot, script);
   if (error) {
     WriteOut(ErrorLine(options.file, *error) + "\n");

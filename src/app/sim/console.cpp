@@ -9,7 +9,6 @@
 #include <optional>
 #include <sstream>
 
-#include "autobet/script_store.h"
 #include "autobet/values.h"
 #include "base/clock.h"
 #include "base/file_io.h"
@@ -17,8 +16,9 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
-#include "engine/roll_texts.h"
 #include "engine/settle_prompt.h"
+#include "state/scripts.h"
+#include "texts/roll_texts.h"
 
 namespace tessarel::sim {
 
@@ -88,7 +88,7 @@ void ShowOnConsole() {
 // At the table a script's errors are part of what is shown; a fast run has no time for them.
 void ReportScriptErrorOnConsole(int place, int line, const std::string& text) {
   if (!Console.tableMode) return;
-  const std::string& file = At(Scripts.Places, place).ScriptFile;
+  const std::string& file = Scripts.Places[place].ScriptFile;
   const std::string report = file + ":" + std::to_string(line) + ": " + text;
   Console.messages.push_back({"Auto-Bet", report});
   Notice("[Auto-Bet] " + OnOneLine(report));

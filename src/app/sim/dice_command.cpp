@@ -1,15 +1,15 @@
 #include <array>
 #include <string>
 
-#include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
 #include "app/sim/output.h"
 #include "app/sim/probability_option.h"
 #include "base/trap.h"
-#include "config/language.h"
 #include "dice/generators.h"
-#include "engine/table.h"
+#include "play/session.h"
+#include "state/table.h"
+#include "texts/language.h"
 
 namespace tessarel::sim {
 

@@ -10,7 +10,7 @@
 #include "app/sim/commands.h"
 #include "app/sim/failure.h"
 #include "base/trap.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 namespace {

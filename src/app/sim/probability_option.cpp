@@ -4,8 +4,8 @@
 
 #include "app/sim/failure.h"
 #include "base/file_io.h"
+#include "base/folders.h"
 #include "base/front_end.h"
-#include "config/folders.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
 

@@ -3,8 +3,8 @@
 #include "app/sim/console.h"
 #include "base/message.h"
 #include "config/advantage.h"
-#include "engine/table.h"
 #include "files/game_file.h"
+#include "state/table.h"
 #include "stats/comps.h"
 #include "stats/report.h"
 

@@ -7,8 +7,8 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "dice/generators.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 
@@ -39,21 +39,21 @@ Json TableJson() {
 
 Money VigOf(int place, int number) {
   const auto index = static_cast<size_t>((number - 1) % FamilySize);
-  if (InFamily(number, LayFamily)) return At(Table.LayVig, place)[index];
-  if (InFamily(number, BuyFamily)) return At(Table.BuyVig, place)[index];
+  if (InFamily(number, LayFamily)) return Table.LayVig[place][index];
+  if (InFamily(number, BuyFamily)) return Table.BuyVig[place][index];
   return Money();
 }
 
 Json BetsJson(int place) {
   Json bets = Json::array();
-  At(Table.Standing, place).ForEach([&](int number) {
+  Table.Standing[place].ForEach([&](int number) {
     bets.push_back({{"bet", number},
-                    {"name", At(BetName, number)},
+                    {"name", BetName[number]},
                     {"amount", Number(Bet(place, number))},
-                    {"contract", Number(At(At(Table.BetContract, place), number))},
-                    {"working", At(At(Table.BetWorking, place), number)},
+                    {"contract", Number(Table.BetContract[place][number])},
+                    {"working", Table.BetWorking[place][number]},
                     {"vig", Number(VigOf(place, number))},
-                    {"streak", At(At(Table.BetStreak, place), number)}});
+                    {"streak", Table.BetStreak[place][number]}});
   });
   return bets;
 }
@@ -62,7 +62,7 @@ Json StacksJson(int place) {
   Json stacks = Json::array();
   for (int stack = 0; stack < StackCount; ++stack) {
     const Money amount = Bet(place, FirstStack + stack);
-    const std::string& name = At(At(Table.CheckStackName, place), stack);
+    const std::string& name = Table.CheckStackName[place][stack];
     if (amount == Money() && name.empty()) continue;
     stacks.push_back({{"stack", stack}, {"name", name}, {"amount", Number(amount)}});
   }
@@ -78,10 +78,10 @@ Json MeasuresJson(const BetMeasures& measures) {
 Json ResultsJson(int place) {
   Json results = Json::array();
   for (int number = 1; number <= LastBet; ++number) {
-    const BetRecord& record = At(At(Stats.Bets, place + CurrentSession), number);
+    const BetRecord& record = Stats.Bets[place + CurrentSession][number];
     if (record.Tendered.Count == Money()) continue;
     results.push_back({{"bet", number},
-                       {"name", At(BetName, number)},
+                       {"name", BetName[number]},
                        {"tendered", MeasuresJson(record.Tendered)},
                        {"won", MeasuresJson(record.Won)},
                        {"lost", MeasuresJson(record.Lost)}});
@@ -92,20 +92,20 @@ Json ResultsJson(int place) {
 Json PlayerJson(int place) {
   const int slot = place + CurrentSession;
   return {{"place", place},
-          {"name", At(Table.PlayerName, place)},
-          {"Bankroll", Number(At(Table.Bankroll, slot))},
-          {"BankrollBegin", Number(At(Table.BankrollBegin, slot))},
-          {"BankrollHigh", Number(At(Table.BankrollHigh, slot))},
-          {"BankrollLow", Number(At(Table.BankrollLow, slot))},
-          {"InvestedBankroll", Number(At(Table.InvestedBankroll, place))},
-          {"MoneyOnTable", Number(At(Table.MoneyOnTable, place))},
+          {"name", Table.PlayerName[place]},
+          {"Bankroll", Number(Table.Bankroll[slot])},
+          {"BankrollBegin", Number(Table.BankrollBegin[slot])},
+          {"BankrollHigh", Number(Table.BankrollHigh[slot])},
+          {"BankrollLow", Number(Table.BankrollLow[slot])},
+          {"InvestedBankroll", Number(Table.InvestedBankroll[place])},
+          {"MoneyOnTable", Number(Table.MoneyOnTable[place])},
           {"bets", BetsJson(place)},
           {"checkstacks", StacksJson(place)},
           {"results", ResultsJson(place)}};
 }
 
 Json HandFiguresJson() {
-  const HandFigures& hands = At(Stats.Hands, CurrentSession);
+  const HandFigures& hands = Stats.Hands[CurrentSession];
   return {{"HandCount", hands.HandCount},   {"RollTotal", hands.RollTotal},
           {"MostRolls", hands.MostRolls},   {"MostComeoutRolls", hands.MostComeoutRolls},
           {"MostPasses", hands.MostPasses}, {"MostMisses", hands.MostMisses}};
@@ -135,11 +135,11 @@ std::string DiceText(const RunFacts& facts) {
 std::string BetRows(int place) {
   std::string rows;
   for (int number = 1; number <= LastBet; ++number) {
-    const BetRecord& record = At(At(Stats.Bets, place + CurrentSession), number);
+    const BetRecord& record = Stats.Bets[place + CurrentSession][number];
     if (record.Tendered.Count == Money()) continue;
     const Money net = record.Won.Sum - record.Lost.Sum;
     const double percent = 100 * net.ToDouble() / record.Tendered.Sum.ToDouble();
-    rows += "  " + Left(std::string(At(BetName, number)), 18) +
+    rows += "  " + Left(std::string(BetName[number]), 18) +
             Right(Count(record.Tendered.Count.Floor()), 12) +
             Right(Count(record.Won.Count.Floor()), 12) +
             Right(Count(record.Lost.Count.Floor()), 12) + Right(Cents(record.Tendered.Sum), 20) +
@@ -153,12 +153,12 @@ std::string BetRows(int place) {
 
 std::string PlayerSummary(int place) {
   const int slot = place + CurrentSession;
-  const Money bankroll = At(Table.Bankroll, slot);
-  return "\n" + At(Table.PlayerName, place) + " (place " + std::to_string(place) + ")\n" +
+  const Money bankroll = Table.Bankroll[slot];
+  return "\n" + Table.PlayerName[place] + " (place " + std::to_string(place) + ")\n" +
          "  Bankroll " + Dollars(bankroll) + "  (" +
-         Signed(bankroll - At(Table.InvestedBankroll, place)) + ")   high " +
-         Dollars(At(Table.BankrollHigh, slot)) + "   low " + Dollars(At(Table.BankrollLow, slot)) +
-         "   on the table " + Dollars(At(Table.MoneyOnTable, place)) + "\n" + BetRows(place);
+         Signed(bankroll - Table.InvestedBankroll[place]) + ")   high " +
+         Dollars(Table.BankrollHigh[slot]) + "   low " + Dollars(Table.BankrollLow[slot]) +
+         "   on the table " + Dollars(Table.MoneyOnTable[place]) + "\n" + BetRows(place);
 }
 
 Json BySessionJson(const RunFacts& facts) {
@@ -193,7 +193,7 @@ std::string ResultJson(const RunFacts& facts) {
                  {"messages", messages},
                  {"table", TableJson()},
                  {"players", players},
-                 {"roll_counts", At(Stats.RollCount, CurrentSession)},
+                 {"roll_counts", Stats.RollCount[CurrentSession]},
                  {"hand_figures", HandFiguresJson()}};
   if (facts.sessions > 1) result["by_session"] = BySessionJson(facts);
   return result.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";

@@ -7,7 +7,7 @@
 #include "config/configuration.h"
 #include "config/payoff_editor.h"
 #include "config/setting_fields.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 

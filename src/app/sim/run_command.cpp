@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "app/session.h"
 #include "app/sim/commands.h"
 #include "app/sim/console.h"
 #include "app/sim/failure.h"
@@ -17,21 +16,22 @@
 #include "app/sim/run_files.h"
 #include "app/sim/scripts.h"
 #include "app/sim/seating.h"
-#include "autobet/actions.h"
+#include "autobet/script_host.h"
 #include "autobet/values.h"
 #include "base/file_io.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
-#include "config/language.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
-#include "engine/players.h"
-#include "engine/roll_driver.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/players.h"
+#include "play/roll_driver.h"
+#include "play/session.h"
+#include "state/books.h"
+#include "state/table.h"
+#include "texts/language.h"
 
 namespace tessarel::sim {
 
@@ -78,7 +78,7 @@ void SeatPlayers(const RunOptions& options) {
 }
 
 void RequireBettable(int place, int number) {
-  const std::string name(At(BetName, number));
+  const std::string name(BetName[number]);
   if (!IsTaken(Table, place)) {
     throw Failure(CannotBeDone, "There is no player at place " + std::to_string(place) +
                                     " to bet on " + name + ".");
@@ -200,8 +200,8 @@ void AddSession(RunFacts& facts) {
   facts.stopReason = StopReason();
   ForEachPlayer([&facts](int place) {
     const int slot = place + CurrentSession;
-    facts.bySession.push_back({facts.sessions, place, At(Table.Bankroll, slot),
-                               At(Table.BankrollLow, slot), At(Table.BankrollHigh, slot)});
+    facts.bySession.push_back({facts.sessions, place, Table.Bankroll[slot], Table.BankrollLow[slot],
+                               Table.BankrollHigh[slot]});
   });
 }
 
@@ -241,7 +241,7 @@ RunFacts Play(const RunOptions& options, const Recording& recording) {
   facts.diceFile = options.dice;
   Session.recording = &recording;
   Session.facts = &facts;
-  Session.startForScript = std::exchange(StartSessionForScript, StartSessionOfScript);
+  Session.startForScript = std::exchange(ScriptHost.StartSession, StartSessionOfScript);
   const auto began = std::chrono::steady_clock::now();
   ProgressBar progress(!options.quiet, StepsToDo() * options.sessions);
   Session.progress = &progress;

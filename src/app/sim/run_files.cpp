@@ -9,12 +9,12 @@
 #include "app/sim/failure.h"
 #include "base/fault.h"
 #include "base/file_io.h"
-#include "config/folders.h"
+#include "base/folders.h"
 #include "dice/roll_file.h"
-#include "engine/table.h"
-#include "files/events_log.h"
 #include "files/sessions_log.h"
-#include "stats/store.h"
+#include "log/events_log.h"
+#include "state/books.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 
@@ -151,8 +151,8 @@ void CheckSessionsLogs(const RunOptions& options) {
   std::vector<RunFile> files = FilesOf(options);
   ForEachPlayer([&files](int place) {
     // Whoever was at the table already may come with a log of his own elsewhere.
-    std::string& name = At(Table.SessionLogName, place);
-    name = DefaultSessionsLogName(At(Table.PlayerName, place));
+    std::string& name = Table.SessionLogName[place];
+    name = DefaultSessionsLogName(Table.PlayerName[place]);
     const RunFile log = {"sessions log", &name, true};
     RefuseUnwritable(log);
     RefuseDoubleUse(log, files);

@@ -5,7 +5,7 @@
 #include "app/sim/failure.h"
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
-#include "engine/table.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 

@@ -8,8 +8,8 @@
 #include "autobet/checker.h"
 #include "autobet/script_files.h"
 #include "base/message.h"
-#include "engine/table.h"
 #include "files/game_file.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 
@@ -23,7 +23,7 @@ int PlaceOf(const ScriptArgument& script) {
     throw Failure(CannotBeDone,
                   "There is no player at " + where + " for the script \"" + script.file + "\".");
   }
-  if (At(Scripts.ScriptActive, place) != 0) {
+  if (Scripts.ScriptActive[place] != 0) {
     throw Failure(CannotBeDone, "The player at " + where + " has a script already, so \"" +
                                     script.file + "\" cannot be his.");
   }
@@ -75,16 +75,15 @@ void LoadScripts(const std::vector<ScriptArgument>& scripts) {
 void ActivateSavedScripts() {
   ForEachPlayer([](int place) {
     if (At(GameFile.ScriptWasActive, place) == 0) return;
-    if (At(Scripts.Places, place).ScriptFile.empty()) {
-      throw Failure(CannotBeDone, At(Table.PlayerName, place) +
+    if (Scripts.Places[place].ScriptFile.empty()) {
+      throw Failure(CannotBeDone, Table.PlayerName[place] +
                                       "'s script, which was active when the game was saved, is not "
                                       "there any more.");
     }
     SetScriptActive(place, true);
   });
   ForEachPlayer([](int place) {
-    if (At(Scripts.ScriptActive, place) != 0)
-      RequireRunnable(place, At(Scripts.Places, place).ScriptFile);
+    if (Scripts.ScriptActive[place] != 0) RequireRunnable(place, Scripts.Places[place].ScriptFile);
   });
 }
 

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "app/sim/failure.h"
-#include "engine/players.h"
-#include "engine/rail.h"
-#include "engine/table.h"
+#include "play/players.h"
+#include "play/rail.h"
+#include "state/table.h"
 
 namespace tessarel::sim {
 
@@ -21,7 +21,7 @@ void CheckName(const std::string& name) {
 int OpenPlace(int wanted) {
   if (wanted != 0 && IsTaken(Table, wanted)) {
     throw Failure(CannotBeDone, "Place " + std::to_string(wanted) + " is taken by " +
-                                    At(Table.PlayerName, wanted) + ".");
+                                    Table.PlayerName[wanted] + ".");
   }
   for (int place = wanted != 0 ? wanted : 1; place <= LastPlace; ++place) {
     if (!IsTaken(Table, place)) return place;

@@ -1,5 +1,5 @@
 // The rail: for each place a plate and four check stacks, two and two in the grooves.
-#include "engine/table.h"
+#include "state/table.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/layout/layout_parts.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/layout/layout_parts.h"
 

@@ -10,7 +10,7 @@
 #include <array>
 #include <vector>
 
-#include "engine/bet_numbers.h"
+#include "state/bet_numbers.h"
 
 namespace tessarel {
 

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "base/number_format.h"
-#include "config/settings.h"
 #include "engine/check_stacks.h"
+#include "state/settings.h"
 #include "ui/paint/check_picture.h"
 #include "ui/paint/table_paint.h"
 #include "ui/text.h"

@@ -6,7 +6,7 @@
 #include <map>
 #include <tuple>
 
-#include "config/settings.h"
+#include "state/settings.h"
 #include "ui/paint/check_paint.h"
 #include "ui/paint/table_paint.h"
 #include "ui/text.h"

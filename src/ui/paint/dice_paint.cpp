@@ -7,7 +7,7 @@
 #include <numbers>
 #include <vector>
 
-#include "config/settings.h"
+#include "state/settings.h"
 #include "ui/paint/check_paint.h"
 #include "ui/paint/table_paint.h"
 

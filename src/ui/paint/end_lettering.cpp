@@ -1,5 +1,5 @@
 // Lettering of the two ends of the layout.
-#include "engine/table.h"
+#include "state/table.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/paint/felt_lettering.h"
 #include "ui/paint/table_paint.h"
@@ -134,7 +134,7 @@ QList<FieldNumber> FieldNumbers() {
     FieldNumber number{total, {}, {}};
     bool alike = true;
     for (int low = std::max(1, total - 6); 2 * low <= total; ++low) {
-      const PayoffRow& row = At(Payoffs.FieldPayoff, PairIndex(low, total - low));
+      const PayoffRow& row = Payoffs.FieldPayoff[PairIndex(low, total - low)];
       if (row.PayNum <= Money()) continue;
       const QString pays = PayText(row);
       alike = alike && (number.pays.isEmpty() || number.pays == pays);

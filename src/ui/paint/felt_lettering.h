@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QString>
 
-#include "config/payoffs.h"
+#include "state/payoffs.h"
 #include "ui/layout/table_layout.h"
 #include "ui/paint/lettering.h"
 

@@ -4,7 +4,7 @@
 
 #include "base/number_format.h"
 #include "config/payoff_editor.h"
-#include "engine/table.h"
+#include "state/table.h"
 #include "ui/paint/contrast.h"
 #include "ui/paint/felt_lettering.h"
 #include "ui/paint/table_paint.h"
@@ -63,7 +63,7 @@ QString PayText(const PayoffRow& row) {
 }
 
 QString PayText(int number) {
-  return PayText(At(Payoffs.Payoff, number));
+  return PayText(Payoffs.Payoff[number]);
 }
 
 QColor ColourOfBet(int number) {

@@ -1,7 +1,7 @@
 // Lettering, dice and lamps of the proposition field.
 #include <algorithm>
 
-#include "engine/table.h"
+#include "state/table.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/paint/contrast.h"
 #include "ui/paint/felt_lettering.h"
@@ -40,7 +40,7 @@ QPoint PairOf(int number) {
     return {face, face};
   }
   if (number >= bet::Hop13 && number <= bet::Hop55) {
-    const std::string_view faces = At(BetName, number).substr(4);
+    const std::string_view faces = BetName[number].substr(4);
     return {faces[0] - '0', faces[1] - '0'};
   }
   return {};

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "base/number_format.h"
-#include "config/language.h"
-#include "engine/table.h"
+#include "state/table.h"
+#include "texts/language.h"
 #include "ui/paint/check_paint.h"
 #include "ui/paint/check_picture.h"
 #include "ui/paint/table_paint.h"
@@ -147,7 +147,7 @@ void PaintPlayer(QPainter& painter, int place, const PlateRoom& room, const Plat
     name.setRight(dice.left());
   }
   const double units = room.lettering;
-  const QString shown = Fitted(Shown(At(Table.PlayerName, place)), name.width(), units, true);
+  const QString shown = Fitted(Shown(Table.PlayerName[place]), name.width(), units, true);
   PaintLine(painter, name, shown, style.ink, units, true);
   const bool negative = BankrollOf(place) < Money();
   PaintLine(painter, room.second, BankrollText(place, room.second.width(), units, negative),
@@ -170,7 +170,7 @@ void PaintOpen(
 
 void PaintStacks(QPainter& painter, int place, const TableLayout& layout, const RailLook& look) {
   for (int position = 1; position <= 4; ++position) {
-    const int number = At(At(Table.VisibleStack, place), position);
+    const int number = Table.VisibleStack[place][position];
     if (number < FirstStack || number >= FirstStack + StackCount) continue;
     PileLook pile;
     pile.diameter = 0.92 * CheckDiameter;

@@ -4,8 +4,8 @@
 #include <QLinearGradient>
 #include <QRadialGradient>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/paint/contrast.h"
 #include "ui/paint/felt_lettering.h"
@@ -270,7 +270,7 @@ void PaintRegionLight(QPainter& painter, const TableLayout& layout, int spot, bo
 }
 
 QColor ColourOfTable(int index) {
-  const int32_t value = At(Settings.TableColor, index);
+  const int32_t value = Settings.TableColor[index];
   return {value & 255, value >> 8 & 255, value >> 16 & 255};
 }
 

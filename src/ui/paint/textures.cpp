@@ -6,8 +6,8 @@
 #include <cmath>
 #include <vector>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -135,7 +135,7 @@ Texture MaterialOf(TexturedPart part) {
 }  // namespace
 
 Texture TextureInForce(TexturedPart part) {
-  const int number = At(Settings.TableTexture, static_cast<int>(part));
+  const int number = Settings.TableTexture[static_cast<int>(part)];
   if (number < 0 || number >= TextureCount) return Texture::PlainFelt;
   const Texture texture = static_cast<Texture>(number);
   return texture == Texture::OfThePart ? MaterialOf(part) : texture;

@@ -6,7 +6,7 @@
 #include <QRandomGenerator>
 #include <algorithm>
 
-#include "config/language.h"
+#include "texts/language.h"
 #include "ui/text.h"
 
 namespace tessarel {

@@ -12,8 +12,8 @@
 #include <QUrl>
 #include <algorithm>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/sound/sound_lists.h"
 #include "ui/text.h"
 

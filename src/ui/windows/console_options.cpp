@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/table.h"
 #include "files/game_views.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -20,13 +20,13 @@ constexpr std::array<QRgb, RollKinds> DefaultColors = {0xFFF1EDE2, 0xFFB3392F, 0
                                                        0xFF8DBB93, 0xFFAEC6E4, 0xFFF1EDE2};
 
 int32_t& ColorWord(RollKind kind) {
-  return At(GameViews.Display, FirstColorWord + static_cast<int>(kind));
+  return GameViews.Display[FirstColorWord + static_cast<int>(kind)];
 }
 
 }  // namespace
 
 ConsoleOptions ReadConsoleOptions() {
-  const int32_t word = At(GameViews.Display, DisplayWord);
+  const int32_t word = GameViews.Display[DisplayWord];
   ConsoleOptions options;
   if (word < 0 || word > (DisplayMask | NoRollCounter | NoHyperDriveButton | NoRandomButton)) {
     return options;
@@ -42,9 +42,9 @@ ConsoleOptions ReadConsoleOptions() {
 }
 
 void StoreConsoleOptions(const ConsoleOptions& options) {
-  At(GameViews.Display, DisplayWord) = options.Display | (options.RollCounter ? 0 : NoRollCounter) |
-                                       (options.HyperDriveButton ? 0 : NoHyperDriveButton) |
-                                       (options.RandomButton ? 0 : NoRandomButton);
+  GameViews.Display[DisplayWord] = options.Display | (options.RollCounter ? 0 : NoRollCounter) |
+                                   (options.HyperDriveButton ? 0 : NoHyperDriveButton) |
+                                   (options.RandomButton ? 0 : NoRandomButton);
 }
 
 RollKind KindOf(const RollPadCell& cell) {

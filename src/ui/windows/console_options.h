@@ -4,7 +4,7 @@
 
 #include <QColor>
 
-#include "automation/manual_roll.h"
+#include "play/manual_roll.h"
 
 namespace tessarel {
 

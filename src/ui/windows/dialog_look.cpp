@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "config/settings.h"
+#include "state/settings.h"
 #include "ui/windows/message_window.h"
 
 namespace tessarel {

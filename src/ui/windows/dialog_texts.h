@@ -1,7 +1,7 @@
 // Captions that several windows share.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::dialog_text {
 

@@ -2,8 +2,8 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "config/settings.h"
-#include "engine/table.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
 #include "ui/windows/roll_console.h"

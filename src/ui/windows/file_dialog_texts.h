@@ -1,7 +1,7 @@
 // The texts of the file dialog: the verb on its button for each action, and its captions.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::file_text {
 

@@ -6,9 +6,9 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "base/folders.h"
 #include "base/message.h"
-#include "config/folders.h"
-#include "engine/table.h"
+#include "state/table.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
 #include "ui/windows/dialog_texts.h"

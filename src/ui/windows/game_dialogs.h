@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
-#include "app/session.h"
 #include "engine/settle_prompt.h"
 #include "files/file_dialog.h"
+#include "play/session.h"
 
 namespace tessarel {
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-#include "config/language.h"
+#include "texts/language.h"
 #include "ui/program_folders.h"
 
 namespace tessarel {

@@ -1,7 +1,7 @@
 // Captions of the help window, in six languages.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::help_text {
 

@@ -18,7 +18,7 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "config/settings.h"
+#include "state/settings.h"
 #include "ui/text.h"
 #include "ui/windows/help_pages.h"
 #include "ui/windows/help_texts.h"

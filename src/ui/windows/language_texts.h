@@ -1,7 +1,7 @@
 // The texts of the list of languages.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::language_text {
 

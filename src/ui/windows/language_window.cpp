@@ -1,6 +1,6 @@
 #include <QListWidget>
 
-#include "config/settings.h"
+#include "state/settings.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
 #include "ui/windows/dialog_texts.h"

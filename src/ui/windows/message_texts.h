@@ -1,7 +1,7 @@
 // The texts of the message box itself; what it says comes from its callers.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::message_text {
 

@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "base/message.h"
-#include "config/settings.h"
-#include "engine/roll_pace.h"
-#include "engine/table.h"
+#include "play/roll_pace.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
 #include "ui/windows/dialog_texts.h"

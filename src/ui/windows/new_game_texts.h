@@ -1,7 +1,7 @@
 // The texts of the New dialog.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::new_game_text {
 

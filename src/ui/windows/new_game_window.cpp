@@ -1,7 +1,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
-#include "config/folders.h"
+#include "base/folders.h"
 #include "dice/roll_file.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"

@@ -6,8 +6,8 @@
 
 #include "base/clock.h"
 #include "base/number_format.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "state/books.h"
+#include "state/table.h"
 #include "ui/text.h"
 #include "ui/windows/small_window_texts.h"
 

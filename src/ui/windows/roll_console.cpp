@@ -16,11 +16,11 @@
 #include <array>
 #include <functional>
 
-#include "automation/auto_roll.h"
-#include "config/settings.h"
-#include "engine/roll_pace.h"
-#include "engine/table.h"
-#include "stats/store.h"
+#include "play/auto_roll.h"
+#include "play/roll_pace.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "stats/view_text.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"

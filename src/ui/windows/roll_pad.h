@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "automation/manual_roll.h"
+#include "play/manual_roll.h"
 
 namespace tessarel {
 

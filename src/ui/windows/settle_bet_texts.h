@@ -2,7 +2,7 @@
 // collides with those of the five buttons above these two, which stay English after a loss.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel::settle_text {
 

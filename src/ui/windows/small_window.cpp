@@ -3,8 +3,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include "engine/table.h"
 #include "files/game_views.h"
+#include "state/table.h"
 #include "ui/windows/roll_console.h"
 
 namespace tessarel {
@@ -14,7 +14,7 @@ namespace {
 enum PlaceWord : int { State, Left, Top, Width, Height };
 
 int32_t& WordAt(int slot, PlaceWord word) {
-  return At(GameViews.Windows, slot + word);
+  return GameViews.Windows[slot + word];
 }
 
 // Whether enough of a window's upper edge is on a screen to take hold of it.

@@ -1,7 +1,7 @@
 // The texts of the small windows over the table.
 #pragma once
 
-#include "config/language.h"
+#include "texts/language.h"
 
 namespace tessarel {
 

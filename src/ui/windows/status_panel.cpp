@@ -5,10 +5,10 @@
 #include <array>
 #include <vector>
 
-#include "config/language.h"
-#include "engine/table.h"
 #include "files/game_views.h"
+#include "state/table.h"
 #include "stats/status_box.h"
+#include "texts/language.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
 #include "ui/windows/roll_console.h"
@@ -127,8 +127,7 @@ void StatusPanel::Refresh() {
   blocks_.clear();
   QString spoken;
   ForEachPlayer([this, &spoken](int place) {
-    blocks_.push_back(
-        {place, place == Table.Shooter, At(Table.PlayerName, place), StatusBox(place)});
+    blocks_.push_back({place, place == Table.Shooter, Table.PlayerName[place], StatusBox(place)});
     spoken += Shown(blocks_.back().Name) + '\n';
     for (const StatusRow& row : blocks_.back().Rows)
       spoken += Shown(row.Caption + row.Value) + '\n';

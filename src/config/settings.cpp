@@ -1,7 +1,0 @@
-#include "config/settings.h"
-
-namespace tessarel {
-
-SettingsState Settings;
-
-}  // namespace tessarel

@@ -1,0 +1,223 @@
+#include "log/events_log.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <system_error>
+
+#include "base/fault.h"
+#include "base/folders.h"
+#include "base/single_byte_text.h"
+
+namespace tessarel {
+
+EventsLogState EventsLog;
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view RollStart = "Roll";
+constexpr int64_t PositionSize = 4;
+// Positions in the index are signed 32-bit numbers from 1, so no line may start behind this.
+constexpr int64_t LastPosition = std::numeric_limits<int32_t>::max();
+constexpr size_t BlockSize = 65536;
+
+constexpr std::array AllKinds = {
+    &EventsLogState::LogRolls,     &EventsLogState::LogBets,     &EventsLogState::LogCheckStacks,
+    &EventsLogState::LogShooters,  &EventsLogState::LogWins,     &EventsLogState::LogLosses,
+    &EventsLogState::LogDecisions, &EventsLogState::LogBankroll,
+};
+
+[[noreturn]] void RaiseFileAccess() {
+  throw Fault(FaultNumber::FileAccess, "Path/File access error");
+}
+
+std::ofstream OpenToAppend(const std::string& name) {
+  std::ofstream file(name, std::ios::binary | std::ios::app);
+  file.seekp(0, std::ios::end);
+  if (!file) RaiseFileAccess();
+  return file;
+}
+
+// Writes out what is buffered; a full disk shows here.
+void Close(std::ofstream& file) {
+  file.close();
+  if (!file) throw Fault(FaultNumber::DeviceFull, "Disk full");
+}
+
+void Remove(const std::string& name) {
+  std::error_code error;
+  std::filesystem::remove(name, error);
+  if (error) RaiseFileAccess();
+}
+
+// A position as it stands in the index.
+std::array<char, PositionSize> PositionBytes(int64_t position) {
+  if (position > LastPosition) RaiseOverflow();
+  std::array<char, PositionSize> bytes{};
+  for (size_t k = 0; k < bytes.size(); ++k)
+    bytes[k] = static_cast<char>(position >> (8 * k) & 0xFF);
+  return bytes;
+}
+
+// Walks over the bytes of a log in blocks of any size and finds where its lines start.
+class LineFinder {
+ public:
+  // Returns the index of the lines that start in the block; good until the next one.
+  std::string_view Take(std::string_view block) {
+    index_.clear();
+    for (size_t at = 0; at < block.size();) {
+      if (atLineStart_) StartLine(position_ + static_cast<int64_t>(at));
+      at = MatchRoll(block, at);
+      const size_t end = block.find('\n', at);
+      atLineStart_ = end != std::string_view::npos;
+      at = atLineStart_ ? end + 1 : block.size();
+    }
+    position_ += static_cast<int64_t>(block.size());
+    return index_;
+  }
+
+  int32_t LatestRoll() const { return latestRoll_; }
+
+ private:
+  void StartLine(int64_t position) {
+    const auto bytes = PositionBytes(position);
+    index_.append(bytes.data(), bytes.size());
+    ++lines_;
+    matched_ = 0;
+    matching_ = true;
+    atLineStart_ = false;
+  }
+
+  // Follows the blanks and the word that begin the line of a roll, which may lie across two blocks.
+  size_t MatchRoll(std::string_view block, size_t at) {
+    for (; matching_ && at < block.size(); ++at) {
+      if (matched_ == 0 && block[at] == ' ') continue;
+      if (block[at] != RollStart[matched_]) {
+        matching_ = false;
+        break;
+      }
+      if (++matched_ == RollStart.size()) {
+        latestRoll_ = lines_;
+        matching_ = false;
+      }
+    }
+    return at;
+  }
+
+  std::string index_;
+  int64_t position_ = 1;
+  int32_t lines_ = 0, latestRoll_ = 0;
+  bool atLineStart_ = true, matching_ = false;
+  size_t matched_ = 0;
+};
+
+// Reads the log through and writes its index to the file `indexName`. Answers with the number of
+// the latest line of a roll.
+int32_t IndexLog(const std::string& indexName) {
+  std::ifstream log(EventsLogPath(), std::ios::binary);
+  if (!log) throw Fault(FaultNumber::FileNotFound, "File not found");
+  std::ofstream index(indexName, std::ios::binary | std::ios::trunc);
+  if (!index) RaiseFileAccess();
+  LineFinder finder;
+  std::string block(BlockSize, '\0');
+  while (log.read(block.data(), static_cast<std::streamsize>(block.size())), log.gcount() > 0) {
+    index << finder.Take(std::string_view(block).substr(0, static_cast<size_t>(log.gcount())));
+  }
+  if (log.bad()) RaiseFileAccess();
+  Close(index);
+  return finder.LatestRoll();
+}
+
+}  // namespace
+
+std::string DefaultEventLogName() {
+  return Folders.AppFolder + "Events Log.txt";
+}
+
+std::string EventsIndexName() {
+  return Folders.AppFolder + "Events Log.ref";
+}
+
+std::string EventsLogPath() {
+  return EventsLog.EventLogName.empty() ? DefaultEventLogName() : EventsLog.EventLogName;
+}
+
+bool IsRollLine(std::string_view line) {
+  const size_t start = line.find_first_not_of(' ');
+  return start != std::string_view::npos && line.substr(start).starts_with(RollStart);
+}
+
+bool EventsLogExists() {
+  std::error_code error;
+  return std::filesystem::exists(EventsLogPath(), error);
+}
+
+void WriteEvent(std::string_view line) {
+  const std::string indexName = EventsIndexName();
+  std::ofstream index = OpenToAppend(indexName);
+  std::ofstream log = OpenToAppend(EventsLogPath());
+  const int64_t indexSize = index.tellp();
+  const int64_t lines = indexSize / PositionSize;
+  // A record that was cut off in the middle gives way to the new one.
+  if (indexSize % PositionSize != 0) {
+    std::error_code error;
+    std::filesystem::resize_file(indexName, static_cast<uintmax_t>(lines * PositionSize), error);
+    if (error) RaiseFileAccess();
+  }
+  const auto position = PositionBytes(static_cast<int64_t>(log.tellp()) + 1);
+  index.write(position.data(), position.size());
+  log << ToSingleByte(line) << LineEnd;
+  Close(index);
+  Close(log);
+  if (EventsLog.KeepLatestRollOnTop != 0 && IsRollLine(line)) {
+    EventsLog.LatestRollLine = static_cast<int32_t>(lines + 1);
+  }
+}
+
+void WriteSection(std::string_view heading) {
+  if (EventsLog.SectionHeading == heading) return;
+  WriteEvent(heading);
+  EventsLog.SectionHeading = heading;
+}
+
+void EndSections() {
+  EventsLog.SectionHeading.clear();
+}
+
+void SelectAllEvents(bool on) {
+  for (const auto kind : AllKinds)
+    EventsLog.*kind = on ? -1 : 0;
+}
+
+void ClearEventsLog() {
+  Remove(EventsIndexName());
+  Remove(EventsLogPath());
+  EventsLog.LatestRollLine = 0;
+  EndSections();
+}
+
+void IndexEventsLog() {
+  if (EventsLogExists()) return RebuildEventsIndex();
+  Remove(EventsIndexName());
+  EventsLog.LatestRollLine = 0;
+}
+
+void RebuildEventsIndex() {
+  // The new index replaces the old one only when it is whole.
+  const std::string unfinished = EventsIndexName() + ".tmp";
+  try {
+    EventsLog.LatestRollLine = IndexLog(unfinished);
+  } catch (const Fault&) {
+    std::remove(unfinished.c_str());
+    throw;
+  }
+  std::error_code error;
+  std::filesystem::rename(unfinished, EventsIndexName(), error);
+  if (error) RaiseFileAccess();
+}
+
+}  // namespace tessarel

@@ -1,0 +1,113 @@
+#include "play/auto_roll.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "autobet/values.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/money.h"
+#include "engine/unattended.h"
+#include "play/roll_driver.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/language.h"
+#include "texts/roll_texts.h"
+
+namespace tessarel {
+
+namespace {
+
+// Numbers of the general text table.
+constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114, StartAutoRollText = 115,
+              AutoRollActiveText = 117, AutoBetActiveText = 121, StopAutoBettingText = 145,
+              RollDelayText = 155;
+
+constexpr Money LongestDelay = 300;  // seconds
+
+constexpr SixTexts Interrupted = {
+    "Auto-betting interrupted.",         "Apuestas automáticas interrumpidas.",
+    "Automatisches Wetten abgebrochen.", "Mises automatiques interrompues.",
+    "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
+
+bool Runs() {
+  return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
+}
+
+void Start(UnattendedMode mode) {
+  if (Runs() || Table.RollInProgress != 0) return;
+  Table.AutoRollOn = -1;
+  Table.HyperDriveOn = mode == UnattendedMode::HyperDrive ? -1 : 0;
+  FrontEnd.DrawStatus();
+  MakeRoll();
+  StopUnattended();
+}
+
+// The number that the user types over the present one.
+std::optional<Money> AskForNumber(std::string_view question, std::string_view title, Money now) {
+  if (!AskForText(std::string(question), std::string(title), PlainText(now), help::AutoRoll))
+    return std::nullopt;
+  return ParseTypedMoney(Message.MsgInput);
+}
+
+}  // namespace
+
+void ToggleAutoRoll(UnattendedMode mode) {
+  Runs() ? StopAutoRoll() : Start(mode);
+}
+
+void StartAutoRoll() {
+  Start(UnattendedMode::AutoRoll);
+}
+
+void StartHyperDrive() {
+  Start(UnattendedMode::HyperDrive);
+}
+
+void StopAutoRoll() {
+  StopUnattended();
+}
+
+std::string_view HyperDriveCaption() {
+  return GetText(Table.HyperDriveOn != 0 ? HyperDriveActiveText : StartHyperDriveText);
+}
+
+std::string_view AutoRollCaption() {
+  const bool active = Table.AutoRollOn != 0 && Table.HyperDriveOn == 0;
+  return GetText(active ? AutoRollActiveText : StartAutoRollText);
+}
+
+void AskSetAutoStop() {
+  const auto rolls = AskForNumber(Localized(RollTexts.AskAutoStop),
+                                  Localized(RollTexts.AutoStopTitle), Settings.AutoStopRolls);
+  if (!rolls) return;
+  Settings.AutoStopRolls = Money::FromWhole(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
+}
+
+void AskSetTimeDelay() {
+  const auto delay =
+      AskForNumber(GetText(RollDelayText), GetTitle(TitleAutoRollDelay), Settings.RollDelay);
+  if (delay) Settings.RollDelay = std::clamp(*delay, Money(), LongestDelay);
+}
+
+bool ConfirmScriptActive() {
+  if (AutoBet.ScriptRunning == 0) return true;
+  const std::string question =
+      std::string(GetText(StopAutoBettingText)) + "\r\r" +
+      FillIn(RollTexts.ScriptProcessing, {Table.PlayerName[AutoBet.CurrentScriptPlayer]});
+  const int32_t answer = ShowMessage(question, std::string(GetText(AutoBetActiveText)),
+                                     msg::AskNoDefault, help::BettingSystems);
+  if (answer != AnswerYes) return false;
+  InterruptAutoBetting();
+  return true;
+}
+
+void InterruptAutoBetting() {
+  AutoBet.ScriptRunning = 0;
+  AutoBet.AutoBetMessageStop = -1;
+  if (Table.HyperDriveOn != 0) Table.StopReason = Localized(Interrupted);
+  StopUnattended();
+}
+
+}  // namespace tessarel

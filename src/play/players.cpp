@@ -1,0 +1,183 @@
+#include "play/players.h"
+
+#include <string_view>
+
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/number_format.h"
+#include "engine/bets.h"
+#include "engine/seats.h"
+#include "engine/unattended.h"
+#include "files/sessions_log.h"
+#include "log/event_lines.h"
+#include "state/books.h"
+#include "state/settings.h"
+#include "state/table.h"
+#include "texts/language.h"
+#include "texts/rail_texts.h"
+#include "texts/roll_texts.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr std::string_view LimitText = "9,999,999";
+
+const std::string& NameOf(int place) {
+  return Table.PlayerName[place];
+}
+
+// The next place in the direction the dice travel.
+constexpr int NextShooterPlace(int place) {
+  return place > 1 ? place - 1 : LastPlace;
+}
+
+void TellPassing(PassReason reason, std::string text) {
+  const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
+  if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
+  ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::OkAlert, help::Players);
+}
+
+// The first place after the shooter's that `qualifies` accepts; 0 when none does.
+template <class Qualifies>
+int FindShooter(Qualifies&& qualifies) {
+  int place = Table.Shooter;
+  for (int step = 1; step < LastPlace; ++step) {
+    place = NextShooterPlace(place);
+    if (IsTaken(Table, place) && qualifies(place)) return place;
+  }
+  return 0;
+}
+
+// Whether a player could shoot now: with the point on he may need a line bet he cannot make.
+bool MayShoot(int place) {
+  return Settings.AllowPutBets != 0 || Settings.BetNeededToShoot != 1 || Table.Point == 0 ||
+         HasLineBet(place);
+}
+
+void GiveDice(int place) {
+  Table.Shooter = place;
+  if (RollsInHand() == 0) Table.LastShooter = place;
+}
+
+void PassAmongNone(PassReason reason) {
+  Table.Shooter = Table.LastShooter = 0;
+  TellPassing(reason, LocalizedText(RailTexts.NoPlayers));
+}
+
+void PassWithOnePlayer(PassReason reason) {
+  TellPassing(reason, LocalizedText(RailTexts.NoOtherPlayers));
+  if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
+}
+
+std::string NobodyShootsText(int blocked) {
+  if (blocked == 1) return LocalizedText(RailTexts.OneBlocked);
+  if (blocked > 1) return FillIn(RailTexts.ManyBlocked, {std::to_string(blocked)});
+  const bool oneOther = Table.PlayerCount == 2 && Table.Shooter != 0;
+  const int other = oneOther ? FindShooter([](int) { return true; }) : 0;
+  return other != 0 ? FillIn(RailTexts.OtherDeclines, {NameOf(other)})
+                    : LocalizedText(RailTexts.AllDecline);
+}
+
+void PassToNobody(PassReason reason, int blocked) {
+  TellPassing(reason, NobodyShootsText(blocked));
+  if (reason == PlayerLeft) {
+    GiveDice(FindShooter([](int) { return true; }));
+  }
+}
+
+// The dice go on in the middle of a hand, which stays credited to who started it.
+void TellOfPassedHand(PassReason reason, int from, int to) {
+  if (RollsInHand() == 0) return;
+  const SixTexts& text = to == Table.LastShooter ? RailTexts.PassingBack : RailTexts.PassingOn;
+  TellPassing(reason, FillIn(text, {NameOf(from), NameOf(to)}));
+  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+}
+
+}  // namespace
+
+std::optional<Money> AskBankroll(const std::string& question,
+                                 const std::string& title,
+                                 const std::string& offered) {
+  std::string text = question, shown = offered;
+  while (AskForText(text, title, shown, help::Players)) {
+    shown = Message.MsgInput;
+    const std::optional<Money> amount = ParseTypedMoney(shown);
+    if (amount && Abs(*amount) <= BankrollLimit) return amount;
+    const bool tooLow = amount && *amount < Money();
+    text = std::string(GetText(tooLow ? 11 : 10)) + (tooLow ? "-$" : "$") +
+           FormatMoney(BankrollLimit) + "\r\r" + question;
+  }
+  return std::nullopt;
+}
+
+void SeatPlayer(int place, const std::string& name, Money bankroll) {
+  SetPlayerName(place, name);
+  ClearPlayerStats(place);
+  BeginBankroll(place + AllSessions, bankroll);
+  SetBankroll(place, bankroll);
+  Table.BankrollInitAmount[place] = bankroll;
+  Table.SessionLogName[place] = DefaultSessionsLogName(name);
+  OpenPlaceDefaults(place);
+  if (Table.Shooter == 0) Table.Shooter = Table.LastShooter = place;
+  LogPlayerJoined(place, bankroll);
+}
+
+void ShowPassedDiceNote() {
+  if (Table.Shooter == 0) return;
+  const bool handBefore = Stats.RollCount[LastHand][0] > 0;
+  std::string text;
+  if (RollsInHand() > 0 && Table.Shooter != Table.LastShooter) {
+    const std::string& shooter = NameOf(Table.Shooter);
+    text = Table.LastShooter == 0
+               ? FillIn(RailTexts.HandOfGonePlayer, {shooter})
+               : FillIn(RailTexts.HandOfOther, {shooter, NameOf(Table.LastShooter)});
+  } else if (RollsInHand() == 0 && handBefore && Table.PreviousShooter == 0) {
+    text = LocalizedText(RailTexts.LastHandOfGonePlayer);
+  }
+  if (!text.empty())
+    ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::Ok, help::Players);
+}
+
+void PassDice(PassReason reason) {
+  if (Table.PlayerCount == 0) return PassAmongNone(reason);
+  if (Table.PlayerCount == 1) return PassWithOnePlayer(reason);
+  int blocked = 0;
+  const int next = FindShooter([&blocked](int place) {
+    if (Table.DeclinesDice[place] != 0) return false;
+    if (!MayShoot(place)) ++blocked;
+    return MayShoot(place);
+  });
+  if (next == 0) return PassToNobody(reason, blocked);
+  const int from = Table.Shooter;
+  if (reason == PlayerAsked) LogDicePassed(next);
+  Table.Shooter = next;
+  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  TellOfPassedHand(reason, from, next);
+  if (RollsInHand() == 0) Table.LastShooter = next;
+}
+
+void BankrollLimitStop(int place) {
+  const std::string reset = LocalizedText(RollTexts.ResetTable);
+  const bool gone = !IsTaken(Table, place);
+  const bool negative = BankrollOf(place) <= Money();
+  const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };
+  if (Table.HyperDriveOn != 0) {
+    const SixTexts& text = negative ? RailTexts.StoppedBelowLimit : RailTexts.StoppedAboveLimit;
+    Table.StopReason = gone ? reset : withReset(FillIn(text, {LimitText}));
+  } else if (gone) {
+    ShowMessage(reset, "", msg::OkAlert, help::NewSession);
+  } else if (negative) {
+    ShowMessage(withReset(FillIn(RailTexts.BelowLimit, {NameOf(place), LimitText})), "",
+                msg::OkAlert, help::NewSession);
+  } else {
+    const bool first = Table.BankrollStopPlace == 0;
+    if (first && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::LimitBroken);
+    ShowMessage(withReset(FillIn(RailTexts.AboveLimit, {NameOf(place), LimitText})), "", msg::Ok,
+                help::NewSession);
+  }
+  StopUnattended();
+  Table.BankrollStopPlace = place;
+}
+
+}  // namespace tessarel

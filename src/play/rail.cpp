@@ -1,0 +1,202 @@
+#include "play/rail.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "autobet/player_name.h"
+#include "base/folders.h"
+#include "base/front_end.h"
+#include "base/message.h"
+#include "base/number_format.h"
+#include "base/single_byte_text.h"
+#include "base/trap.h"
+#include "engine/bet_refusals.h"
+#include "engine/seats.h"
+#include "files/sessions_commands.h"
+#include "files/sessions_log.h"
+#include "log/event_lines.h"
+#include "play/players.h"
+#include "state/books.h"
+#include "state/place_fields.h"
+#include "state/scripts.h"
+#include "state/table.h"
+#include "stats/selection.h"
+#include "texts/language.h"
+#include "texts/rail_texts.h"
+
+namespace tessarel {
+
+namespace {
+
+constexpr const char* UsualBuyIn = "1000";
+// The name of a player's sessions log, which holds his, is one that every disk takes.
+constexpr size_t MostNameCharacters = 60;
+
+std::string Text(int id) {
+  return std::string(GetText(id));
+}
+
+// Asks `question` until the answer is a name that can be given; empty when the user gives up.
+std::string AskName(const std::string& question, const std::string& title, int place) {
+  std::string text = question;
+  const std::string before = place == 0 ? "" : Table.PlayerName[place];
+  std::string offered = before;
+  while (AskForText(text, title, offered, help::Players)) {
+    const std::string name(TrimSpaces(Message.MsgInput));
+    if (name.empty() || name == before) return "";
+    offered = name;
+    if (ToSingleByte(name).size() > MostNameCharacters) {
+      const std::string most = std::to_string(MostNameCharacters);
+      text = FillIn(RailTexts.NameTooLong, {most}) + "\r\r" + question;
+    } else if (const auto taken = NameRefusal(name, place)) {
+      text = *taken + "\r\r" + question;
+    } else if (const auto reserved = PlayerNameRefusal(name)) {
+      text = *reserved + question;
+    } else {
+      return name;
+    }
+  }
+  return "";
+}
+
+// A bet that its player cannot take back, with the part of it that stays.
+struct AbandonedBet {
+  int number;
+  Money amount;
+};
+
+std::vector<AbandonedBet> AbandonedBets(int place) {
+  std::vector<AbandonedBet> bets;
+  Table.Standing[place].ForEach([&](int number) {
+    const Money amount = std::min(HeldContract(place, number), Bet(place, number));
+    if (amount > Money()) bets.push_back({number, amount});
+  });
+  return bets;
+}
+
+Money Total(const std::vector<AbandonedBet>& bets) {
+  Money total;
+  for (const AbandonedBet& bet : bets)
+    total += bet.amount;
+  return total;
+}
+
+// "an active Pass Line bet and 2 active Come bets "
+std::string ListOf(const std::vector<AbandonedBet>& bets) {
+  const auto isCome = [](const AbandonedBet& bet) { return InFamily(bet.number, ComeFamily); };
+  const auto comes = std::count_if(bets.begin(), bets.end(), isCome);
+  std::vector<std::string> parts;
+  for (const AbandonedBet& bet : bets) {
+    if (comes > 1 && isCome(bet)) continue;
+    parts.push_back(FillIn(GetText(20), BetName[bet.number]));
+  }
+  if (comes > 1) {
+    parts.push_back(std::to_string(comes) + FillIn(GetText(23), BetName[bet::Come]));
+  }
+  std::string list = parts.front();
+  for (size_t k = 1; k < parts.size(); ++k)
+    list += Text(21) + parts[k];
+  return list;
+}
+
+bool ConfirmRemoval(int place, const std::vector<AbandonedBet>& abandoned) {
+  const std::string& name = Table.PlayerName[place];
+  std::string text = Text(18) + name + "?";
+  if (!abandoned.empty()) {
+    text += "\r\r" + name + Text(19) + ListOf(abandoned) + Text(24) + "\r\r" + Text(25) +
+            FormatMoney(Total(abandoned));
+  }
+  return ShowMessage(text, Text(26), msg::AskNoDefault, help::Players) == AnswerYes;
+}
+
+void LoseAbandoned(int place, const std::vector<AbandonedBet>& bets) {
+  for (const AbandonedBet& bet : bets) {
+    RecordBetResult(place, bet.number, bet.amount, -bet.amount);
+    SetBankrollSlots(place, BankrollOf(place) - bet.amount);
+  }
+}
+
+void Follow(int32_t& place, int from, int to) {
+  if (place == from) place = to;
+}
+
+}  // namespace
+
+std::optional<std::string> NameRefusal(const std::string& name, int place) {
+  for (int other = 1; other <= LastPlace; ++other) {
+    if (other != place && IsTaken(Table, other) &&
+        EqualIgnoringCase(Table.PlayerName[other], name)) {
+      return Text(6) + name;
+    }
+  }
+  if (name.find_first_not_of("0123456789") == std::string::npos) return Text(7);
+  return std::nullopt;
+}
+
+bool AddPlayer(int place) {
+  if (IsTaken(Table, place)) return false;
+  if (ShowMessage(Text(3), Text(5), msg::AskYesDefault, help::Players) != AnswerYes) return false;
+  const std::string name = AskName(Text(4), Text(5), 0);
+  if (name.empty()) return false;
+  const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
+  if (!buyIn) return false;
+  SeatPlayer(place, name, *buyIn);
+  Table.TableDirty = -1;
+  FrontEnd.DrawTable();
+  return true;
+}
+
+bool RenamePlayer(int place) {
+  if (!IsTaken(Table, place)) return false;
+  const std::string before = Table.PlayerName[place];
+  const std::string name = AskName(Text(13) + before, Text(14), place);
+  if (name.empty()) return false;
+  SetPlayerName(place, name);
+  Table.TableDirty = -1;
+  LogPlayerRenamed(before, name);
+  OfferToRenameSessionsLog(place);
+  FrontEnd.DrawTable();
+  return true;
+}
+
+bool DeletePlayer(int place, bool ask) {
+  if (!IsTaken(Table, place)) return false;
+  const std::vector<AbandonedBet> abandoned = AbandonedBets(place);
+  if (ask && !ConfirmRemoval(place, abandoned)) return false;
+  LoseAbandoned(place, abandoned);
+  Table.TableDirty = -1;
+  LogCashOut(place, Total(abandoned));
+  Trapped("DeletePlayer", [place] { WriteSession(place); });
+  ClearPlace(place);
+  FollowInViews(place, 0);
+  Follow(Table.LastShooter, place, 0);
+  Follow(Table.PreviousShooter, place, 0);
+  if (Table.Shooter == place) PassDice(PlayerLeft);
+  FrontEnd.DrawTable();
+  return true;
+}
+
+bool MovePlayer(int from, int to) {
+  if (!IsTaken(Table, from) || IsTaken(Table, to) || to < 1 || to > LastPlace) return false;
+  ForEachPlaceField([&](auto& array) { std::swap(At(array, from), At(array, to)); });
+  ForEachSlotField([&](auto& array) {
+    for (int scope = 0; scope < SlotCount; scope += SlotsInScope) {
+      std::swap(At(array, from + scope), At(array, to + scope));
+    }
+  });
+  for (auto& bankrolls : Table.GraphBankroll)
+    std::swap(At(bankrolls, from), At(bankrolls, to));
+  for (int32_t* place :
+       {&Table.Shooter, &Table.LastShooter, &Table.PreviousShooter, &Table.BankrollStopPlace}) {
+    Follow(*place, from, to);
+  }
+  FollowInViews(from, to);
+  Scripts.ProgramReady = false;
+  Table.TableDirty = -1;
+  RebuildDerived();
+  LogPlayerMoved(to);
+  FrontEnd.DrawTable();
+  return true;
+}
+
+}  // namespace tessarel

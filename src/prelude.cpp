@@ -1,0 +1,1 @@
+// Compiles the headers that every floor shares; see CMakeLists.txt.

@@ -1,0 +1,7 @@
+#include "state/settings.h"
+
+namespace tessarel {
+
+SettingsState Settings;
+
+}  // namespace tessarel
