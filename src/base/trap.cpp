@@ -10,7 +10,7 @@ std::string FaultText(const Fault& fault, std::string_view place) {
 }
 
 void ReportFault(const Fault& fault, std::string_view place) {
-  ShowMessage(FaultText(fault, place), Message.ErrorTitle, msg::OkAlert);
+  ShowError(FaultText(fault, place));
 }
 
 }  // namespace tessarel

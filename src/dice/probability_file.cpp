@@ -14,7 +14,6 @@ namespace tessarel {
 namespace {
 
 constexpr std::string_view FormatLine = "Tessarel Probability File, Data Format 4.6";
-constexpr int ErrorTitleText = 37;
 constexpr size_t LargestFile = 1 << 20;
 
 // The matrix follows the record with the format line, and its last record is half used.
@@ -75,8 +74,7 @@ bool OpenProbabilityFile(const std::string& name) {
   if (!FileExists(path)) return false;
   const auto planes = MatrixOfBytes(ReadWholeFile(path, LargestFile));
   if (!planes) {
-    ShowMessage(FillIn(DiceTexts.NotAProbabilityFile, {path}), std::string(GetText(ErrorTitleText)),
-                msg::OkAlert);
+    ShowError(FillIn(DiceTexts.NotAProbabilityFile, {path}));
     return false;
   }
   Probability.ProbabilityMatrix = *planes;

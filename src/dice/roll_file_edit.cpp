@@ -131,7 +131,7 @@ bool PutOnClipboard(RollRange range) {
 bool PasteFrom(const std::string& path) {
   FlushRollFile();  // the open file may be pasted into itself
   if (!IsRollFile(path)) {
-    ShowMessage(FillIn(DiceTexts.NotARollFile, {path}), Message.ErrorTitle, msg::OkAlert);
+    ShowError(FillIn(DiceTexts.NotARollFile, {path}));
     return false;
   }
   InsertRolls([&path](const ByteSink& sink) {

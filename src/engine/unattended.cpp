@@ -12,7 +12,7 @@ void StopUnattended() {
   Table.AutoRollOn = Table.HyperDriveOn = false;
   if (!Table.StopReason.empty()) {
     ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert,
-                help::AutoRoll);
+                help::AutoRoll, MessageKind::RunStopped);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
+#include "files/file_dialog.h"
 #include "log/events_log.h"
 #include "log/events_log_reader.h"
 #include "stats/report.h"
@@ -45,7 +46,7 @@ void CopyLog(const std::string& from, const std::string& to) {
 
 // Where a log is to be copied to; empty when the user gives up.
 std::string AskForCopy(const std::string& log) {
-  const std::string name = FrontEnd.AskSaveFile(LocalizedText(FileTexts.SaveEventsLogAs), log);
+  const std::string name = FrontEnd.AskSaveFile(FileAction::SaveEventsLog, log);
   return name.empty() ? name : InFolder(Folders.EventsLogFolder, name);
 }
 

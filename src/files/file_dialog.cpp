@@ -211,15 +211,6 @@ std::string_view FileActionTitle(FileAction action) {
   return Localized(RowOf(action).title);
 }
 
-std::optional<FileAction> FileActionOfTitle(std::string_view title) {
-  for (const ActionRow& row : ActionRows) {
-    for (const std::string_view known : row.title) {
-      if (EqualIgnoringCase(known, title)) return row.action;
-    }
-  }
-  return std::nullopt;
-}
-
 bool SavesFile(FileAction action) {
   return RowOf(action).purpose == Purpose::Save;
 }

@@ -59,7 +59,7 @@ void NameGame(const std::string& path) {
 // --- Opening -----------------------------------------------------------------------------------
 
 void Refuse(const SixTexts& why, const std::string& path) {
-  ShowMessage(FillIn(why, {ShortName(path)}), Message.ErrorTitle, msg::OkAlert, help::Saving);
+  ShowError(FillIn(why, {ShortName(path)}), help::Saving);
 }
 
 bool IsGameFile(const RecordFile& file, const std::string& path) {

@@ -145,7 +145,7 @@ void TakeUpScript(int place, const HeldFile& file) {
     Tell(ScriptGone, path, name);
   } else if (!CanReadScript(place, path)) {
     NewScript(place);
-    ShowMessage(FillIn(FileTexts.ScriptUnreadable, {path, name}), Message.ErrorTitle, msg::OkAlert);
+    ShowError(FillIn(FileTexts.ScriptUnreadable, {path, name}));
   } else if (LastModifiedText(path) != file.Date) {
     Tell(ScriptChanged, path, name);
   }

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
+#include "files/file_dialog.h"
 #include "files/sessions_log.h"
 #include "state/books.h"
 #include "state/table.h"
@@ -21,8 +22,6 @@
 namespace tessarel {
 
 namespace {
-
-constexpr int ErrorTitleText = 37;
 
 // Runs a command, which tells whether it was done, for the player of a place, if there is one.
 template <class Command>
@@ -41,8 +40,7 @@ void Tell(const SixTexts& text, const SixTexts& title) {
 }
 
 void RefuseFile() {
-  ShowMessage(LocalizedText(FileTexts.NotASessionsLog), std::string(GetText(ErrorTitleText)),
-              msg::OkAlert);
+  ShowError(LocalizedText(FileTexts.NotASessionsLog));
 }
 
 // --- New logs ----------------------------------------------------------------------------------
@@ -57,12 +55,15 @@ bool AgreesToSessionInProgress(bool oneLog) {
 }
 
 // Whether a log may take this name: other players go on with theirs.
-bool MayTakeName(int place, const std::string& name, const SixTexts& title) {
+bool MayTakeName(int place, const std::string& name, FileAction dialog) {
   bool free = true;
   ForEachPlayer([&](int other) {
     if (other != place && IsSameFile(SessionsLogNameOf(other), name)) free = false;
   });
-  if (!free) Tell(FileTexts.LogOfAnotherPlayer, title);
+  if (!free) {
+    ShowMessage(LocalizedText(FileTexts.LogOfAnotherPlayer), std::string(FileActionTitle(dialog)),
+                msg::OkAlert);
+  }
   return free;
 }
 
@@ -70,8 +71,8 @@ bool MayTakeName(int place, const std::string& name, const SixTexts& title) {
 std::string MoveToChosenName(int place,
                              const std::string& from,
                              const std::string& offered,
-                             const SixTexts& dialog) {
-  const std::string chosen = FrontEnd.AskSaveFile(LocalizedText(dialog), offered);
+                             FileAction dialog) {
+  const std::string chosen = FrontEnd.AskSaveFile(dialog, offered);
   if (chosen.empty()) return "";
   const std::string to = InFolder(Folders.SessionsLogFolder, chosen);
   if (!MayTakeName(place, to, dialog)) return "";
@@ -87,7 +88,7 @@ bool MakesRoom(int place, const std::string& name) {
                   LocalizedText(FileTexts.SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
   if (answer == AnswerNo) return true;
   if (answer != AnswerYes) return false;
-  const std::string kept = MoveToChosenName(place, name, name, FileTexts.SaveSessionsLogAs);
+  const std::string kept = MoveToChosenName(place, name, name, FileAction::SaveSessionsLog);
   return !kept.empty() && !IsSameFile(kept, name);
 }
 
@@ -241,7 +242,7 @@ bool OfferToRenameSessionsLog(int place) {
       return false;
     }
     const std::string name = MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)),
-                                              FileTexts.RenameSessionsLog);
+                                              FileAction::RenameSessionsLog);
     if (name.empty()) return false;
     Table.SessionLogName[place] = name;
     return true;

@@ -257,7 +257,8 @@ bool AskToStopScripts() {
 bool SaveScript(int place) {
   const bool untitled = Scripts.Places[place].ScriptFile.empty();
   const std::string file =
-      untitled ? FrontEnd.AskSaveFile(Text(147), Table.PlayerName[place] + ".bet") : "";
+      untitled ? FrontEnd.AskSaveFile(FileAction::SaveScript, Table.PlayerName[place] + ".bet")
+               : "";
   if (untitled && file.empty()) return false;
   return Trapped("SaveScriptFile",
                  [&] { untitled ? SaveScriptFileAs(place, file) : SaveScriptFile(place); });
@@ -288,8 +289,7 @@ bool OfferToSaveMatrix() {
     case SaveChoice::SaveUnderItsName:
       return SaveMatrix(std::string(file));
     case SaveChoice::SaveUnderNewName:
-      return SaveMatrix(
-          FrontEnd.AskSaveFile(std::string(FileActionTitle(FileAction::SaveProbability)), file));
+      return SaveMatrix(FrontEnd.AskSaveFile(FileAction::SaveProbability, file));
     case SaveChoice::Cancel:
       return false;
     case SaveChoice::GoOn:
@@ -366,8 +366,7 @@ bool SaveGameInUse() {
 }
 
 bool SaveGameAs() {
-  const std::string title(FileActionTitle(FileAction::SaveSession));
-  return SaveGameTo(FrontEnd.AskSaveFile(title, GameFile.GameFileName));
+  return SaveGameTo(FrontEnd.AskSaveFile(FileAction::SaveSession, GameFile.GameFileName));
 }
 
 void StartUp(const std::string& appFolder) {

@@ -161,8 +161,8 @@ void MainWindow::FillFrontEnd() {
       ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert,
                   help::BettingSystems);
   };
-  FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
-    return AskFile(Main, FileActionOfTitle(title).value_or(FileAction::SaveSession), offered);
+  FrontEnd.AskSaveFile = [](FileAction action, const std::string& offered) {
+    return AskFile(Main, action, offered);
   };
   FrontEnd.StatusMilliseconds = 300;
 }

@@ -14,7 +14,6 @@
 #include "config/configuration.h"
 #include "engine/rules_fixture.h"
 #include "engine/settle_prompt.h"
-#include "files/file_dialog.h"
 #include "play/roll_driver.h"
 #include "state/settings.h"
 #include "state/table.h"
@@ -113,24 +112,6 @@ TEST(Texts, ShortcutsOfALostBetDiffer) {
     }
     EXPECT_EQ(letters.size(), 4U) << language;
   }
-}
-
-// Callers of AskSaveFile name the action by its title, which may be the general table's.
-TEST(Texts, TitlesNameTheirActionInEveryLanguage) {
-  std::map<std::string, FileAction> known;
-  for (int32_t language = 0; language < LanguageCount; ++language) {
-    SetLanguage(language);
-    for (int number = 0; number < FileActionCount; ++number) {
-      const auto action = static_cast<FileAction>(number);
-      const std::string title(FileActionTitle(action));
-      EXPECT_EQ(FileActionOfTitle(title), action) << title;
-      EXPECT_EQ(known.emplace(title, action).first->second, action) << title;
-    }
-    EXPECT_EQ(FileActionOfTitle(GetText(140)), FileAction::SaveSession);
-    EXPECT_EQ(FileActionOfTitle(GetText(147)), FileAction::SaveScript);
-    EXPECT_EQ(FileActionOfTitle(GetText(148)), FileAction::SaveProbability);
-  }
-  SetLanguage(English);
 }
 
 // A table with Ann, whose messages are kept.

@@ -18,7 +18,6 @@
 #include "base/single_byte_text.h"
 #include "engine/settle_prompt.h"
 #include "state/scripts.h"
-#include "texts/roll_texts.h"
 
 namespace tessarel::sim {
 
@@ -69,8 +68,8 @@ void TakeAnswer() {
 
 // Why the Hyper-Drive stopped is part of the result and no message.
 void ShowOnConsole() {
-  if (Message.MsgTitle == Localized(RollTexts.HyperDriveStopped)) return;
-  if (Message.MsgTitle == Message.ErrorTitle) {
+  if (Message.MsgKind == MessageKind::RunStopped) return;
+  if (Message.MsgKind == MessageKind::Error) {
     ++Console.faults;
     Console.lastFault = Message.MsgText;
   }
