@@ -1,10 +1,10 @@
 // The desktop program: sets the core up, shows the table and leaves in order.
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <cstdio>
 #include <string_view>
+#include "ui/trapped_application.h"
 
 #include "base/front_end.h"
 #include "files/hot_keys.h"
@@ -53,7 +53,7 @@ bool AnswersShell(int argc, char** argv) {
 int main(int argc, char** argv) {
   using namespace tessarel;
   if (AnswersShell(argc, argv)) return 0;
-  QApplication application(argc, argv);
+  TrappedApplication application(argc, argv);
   QApplication::setApplicationName("Tessarel");
   QApplication::setDesktopFileName("tessarel");
   QApplication::setWindowIcon(ProgramIcon());
