@@ -1,4 +1,5 @@
-// The window in which the dice are shown: both dice large, and the total called below them.
+#include "ui/windows/dice_window.h"
+
 #include <QPainter>
 #include <algorithm>
 
@@ -6,8 +7,6 @@
 #include "state/table.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
-#include "ui/windows/roll_console.h"
-#include "ui/windows/small_window.h"
 #include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
@@ -39,34 +38,28 @@ QString NoteOnTotal() {
   }
 }
 
-class DiceWindow : public FloatingWindow {
- public:
-  explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
-    setObjectName("frmDice");
-    Refresh();
-  }
-  void Refresh() override {
-    setWindowTitle(Shown(DiceTitle));
-    setAccessibleDescription(DiceCall());
-    update();
-  }
-  void SetPhase(double phase) {
-    phase_ = std::clamp(phase, 0.0, 1.0);
-    update();
-  }
-  QSize sizeHint() const override { return {280, 200}; }
-  QSize minimumSizeHint() const override { return {180, 130}; }
+}  // namespace
 
- protected:
-  void paintEvent(QPaintEvent* event) override;
+QString DiceCall() {
+  const QString note = NoteOnTotal();
+  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
+}
 
- private:
-  void PaintFelt(QPainter& painter) const;
-  void PaintBothDice(QPainter& painter, const QRectF& area) const;
-  void PaintCall(QPainter& painter, const QRectF& area) const;
+DiceWindow::DiceWindow(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+  setObjectName("frmDice");
+  Refresh();
+}
 
-  double phase_ = 1;
-};
+void DiceWindow::Refresh() {
+  setWindowTitle(Shown(DiceTitle));
+  setAccessibleDescription(DiceCall());
+  update();
+}
+
+void DiceWindow::SetPhase(double phase) {
+  phase_ = std::clamp(phase, 0.0, 1.0);
+  update();
+}
 
 void DiceWindow::PaintFelt(QPainter& painter) const {
   const QColor felt = FeltColor();
@@ -121,21 +114,6 @@ void DiceWindow::paintEvent(QPaintEvent*) {
   }
   PaintBothDice(painter, area.adjusted(0, 0, 0, -callHeight));
   if (phase_ == 1) PaintCall(painter, call);
-}
-
-}  // namespace
-
-QString DiceCall() {
-  const QString note = NoteOnTotal();
-  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
-}
-
-QWidget* MakeDiceWindow(QWidget* parent) {
-  return new DiceWindow(parent);
-}
-
-void ShowThrow(QWidget* diceWindow, double phase) {
-  if (auto* window = dynamic_cast<DiceWindow*>(diceWindow)) window->SetPhase(phase);
 }
 
 }  // namespace tessarel

@@ -11,8 +11,6 @@
 
 namespace tessarel {
 
-NewGameChoicesState NewGameChoices;
-
 namespace {
 
 // How a roll file goes on "as it is": the words of what it does now.
@@ -27,23 +25,23 @@ QString GoingOnCaption() {
 
 class NewGameWindow : public QDialog {
  public:
-  explicit NewGameWindow(QWidget* parent) : QDialog(parent) {
+  NewGameWindow(QWidget* parent, NewGameChoices& choices) : QDialog(parent), choices_(choices) {
     setObjectName(QStringLiteral("frmNew"));
     DressWindow(*this, Shown(new_game_text::Title));
     QVBoxLayout* const column = MakeColumn(*this);
     column->addWidget(MakeHeading(Shown(new_game_text::Question)));
     column->addSpacing(LookStep(1));
-    const NewGameChoicesState& last = NewGameChoices;
     using namespace new_game_text;
     chkPreserveCheckstacks_ =
-        AddBox(column, "chkPreserveCheckstacks", Checkstacks, last.PreserveCheckstacks);
+        AddBox(column, "chkPreserveCheckstacks", Checkstacks, choices_.PreserveCheckstacks);
     chkPreservePrevSessions_ =
-        AddBox(column, "chkPreservePrevSessions", PrevSessions, last.PreservePrevSessions);
+        AddBox(column, "chkPreservePrevSessions", PrevSessions, choices_.PreservePrevSessions);
     chkPreserveSessionsLogs_ =
-        AddBox(column, "chkPreserveSessionsLogs", SessionsLogs, last.PreserveSessionsLogs);
-    chkPreserveAutoBets_ = AddBox(column, "chkPreserveAutoBets", AutoBets, last.PreserveAutoBets);
+        AddBox(column, "chkPreserveSessionsLogs", SessionsLogs, choices_.PreserveSessionsLogs);
+    chkPreserveAutoBets_ =
+        AddBox(column, "chkPreserveAutoBets", AutoBets, choices_.PreserveAutoBets);
     chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", new_game_text::RollFile,
-                                      last.PreserveDiceRollFile);
+                                      choices_.PreserveDiceRollFile);
     AddRollFileUses(column);
     QHBoxLayout* const row = AddButtonRow(column);
     QPushButton* const cmdOK = AddButton(row, Shown(Start), [this] { accept(); });
@@ -55,13 +53,13 @@ class NewGameWindow : public QDialog {
 
   // What is chosen of a roll file stays as it was when none is open.
   void KeepChoices() const {
-    NewGameChoices.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
-    NewGameChoices.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
-    NewGameChoices.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
-    NewGameChoices.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
+    choices_.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
+    choices_.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
+    choices_.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
+    choices_.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
     if (!hasRollFile_) return;
-    NewGameChoices.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
-    NewGameChoices.Rewind = optRewind_->isChecked();
+    choices_.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
+    choices_.Rewind = optRewind_->isChecked();
   }
 
  private:
@@ -94,7 +92,7 @@ class NewGameWindow : public QDialog {
     auto* const uses = new QVBoxLayout;
     uses->setContentsMargins(LookStep(6), 0, 0, 0);
     uses->setSpacing(LookStep(2));
-    const bool rewinds = NewGameChoices.Rewind;
+    const bool rewinds = choices_.Rewind;
     optRewind_ = AddUse(uses, "optRewind", Shown(new_game_text::Rewind), rewinds);
     QRadioButton* const optContinue = AddUse(uses, "optContinue", GoingOnCaption(), !rewinds);
     column->addLayout(uses);
@@ -106,13 +104,14 @@ class NewGameWindow : public QDialog {
     QObject::connect(chkPreserveDiceRollFile_, &QCheckBox::toggled, this, enableUses);
   }
 
+  NewGameChoices& choices_;
   const bool hasRollFile_ = !tessarel::RollFile.RollFileName.empty();
   QCheckBox *chkPreserveCheckstacks_, *chkPreservePrevSessions_, *chkPreserveSessionsLogs_,
       *chkPreserveAutoBets_, *chkPreserveDiceRollFile_;
   QRadioButton* optRewind_;
 };
 
-NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
+NewGameAnswer AnswerOf(const NewGameChoices& choices) {
   NewGameAnswer answer;
   answer.keepScripts = choices.PreserveAutoBets;
   answer.options.keepSessions = choices.PreservePrevSessions ? 1 : 0;
@@ -127,11 +126,11 @@ NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
 
 }  // namespace
 
-std::optional<NewGameAnswer> AskNewGame(QWidget* parent) {
-  NewGameWindow window(parent);
+std::optional<NewGameAnswer> AskNewGame(QWidget* parent, NewGameChoices& choices) {
+  NewGameWindow window(parent, choices);
   if (RunDialog(window) != QDialog::Accepted) return std::nullopt;
   window.KeepChoices();
-  return AnswerOf(NewGameChoices);
+  return AnswerOf(choices);
 }
 
 }  // namespace tessarel

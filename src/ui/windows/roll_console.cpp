@@ -3,18 +3,12 @@
 #include <QActionGroup>
 #include <QColorDialog>
 #include <QContextMenuEvent>
-#include <QLabel>
-#include <QMenuBar>
 #include <QPainter>
 #include <QPointer>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QSlider>
 #include <QTimerEvent>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <array>
-#include <functional>
 
 #include "play/auto_roll.h"
 #include "play/roll_pace.h"
@@ -23,10 +17,6 @@
 #include "state/table.h"
 #include "stats/view_text.h"
 #include "ui/text.h"
-#include "ui/windows/console_options.h"
-#include "ui/windows/rate_meter.h"
-#include "ui/windows/roll_pad.h"
-#include "ui/windows/small_window.h"
 #include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
@@ -39,53 +29,7 @@ constexpr int LookMilliseconds = 250;  // between two looks at what may have cha
 // Numbers of the general text table.
 constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114;
 
-class RollConsole : public FloatingWindow {
- public:
-  explicit RollConsole(QWidget* parent);
-  ~RollConsole() override;
-  void Refresh() override;
-
- protected:
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
-  void timerEvent(QTimerEvent* event) override;
-
- private:
-  // What is looked at between two calls of Refresh.
-  struct Seen {
-    int32_t Rolls = -1, AutoRollOn = false, HyperDriveOn = false, Throttle = 0;
-    friend bool operator==(const Seen&, const Seen&) = default;
-  };
-
-  void AddDisplayMenu();
-  void AddColorMenu();
-  void AddRollMenu();
-  void LayOut();
-  QAction* AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option);
-  void Change(const std::function<void(ConsoleOptions&)>& change);
-  void PickColor(RollKind kind);
-  template <class Action>
-  void Run(Action action);
-  void RefreshCaptions();
-  void RefreshColorIcons();
-  void RefreshFigures();
-  void FitToDisplay();
-
-  QMenuBar* bar_;
-  QMenu *displayMenu_, *colorMenu_, *rollMenu_;
-  std::array<QAction*, RollPadDisplays> mnuRYONDisplay_{};
-  std::array<QAction*, RollKinds> mnuButtonColor_{};
-  QAction *mnuRollCounter_, *mnuHyperDriveButton_, *mnuRandomButton_, *mnuHide_, *defaultColors_;
-  QAction *rollAtRandom_, *hyperDrive_, *mnuSetAutoStop_, *mnuSetAutoRollTimeDelay_;
-  RollPad* pad_;
-  QLabel *hint_, *throttleCaption_, *throttleValue_, *lblRollCounter_;
-  QPushButton *cmdRandomRoll_, *cmdHyperDrive_;
-  QSlider* hsbThrottle_;
-  HyperDriveMeter* meter_;
-  QBasicTimer timer_;
-  Seen seen_;
-};
+}  // namespace
 
 RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
   setObjectName("frmRYON");
@@ -107,9 +51,10 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
   AddDisplayMenu();
   AddRollMenu();
   LayOut();
-  pad_->OnRoll = [this](Faces faces) { Run([faces] { RollChosen(faces); }); };
-  pad_->OnStop = [this] { Run(StopAutoRoll); };
-  pad_->OnHint = [this](const QString& hint) { hint_->setText(hint); };
+  connect(pad_, &RollPad::Chosen, this,
+          [this](Faces faces) { Run([faces] { RollChosen(faces); }); });
+  connect(pad_, &RollPad::StopChosen, this, [this] { Run(StopAutoRoll); });
+  connect(pad_, &RollPad::HintChanged, hint_, &QLabel::setText);
   connect(cmdRandomRoll_, &QPushButton::clicked, this, [this] { Run(RollAtRandom); });
   connect(cmdHyperDrive_, &QPushButton::clicked, this, [this] { Run([] { ToggleAutoRoll(); }); });
   connect(hsbThrottle_, &QSlider::valueChanged, this, [this](int position) {
@@ -122,9 +67,16 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
 
 // The pad may still lose the focus while the window below this one goes.
 RollConsole::~RollConsole() {
-  pad_->OnRoll = nullptr;
-  pad_->OnStop = nullptr;
-  pad_->OnHint = nullptr;
+  pad_->disconnect(this);
+}
+
+template <class Change>
+void RollConsole::ChangeOptions(Change change) {
+  ConsoleOptions options = ReadConsoleOptions();
+  change(options);
+  StoreConsoleOptions(options);
+  Refresh();
+  FitToDisplay();
 }
 
 void RollConsole::AddDisplayMenu() {
@@ -137,7 +89,7 @@ void RollConsole::AddDisplayMenu() {
     action->setCheckable(true);
     displays->addAction(action);
     connect(action, &QAction::triggered, this, [this, k] {
-      Change(
+      ChangeOptions(
           [k](ConsoleOptions& options) { options.Display = static_cast<RollPadDisplay>(k + 1); });
     });
   }
@@ -187,7 +139,7 @@ QAction* RollConsole::AddSwitch(QMenu* menu, const char* name, bool ConsoleOptio
   action->setObjectName(name);
   action->setCheckable(true);
   connect(action, &QAction::triggered, this, [this, option](bool on) {
-    Change([option, on](ConsoleOptions& options) { options.*option = on; });
+    ChangeOptions([option, on](ConsoleOptions& options) { options.*option = on; });
   });
   return action;
 }
@@ -217,14 +169,6 @@ void RollConsole::LayOut() {
   all->addLayout(buttons);
   all->addLayout(throttle);
   all->addLayout(figures);
-}
-
-void RollConsole::Change(const std::function<void(ConsoleOptions&)>& change) {
-  ConsoleOptions options = ReadConsoleOptions();
-  change(options);
-  StoreConsoleOptions(options);
-  Refresh();
-  FitToDisplay();
 }
 
 // The window takes the size that suits the display, at its upper left corner.
@@ -341,12 +285,6 @@ void RollConsole::hideEvent(QHideEvent*) {
 void RollConsole::timerEvent(QTimerEvent*) {
   const Seen now{RollsInSession(), Table.AutoRollOn, Table.HyperDriveOn, Settings.Throttle};
   if (now != seen_) RefreshFigures();
-}
-
-}  // namespace
-
-QWidget* MakeRollConsole(QWidget* parent) {
-  return new RollConsole(parent);
 }
 
 }  // namespace tessarel

@@ -5,7 +5,6 @@
 
 #include "files/game_views.h"
 #include "state/table.h"
-#include "ui/windows/roll_console.h"
 
 namespace tessarel {
 
@@ -71,14 +70,6 @@ void FloatingWindow::KeepPlace() const {
   WordAt(slot_, Top) = y();
   WordAt(slot_, Width) = width();
   WordAt(slot_, Height) = height();
-}
-
-void RefreshSmallWindow(QWidget* window) {
-  if (auto* small = dynamic_cast<SmallWindow*>(window)) small->Refresh();
-}
-
-void RestoreSmallWindow(QWidget* window) {
-  if (auto* floating = dynamic_cast<FloatingWindow*>(window)) floating->Restore();
 }
 
 }  // namespace tessarel

@@ -7,6 +7,7 @@
 namespace tessarel {
 
 class SmallWindow : public QWidget {
+  Q_OBJECT
  public:
   using QWidget::QWidget;
   // Shows the language, figures and settings now in force.
@@ -16,6 +17,7 @@ class SmallWindow : public QWidget {
 // A window that stays above its parent's. Shown, it stands where it was left, if that place is on a
 // screen; moved, resized, shown or hidden, it writes its words.
 class FloatingWindow : public SmallWindow {
+  Q_OBJECT
  public:
   // `slot` is the first of its five words: state, left, top, width, height.
   FloatingWindow(QWidget* parent, int slot);
