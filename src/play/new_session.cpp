@@ -140,7 +140,7 @@ void StartNewSession(const SessionOptions& options) {
   Table.GraphIndex = 0;
   BankrollGraph.GraphWidth = 150;
   BankrollGraph.GraphScrolledBack = 0;
-  Table.StopReason.clear();
+  Table.Stop = StopCause::None;
   if (Settings.ClearEventsLogOnNew) Attempt(ClearEventsLog);
   Table.LastShooter = Table.Shooter;
   Table.Point = Table.LastPoint = Table.PointBeforeLast = Table.LastDecidedPoint = 0;
