@@ -7,7 +7,7 @@
 #include "engine/bets.h"
 #include "play/auto_roll.h"
 #include "play/roll_pace.h"
-#include "play/session.h"
+#include "play/game_commands.h"
 #include "state/settings.h"
 #include "ui/main_menus.h"
 #include "ui/main_texts.h"

@@ -68,7 +68,7 @@ void BuyInCurrentPlayer() {
 void PassTheDice() {
   if (!MayChange()) return;
   Table.TableDirty = true;
-  PassDice(PlayerAsked);
+  GiveUpDice();
   FrontEnd.DrawTable();
 }
 

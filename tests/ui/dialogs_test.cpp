@@ -34,6 +34,22 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+// The page that the help shows; empty when it is not open.
+QString OpenHelpPage() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "frmHelp")
+      return window->findChild<QTextBrowser*>()->source().fileName();
+  }
+  return {};
+}
+
+void CloseHelp() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "frmHelp") window->close();
+  }
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 class DialogTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { ApplyCasinoStyle(); }
@@ -41,6 +57,7 @@ class DialogTest : public ::testing::Test {
   void TearDown() override { Reset(); }
 
   static void Reset() {
+    CloseHelp();
     Message = {};
     FrontEnd = {};
     FrontEnd.ShowMessage = [] { ShowMessageWindow(nullptr); };
@@ -182,22 +199,6 @@ TEST_F(DialogTest, InputAndListHandBackWhatWasChosenUnlessCancelled) {
     Press(cmbUser, Qt::Key_Return);
   });
   EXPECT_EQ(Message.MsgInput, "Çelik");
-}
-
-// The page that the help shows; empty when it is not open.
-QString OpenHelpPage() {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == "frmHelp")
-      return window->findChild<QTextBrowser*>()->source().fileName();
-  }
-  return {};
-}
-
-void CloseHelp() {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == "frmHelp") window->close();
-  }
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 TEST_F(DialogTest, HelpOpensFromF1OnATopicAndAfterTheBoxFromItsButton) {

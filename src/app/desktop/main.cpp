@@ -7,7 +7,7 @@
 
 #include "files/hot_keys.h"
 #include "play/roll_pace.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "ui/front_end_bridge.h"
 #include "ui/main_window.h"
 #include "ui/palette.h"
