@@ -2,7 +2,7 @@
 // program's allocation, which the address sanitizer does itself.
 #include <gtest/gtest.h>
 
-#ifndef __SANITIZE_ADDRESS__
+#ifndef TESSAREL_SANITIZE
 
 #include <cstdlib>
 #include <new>
