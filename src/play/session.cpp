@@ -30,7 +30,6 @@
 #include "files/events_log_view.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
-#include "files/game_views.h"
 #include "files/hot_keys.h"
 #include "files/sessions_log.h"
 #include "log/event_lines.h"
@@ -43,6 +42,7 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
@@ -212,7 +212,7 @@ void ResetModules() {
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
   GameFile = GameFileState{};
-  GameViews = GameViewsState{};
+  GameViews = ViewState{};
   Message = MessageState{};
 }
 
