@@ -17,7 +17,7 @@
 #include "engine/check_stacks.h"
 #include "play/auto_roll.h"
 #include "play/roll_pace.h"
-#include "play/session.h"
+#include "play/game_commands.h"
 #include "state/settings.h"
 #include "state/view_state.h"
 #include "ui/main_texts.h"

@@ -458,7 +458,7 @@ void BuyInCurrentPlayer() {
 void PassTheDice() {
   if (!MayChange()) return;
   Table.TableDirty = true;
-  PassDice(PlayerAsked);
+  GiveUpDice();
   FrontEnd.DrawTable();
 }
 
