@@ -43,7 +43,7 @@ void FloatingWindows::ShowThrow(double phase) {
 }
 
 void FloatingWindows::Refresh() {
-  Show(*status_, IsOn(TableOption::StatusBox));
+  Show(*status_, GameViews.Table.StatusBox);
   for (SmallWindow* window : {static_cast<SmallWindow*>(console_), static_cast<SmallWindow*>(dice_),
                               static_cast<SmallWindow*>(status_)}) {
     if (window->isVisible()) window->Refresh();

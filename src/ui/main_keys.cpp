@@ -113,7 +113,7 @@ bool MainKeys::HandleArrow(int key) {
 
 // Digits make up an amount when amounts are keyed in; else 1 to 5 choose a check.
 bool MainKeys::HandleDigit(int key) {
-  if (IsOn(TableOption::KeyInBetAmounts)) {
+  if (GameViews.Table.KeyInBetAmounts) {
     const bool point = key == Qt::Key_Period || key == Qt::Key_Comma;
     return key < 128 && KeyAmount(point ? '.' : static_cast<char>(key));
   }

@@ -6,8 +6,8 @@
 #include "base/message.h"
 #include "engine/bets.h"
 #include "play/auto_roll.h"
-#include "play/roll_pace.h"
 #include "play/game_commands.h"
+#include "play/roll_pace.h"
 #include "state/settings.h"
 #include "ui/main_menus.h"
 #include "ui/main_texts.h"
@@ -103,9 +103,9 @@ void MainMenus::AddBetsMenu() {
       "mnuKeyInBetAmounts", texts::BetsKeyIn, "F9",
       [] {
         TablePlay.EnteredAmount.clear();
-        ToggleOption(TableOption::KeyInBetAmounts);
+        ToggleOption(&TableOptions::KeyInBetAmounts);
       },
-      {}, [] { return IsOn(TableOption::KeyInBetAmounts); });
+      {}, [] { return GameViews.Table.KeyInBetAmounts; });
 }
 
 void MainMenus::AddDiceMenu() {

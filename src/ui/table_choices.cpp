@@ -5,47 +5,19 @@
 
 #include "base/front_end.h"
 #include "engine/bet_limits.h"
-#include "files/game_views.h"
 #include "ui/layout/table_layout.h"
 
 namespace tessarel {
 
-namespace {
-
-// Where a game keeps the choices of its window.
-constexpr int SelectedPlaceWord = 1, ChosenCheckInt = 1;
-constexpr int PropositionsWord = 5, StatusBoxWord = 6;
-
-int32_t& WordOf(TableOption option) {
-  switch (option) {
-    case TableOption::DisplayPropBets:
-      return GameViews.Display[PropositionsWord];
-    case TableOption::StatusBox:
-      return GameViews.Display[StatusBoxWord];
-    default:
-      return GameViews.Display[static_cast<int>(option)];
-  }
-}
-
-}  // namespace
-
 // --- Choices -----------------------------------------------------------------------------------
 
-bool IsOn(TableOption option) {
-  return WordOf(option) != 0;
-}
-
-void SetOption(TableOption option, bool on) {
-  WordOf(option) = on ? -1 : 0;
-}
-
-void ToggleOption(TableOption option) {
-  SetOption(option, !IsOn(option));
+void ToggleOption(bool TableOptions::*option) {
+  GameViews.Table.*option = !(GameViews.Table.*option);
   FrontEnd.DrawTable();
 }
 
 int CurrentPlace() {
-  int32_t& place = GameViews.Table[SelectedPlaceWord];
+  int32_t& place = GameViews.Players.Table;
   if (place >= 1 && place <= LastPlace && IsTaken(Table, place)) return place;
   place = Table.TakenPlaces == 0 ? 0 : std::countr_zero(Table.TakenPlaces);
   return place;
@@ -53,17 +25,17 @@ int CurrentPlace() {
 
 void SelectPlace(int place) {
   if (place < 1 || place > LastPlace || !IsTaken(Table, place)) return;
-  GameViews.Table[SelectedPlaceWord] = place;
+  GameViews.Players.Table = place;
   FrontEnd.DrawTable();
 }
 
 int ChosenCheck() {
-  const int32_t chosen = GameViews.General[ChosenCheckInt];
-  return chosen >= 1 && chosen <= 5 ? chosen : 2;
+  constexpr int AtTheStart = 2;
+  return GameViews.Table.ChosenCheck == 0 ? AtTheStart : GameViews.Table.ChosenCheck;
 }
 
 void ChooseCheck(int denomination) {
-  GameViews.General[ChosenCheckInt] = std::clamp(denomination, 1, 5);
+  GameViews.Table.ChosenCheck = std::clamp(denomination, 1, 5);
   FrontEnd.DrawStatus();
 }
 

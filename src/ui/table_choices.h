@@ -4,20 +4,12 @@
 
 #include "base/money.h"
 #include "state/table.h"
+#include "state/view_state.h"
 
 namespace tessarel {
 
-// The options of the table that a game keeps for its window.
-enum class TableOption {
-  DisplayBetAmounts,
-  KeyInBetAmounts,
-  FlashBets,
-  DisplayPropBets,
-  StatusBox
-};
-bool IsOn(TableOption option);
-void SetOption(TableOption option, bool on);
-void ToggleOption(TableOption option);
+// Switches an option of the table that a game keeps for its window.
+void ToggleOption(bool TableOptions::*option);
 
 // The player for whom the mouse bets, 0 when nobody is there.
 int CurrentPlace();

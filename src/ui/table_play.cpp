@@ -11,7 +11,6 @@
 #include "engine/atm.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
 #include "play/players.h"
 #include "play/rail.h"
@@ -268,8 +267,7 @@ void ClickSpot(int spot, ClickKind kind) {
   if (TablePlay.TableAction > ActionMovePlayer) return FinishMove(spot);
   if (IsRailSpot(spot)) return ClickRail(PlaceOfSpot(spot));
   if (spot == PropositionSwitch) {
-    SetOption(TableOption::DisplayPropBets, !IsOn(TableOption::DisplayPropBets));
-    return FrontEnd.DrawTable();
+    return ToggleOption(&TableOptions::DisplayPropBets);
   }
   if (TablePlay.TableAction != ActionNormal) {
     const auto action = static_cast<TableActionMode>(TablePlay.TableAction);
@@ -382,8 +380,8 @@ ClickOutlook OutlookOfSpot(int spot) {
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
   if (spot == PropositionSwitch) {
-    return {std::string(Localized(IsOn(TableOption::DisplayPropBets) ? texts::HidePropositions
-                                                                     : texts::ShowPropositions)),
+    return {std::string(Localized(GameViews.Table.DisplayPropBets ? texts::HidePropositions
+                                                                  : texts::ShowPropositions)),
             true};
   }
   const int number = NumberOfSpot(spot);

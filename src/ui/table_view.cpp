@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "files/game_views.h"
 #include "play/roll_driver.h"
 #include "ui/check_drag.h"
 #include "ui/paint/rail_paint.h"
@@ -19,9 +18,6 @@ namespace tessarel {
 namespace {
 
 constexpr int SettleSizeMs = 90;
-
-// Words of GameViews.Table.
-constexpr int RotationWord = 15, ZoomWord = 18, WordsOfView = 4;
 
 }  // namespace
 
@@ -98,19 +94,17 @@ bool TableView::RefreshPicture() {
 
 // --- How the table is seen ---------------------------------------------------------------------
 
-// A game that never set the zoom has 0 there.
 int TableView::ZoomPercent() const {
-  const int32_t zoom = GameViews.Table[ZoomWord];
-  return zoom == 0 ? 100 : std::clamp(zoom, LeastZoom, MostZoom);
+  return GameViews.Pose.Zoom == 0 ? 100 : GameViews.Pose.Zoom;
 }
 
 int TableView::Degrees() const {
-  return (GameViews.Table[RotationWord] % 360 + 360) % 360;
+  return GameViews.Pose.Rotation;
 }
 
 void TableView::SetView(int zoomPercent, int degrees) {
-  GameViews.Table[ZoomWord] = std::clamp(zoomPercent, LeastZoom, MostZoom);
-  GameViews.Table[RotationWord] = (degrees % 360 + 360) % 360;
+  GameViews.Pose.Zoom = std::clamp(zoomPercent, LeastZoom, MostZoom);
+  GameViews.Pose.Rotation = (degrees % 360 + 360) % 360;
   if (ZoomPercent() <= 100) shift_ = {};
   DrawTable();
 }
@@ -129,17 +123,15 @@ void TableView::ResetView() {
 }
 
 void TableView::SaveView(int view) {
-  const int first = view * WordsOfView;
-  for (int k = 0; k < WordsOfView; ++k)
-    GameViews.SavedViews[first + k] = GameViews.Table[RotationWord + k];
-  GameViews.SavedViews[first + WordsOfView - 1] = ZoomPercent();
+  TablePose& saved = At(GameViews.SavedPoses, view);
+  saved = GameViews.Pose;
+  saved.Zoom = ZoomPercent();
 }
 
 void TableView::RestoreView(int view) {
-  const int first = view * WordsOfView;
-  if (GameViews.SavedViews[first + WordsOfView - 1] == 0) return;
-  for (int k = 0; k < WordsOfView; ++k)
-    GameViews.Table[RotationWord + k] = GameViews.SavedViews[first + k];
+  const TablePose& saved = At(GameViews.SavedPoses, view);
+  if (saved.Zoom == 0) return;
+  GameViews.Pose = saved;
   shift_ = {};
   DrawTable();
 }

@@ -25,8 +25,8 @@ class TableView : public QWidget {
   void AnimateDice();  // returns when the dice lie, or at a click
   void ShowerChecks();
 
-  // How the table is seen. Kept with the game.
-  static constexpr int LeastZoom = 50, MostZoom = 400;  // percent
+  // How the table is seen. Kept in GameViews.Pose.
+  static constexpr int LeastZoom = LeastTableZoom, MostZoom = MostTableZoom;  // percent
   int ZoomPercent() const;
   int Degrees() const;  // 0 to 359
   void SetView(int zoomPercent, int degrees);

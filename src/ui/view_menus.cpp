@@ -5,7 +5,6 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "config/configuration.h"
-#include "files/game_views.h"
 #include "state/settings.h"
 #include "ui/main_menus.h"
 #include "ui/main_texts.h"
@@ -64,21 +63,23 @@ void MainMenus::AddColours() {
 void MainMenus::AddViewMenu() {
   BeginMenu(texts::MenuView);
   const auto option = [this](const char* name, const SixTexts& caption, const char* keys,
-                             TableOption which) {
+                             bool TableOptions::*which) {
     Add(
-        name, caption, keys, [which] { ToggleOption(which); }, {}, [which] { return IsOn(which); });
+        name, caption, keys, [which] { ToggleOption(which); }, {},
+        [which] { return GameViews.Table.*which; });
   };
-  option("mnuDisplayPropBets", texts::ViewPropositions, "\tC", TableOption::DisplayPropBets);
-  option("mnuDisplayBetAmounts", texts::ViewAmounts, "F11", TableOption::DisplayBetAmounts);
-  option("mnuFlashBets", texts::ViewFlash, "\tSpace", TableOption::FlashBets);
+  option("mnuDisplayPropBets", texts::ViewPropositions, "\tC", &TableOptions::DisplayPropBets);
+  option("mnuDisplayBetAmounts", texts::ViewAmounts, "F11", &TableOptions::DisplayBetAmounts);
+  option("mnuFlashBets", texts::ViewFlash, "\tSpace", &TableOptions::FlashBets);
   AddLine();
-  option("mnuStatusView", texts::ViewStatus, "", TableOption::StatusBox);
+  option("mnuStatusView", texts::ViewStatus, "", &TableOptions::StatusBox);
   AddChoices(
       texts::ViewStatusSize,
       {{"mnuStatusboxSize1", &texts::SizeSmall, 1},
        {"mnuStatusboxSize2", &texts::SizeMedium, 2},
        {"mnuStatusboxSize3", &texts::SizeLarge, 3}},
-      [] { return GameViews.StatusBoxSize; }, [](int32_t size) { GameViews.StatusBoxSize = size; });
+      [] { return GameViews.Table.StatusBoxSize; },
+      [](int32_t size) { GameViews.Table.StatusBoxSize = size; });
   AddLine();
   AddColours();
   AddLine();
@@ -166,8 +167,8 @@ void MainMenus::AddWindowMenu() {
       "mnuWindowDice", texts::WindowDice, "", [dice] { FloatingWindows::Toggle(*dice); }, {},
       [dice] { return dice->isVisible(); });
   Add(
-      "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
-      [] { return IsOn(TableOption::StatusBox); });
+      "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(&TableOptions::StatusBox); }, {},
+      [] { return GameViews.Table.StatusBox; });
 }
 
 void MainMenus::AddHelpMenu() {

@@ -45,7 +45,7 @@ class FaultsInTheWindow : public WindowTest {
       auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr || !dialog->isVisible()) return;
       if (Message.MsgKind == MessageKind::Error) ++reports;
-      if(getenv("DBG")) printf("[%s] %s\n",Message.MsgTitle.c_str(),Message.MsgText.c_str());
+      if (getenv("DBG")) printf("[%s] %s\n", Message.MsgTitle.c_str(), Message.MsgText.c_str());
       const bool asksText = (Message.MsgFlags & msg::Input) != 0;
       ASSERT_TRUE(!asksText || next < texts.size()) << Message.MsgText;
       asksText ? Text(texts[next++])(*dialog) : Key(Qt::Key_Return)(*dialog);

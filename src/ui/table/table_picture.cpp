@@ -35,7 +35,7 @@ std::vector<int64_t> PayoffsInForce() {
 }  // namespace
 
 TablePicture::Key TablePicture::KeyInForce(const TableSight& sight) {
-  return {sight, OptionsInForce(IsOn(TableOption::DisplayPropBets)), Settings.TableColor,
+  return {sight, OptionsInForce(GameViews.Table.DisplayPropBets), Settings.TableColor,
           Settings.TableTexture, PayoffsInForce()};
 }
 

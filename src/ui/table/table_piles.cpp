@@ -33,7 +33,7 @@ TablePiles::TablePiles(const TablePicture& picture, QObject* parent)
 
 void TablePiles::Tick() {
   if (++ticks_ % TicksOfFlash != 0) return;
-  const bool on = IsOn(TableOption::FlashBets) && !flash_;
+  const bool on = GameViews.Table.FlashBets && !flash_;
   if (std::exchange(flash_, on) != on) Q_EMIT Flashed();
 }
 
@@ -66,7 +66,7 @@ PileLook TablePiles::LookOf(int place, int number) const {
   look.place = place;
   look.current = place == CurrentPlace();
   look.flash = look.current && flash_;
-  look.showAmount = IsOn(TableOption::DisplayBetAmounts);
+  look.showAmount = GameViews.Table.DisplayBetAmounts;
   if (IsBet(number)) look.button = ButtonOf(place, number);
   return look;
 }

@@ -13,8 +13,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr int PlaceSlot = 25;
-
 QColor FeltColor() {
   const int32_t felt = Settings.TableColor[0];
   return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
@@ -45,7 +43,7 @@ QString DiceCall() {
   return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
 }
 
-DiceWindow::DiceWindow(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+DiceWindow::DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::Dice) {
   setObjectName("frmDice");
   Refresh();
 }

@@ -23,7 +23,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr int PlaceSlot = 20;
 constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
 // Numbers of the general text table.
@@ -31,7 +30,7 @@ constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114;
 
 }  // namespace
 
-RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::RollConsole) {
   setObjectName("frmRYON");
   bar_ = new QMenuBar(this);
   pad_ = new RollPad(this);
@@ -70,15 +69,6 @@ RollConsole::~RollConsole() {
   pad_->disconnect(this);
 }
 
-template <class Change>
-void RollConsole::ChangeOptions(Change change) {
-  ConsoleOptions options = ReadConsoleOptions();
-  change(options);
-  StoreConsoleOptions(options);
-  Refresh();
-  FitToDisplay();
-}
-
 void RollConsole::AddDisplayMenu() {
   displayMenu_ = bar_->addMenu(QString());
   auto* displays = new QActionGroup(this);
@@ -89,15 +79,16 @@ void RollConsole::AddDisplayMenu() {
     action->setCheckable(true);
     displays->addAction(action);
     connect(action, &QAction::triggered, this, [this, k] {
-      ChangeOptions(
-          [k](ConsoleOptions& options) { options.Display = static_cast<RollPadDisplay>(k + 1); });
+      GameViews.RollConsole.Display = k + 1;
+      ShowChange();
     });
   }
   displayMenu_->addSeparator();
-  mnuRollCounter_ = AddSwitch(displayMenu_, "mnuRollCounter", &ConsoleOptions::RollCounter);
+  mnuRollCounter_ = AddSwitch(displayMenu_, "mnuRollCounter", &RollConsoleOptions::HideRollCounter);
   mnuHyperDriveButton_ =
-      AddSwitch(displayMenu_, "mnuHyperDriveButton", &ConsoleOptions::HyperDriveButton);
-  mnuRandomButton_ = AddSwitch(displayMenu_, "mnuRandomButton", &ConsoleOptions::RandomButton);
+      AddSwitch(displayMenu_, "mnuHyperDriveButton", &RollConsoleOptions::HideHyperDriveButton);
+  mnuRandomButton_ =
+      AddSwitch(displayMenu_, "mnuRandomButton", &RollConsoleOptions::HideRandomButton);
   displayMenu_->addSeparator();
   AddColorMenu();
   displayMenu_->addSeparator();
@@ -134,12 +125,13 @@ void RollConsole::AddRollMenu() {
   connect(mnuSetAutoRollTimeDelay_, &QAction::triggered, this, [this] { Run(AskSetTimeDelay); });
 }
 
-QAction* RollConsole::AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option) {
+QAction* RollConsole::AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides) {
   QAction* action = menu->addAction(QString());
   action->setObjectName(name);
   action->setCheckable(true);
-  connect(action, &QAction::triggered, this, [this, option](bool on) {
-    ChangeOptions([option, on](ConsoleOptions& options) { options.*option = on; });
+  connect(action, &QAction::triggered, this, [this, hides](bool on) {
+    GameViews.RollConsole.*hides = !on;
+    ShowChange();
   });
   return action;
 }
@@ -169,6 +161,11 @@ void RollConsole::LayOut() {
   all->addLayout(buttons);
   all->addLayout(throttle);
   all->addLayout(figures);
+}
+
+void RollConsole::ShowChange() {
+  Refresh();
+  FitToDisplay();
 }
 
 // The window takes the size that suits the display, at its upper left corner.
@@ -245,17 +242,17 @@ void RollConsole::RefreshFigures() {
 }
 
 void RollConsole::Refresh() {
-  const ConsoleOptions options = ReadConsoleOptions();
+  const RollConsoleOptions& options = GameViews.RollConsole;
   RefreshCaptions();
   RefreshColorIcons();
-  At(mnuRYONDisplay_, options.Display - 1)->setChecked(true);
-  mnuRollCounter_->setChecked(options.RollCounter);
-  mnuHyperDriveButton_->setChecked(options.HyperDriveButton);
-  mnuRandomButton_->setChecked(options.RandomButton);
-  lblRollCounter_->setVisible(options.RollCounter);
-  cmdHyperDrive_->setVisible(options.HyperDriveButton);
-  cmdRandomRoll_->setVisible(options.RandomButton);
-  pad_->SetDisplay(options.Display);
+  At(mnuRYONDisplay_, DisplayInForce() - 1)->setChecked(true);
+  mnuRollCounter_->setChecked(!options.HideRollCounter);
+  mnuHyperDriveButton_->setChecked(!options.HideHyperDriveButton);
+  mnuRandomButton_->setChecked(!options.HideRandomButton);
+  lblRollCounter_->setVisible(!options.HideRollCounter);
+  cmdHyperDrive_->setVisible(!options.HideHyperDriveButton);
+  cmdRandomRoll_->setVisible(!options.HideRandomButton);
+  pad_->SetDisplay(DisplayInForce());
   RefreshFigures();
   // The button keeps its width when its caption changes.
   const QString caption = cmdHyperDrive_->text();

@@ -42,9 +42,8 @@ class RollConsole : public FloatingWindow {
   void AddColorMenu();
   void AddRollMenu();
   void LayOut();
-  QAction* AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option);
-  template <class Change>
-  void ChangeOptions(Change change);
+  QAction* AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides);
+  void ShowChange();
   void PickColor(RollKind kind);
   template <class Action>
   void Run(Action action);
