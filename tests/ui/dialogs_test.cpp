@@ -324,19 +324,6 @@ TEST_F(DialogTest, PaletteIsLegible) {
     EXPECT_GE(ContrastOf(QColor(mark), palette.color(QPalette::Window)), 4.5);
 }
 
-TEST_F(DialogTest, WalkFindsTextsWithoutRoomAndDoubledShortcuts) {
-  QWidget window;
-  auto* const narrow = new QLabel("a label with many words", &window);
-  narrow->resize(40, 30);
-  auto* const outside = new QPushButton("&Open", &window);
-  outside->setGeometry(580, 0, 100, 30);
-  auto* const good = new QPushButton("&Other", &window);
-  good->setGeometry(0, 40, 100, 30);
-  window.resize(600, 100);
-  EXPECT_EQ(TextsThatDoNotFit(window), Texts({"a label with many words", "&Open"}));
-  EXPECT_EQ(ClashingShortcuts(window), Texts({"&Open", "&Other"}));
-}
-
 // --- The settle-bet prompt -----------------------------------------------------------------------
 
 SettlePrompt SomePrompt(Outcome outcome) {
@@ -403,17 +390,6 @@ TEST_F(DialogTest, SettlePromptCyclesAndKeepsItsFigures) {
   EXPECT_EQ(prompt.set.units, Money(3));
 }
 
-TEST_F(DialogTest, SettlePromptHasRoomForItsTextsInEveryLanguage) {
-  const std::pair<const char*, Outcome> outcomes[] = {
-      {"settle_won", Outcome::Won}, {"settle_lost", Outcome::Lost}, {"settle_idle", Outcome::Idle}};
-  for (const auto& [name, outcome] : outcomes) {
-    WalkLanguages(name, [outcome = outcome] {
-      SettlePrompt prompt = SomePrompt(outcome);
-      AskSettleBet(nullptr, prompt);
-    });
-  }
-}
-
 // --- New -----------------------------------------------------------------------------------------
 
 TEST_F(DialogTest, NewGameAnswersItsChoicesAndRemembersThem) {
@@ -467,12 +443,6 @@ TEST_F(DialogTest, NewGameAnswersItsChoicesAndRemembersThem) {
   EXPECT_FALSE(answer->keepScripts);
   EXPECT_EQ(answer->options.rollFileAction, CloseRollFileNow);
   EXPECT_TRUE(choices.PreserveDiceRollFile && choices.Rewind);
-}
-
-TEST_F(DialogTest, NewGameHasRoomForItsTextsInEveryLanguage) {
-  RollFile.RollFileName = "/rolls/monday.rol";
-  NewGameChoices choices;
-  WalkLanguages("new", [&] { AskNewGame(nullptr, choices); });
 }
 
 // --- Files ---------------------------------------------------------------------------------------
@@ -633,6 +603,18 @@ TEST_F(DialogTest, LanguageTakesEffectAtOnce) {
       },
       [] { AskLanguage(nullptr); });
   EXPECT_EQ(Settings.Language, French);
+}
+
+TEST_F(DialogTest, DialogsOfPlayHaveRoomForTheirTextsInEveryLanguage) {
+  for (const Outcome outcome : {Outcome::Won, Outcome::Lost, Outcome::Idle}) {
+    WalkLanguages(QString("settle%1").arg(static_cast<int>(outcome)), [outcome] {
+      SettlePrompt prompt = SomePrompt(outcome);
+      AskSettleBet(nullptr, prompt);
+    });
+  }
+  RollFile.RollFileName = "/rolls/monday.rol";
+  NewGameChoices choices;
+  WalkLanguages("new", [&] { AskNewGame(nullptr, choices); });
   WalkLanguages("language", [] { AskLanguage(nullptr); });
 }
 
