@@ -17,7 +17,7 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -53,18 +53,18 @@ bool HasValue(const ScriptCommand& command, int32_t error = NoValue) {
 // A stop that the script has asked for in this cycle outlives the session.
 void StartSession(const ScriptCommand& command) {
   if (!HasRight(Scripts.AllowReset, 853)) return;
-  const bool stops = Table.StopReason == Localized(RollTexts.StoppedByCommand);
+  const bool stops = Table.StopReason == Wording(Text::StoppedByCommand);
   const int32_t form = command.action;
   ScriptHost.StartSession(form == PreserveStacks || form == PreserveBoth,
                           form == PreserveRollFile || form == PreserveBoth);
-  if (stops) Table.StopReason = Localized(RollTexts.StoppedByCommand);
+  if (stops) Table.StopReason = Wording(Text::StoppedByCommand);
   AutoBet.TableWasReset = AutoBet.NewSessionBegins = -1;
   AutoBet.Initializing = 0;
 }
 
 // In a roll the cycle goes on, and the roll driver ends the run behind it.
 void StopRolling(const ScriptCommand&) {
-  Table.StopReason = Localized(RollTexts.StoppedByCommand);
+  Table.StopReason = Wording(Text::StoppedByCommand);
   if (Table.RollInProgress != 0) return;
   StopUnattended();
   Table.StopReason.clear();

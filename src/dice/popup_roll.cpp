@@ -9,7 +9,7 @@
 #include "base/trap.h"
 #include "dice/roll_file.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -88,10 +88,9 @@ std::optional<Faces> TakePopupRoll() {
     return std::nullopt;
   }
   if (Table.HyperDriveOn == 0) {
-    ShowMessage(LocalizedText(DiceTexts.InvalidRollInPopup), LocalizedText(DiceTexts.RollFileError),
-                msg::OkAlert);
+    ShowMessage(Say(Text::InvalidRollInPopup), Say(Text::RollFileError), msg::OkAlert);
   }
-  Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
+  Table.StopReason = Wording(Text::StoppedByInvalidRoll);
   return std::nullopt;
 }
 

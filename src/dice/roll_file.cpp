@@ -12,7 +12,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -132,10 +132,9 @@ void StopAtInvalidRoll() {
   RollFile.RollFileMode = RollFileOff;
   if (Table.HyperDriveOn == 0) {
     FrontEnd.RefreshViews();
-    ShowMessage(LocalizedText(DiceTexts.InvalidRollInFile), LocalizedText(DiceTexts.RollFileError),
-                msg::OkAlert);
+    ShowMessage(Say(Text::InvalidRollInFile), Say(Text::RollFileError), msg::OkAlert);
   }
-  Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
+  Table.StopReason = Wording(Text::StoppedByInvalidRoll);
 }
 
 }  // namespace
@@ -191,7 +190,7 @@ bool PlaysNextRoll() {
 std::optional<Faces> PlayBackRoll() {
   RollFile.EndReached = !HoldNextRoll();
   if (RollFile.EndReached) {
-    Table.StopReason = Localized(DiceTexts.StoppedByEndOfFile);
+    Table.StopReason = Wording(Text::StoppedByEndOfFile);
     return std::nullopt;
   }
   const Faces faces = HeldRoll();

@@ -3,7 +3,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "state/table.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -11,8 +11,7 @@ void StopUnattended() {
   if (Table.AutoRollOn == 0 && Table.HyperDriveOn == 0) return;
   Table.AutoRollOn = Table.HyperDriveOn = 0;
   if (!Table.StopReason.empty()) {
-    ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert,
-                help::AutoRoll);
+    ShowMessage(Table.StopReason, Say(Text::HyperDriveStopped), msg::OkAlert, help::AutoRoll);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

@@ -15,8 +15,7 @@
 #include "log/events_log.h"
 #include "log/events_log_reader.h"
 #include "stats/report.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -24,7 +23,6 @@ EventsLogViewState EventsLogView;
 
 namespace {
 
-constexpr int EventsLogText = 163;
 constexpr std::string_view PrintHeading = "Tessarel Events Log";
 
 void UseLog(const std::string& path) {
@@ -45,7 +43,7 @@ void CopyLog(const std::string& from, const std::string& to) {
 
 // Where a log is to be copied to; empty when the user gives up.
 std::string AskForCopy(const std::string& log) {
-  const std::string name = FrontEnd.AskSaveFile(LocalizedText(FileTexts.SaveEventsLogAs), log);
+  const std::string name = FrontEnd.AskSaveFile(Say(Text::SaveEventsLogAs), log);
   return name.empty() ? name : InFolder(Folders.EventsLogFolder, name);
 }
 
@@ -58,9 +56,8 @@ bool IsDefaultLogEmpty() {
 // Whether the default log may be emptied: it is empty, saved, or not wanted.
 bool DefaultLogIsSaved() {
   if (IsDefaultLogEmpty()) return true;
-  const int32_t answer =
-      ShowMessage(LocalizedText(FileTexts.AskToRenameEventsLog),
-                  LocalizedText(FileTexts.SaveEventsLog), msg::AskYesDefault | msg::Cancel);
+  const int32_t answer = ShowMessage(Say(Text::AskToRenameEventsLog), Say(Text::SaveEventsLog),
+                                     msg::AskYesDefault | msg::Cancel);
   if (answer != AnswerYes) return answer == AnswerNo;
   const std::string copy = AskForCopy(DefaultEventLogName());
   if (copy.empty() || IsSameFile(copy, DefaultEventLogName())) return false;
@@ -124,8 +121,7 @@ bool FindFrom(int32_t first, int32_t step) {
     return false;
   }
   if (line == 0) {
-    ShowMessage(LocalizedText(FileTexts.TextNotFound), LocalizedText(FileTexts.SearchResults),
-                msg::OkAlert);
+    ShowMessage(Say(Text::TextNotFound), Say(Text::SearchResults), msg::OkAlert);
     return false;
   }
   ScrollEventsLog(line);
@@ -161,7 +157,7 @@ EventLineKind KindOfEventLine(std::string_view line) {
 }
 
 std::string EventsLogTitle() {
-  const std::string title(GetText(EventsLogText));
+  const std::string title = Say(Text::EventsLog);
   const std::string& name = EventsLog.EventLogName;
   return name.empty() ? title : title + " (" + ShortName(name) + ")";
 }
@@ -177,7 +173,7 @@ bool OpenEventsLog(const std::string& name) {
   const std::string path = InFolder(Folders.EventsLogFolder, name);
   // Only of ordinary files it is known that they end.
   if (!FileExists(path)) {
-    ShowMessage(std::string(GetText(56)) + "\r\r" + path, std::string(GetText(55)), msg::OkAlert);
+    ShowMessage(Say(Text::FileNotFound) + "\r\r" + path, Say(Text::UnableToOpenFile), msg::OkAlert);
     return false;
   }
   const std::string before = EventsLog.EventLogName;
@@ -237,8 +233,7 @@ void KeepLatestRollOnTop(bool on) {
 }
 
 bool FindEvent() {
-  if (!AskForText(LocalizedText(FileTexts.AskTextToFind), LocalizedText(FileTexts.Find),
-                  EventsLogView.FindText) ||
+  if (!AskForText(Say(Text::AskTextToFind), Say(Text::Find), EventsLogView.FindText) ||
       Message.MsgInput.empty()) {
     return false;
   }
@@ -261,8 +256,7 @@ bool PrintEventsLog(std::string_view gameFile,
   EventsLogReader reader;
   const int32_t lines = reader.LineCount();
   if (lines == 0) {
-    ShowMessage(LocalizedText(FileTexts.NoEventsToPrint), LocalizedText(FileTexts.PrintEventsLog),
-                msg::OkAlert);
+    ShowMessage(Say(Text::NoEventsToPrint), Say(Text::PrintEventsLog), msg::OkAlert);
     return false;
   }
   bool wanted = true;

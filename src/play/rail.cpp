@@ -21,8 +21,7 @@
 #include "state/scripts.h"
 #include "state/table.h"
 #include "stats/selection.h"
-#include "texts/language.h"
-#include "texts/rail_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -33,7 +32,7 @@ constexpr const char* UsualBuyIn = "1000";
 constexpr size_t MostNameCharacters = 60;
 
 std::string Text(int id) {
-  return std::string(GetText(id));
+  return std::string(Wording(id));
 }
 
 // Asks `question` until the answer is a name that can be given; empty when the user gives up.
@@ -47,7 +46,7 @@ std::string AskName(const std::string& question, const std::string& title, int p
     offered = name;
     if (ToSingleByte(name).size() > MostNameCharacters) {
       const std::string most = std::to_string(MostNameCharacters);
-      text = FillIn(RailTexts.NameTooLong, {most}) + "\r\r" + question;
+      text = Say(Text::NameTooLong, most) + "\r\r" + question;
     } else if (const auto taken = NameRefusal(name, place)) {
       text = *taken + "\r\r" + question;
     } else if (const auto reserved = PlayerNameRefusal(name)) {
@@ -88,10 +87,10 @@ std::string ListOf(const std::vector<AbandonedBet>& bets) {
   std::vector<std::string> parts;
   for (const AbandonedBet& bet : bets) {
     if (comes > 1 && isCome(bet)) continue;
-    parts.push_back(FillIn(GetText(20), BetName[bet.number]));
+    parts.push_back(Say(Text::AbandonedBet, BetName[bet.number]));
   }
   if (comes > 1) {
-    parts.push_back(std::to_string(comes) + FillIn(GetText(23), BetName[bet::Come]));
+    parts.push_back(std::to_string(comes) + Say(Text::AbandonedBets, BetName[bet::Come]));
   }
   std::string list = parts.front();
   for (size_t k = 1; k < parts.size(); ++k)
@@ -138,7 +137,7 @@ bool AddPlayer(int place) {
   if (ShowMessage(Text(3), Text(5), msg::AskYesDefault, help::Players) != AnswerYes) return false;
   const std::string name = AskName(Text(4), Text(5), 0);
   if (name.empty()) return false;
-  const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
+  const std::optional<Money> buyIn = AskBankroll(Say(Text::AskBuyIn, name), Text(5), UsualBuyIn);
   if (!buyIn) return false;
   SeatPlayer(place, name, *buyIn);
   Table.TableDirty = -1;

@@ -28,8 +28,7 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/language.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -44,9 +43,8 @@ bool Refuse(std::string text, std::string title, std::string reason) {
 }
 
 // A demand on the shooter, with the note where it can be changed.
-std::string BetDemand(const SixTexts& demand) {
-  return FillIn(demand, {Table.PlayerName[Table.Shooter]}) + "\r\r" +
-         LocalizedText(RollTexts.BetRequiredNote);
+std::string BetDemand(Text demand) {
+  return Say(demand, Table.PlayerName[Table.Shooter]) + "\r\r" + Say(Text::BetRequiredNote);
 }
 
 bool HasAnyBet(int place) {
@@ -54,31 +52,28 @@ bool HasAnyBet(int place) {
 }
 
 bool RefuseWithoutLineBet() {
-  const SixTexts& demand = Table.PlayerCount == 1 ? RollTexts.LineBetAlone
-                           : Table.Point != 0     ? RollTexts.LineBetDuringPoint
-                                                  : RollTexts.LineBetOrPass;
-  return Refuse(BetDemand(demand), LocalizedText(RollTexts.LineBetRequired),
-                LocalizedText(RollTexts.ShooterWithoutLineBet));
+  Text demand = Table.PlayerCount == 1 ? Text::LineBetAlone
+                : Table.Point != 0     ? Text::LineBetDuringPoint
+                                       : Text::LineBetOrPass;
+  return Refuse(BetDemand(demand), Say(Text::LineBetRequired), Say(Text::ShooterWithoutLineBet));
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
-    return Refuse(std::string(GetText(110)), std::string(GetText(111)),
-                  LocalizedText(RollTexts.NobodyToBet));
+    return Refuse(Say(Text::NoPlayersToBet), Say(Text::BetRequired), Say(Text::NobodyToBet));
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
-  return Refuse(BetDemand(RollTexts.AnyBetOrPass), LocalizedText(RollTexts.AnyBetRequired),
-                LocalizedText(RollTexts.ShooterWithoutBet));
+  return Refuse(BetDemand(Text::AnyBetOrPass), Say(Text::AnyBetRequired),
+                Say(Text::ShooterWithoutBet));
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  const std::string reset = "\r\r" + LocalizedText(RollTexts.ResetTable);
-  return Refuse(LocalizedText(RollTexts.MaximumRolls) + reset,
-                LocalizedText(RollTexts.MaximumRollsTitle),
-                LocalizedText(RollTexts.StoppedByMaximumRolls) + reset);
+  const std::string reset = "\r\r" + Say(Text::ResetTable);
+  return Refuse(Say(Text::MaximumRolls) + reset, Say(Text::MaximumRollsTitle),
+                Say(Text::StoppedByMaximumRolls) + reset);
 }
 
 void FigureAvailableBankrolls() {
@@ -121,7 +116,7 @@ DiceSource TakeDice(std::optional<Faces>& chosen, Faces& faces) {
   }
   faces = MakeDice(RollsInSession());
   if (faces.die1 == 0) {
-    Table.StopReason = Localized(RollTexts.NoGenerator);
+    Table.StopReason = Wording(Text::NoGenerator);
     return DiceSource::None;
   }
   const bool cubes = faces.die1 <= 6 && faces.die2 <= 6;
@@ -278,7 +273,7 @@ bool StoppedByBankroll() {
 }
 
 void StopAtCount() {
-  if (AutoStopIsDue()) Table.StopReason = Localized(RollTexts.StoppedByAutoStop);
+  if (AutoStopIsDue()) Table.StopReason = Wording(Text::StoppedByAutoStop);
 }
 
 void CheckEverything() {
@@ -367,8 +362,8 @@ void PauseAutoRoll() {
   FrontEnd.DrawStatus();
   if (AutoStopIsDue()) {
     StopUnattended();
-    ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
-                msg::OkAlert, help::AutoRoll);
+    ShowMessage(Say(Text::AutoStopNotice), Say(Text::AutoRollStopped), msg::OkAlert,
+                help::AutoRoll);
   } else {
     WaitForNextRoll();
   }

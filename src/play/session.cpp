@@ -46,10 +46,8 @@
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
-#include "texts/dice_texts.h"
-#include "texts/file_texts.h"
 #include "texts/language.h"
-#include "texts/rail_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -132,8 +130,8 @@ void ClearLayout(bool keepStacks) {
 // A Cancel leaves the amount offered.
 Money AskBeginningBankroll(int place) {
   const Money offered = std::clamp(Table.BankrollInitAmount[place], -BankrollLimit, BankrollLimit);
-  return AskBankroll(FillIn(RailTexts.AskBeginningBankroll, {Table.PlayerName[place]}),
-                     LocalizedText(RailTexts.BeginningBankroll), PlainText(offered))
+  return AskBankroll(Say(Text::AskBeginningBankroll, Table.PlayerName[place]),
+                     Say(Text::BeginningBankroll), PlainText(offered))
       .value_or(offered);
 }
 
@@ -232,7 +230,7 @@ void EmptyScripts() {
 // --- Leaving -----------------------------------------------------------------------------------
 
 std::string Text(int id) {
-  return std::string(GetText(id));
+  return std::string(Wording(id));
 }
 
 bool AskToStopUnattended() {
@@ -265,7 +263,7 @@ bool SaveScript(int place) {
 
 bool OfferToSaveScript(int place) {
   if (!Scripts.Places[place].changed) return true;
-  const std::string question = FillIn(FileTexts.AskToSaveScript, {Table.PlayerName[place]});
+  const std::string question = Say(Text::AskToSaveScript, Table.PlayerName[place]);
   const int32_t answer =
       ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel, help::BettingSystems);
   return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
@@ -317,7 +315,7 @@ bool OfferToSaveGame() {
 // A table that finds no room on the disk is given up only by somebody who says so.
 bool KeepTable() {
   return SaveDefaultGame() ||
-         ShowMessage(LocalizedText(FileTexts.LeaveUnsaved), std::string(GameFile.WindowTitle),
+         ShowMessage(Say(Text::AskToLeaveUnsaved), std::string(GameFile.WindowTitle),
                      msg::AskNoDefault, help::Saving) == AnswerYes;
 }
 
@@ -335,7 +333,7 @@ void SetUpNewTable(const std::string& appFolder) {
 
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
-  if (!text.empty()) ShowMessage(text, LocalizedText(DiceTexts.MissingSupportFile), msg::Ok);
+  if (!text.empty()) ShowMessage(text, Say(Text::MissingSupportFile), msg::Ok);
 }
 
 }  // namespace

@@ -3,18 +3,13 @@
 #include <algorithm>
 #include <bit>
 
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 ViewSelectionState ViewSelections;
 
-namespace {
-
-constexpr int NoPlayersPresent = 100, NoPlayersSelected = 101, PlayerSelected = 102,
-              PlayersSelected = 103, AllPlayersSelected = 104;
-
-}  // namespace
+namespace {}  // namespace
 
 std::string_view ScopeName(Scope scope) {
   return At(ScopeNames, scope / SlotsInScope);
@@ -50,12 +45,12 @@ std::string Placeholder(PlaceSelection selection) {
 }
 
 std::string SelectionCaption(PlaceSelection selection) {
-  if (Table.TakenPlaces == 0) return std::string(GetText(NoPlayersPresent));
-  if (IsWholeTable(selection)) return std::string(GetText(AllPlayersSelected));
+  if (Table.TakenPlaces == 0) return Say(Text::NoPlayersPresent);
+  if (IsWholeTable(selection)) return Say(Text::AllPlayersSelected);
   const int count = std::popcount(PresentPlaces(selection));
-  if (count == 0) return std::string(GetText(NoPlayersSelected));
-  const int text = count == 1 ? PlayerSelected : PlayersSelected;
-  return std::to_string(count) + " " + std::string(GetText(text));
+  if (count == 0) return Say(Text::NoPlayersSelected);
+  const int text = count == 1 ? Text::PlayerSelected : Text::PlayersSelected;
+  return std::to_string(count) + " " + std::string(Wording(text));
 }
 
 std::string BetSelectionCaption(const NumberSet& bets) {

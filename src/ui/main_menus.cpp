@@ -20,7 +20,7 @@
 #include "play/roll_pace.h"
 #include "play/session.h"
 #include "state/settings.h"
-#include "ui/main_texts.h"
+#include "texts/say.h"
 #include "ui/main_window.h"
 #include "ui/sound/sounds.h"
 #include "ui/table_presets.h"
@@ -48,7 +48,7 @@ bool HasOpenPlace() {
 }
 
 void TellWhereToJoin() {
-  ShowMessage(std::string(GetText(1)), std::string(GetText(2)), msg::Ok, help::Players);
+  ShowMessage(Say(Text::ClickOpenPosition), Say(Text::AddPlayerTitle), msg::Ok, help::Players);
 }
 
 // All odds of the current player at once.
@@ -76,18 +76,18 @@ struct MainMenus {
   MainWindow& window;
   QMenu* menu = nullptr;
 
-  void Menu(const SixTexts& caption) {
+  void Menu(Text caption) {
     menu = window.menuBar()->addMenu(QString());
     window.menus_.push_back({menu, &caption});
   }
-  QMenu* Submenu(const SixTexts& caption) {
+  QMenu* Submenu(Text caption) {
     QMenu* inner = menu->addMenu(QString());
     window.menus_.push_back({inner, &caption});
     return inner;
   }
   // `keys` is a shortcut; with a leading tab it is only shown, and the window handles the key.
   QAction* Add(const char* name,
-               const SixTexts& caption,
+               Text caption,
                const char* keys,
                std::function<void()> action,
                Check possible = {},
@@ -112,10 +112,7 @@ struct MainMenus {
   void Line() { menu->addSeparator(); }
 
   // A slider in a menu.
-  void Slider(const SixTexts& caption,
-              int most,
-              std::function<int()> value,
-              std::function<void(int)> change) {
+  void Slider(Text caption, int most, std::function<int()> value, std::function<void(int)> change) {
     QMenu* inner = Submenu(caption);
     auto* slider = new QSlider(Qt::Horizontal, inner);
     slider->setRange(0, most);
@@ -135,10 +132,10 @@ struct MainMenus {
   // Entries of which one holds.
   struct Choice {
     const char* name;
-    const SixTexts* caption;
+    Text caption;
     int32_t value;
   };
-  void Choices(const SixTexts& caption,
+  void Choices(Text caption,
                std::initializer_list<Choice> choices,
                std::function<int32_t()> now,
                std::function<void(int32_t)> choose) {
@@ -167,59 +164,58 @@ struct MainMenus {
 };
 
 void MainMenus::Game() {
-  Menu(texts::MenuGame);
+  Menu(Text::MenuGame);
   Add(
-      "mnuNew", texts::GameNew, "Ctrl+N", [&w = window] { w.NewGame(); }, TableIsIdle);
+      "mnuNew", Text::GameNew, "Ctrl+N", [&w = window] { w.NewGame(); }, TableIsIdle);
   Add(
-      "mnuOpen", texts::GameOpen, "Ctrl+O", [&w = window] { w.OpenGameFile(); }, TableIsIdle);
+      "mnuOpen", Text::GameOpen, "Ctrl+O", [&w = window] { w.OpenGameFile(); }, TableIsIdle);
   Add(
-      "mnuSave", texts::GameSave, "Ctrl+S", [] { SaveGameInUse(); }, TableIsIdle);
+      "mnuSave", Text::GameSave, "Ctrl+S", [] { SaveGameInUse(); }, TableIsIdle);
   Add(
-      "mnuSaveAs", texts::GameSaveAs, "Ctrl+Shift+S", [] { SaveGameAs(); }, TableIsIdle);
+      "mnuSaveAs", Text::GameSaveAs, "Ctrl+Shift+S", [] { SaveGameAs(); }, TableIsIdle);
   Line();
-  Add("mnuExit", texts::GameExit, "Ctrl+Q", [&w = window] { w.close(); });
+  Add("mnuExit", Text::GameExit, "Ctrl+Q", [&w = window] { w.close(); });
 }
 
 void MainMenus::Players() {
-  Menu(texts::MenuPlayers);
-  Add("mnuAddPlayer", texts::PlayersAdd, "", TellWhereToJoin, HasOpenPlace);
-  Add("mnuRenamePlayer", texts::PlayersRename, "", RenameCurrentPlayer, HasPlayer);
-  Add("mnuMovePlayer", texts::PlayersMove, "", MoveCurrentPlayer,
+  Menu(Text::MenuPlayers);
+  Add("mnuAddPlayer", Text::PlayersAdd, "", TellWhereToJoin, HasOpenPlace);
+  Add("mnuRenamePlayer", Text::PlayersRename, "", RenameCurrentPlayer, HasPlayer);
+  Add("mnuMovePlayer", Text::PlayersMove, "", MoveCurrentPlayer,
       [] { return HasPlayer() && Table.PlayerCount < LastPlace; });
-  Add("mnuRemovePlayer", texts::PlayersRemove, "", RemoveCurrentPlayer, HasPlayer);
+  Add("mnuRemovePlayer", Text::PlayersRemove, "", RemoveCurrentPlayer, HasPlayer);
   Line();
-  Add("mnuBuyIn", texts::PlayersBuyIn, "", BuyInCurrentPlayer, HasPlayer);
-  Add("mnuPassDice", texts::PlayersPassDice, "\tP", PassTheDice, TableIsOpen);
+  Add("mnuBuyIn", Text::PlayersBuyIn, "", BuyInCurrentPlayer, HasPlayer);
+  Add("mnuPassDice", Text::PlayersPassDice, "\tP", PassTheDice, TableIsOpen);
   Line();
   window.players_ = menu;
 }
 
 void MainMenus::Bets() {
-  Menu(texts::MenuBets);
+  Menu(Text::MenuBets);
   Add(
-      "mnuRemoveBet", texts::BetsRemove, "Del", [] { PickBetFor(ActionRemove); }, HasPlayer);
-  Add("mnuRemoveAllBets", texts::BetsRemoveAll, "Shift+Del", RemoveAllBets, HasPlayer);
+      "mnuRemoveBet", Text::BetsRemove, "Del", [] { PickBetFor(ActionRemove); }, HasPlayer);
+  Add("mnuRemoveAllBets", Text::BetsRemoveAll, "Shift+Del", RemoveAllBets, HasPlayer);
   Line();
   Add(
-      "mnuBuyPlaceBet", texts::BetsBuy, "F5", [] { PickBetFor(ActionBuy); }, HasPlayer);
+      "mnuBuyPlaceBet", Text::BetsBuy, "F5", [] { PickBetFor(ActionBuy); }, HasPlayer);
   Add(
-      "mnuCallBetOn", texts::BetsCallOn, "F6", [] { PickBetFor(ActionCallOn); }, HasPlayer);
+      "mnuCallBetOn", Text::BetsCallOn, "F6", [] { PickBetFor(ActionCallOn); }, HasPlayer);
   Add(
-      "mnuCallAllBetsOn", texts::BetsCallAllOn, "Shift+F6", [] { CallAllBets(true); }, HasPlayer);
+      "mnuCallAllBetsOn", Text::BetsCallAllOn, "Shift+F6", [] { CallAllBets(true); }, HasPlayer);
   Add(
-      "mnuCallBetOff", texts::BetsCallOff, "F7", [] { PickBetFor(ActionCallOff); }, HasPlayer);
+      "mnuCallBetOff", Text::BetsCallOff, "F7", [] { PickBetFor(ActionCallOff); }, HasPlayer);
   Add(
-      "mnuCallAllBetsOff", texts::BetsCallAllOff, "Shift+F7", [] { CallAllBets(false); },
-      HasPlayer);
+      "mnuCallAllBetsOff", Text::BetsCallAllOff, "Shift+F7", [] { CallAllBets(false); }, HasPlayer);
   Line();
   const auto withPoint = [] { return HasPlayer() && Table.Point != 0; };
   Add(
-      "mnuTakeFullOdds", texts::BetsTakeOdds, "", [] { FullOdds(BetFullOdds); }, withPoint);
+      "mnuTakeFullOdds", Text::BetsTakeOdds, "", [] { FullOdds(BetFullOdds); }, withPoint);
   Add(
-      "mnuLayFullOdds", texts::BetsLayOdds, "", [] { FullOdds(BetFullLay); }, withPoint);
+      "mnuLayFullOdds", Text::BetsLayOdds, "", [] { FullOdds(BetFullLay); }, withPoint);
   Line();
   Add(
-      "mnuKeyInBetAmounts", texts::BetsKeyIn, "F9",
+      "mnuKeyInBetAmounts", Text::BetsKeyIn, "F9",
       [] {
         TablePlay.EnteredAmount.clear();
         ToggleOption(TableOption::KeyInBetAmounts);
@@ -228,21 +224,21 @@ void MainMenus::Bets() {
 }
 
 void MainMenus::Dice() {
-  Menu(texts::MenuDice);
-  Add("mnuRollDice", texts::DiceRoll, "F2", RollTheDice, TableIsIdle);
+  Menu(Text::MenuDice);
+  Add("mnuRollDice", Text::DiceRoll, "F2", RollTheDice, TableIsIdle);
   Add(
-      "mnuRollYourOwnNumbers", texts::DiceOwn, "F12",
+      "mnuRollYourOwnNumbers", Text::DiceOwn, "F12",
       [&w = window] {
         w.ShowSmall(SmallWindowKind::Console, !w.IsSmallShown(SmallWindowKind::Console));
       },
       {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
   Line();
   Choices(
-      texts::DiceAction,
-      {{"mnuDiceNormal", &texts::DiceNormal, DiceNormal},
-       {"mnuDiceStationary", &texts::DiceStationary, DiceStationary},
-       {"mnuDiceCenter", &texts::DiceCenter, DiceCenter},
-       {"mnuDiceWindow", &texts::DiceWindowed, DiceInWindow}},
+      Text::DiceAction,
+      {{"mnuDiceNormal", &Text::DiceNormal, DiceNormal},
+       {"mnuDiceStationary", &Text::DiceStationary, DiceStationary},
+       {"mnuDiceCenter", &Text::DiceCenter, DiceCenter},
+       {"mnuDiceWindow", &Text::DiceWindowed, DiceInWindow}},
       [] { return Settings.DiceAction; },
       [&w = window](int32_t action) {
         const int32_t before = std::exchange(Settings.DiceAction, action);
@@ -255,13 +251,13 @@ void MainMenus::Dice() {
 
 void MainMenus::Views() {
   for (const bool save : {true, false}) {
-    QMenu* outer = std::exchange(menu, Submenu(save ? texts::ViewSave : texts::ViewRestore));
+    QMenu* outer = std::exchange(menu, Submenu(save ? Text::ViewSave : Text::ViewRestore));
     for (int view = 0; view <= 9; ++view) {
       const std::string digit = std::to_string(view);
       const std::string name = (save ? "mnuSaveView" : "mnuRestoreView") + digit;
       const std::string keys = (save ? "Shift+" : "Ctrl+") + digit;
       QAction* entry =
-          Add(name.c_str(), texts::ViewNumber, keys.c_str(),
+          Add(name.c_str(), Text::ViewNumber, keys.c_str(),
               [v = window.View(), save, view] { save ? v->SaveView(view) : v->RestoreView(view); });
       entry->setProperty("value", view);
     }
@@ -270,15 +266,15 @@ void MainMenus::Views() {
 }
 
 void MainMenus::Colours() {
-  QMenu* outer = std::exchange(menu, Submenu(texts::ViewColours));
-  const auto offer = [this](std::string_view name, const SixTexts& caption, auto apply) {
+  QMenu* outer = std::exchange(menu, Submenu(Text::ViewColours));
+  const auto offer = [this](std::string_view name, Text caption, auto apply) {
     Add(std::string(name).c_str(), caption, "", [apply] {
       apply();
       Table.TableDirty = -1;
       FrontEnd.DrawTable();
     });
   };
-  offer("mnuSetTableStartUp", texts::ViewStartUpColours, RestoreStartUpColours);
+  offer("mnuSetTableStartUp", Text::ViewStartUpColours, RestoreStartUpColours);
   for (int preset = 0; preset < TablePresetCount; ++preset) {
     const TablePreset& scheme = At(TablePresets(), preset);
     offer(scheme.menu, scheme.caption, [preset] { ApplyTablePreset(preset); });
@@ -287,38 +283,37 @@ void MainMenus::Colours() {
 }
 
 void MainMenus::View() {
-  Menu(texts::MenuView);
-  const auto option = [this](const char* name, const SixTexts& caption, const char* keys,
-                             TableOption which) {
+  Menu(Text::MenuView);
+  const auto option = [this](const char* name, Text caption, const char* keys, TableOption which) {
     Add(
         name, caption, keys, [which] { ToggleOption(which); }, {}, [which] { return IsOn(which); });
   };
-  option("mnuDisplayPropBets", texts::ViewPropositions, "\tC", TableOption::DisplayPropBets);
-  option("mnuDisplayBetAmounts", texts::ViewAmounts, "F11", TableOption::DisplayBetAmounts);
-  option("mnuFlashBets", texts::ViewFlash, "\tSpace", TableOption::FlashBets);
+  option("mnuDisplayPropBets", Text::ViewPropositions, "\tC", TableOption::DisplayPropBets);
+  option("mnuDisplayBetAmounts", Text::ViewAmounts, "F11", TableOption::DisplayBetAmounts);
+  option("mnuFlashBets", Text::ViewFlash, "\tSpace", TableOption::FlashBets);
   Line();
-  option("mnuStatusView", texts::ViewStatus, "", TableOption::StatusBox);
+  option("mnuStatusView", Text::ViewStatus, "", TableOption::StatusBox);
   Choices(
-      texts::ViewStatusSize,
-      {{"mnuStatusboxSize1", &texts::SizeSmall, 1},
-       {"mnuStatusboxSize2", &texts::SizeMedium, 2},
-       {"mnuStatusboxSize3", &texts::SizeLarge, 3}},
+      Text::ViewStatusSize,
+      {{"mnuStatusboxSize1", &Text::StatusSizeSmall, 1},
+       {"mnuStatusboxSize2", &Text::StatusSizeMedium, 2},
+       {"mnuStatusboxSize3", &Text::StatusSizeLarge, 3}},
       [] { return GameViews.StatusBoxSize; }, [](int32_t size) { GameViews.StatusBoxSize = size; });
   Line();
   Colours();
   Line();
   TableView* view = window.View();
-  Add("mnuTableMove", texts::ViewMove, "\tZ", [&w = window] { w.ShowMoveWindow(); });
-  Add("mnuZoomIn", texts::ViewZoomIn, "Ctrl++", [view] { view->Zoom(1.25); });
-  Add("mnuZoomOut", texts::ViewZoomOut, "Ctrl+-", [view] { view->Zoom(0.8); });
-  Add("mnuTurnLeft", texts::ViewTurnLeft, "", [view] { view->Rotate(-15); });
-  Add("mnuTurnRight", texts::ViewTurnRight, "", [view] { view->Rotate(15); });
-  Add("mnuWholeTable", texts::ViewWhole, "Home", [view] { view->ResetView(); });
+  Add("mnuTableMove", Text::ViewMove, "\tZ", [&w = window] { w.ShowMoveWindow(); });
+  Add("mnuZoomIn", Text::ViewZoomIn, "Ctrl++", [view] { view->Zoom(1.25); });
+  Add("mnuZoomOut", Text::ViewZoomOut, "Ctrl+-", [view] { view->Zoom(0.8); });
+  Add("mnuTurnLeft", Text::ViewTurnLeft, "", [view] { view->Rotate(-15); });
+  Add("mnuTurnRight", Text::ViewTurnRight, "", [view] { view->Rotate(15); });
+  Add("mnuWholeTable", Text::ViewWhole, "Home", [view] { view->ResetView(); });
   Views();
 }
 
 void MainMenus::Notices() {
-  QMenu* outer = std::exchange(menu, Submenu(texts::OptionsNotices));
+  QMenu* outer = std::exchange(menu, Submenu(Text::OptionsNotices));
   for (size_t row = 0; row < NoticeRows.size(); ++row) {
     const Notice bit = NoticeRows[row].Bit;
     const auto shown = [bit] { return (Settings.Notices & bit) != 0; };
@@ -331,24 +326,24 @@ void MainMenus::Notices() {
 }
 
 void MainMenus::Options() {
-  Menu(texts::MenuOptions);
+  Menu(Text::MenuOptions);
   Choices(
-      texts::OptionsTips,
-      {{"mnuInfoTips0", &texts::TipsNone, 0},
-       {"mnuInfoTips1", &texts::TipsAmounts, 1},
-       {"mnuInfoTips2", &texts::TipsNames, 2},
-       {"mnuInfoTips3", &texts::TipsBoth, 3},
-       {"mnuInfoTips4", &texts::TipsAll, 4}},
+      Text::OptionsTips,
+      {{"mnuInfoTips0", &Text::TipsNone, 0},
+       {"mnuInfoTips1", &Text::TipsAmounts, 1},
+       {"mnuInfoTips2", &Text::TipsNames, 2},
+       {"mnuInfoTips3", &Text::TipsBoth, 3},
+       {"mnuInfoTips4", &Text::TipsAll, 4}},
       [] { return Settings.InfoTipLevel; },
       [](int32_t level) {
         Settings.InfoTipLevel = level;
         Table.TableDirty = -1;
       });
   Add(
-      "chkSnapMouse", texts::OptionsSnap, "", [] { ToggleSetting(Settings.SnapMouse); }, {},
+      "chkSnapMouse", Text::OptionsSnap, "", [] { ToggleSetting(Settings.SnapMouse); }, {},
       [] { return Settings.SnapMouse != 0; });
   Add(
-      "chkAutoArrangeChips", texts::OptionsArrange, "",
+      "chkAutoArrangeChips", Text::OptionsArrange, "",
       [] {
         ToggleSetting(Settings.AutoArrangeChips);
         FrontEnd.DrawTable();
@@ -357,71 +352,71 @@ void MainMenus::Options() {
   Notices();
   Line();
   Add(
-      "chkDisableAllSound", texts::OptionsSilence, "",
+      "chkDisableAllSound", Text::OptionsSilence, "",
       [] {
         ToggleSetting(Settings.DisableAllSound);
         if (Settings.DisableAllSound != 0) StopSounds();
       },
       {}, [] { return Settings.DisableAllSound != 0; });
-  Slider(texts::OptionsVolume, 100, SoundVolume, SetSoundVolume);
+  Slider(Text::OptionsVolume, 100, SoundVolume, SetSoundVolume);
   Line();
   Choices(
-      texts::OptionsFont,
-      {{"optFontSize9", &texts::SizeSmall, 9},
-       {"optFontSize11", &texts::SizeMedium, 11},
-       {"optFontSize13", &texts::SizeLarge, 13}},
+      Text::OptionsFont,
+      {{"optFontSize9", &Text::StatusSizeSmall, 9},
+       {"optFontSize11", &Text::StatusSizeMedium, 11},
+       {"optFontSize13", &Text::StatusSizeLarge, 13}},
       [] { return Settings.BasicFontSize; },
       [&w = window](int32_t size) {
         Settings.BasicFontSize = size;
         Table.TableDirty = -1;
         w.TakeUpFontSize();
       });
-  Add("mnuLanguage", texts::OptionsLanguage, "", [&w = window] { AskLanguage(&w); });
+  Add("mnuLanguage", Text::OptionsLanguage, "", [&w = window] { AskLanguage(&w); });
 }
 
 void MainMenus::Auto() {
-  Menu(texts::MenuAuto);
+  Menu(Text::MenuAuto);
   Add(
-      "mnuAutoRoll", texts::AutoRoll, "\tR", [&w = window] { w.ToggleRun(false); }, NotDriving,
+      "mnuAutoRoll", Text::AutoRoll, "\tR", [&w = window] { w.ToggleRun(false); }, NotDriving,
       [] { return Table.AutoRollOn != 0 && Table.HyperDriveOn == 0; });
   Add(
-      "mnuHyperDrive", texts::AutoHyper, "\tH", [&w = window] { w.ToggleRun(true); },
+      "mnuHyperDrive", Text::AutoHyper, "\tH", [&w = window] { w.ToggleRun(true); },
       [] { return Table.HyperDriveOn != 0 || TableIsIdle(); },
       [] { return Table.HyperDriveOn != 0; });
   Line();
-  Add("mnuSetTimeDelay", texts::AutoDelay, "", AskSetTimeDelay);
-  Add("mnuSetAutoStop", texts::AutoStop, "", AskSetAutoStop);
+  Add("mnuSetTimeDelay", Text::AutoDelayMenu, "", AskSetTimeDelay);
+  Add("mnuSetAutoStop", Text::AutoStopMenu, "", AskSetAutoStop);
   Slider(
-      texts::AutoThrottle, MaxThrottle, [] { return static_cast<int>(Settings.Throttle); },
+      Text::AutoThrottle, MaxThrottle, [] { return static_cast<int>(Settings.Throttle); },
       [](int position) { Settings.Throttle = position; });
   Line();
   Add(
-      "mnuStopAutobetting", texts::AutoStopScripts, "", [] { ConfirmScriptActive(); },
+      "mnuStopAutobetting", Text::AutoStopScripts, "", [] { ConfirmScriptActive(); },
       [] { return AutoBet.ScriptRunning != 0; });
 }
 
 void MainMenus::Window() {
-  Menu(texts::MenuWindow);
+  Menu(Text::MenuWindow);
   Add(
-      "mnuWindowConsole", texts::WindowConsole, "",
+      "mnuWindowConsole", Text::WindowConsole, "",
       [&w = window] {
         w.ShowSmall(SmallWindowKind::Console, !w.IsSmallShown(SmallWindowKind::Console));
       },
       {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
   Add(
-      "mnuWindowDice", texts::WindowDice, "",
+      "mnuWindowDice", Text::WindowDice, "",
       [&w = window] { w.ShowSmall(SmallWindowKind::Tray, !w.IsSmallShown(SmallWindowKind::Tray)); },
       {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Tray); });
   Add(
-      "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
+      "mnuWindowStatus", Text::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
       [] { return IsOn(TableOption::StatusBox); });
 }
 
 void MainMenus::Help() {
-  Menu(texts::MenuHelp);
-  Add("mnuContents", texts::HelpContents, "F1", [&w = window] { ShowHelp(&w, 0); });
-  Add("mnuAbout", texts::HelpAbout, "",
-      [] { ShowMessage(FillIn(texts::AboutText, {TESSAREL_VERSION}), "Tessarel", msg::Ok); });
+  Menu(Text::MenuHelp);
+  Add("mnuContents", Text::HelpContents, "F1", [&w = window] { ShowHelp(&w, 0); });
+  Add("mnuAbout", Text::HelpAbout, "",
+      [] { ShowMessage(Say(Text::AboutText, TESSAREL_VERSION), "Tessarel", msg::Ok); });
 }
 
 void MainWindow::BuildMenus() {
@@ -507,7 +502,8 @@ void MainWindow::SetCaptions() {
     const QVariant value = entry.action->property("value");
     if (value.isValid()) {
       const std::string number = std::to_string(value.toInt());
-      caption = Shown(FillIn(*entry.caption, {number})).replace(Shown(number), "&" + Shown(number));
+      caption =
+          Shown(SayChosen(*entry.caption, number)).replace(Shown(number), "&" + Shown(number));
     }
     entry.action->setText(caption + entry.action->property("shownKeys").toString());
   }

@@ -22,7 +22,7 @@
 #include "play/players.h"
 #include "play/session.h"
 #include "state/settings.h"
-#include "ui/main_texts.h"
+#include "texts/say.h"
 #include "ui/sound/sounds.h"
 #include "ui/table_presets.h"
 #include "ui/text.h"
@@ -158,8 +158,7 @@ void MainWindow::FillFrontEnd() {
   FrontEnd.PlaySoundFile = PlaySoundOfFile;
   FrontEnd.ReportScriptError = [](int, int, const std::string& text) {
     if (Table.HyperDriveOn == 0)
-      ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert,
-                  help::BettingSystems);
+      ShowMessage(text, Say(Text::AutoBetErrorTitle), msg::OkAlert, help::BettingSystems);
   };
   FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
     return AskFile(Main, FileActionOfTitle(title).value_or(FileAction::SaveSession), offered);
@@ -233,8 +232,8 @@ void MainWindow::Start() {
   Message.MsgText.clear();
   OfferUnfinishedTable();
   if (!autosave_.CanWrite()) {
-    ShowMessage(FillIn(texts::FolderIsReadOnly, {std::string(Folders.AppFolder)}),
-                std::string(Localized(texts::FolderTitle)), msg::OkAlert);
+    ShowMessage(Say(Text::FolderIsReadOnly, std::string(Folders.AppFolder)), Say(Text::FolderTitle),
+                msg::OkAlert);
   }
   autosave_.Start([this] { return Table.RollInProgress == 0 && AutoBet.ScriptRunning == 0; });
 }
@@ -253,8 +252,8 @@ void MainWindow::TakeUpGame() {
 
 void MainWindow::OfferUnfinishedTable() {
   if (!autosave_.FindsTable()) return;
-  const std::string question = FillIn(texts::UnfinishedQuestion, {autosave_.TimeOfTable()});
-  const std::string title(Localized(texts::UnfinishedTitle));
+  const std::string question = Say(Text::UnfinishedQuestion, autosave_.TimeOfTable());
+  const std::string title = Say(Text::UnfinishedTitle);
   const bool goOn = ShowMessage(question, title, msg::AskYesDefault, help::Saving) == AnswerYes;
   if (!goOn) return autosave_.Discard();
   if (autosave_.TakeUp() && OpenGame(std::string(AutomaticGameFile))) {
@@ -320,7 +319,8 @@ void MainWindow::ConnectTable() {
 void MainWindow::ShowHint() {
   const ClickOutlook outlook = OutlookOfSpot(TablePlay.HotSpot);
   const bool nobody = outlook.text.empty() && Table.PlayerCount == 0;
-  const QString hint = Shown(nobody ? GetText(1) : std::string_view(outlook.text));
+  const QString hint =
+      Shown(nobody ? Wording(Text::ClickOpenPosition) : std::string_view(outlook.text));
   bar_->ShowHint(hint, outlook.possible);
   view_->setAccessibleDescription(hint);
 }
@@ -329,9 +329,10 @@ void MainWindow::ShowHint() {
 void MainWindow::RightClick() {
   if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
     const bool hyper = Table.HyperDriveOn != 0;
-    const int32_t answer =
-        ShowMessage(std::string(GetText(hyper ? 118 : 119)),
-                    std::string(GetText(hyper ? 114 : 117)), msg::AskYesDefault, help::AutoRoll);
+    const int32_t answer = ShowMessage(
+        std::string(Wording(hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll)),
+        std::string(Wording(hyper ? Text::HyperDriveActive : Text::AutoRollActive)),
+        msg::AskYesDefault, help::AutoRoll);
     if (answer == AnswerYes) StopAutoRoll();
   } else {
     RollTheDice();

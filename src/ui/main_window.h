@@ -9,7 +9,6 @@
 #include <functional>
 #include <vector>
 
-#include "texts/language.h"
 #include "ui/autosave.h"
 #include "ui/control_bar.h"
 #include "ui/table_view.h"
@@ -84,13 +83,13 @@ class MainWindow : public QMainWindow {
 
   struct MenuEntry {
     QAction* action = nullptr;
-    const SixTexts* caption = nullptr;
+    Text caption = nullptr;
     std::function<bool()> possible;
     std::function<bool()> checked;
   };
   struct MenuOfWindow {
     QMenu* menu = nullptr;
-    const SixTexts* caption = nullptr;
+    Text caption = nullptr;
   };
 
   TableView* view_;

@@ -18,9 +18,8 @@
 #include "play/roll_driver.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/layout/table_layout.h"
-#include "ui/table_texts.h"
 
 namespace tessarel {
 
@@ -44,7 +43,7 @@ int32_t& WordOf(TableOption option) {
 }
 
 std::string Text(int id) {
-  return std::string(GetText(id));
+  return std::string(Wording(id));
 }
 
 std::string NameOf(int place) {
@@ -198,11 +197,10 @@ int PlayerForCommand() {
 
 std::string OutlookOnRail(int place) {
   if (TablePlay.TableAction > ActionMovePlayer) {
-    return FillIn(texts::MoveHere, {NameOf(TablePlay.TableAction - ActionMovePlayer)});
+    return Say(Text::MoveHere, NameOf(TablePlay.TableAction - ActionMovePlayer));
   }
-  if (!IsTaken(Table, place)) return std::string(Localized(texts::JoinHere));
-  return FillIn(place == CurrentPlace() ? texts::PlayersMenu : texts::BetForPlayer,
-                {NameOf(place)});
+  if (!IsTaken(Table, place)) return Say(Text::JoinHere);
+  return SayChosen(place == CurrentPlace() ? Text::PlayersMenu : Text::BetForPlayer, NameOf(place));
 }
 
 // --- Saying what is there ----------------------------------------------------------------------
@@ -214,16 +212,16 @@ std::string SpotName(int number) {
   return name.empty() ? "CheckStack #" + std::to_string(number - FirstStack) : name;
 }
 
-const SixTexts& ActionText(int action) {
+Text ActionText(int action) {
   switch (action) {
     case ActionCallOn:
-      return texts::CallOnHere;
+      return Text::CallOnHere;
     case ActionCallOff:
-      return texts::CallOffHere;
+      return Text::CallOffHere;
     case ActionBuy:
-      return texts::BuyHere;
+      return Text::BuyHere;
     default:
-      return texts::RemoveHere;
+      return Text::RemoveHere;
   }
 }
 
@@ -231,7 +229,7 @@ ClickOutlook OutlookOfBet(int number) {
   const int place = CurrentPlace();
   if (place == 0) return {Text(1), false};
   if (TablePlay.TableAction != ActionNormal) {
-    return {FillIn(ActionText(TablePlay.TableAction), {SpotName(number)}),
+    return {SayChosen(ActionText(TablePlay.TableAction), SpotName(number)),
             Suits(number < FirstStack ? number : 0)};
   }
   const std::optional<Money> entered =
@@ -249,7 +247,7 @@ ClickOutlook OutlookOfBet(int number) {
     return {OnOneLine(why), false};
   }
   const std::string amount = FormatMoney(entered ? *entered : trial.delta);
-  return {FillIn(entered ? texts::SetBetTo : texts::AddToBet, {SpotName(number), amount}), true};
+  return {SayChosen(entered ? Text::SetBetTo : Text::AddToBet, SpotName(number), amount), true};
 }
 
 bool PayoffVaries(int number) {
@@ -259,24 +257,24 @@ bool PayoffVaries(int number) {
 }
 
 std::string PayoffText(int number) {
-  if (PayoffVaries(number)) return std::string(Localized(texts::PayoffVaries));
+  if (PayoffVaries(number)) return Say(Text::TipPayoffVaries);
   const PayoffRow& row = PayoffRowOf(number);
   const bool isTo = row.PayForm == Money(FormTo);
   const Money first = isTo ? row.PayNum : row.PayNum + row.PayDen;
-  return std::string(Localized(texts::Pays)) + FormatMoney(first) +
-         std::string(Localized(isTo ? texts::PaysTo : texts::PaysFor)) + FormatMoney(row.PayDen);
+  return std::string(Wording(texts::Pays)) + FormatMoney(first) +
+         std::string(Wording(isTo ? Text::TipPaysTo : Text::TipPaysFor)) + FormatMoney(row.PayDen);
 }
 
 std::string StateText(int place, int number) {
   switch (Table.BetWorking[place][number]) {
     case CalledOff:
-      return std::string(Localized(texts::IsCalledOff));
+      return Say(Text::TipCalledOff);
     case CalledOn:
-      return std::string(Localized(texts::IsCalledOn));
+      return Say(Text::TipCalledOn);
     case NotWorking:
-      return std::string(Localized(texts::NotWorking));
+      return Say(Text::TipNotWorking);
     default:
-      return std::string(Localized(texts::Working));
+      return Say(Text::TipWorking);
   }
 }
 
@@ -285,12 +283,11 @@ void AddCompanions(std::string& tip, int place, int number) {
   const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
   if (lay || buy) {
     const auto& vigs = lay ? Table.LayVig[place] : Table.BuyVig[place];
-    tip += "\r" + std::string(Localized(texts::Vig)) +
-           FormatExact(At(vigs, (number - 1) % FamilySize));
+    tip += "\r" + Say(Text::TipVig) + FormatExact(At(vigs, (number - 1) % FamilySize));
   }
   const bool line = number == bet::PassLine || number == bet::DontPass;
   if (line && HasBet(place, number + 1)) {
-    tip += "\r" + std::string(Localized(texts::TipOdds)) + FormatExact(Bet(place, number + 1));
+    tip += "\r" + Say(Text::TipOdds) + FormatExact(Bet(place, number + 1));
   }
   tip += "\r" + std::string(TrimSpaces(StateText(place, number)));
 }
@@ -463,8 +460,8 @@ void MoveCurrentPlayer() {
 void BuyInCurrentPlayer() {
   const int place = PlayerForCommand();
   if (place == 0) return;
-  const std::string question = FillIn(texts::BuyInQuestion, {NameOf(place)});
-  const std::string title(Localized(texts::BuyInTitle));
+  const std::string question = Say(Text::AskMoreBuyIn, NameOf(place));
+  const std::string title = Say(Text::BuyInTitle);
   std::string offered = PlainText(Settings.AtmAmount);
   while (AskForText(question, title, offered, help::Players)) {
     offered = Message.MsgInput;
@@ -474,7 +471,7 @@ void BuyInCurrentPlayer() {
       Table.TableDirty = -1;
       return FrontEnd.DrawTable();
     }
-    ShowMessage(std::string(Localized(texts::BuyInRefused)), title, msg::OkAlert);
+    ShowMessage(Say(Text::BuyInRefused), title, msg::OkAlert);
   }
 }
 
@@ -520,12 +517,12 @@ ClickOutlook OutlookOfSpot(int spot) {
   }
   if (spot == 0) {
     const bool picks = TablePlay.TableAction != ActionNormal;
-    return {picks ? std::string(Localized(texts::PickABet)) : std::string(), true};
+    return {picks ? Say(Text::PickABet) : std::string(), true};
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
   if (spot == PropositionSwitch) {
-    return {std::string(Localized(IsOn(TableOption::DisplayPropBets) ? texts::HidePropositions
-                                                                     : texts::ShowPropositions)),
+    return {std::string(Wording(IsOn(TableOption::DisplayPropBets) ? Text::HidePropositions
+                                                                   : Text::ShowPropositions)),
             true};
   }
   const int number = NumberOfSpot(spot);

@@ -13,7 +13,7 @@ namespace tessarel {
 QString Shown(std::string_view utf8);
 
 // The variant in the language in force.
-QString Shown(const SixTexts& texts);
+QString Shown(Text texts);
 
 // What was typed, as the core takes it.
 std::string Typed(const QString& text);

@@ -18,7 +18,6 @@
 #include "ui/windows/rate_meter.h"
 #include "ui/windows/roll_console.h"
 #include "ui/windows/roll_pad.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 namespace {

@@ -18,7 +18,7 @@
 #include "base/single_byte_text.h"
 #include "engine/settle_prompt.h"
 #include "state/scripts.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -69,7 +69,7 @@ void TakeAnswer() {
 
 // Why the Hyper-Drive stopped is part of the result and no message.
 void ShowOnConsole() {
-  if (Message.MsgTitle == Localized(RollTexts.HyperDriveStopped)) return;
+  if (Message.MsgTitle == Wording(Text::HyperDriveStopped)) return;
   if (Message.MsgTitle == Message.ErrorTitle) {
     ++Console.faults;
     Console.lastFault = Message.MsgText;

@@ -31,7 +31,6 @@
 #include "play/session.h"
 #include "state/books.h"
 #include "state/table.h"
-#include "texts/language.h"
 
 namespace tessarel::sim {
 

@@ -4,11 +4,11 @@
 
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
 #include "ui/windows/roll_console.h"
 #include "ui/windows/small_window.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
@@ -23,7 +23,7 @@ QColor FeltColor() {
 
 QString TotalInWords() {
   const int total = Table.Die1 + Table.Die2;
-  if (total < 2 || total > 12) return Shown(NoRollYet);
+  if (total < 2 || total > 12) return Shown(Text::NoRollYet);
   return Shown(At(TotalWords, total - 2));
 }
 
@@ -32,10 +32,10 @@ QString NoteOnTotal() {
     case 2:
     case 3:
     case 12:
-      return Shown(CrapsCall);
+      return Shown(Text::CrapsCall);
     default:
       const bool hard = total > 0 && Table.Die1 == Table.Die2;
-      return hard ? Shown(HardWayCall) : QString();
+      return hard ? Shown(Text::HardWayCall) : QString();
   }
 }
 
@@ -46,7 +46,7 @@ class DiceWindow : public FloatingWindow {
     Refresh();
   }
   void Refresh() override {
-    setWindowTitle(Shown(DiceTitle));
+    setWindowTitle(Shown(Text::DiceTitle));
     setAccessibleDescription(DiceCall());
     update();
   }

@@ -3,11 +3,10 @@
 
 #include "base/folders.h"
 #include "dice/roll_file.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
 #include "ui/windows/game_dialogs.h"
-#include "ui/windows/new_game_texts.h"
 
 namespace tessarel {
 
@@ -17,10 +16,10 @@ namespace {
 
 // How a roll file goes on "as it is": the words of what it does now.
 QString GoingOnCaption() {
-  const int text = RollFile.RollFileMode == RollFilePlay     ? 133
-                   : RollFile.RollFileMode == RollFileRecord ? 134
-                                                             : 135;
-  QString caption = Shown(GetText(text));
+  const int text = Text::KeepRollFile.RollFileMode == RollFilePlay     ? 133
+                   : Text::KeepRollFile.RollFileMode == RollFileRecord ? 134
+                                                                       : 135;
+  QString caption = Shown(Wording(text));
   caption[0] = caption[0].toUpper();
   return caption;
 }
@@ -29,26 +28,26 @@ class NewGameWindow : public QDialog {
  public:
   explicit NewGameWindow(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmNew"));
-    DressWindow(*this, Shown(new_game_text::Title));
+    DressWindow(*this, Shown(Text::NewGameTitle));
     QVBoxLayout* const column = MakeColumn(*this);
-    column->addWidget(MakeHeading(Shown(new_game_text::Question)));
+    column->addWidget(MakeHeading(Shown(Text::AskWhatToKeep)));
     column->addSpacing(LookStep(1));
     const NewGameChoicesState& last = NewGameChoices;
-    using namespace new_game_text;
     chkPreserveCheckstacks_ =
-        AddBox(column, "chkPreserveCheckstacks", Checkstacks, last.PreserveCheckstacks);
-    chkPreservePrevSessions_ =
-        AddBox(column, "chkPreservePrevSessions", PrevSessions, last.PreservePrevSessions);
-    chkPreserveSessionsLogs_ =
-        AddBox(column, "chkPreserveSessionsLogs", SessionsLogs, last.PreserveSessionsLogs);
-    chkPreserveAutoBets_ = AddBox(column, "chkPreserveAutoBets", AutoBets, last.PreserveAutoBets);
-    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", new_game_text::RollFile,
-                                      last.PreserveDiceRollFile);
+        AddBox(column, "chkPreserveCheckstacks", Text::KeepCheckStacks, last.PreserveCheckstacks);
+    chkPreservePrevSessions_ = AddBox(column, "chkPreservePrevSessions", Text::KeepPreviousSessions,
+                                      last.PreservePrevSessions);
+    chkPreserveSessionsLogs_ = AddBox(column, "chkPreserveSessionsLogs", Text::KeepSessionsLogs,
+                                      last.PreserveSessionsLogs);
+    chkPreserveAutoBets_ =
+        AddBox(column, "chkPreserveAutoBets", Text::KeepAutoBets, last.PreserveAutoBets);
+    chkPreserveDiceRollFile_ =
+        AddBox(column, "chkPreserveDiceRollFile", Text::KeepRollFile, last.PreserveDiceRollFile);
     AddRollFileUses(column);
     QHBoxLayout* const row = AddButtonRow(column);
-    QPushButton* const cmdOK = AddButton(row, Shown(Start), [this] { accept(); });
+    QPushButton* const cmdOK = AddButton(row, Shown(Text::StartSession), [this] { accept(); });
     cmdOK->setDefault(true);
-    AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    AddButton(row, Shown(Text::Cancel), [this] { reject(); });
     HelpOnF1(*this, help::NewSession);
     chkPreserveCheckstacks_->setFocus();
   }
@@ -65,10 +64,7 @@ class NewGameWindow : public QDialog {
   }
 
  private:
-  static QCheckBox* AddBox(QVBoxLayout* column,
-                           const char* name,
-                           const SixTexts& caption,
-                           bool checked) {
+  static QCheckBox* AddBox(QVBoxLayout* column, const char* name, Text caption, bool checked) {
     auto* const box = new QCheckBox(Shown(caption));
     box->setObjectName(QLatin1String(name));
     box->setChecked(checked);
@@ -86,7 +82,7 @@ class NewGameWindow : public QDialog {
 
   void AddRollFileUses(QVBoxLayout* column) {
     const QString file = hasRollFile_ ? Shown(ShortName(tessarel::RollFile.RollFileName))
-                                      : Shown(new_game_text::NoRollFile);
+                                      : Shown(Text::NoRollFileOpen);
     chkPreserveDiceRollFile_->setText(chkPreserveDiceRollFile_->text() + " (" +
                                       QString(file).replace("&", "&&") + ")");
     chkPreserveDiceRollFile_->setEnabled(hasRollFile_);
@@ -95,7 +91,7 @@ class NewGameWindow : public QDialog {
     uses->setContentsMargins(LookStep(6), 0, 0, 0);
     uses->setSpacing(LookStep(2));
     const bool rewinds = NewGameChoices.Rewind;
-    optRewind_ = AddUse(uses, "optRewind", Shown(new_game_text::Rewind), rewinds);
+    optRewind_ = AddUse(uses, "optRewind", Shown(Text::RewindAndPlay), rewinds);
     QRadioButton* const optContinue = AddUse(uses, "optContinue", GoingOnCaption(), !rewinds);
     column->addLayout(uses);
     const auto enableUses = [=, this] {
@@ -118,7 +114,8 @@ NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
   answer.options.keepSessions = choices.PreservePrevSessions ? 1 : 0;
   answer.options.keepStacks = choices.PreserveCheckstacks ? 1 : 0;
   answer.options.keepLogs = choices.PreserveSessionsLogs ? 1 : 0;
-  const bool keepsRollFile = choices.PreserveDiceRollFile && !RollFile.RollFileName.empty();
+  const bool keepsRollFile =
+      choices.PreserveDiceRollFile && !Text::KeepRollFile.RollFileName.empty();
   answer.options.rollFileAction = !keepsRollFile   ? CloseRollFileNow
                                   : choices.Rewind ? RewindRollFile
                                                    : ContinueRollFile;

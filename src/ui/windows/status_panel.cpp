@@ -8,7 +8,7 @@
 #include "files/game_views.h"
 #include "state/table.h"
 #include "stats/status_box.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
 #include "ui/windows/roll_console.h"
@@ -21,7 +21,6 @@ namespace {
 
 constexpr std::array<int, 3> PointSizes = {9, 11, 14};
 constexpr int MostBlocksInColumn = 4;
-constexpr int EmptyTableText = 1;  // of the general text table
 constexpr int Padding = 8;
 
 const QColor Plate(0x12, 0x16, 0x1E, 0xE6), PlateEdge(0x46, 0x4E, 0x5C);
@@ -116,7 +115,7 @@ QSize StatusPanel::sizeHint() const {
   if (blocks_.empty()) {
     const QFontMetrics metrics(BlockFont(false));
     const QRect text = metrics.boundingRect(QRect(0, 0, BlockWidth() * 3 / 2, 1000),
-                                            Qt::TextWordWrap, Shown(GetText(EmptyTableText)));
+                                            Qt::TextWordWrap, Shown(Text::ClickOpenPosition));
     return text.size() + QSize(2 * Padding + 2, 2 * Padding);
   }
   const int width = Columns() * BlockWidth() + (Columns() - 1) * 2 * Padding + 2 * Padding;
@@ -239,7 +238,7 @@ void StatusPanel::paintEvent(QPaintEvent*) {
     painter.setFont(BlockFont(false));
     painter.setPen(FigureInk);
     painter.drawText(rect().adjusted(Padding, Padding, -Padding, -Padding),
-                     Qt::AlignCenter | Qt::TextWordWrap, Shown(GetText(EmptyTableText)));
+                     Qt::AlignCenter | Qt::TextWordWrap, Shown(Text::ClickOpenPosition));
     return;
   }
   for (int k = 0; k < static_cast<int>(blocks_.size()); ++k) {
