@@ -23,7 +23,7 @@ std::optional<std::string> ReservedWordIn(std::string_view name) {
 std::optional<std::string> PlayerNameRefusal(std::string_view name) {
   if (ReadNumber(TrimSpaces(name))) return Say(Text::NameAllNumeric) + "\r\r";
   if (!ReservedWordIn(name)) return {};
-  return "\"" + std::string(name) + "\"" + Say(Text::NameHoldsReservedWord) + "\r\r";
+  return Say(Text::NameHoldsReservedWord, name) + "\r\r";
 }
 
 }  // namespace tessarel

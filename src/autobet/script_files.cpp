@@ -93,20 +93,20 @@ void RunFirstCycle() {
 }
 
 // Not during a roll: its cycles are those of the program it began with.
-bool WantsFirstCycle(Text question, std::string_view name = "") {
+bool WantsFirstCycle(std::string question) {
   if (Table.RollInProgress != 0) return false;
-  return ShowMessage(Say(question, name), Say(Text::AutoBet), msg::AskYesNo,
+  return ShowMessage(std::move(question), Say(Text::AutoBet), msg::AskYesNo,
                      help::BettingSystems) == AnswerYes;
 }
 
 void ActivateAll() {
   ForEachPlayer([](int place) { SetScriptActive(place, true); });
-  if (WantsFirstCycle(Text::AllScriptsActivated)) RunFirstCycle();
+  if (WantsFirstCycle(Say(Text::AllScriptsActivated))) RunFirstCycle();
 }
 
 void ActivateOne(int place) {
   SetScriptActive(place, true);
-  if (!WantsFirstCycle(Text::ScriptActivated, Table.PlayerName[place])) return;
+  if (!WantsFirstCycle(Say(Text::ScriptActivated, Table.PlayerName[place]))) return;
   const OnlyScript alone(place);
   RunFirstCycle();
 }

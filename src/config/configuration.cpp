@@ -33,8 +33,8 @@ ConfigurationRefusal Refuse(ConfigTab tab,
 using Refusal = std::optional<ConfigurationRefusal>;
 
 Refusal TestDenominations() {
-  const auto refuse = [](Text text, int index) {
-    return Refuse(ConfigTab::ChecksDice, SayChosen(text), "Denomination", index);
+  const auto refuse = [](CheckedText<0> text, int index) {
+    return Refuse(ConfigTab::ChecksDice, Say(text), "Denomination", index);
   };
   for (int index = 1; index <= 5; ++index) {
     const Money value = Settings.Denomination[index];
@@ -48,7 +48,10 @@ Refusal TestDenominations() {
   return std::nullopt;
 }
 
-Refusal TestMinimum(Money minimum, std::string_view setting, Text belowCheck, Text notMultiple) {
+Refusal TestMinimum(Money minimum,
+                    std::string_view setting,
+                    CheckedText<1> belowCheck,
+                    CheckedText<3> notMultiple) {
   const Money check = SmallestCheck();
   if (minimum < check) {
     return Refuse(ConfigTab::Bets, Say(belowCheck, WithCents(check)), setting);
@@ -91,8 +94,8 @@ Refusal TestLargestBets() {
   return std::nullopt;
 }
 
-bool Ask(std::string text, Text title) {
-  return ShowMessage(std::move(text), SayChosen(title), msg::AskYesNo) == AnswerYes;
+bool Ask(std::string text, CheckedText<0> title) {
+  return ShowMessage(std::move(text), Say(title), msg::AskYesNo) == AnswerYes;
 }
 
 void CopyHouseWorking(int place) {
@@ -116,17 +119,17 @@ void OfferHouseWorking(const PerBet<int32_t>& before) {
 
 struct LayoutRow {
   int32_t SettingsState::*Flag;
-  Text Names;  // in the question
+  std::string_view Names;  // in the question; empty: those of the special proposition bets
   std::array<int, 8> Bets;
 };
 
 // clang-format off
 constexpr std::array<LayoutRow, 4> LayoutRows = {{  // by LayoutOption
-    {&SettingsState::UseBig68, {"Big 6/8"}, {bet::Big6, bet::Big8}},
-    {&SettingsState::UseMidwayBet, {"Midway"}, {bet::Midway}},
-    {&SettingsState::UseFireBet, {"Fire"}, {bet::Fire}},
+    {&SettingsState::UseBig68, "Big 6/8", {bet::Big6, bet::Big8}},
+    {&SettingsState::UseMidwayBet, "Midway", {bet::Midway}},
+    {&SettingsState::UseFireBet, "Fire", {bet::Fire}},
     {&SettingsState::UseSpecialPropBets,
-     Text::SpecialPropNames,
+     "",
      {bet::AllSmall, bet::AllTall, bet::MakeAll, bet::FourRollsNo7, bet::Point7, bet::SevenPoint7,
       bet::SharpShooter, bet::RideTheLine}},
 }};
@@ -137,7 +140,8 @@ bool MayRemove(LayoutOption option, const LayoutRow& row) {
     ShowMessage(Say(Text::SpecialPropsBound), Say(Text::RemoveBets), msg::OkAlert);
     return false;
   }
-  return Ask(Say(Text::WagersWillBeRemoved, Wording(row.Names)), Text::RemoveBets);
+  const std::string_view names = row.Names.empty() ? Wording(Text::SpecialPropNames) : row.Names;
+  return Ask(Say(Text::WagersWillBeRemoved, names), Text::RemoveBets);
 }
 
 // Writes a vig setting unless it would take a player's bankroll below zero.
@@ -156,7 +160,7 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
   return false;
 }
 
-bool RefuseNonNegative(int place, Text why) {
+bool RefuseNonNegative(int place, CheckedText<1> why) {
   ShowMessage(Say(why, Table.PlayerName[place]), Say(Text::AllowNegativeBankroll), msg::OkAlert);
   return false;
 }
@@ -185,7 +189,7 @@ void RequireBet(int number, int last) {
 }
 
 std::string YesNoRow(bool yes, int number) {
-  return std::string(Wording(yes ? Text::Yes : Text::No)) + " - " + std::string(BetName[number]);
+  return SayChosen(yes ? Text::Yes : Text::No) + " - " + std::string(BetName[number]);
 }
 
 }  // namespace

@@ -121,7 +121,7 @@ constexpr PairSet ThreeAndEleven = PairBit(1, 2) | PairBit(5, 6);
 // What a sub-row's caption leaves out on the command line.
 struct CountWord {
   std::string_view Word;
-  Text Row;  // the caption that is shown for it
+  CheckedText<1> Row;  // the caption that is shown for it
 };
 constexpr CountWord CountWords[] = {{" points", Text::PointsRow},
                                     {" point", Text::PointRow},
@@ -146,7 +146,7 @@ std::string ShownOwnCaption(std::string_view caption) {
     if (!caption.ends_with(count.Word)) continue;
     caption.remove_suffix(count.Word.size());
     caption.remove_prefix(caption.find_first_not_of(' '));
-    return Say(count.Row, caption);
+    return "      " + Say(count.Row, caption);
   }
   return std::string(caption);
 }

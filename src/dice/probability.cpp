@@ -124,10 +124,11 @@ std::string_view PercentageDiceCaption() {
 
 std::string ProbabilityDisplayText(int32_t display, bool base) {
   if (display < ShownAsPercentages || display > ShownAsRollsFromTrue) RaiseIndexOutOfRange();
-  constexpr std::array Captions = {&Text::ShownAsPercentages, &Text::ShownAsPercentagesFromTrue,
-                                   &Text::ShownAsRolls, &Text::ShownAsRollsFromTrue};
-  const std::string caption(Wording(*At(Captions, display)));
-  return base && IsInRolls(display) ? caption + PlainNumber(Probability.RollsOutOf) : caption;
+  constexpr std::array Captions = {Text::ShownAsPercentages, Text::ShownAsPercentagesFromTrue,
+                                   Text::ShownAsRolls, Text::ShownAsRollsFromTrue};
+  const Text caption = At(Captions, display);
+  if (!IsInRolls(display)) return SayChosen(caption);
+  return SayChosen(caption, base ? PlainNumber(Probability.RollsOutOf) : "");
 }
 
 double ShownShare(int column, int row) {

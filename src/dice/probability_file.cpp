@@ -45,8 +45,8 @@ void TakeName(const std::string& path) {
   Probability.ProbabilityChanged = 0;
 }
 
-SaveChoice AskToSave(Text question, int32_t flags) {
-  const int32_t answer = ShowMessage(SayChosen(question), Say(Text::SaveProbabilities), flags);
+SaveChoice AskToSave(CheckedText<0> question, int32_t flags) {
+  const int32_t answer = ShowMessage(Say(question), Say(Text::SaveProbabilities), flags);
   if (answer == AnswerCancel) return SaveChoice::Cancel;
   if (answer != AnswerYes) return SaveChoice::GoOn;
   return EqualIgnoringCase(ShortName(Probability.ProbabilityFileName), AutomaticProbabilityFile)

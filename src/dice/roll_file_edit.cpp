@@ -230,7 +230,7 @@ void AppendRoll(std::string& text, std::string_view prepared, int32_t number, Fa
   }
 }
 
-bool FormatShowsRolls(Text title) {
+bool FormatShowsRolls(CheckedText<0> title) {
   const std::string format = PreparedFormat(RollOutputFormat());
   const bool shows = std::any_of(FormatWords.begin(), FormatWords.end(), [&](const auto& word) {
     return format.find(word.text) != std::string::npos;
@@ -298,7 +298,7 @@ void EnterRecorderState(int32_t use) {
   if (use == RollFilePlay && before != RollFilePlay) LogPlayback(RollFile.RollFileName);
 }
 
-void AskToRewind(Text question) {
+void AskToRewind(CheckedText<0> question) {
   const bool rewind = Show(question, Text::RollFileTitle, msg::AskYesNo) == AnswerYes;
   if (rewind) {
     RewindForPlayback();

@@ -58,8 +58,8 @@ Money ATM(int place, bool deposit, Money amount, bool tell) {
     }
   }
   if (!text.empty() && tell && Table.HyperDriveOn == 0) {
-    Text title = deposit ? Text::AtmDeposit : Text::AtmWithdrawal;
-    ShowMessage(std::move(text), SayChosen(title), msg::OkAlert, help::Players);
+    ShowMessage(std::move(text), SayChosen(deposit ? Text::AtmDeposit : Text::AtmWithdrawal),
+                msg::OkAlert, help::Players);
   }
   if (allowed != Money()) MoveBankroll(place, deposit ? -allowed : allowed);
   return allowed;

@@ -38,11 +38,11 @@ void TellHowItStands(int place, Title&& title) {
                      (Settings.Notices & NoticeCharges) == 0;
   if (quiet || amount == Money()) return;
   const Money change = amount - AmountBefore(place);
-  Text text = change == Money()  ? Text::BetUnchanged
-              : change > Money() ? Text::BetIncreased
-                                 : Text::BetDecreased;
+  const Text text = change == Money()  ? Text::BetUnchanged
+                    : change > Money() ? Text::BetIncreased
+                                       : Text::BetDecreased;
   Message.MsgText =
-      Say(text, Table.PlayerName[place], BetName[Table.CurrentBet], FormatMoney(Abs(change)));
+      SayChosen(text, Table.PlayerName[place], BetName[Table.CurrentBet], FormatMoney(Abs(change)));
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
@@ -255,7 +255,7 @@ void Parlay(int place) {
   } else {
     ChangeBy(place, Table.NetWin);
   }
-  TellHowItStands(place, [] { return std::string("Parlay"); });
+  TellHowItStands(place, [] { return Plain(Wording(Text::ParlayButton)); });
 }
 
 void BetRemainder(int place) {
@@ -267,9 +267,9 @@ void ModifyBet(int place, int slot) {
   const HandlingRow row = RowOfSlot(place, slot);
   ChangeBy(place, ModifiedChange(row, AmountBefore(place)));
   TellHowItStands(place, [&row] {
-    constexpr std::array Titles = {&Text::SameBetPlus, &Text::SameBetMinus, &Text::SameBetTimes,
-                                   &Text::SameBetDividedBy};
-    return SayChosen(*At(Titles, row.operation & 3), FigureText(row));
+    constexpr std::array Titles = {Text::SameBetPlus, Text::SameBetMinus, Text::SameBetTimes,
+                                   Text::SameBetDividedBy};
+    return SayChosen(At(Titles, row.operation & 3), FigureText(row));
   });
 }
 
@@ -284,9 +284,8 @@ void SetBetUnits(int place, int slot) {
   }
   PutBack(place, row.amount * unit);
   TellHowItStands(place, [&row] {
-    const std::string bet = Say(Text::SetBetTitle);
-    if (row.units <= Money(1)) return bet + " " + FigureText(row);
-    return bet + " " + FormatMoney(row.amount) + " " + Say(Text::SetBetUnitsTitle);
+    if (row.units <= Money(1)) return Say(Text::SetBetTitle, FigureText(row));
+    return Say(Text::SetBetUnitsTitle, FormatMoney(row.amount));
   });
 }
 

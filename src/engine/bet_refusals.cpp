@@ -103,14 +103,14 @@ Verdict JudgeIncrease(int place, int number, Money delta) {
   return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, delta, refusal);
 }
 
-std::string WithPutNote(Text refusal) {
-  return SayChosen(refusal) + "\r\r" + Say(Text::UnlessPutBets);
+std::string WithPutNote(CheckedText<0> refusal) {
+  return Say(refusal) + "\r\r" + Say(Text::UnlessPutBets);
 }
 
-Text MarkedText(int number) {
-  return number == bet::AllSmall  ? Text::SmallNumbersMarked
-         : number == bet::AllTall ? Text::TallNumbersMarked
-                                  : Text::AnyNumbersMarked;
+CheckedText<1> MarkedText(int number) {
+  return number == bet::AllSmall  ? CheckedText<1>(Text::SmallNumbersMarked)
+         : number == bet::AllTall ? CheckedText<1>(Text::TallNumbersMarked)
+                                  : CheckedText<1>(Text::AnyNumbersMarked);
 }
 
 }  // namespace
@@ -130,7 +130,7 @@ Verdict JudgeChange(int place, int number, Money delta) {
 std::string RefusalText(RefusalKind refusal, int number) {
   using enum RefusalKind;
   const std::string_view name = BetName[number];
-  const auto named = [name](Text texts) { return Say(texts, name); };
+  const auto named = [name](CheckedText<1> text) { return Say(text, name); };
   switch (refusal) {
     case None:
       return "";

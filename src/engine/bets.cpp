@@ -59,8 +59,8 @@ class Change {
   Money Total() const { return Amount() + delta_; }
 
   // Adds a part to the message. `text` is only built when somebody will see it.
-  template <class Text>
-  void Say(Notice notice, Text&& text) {
+  template <class Maker>
+  void Notify(Notice notice, Maker&& text) {
     if (Quiet(ShowRejections) || (Settings.Notices & notice) == 0) return;
     if (!text_.empty()) text_ += "\r\r";
     text_ += text();
@@ -77,8 +77,9 @@ class Change {
     const Verdict verdict = JudgeChange(place_, number_, delta_);
     delta_ = verdict.delta;
     if (verdict.refusal == RefusalKind::None) return false;
-    Say(NoticeActionsNotAllowed,
-        [&] { return Table.PlayerName[place_] + ",\r\r" + RefusalText(verdict.refusal, number_); });
+    Notify(NoticeActionsNotAllowed, [&] {
+      return Table.PlayerName[place_] + ",\r\r" + RefusalText(verdict.refusal, number_);
+    });
     return true;
   }
 
@@ -89,8 +90,8 @@ class Change {
       delta_ = HeldContract(place_, number_) - Amount();
       return;
     }
-    Say(NoticeLimits,
-        [&] { return Say(Text::MinimumBet, BetName[number_], FormatMoney(minimum)); });
+    Notify(NoticeLimits,
+           [&] { return Say(Text::MinimumBet, BetName[number_], FormatMoney(minimum)); });
     delta_ = minimum - Amount();
   }
 
@@ -98,11 +99,11 @@ class Change {
     const Money limit = FigureMaxBet(place_, number_);
     if (Total() <= limit) return;
     const std::string_view name = BetName[number_];
-    Say(NoticeLimits, [&] { return Say(Text::MaximumBet, name, FormatMoney(limit)); });
+    Notify(NoticeLimits, [&] { return Say(Text::MaximumBet, name, FormatMoney(limit)); });
     const Money contract = HeldContract(place_, number_);
     if (contract > limit) {
-      Say(NoticeLimits,
-          [&] { return Say(Text::ContractAboveMaximum, name, FormatMoney(contract)); });
+      Notify(NoticeLimits,
+             [&] { return Say(Text::ContractAboveMaximum, name, FormatMoney(contract)); });
     }
     delta_ = std::max(limit, contract) - Amount();
   }
@@ -114,7 +115,7 @@ class Change {
       delta_ = adjustment.total - Amount();
       return;
     }
-    Say(NoticeLimits, [&] {
+    Notify(NoticeLimits, [&] {
       unable_ = true;
       return SayChosen(
           adjustment.limitIsMaximum ? Text::UnableToAdjustMaximum : Text::UnableToAdjustMinimum,
@@ -146,7 +147,7 @@ class Change {
     delta_ = LargestAffordable(left);
     const Money held = HeldContract(place_, number_);
     if (Total() < std::max(BetMinimum(number_), held)) delta_ = held - Amount();
-    Say(NoticeLimits, [] { return Wording(Text::NotEnoughBankroll); });
+    Notify(NoticeLimits, [] { return Wording(Text::NotEnoughBankroll); });
   }
 
   // The largest change in whole checks that `left` pays for, at least the bet coming off. The vig

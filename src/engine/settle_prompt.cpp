@@ -17,8 +17,8 @@ std::string Dollars(Money amount) {
   return "$" + FormatMoney(amount);
 }
 
-std::string Counted(int32_t count, Text one, Text many) {
-  return SayChosen(count == 1 ? one : many, count);
+std::string Counted(int32_t count, CheckedText<1> one, CheckedText<1> many) {
+  return Say(count == 1 ? one : many, count);
 }
 
 // What of a hand a bet was paid for; empty for the bets that no count decides.
@@ -55,9 +55,8 @@ void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow&
   const std::string whole = std::to_string(parts);
   const Money part = Money::FromDouble(amount.ToDouble() / parts);
   prompt.rows.push_back({Say(Text::PartOfBet, whole), Dollars(part)});
-  prompt.rows.push_back({Say(Text::PayoffAt) + RatioText(row) + ":", Dollars(PaidAt(part, row))});
-  prompt.rows.push_back(
-      {Say(Text::LessPartOfBet, std::to_string(parts - 1), whole), Dollars(amount - part)});
+  prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(PaidAt(part, row))});
+  prompt.rows.push_back({Say(Text::LessPartOfBet, parts - 1, whole), Dollars(amount - part)});
 }
 
 void AddVigRow(SettlePrompt& prompt, Money gross) {
@@ -77,7 +76,7 @@ void AddWinRows(SettlePrompt& prompt, Money amount) {
     AddPartRows(prompt, amount, parts, row);
   } else {
     const Money gross = PaidAt(amount, row);
-    prompt.rows.push_back({Say(Text::PayoffAt) + RatioText(row) + ":", Dollars(gross)});
+    prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(gross)});
     AddVigRow(prompt, gross);
   }
   prompt.rows.push_back(
@@ -96,9 +95,9 @@ void AddLossRows(SettlePrompt& prompt, Money amount) {
 
 void SetButtons(SettlePrompt& prompt) {
   if (prompt.offersPress) {
-    for (size_t k = 0; k < prompt.buttons.size(); ++k) {
-      prompt.buttons[k] = Wording(50 + static_cast<int>(k));
-    }
+    prompt.buttons = {Say(Text::TakeBetButton), Say(Text::SameBetButton),
+                      Say(Text::PressUnitButton), Say(Text::PressDoubleButton),
+                      Say(Text::ParlayButton)};
   } else {
     prompt.buttons = {
         Say(Text::NoBetButton), Say(Text::SameLostBetButton), Say(Text::BetRemainderButton),

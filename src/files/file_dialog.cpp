@@ -26,17 +26,17 @@ namespace {
 enum class Purpose { MustExist, MayExist, Save };
 
 struct FilterRow {
-  int label;  // of the general text table
+  Text label;
   std::string_view pattern;
 };
 // clang-format off
-constexpr FilterRow SessionFilter[]     = {{137, "*.tsg"}};
-constexpr FilterRow RollFilter[]        = {{126, "*.rol"}};
-constexpr FilterRow TextFilter[]        = {{130, "*.txt"}};
-constexpr FilterRow ProbabilityFilter[] = {{149, "*.prb"}};
-constexpr FilterRow SessionsLogFilter[] = {{129, "*.slg"}};
-constexpr FilterRow ScriptFilters[]     = {{128, "*.bet"}, {144, "*.bet;*.txt"}, {130, "*.txt"},
-                                           {138, "*.*"}};
+constexpr FilterRow SessionFilter[]     = {{Text::SessionFiles, "*.tsg"}};
+constexpr FilterRow RollFilter[]        = {{Text::DiceRollFileKind, "*.rol"}};
+constexpr FilterRow TextFilter[]        = {{Text::TextFiles, "*.txt"}};
+constexpr FilterRow ProbabilityFilter[] = {{Text::ProbabilityFiles, "*.prb"}};
+constexpr FilterRow SessionsLogFilter[] = {{Text::SessionsLogFiles, "*.slg"}};
+constexpr FilterRow ScriptFilters[]     = {{Text::AutoBetFiles, "*.bet"}, {Text::AutoBetAndTextFiles, "*.bet;*.txt"}, {Text::TextFiles, "*.txt"},
+                                           {Text::AllFiles, "*.*"}};
 
 struct ActionRow {
   FileAction action;
@@ -183,8 +183,9 @@ void BackToDefaultSessionsLog(int place) {
   const std::string& name = Table.PlayerName[place];
   std::string& log = Table.SessionLogName[place];
   log = DefaultSessionsLogName(name);
-  Text text = FileExists(log) ? Text::ExistingLogInstead : Text::NewLogInstead;
-  ShowMessage(Say(text, log), Say(Text::SessionsLogOf, name), msg::OkAlert, help::SessionsLogs);
+  const Text text = FileExists(log) ? Text::ExistingLogInstead : Text::NewLogInstead;
+  ShowMessage(SayChosen(text, log), Say(Text::SessionsLogOf, name), msg::OkAlert,
+              help::SessionsLogs);
 }
 
 void GiveUpAndDelete(const std::string& path) {
@@ -208,8 +209,8 @@ std::string_view FileActionTitle(FileAction action) {
 
 std::optional<FileAction> FileActionOfTitle(std::string_view title) {
   for (const ActionRow& row : ActionRows) {
-    for (const std::string_view known : row.title) {
-      if (EqualIgnoringCase(known, title)) return row.action;
+    for (int32_t language = 0; language < LanguageCount; ++language) {
+      if (EqualIgnoringCase(Wording(row.title, language), title)) return row.action;
     }
   }
   return std::nullopt;
@@ -223,7 +224,7 @@ std::vector<FileFilter> FileFilters(FileAction action) {
   std::vector<FileFilter> filters;
   for (const FilterRow& row : RowOf(action).filters) {
     const std::string pattern(row.pattern);
-    filters.push_back({std::string(Wording(row.label)) + " (" + pattern + ")", pattern});
+    filters.push_back({SayChosen(row.label) + " (" + pattern + ")", pattern});
   }
   return filters;
 }

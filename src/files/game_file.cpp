@@ -56,7 +56,7 @@ void NameGame(const std::string& path) {
 
 // --- Opening -----------------------------------------------------------------------------------
 
-void Refuse(Text why, const std::string& path) {
+void Refuse(CheckedText<1> why, const std::string& path) {
   ShowMessage(Say(why, ShortName(path)), Message.ErrorTitle, msg::OkAlert, help::Saving);
 }
 

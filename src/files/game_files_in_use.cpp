@@ -72,19 +72,28 @@ void NoteFilesOfPlace(FilesInUse& files, int place) {
 
 // What is said of a file, with the title of the box.
 struct FileNotice {
-  Text text;
-  Text title;
+  CheckedText<1> text;
+  CheckedText<0> title;
+};
+// The same with the player whose file it is.
+struct ScriptNotice {
+  CheckedText<2> text;
+  CheckedText<0> title;
 };
 constexpr FileNotice RollFileGone = {Text::RollFileGone, Text::RollFileGoneTitle};
 constexpr FileNotice RollFileChanged = {Text::RollFileChanged, Text::RollFileChangedTitle};
 constexpr FileNotice MatrixGone = {Text::MatrixGone, Text::MatrixGoneTitle};
 constexpr FileNotice MatrixChanged = {Text::MatrixChanged, Text::MatrixChangedTitle};
 constexpr FileNotice EventsLogGone = {Text::EventsLogGone, Text::EventsLogGoneTitle};
-constexpr FileNotice ScriptGone = {Text::ScriptGone, Text::ScriptGoneTitle};
-constexpr FileNotice ScriptChanged = {Text::ScriptChanged, Text::ScriptChangedTitle};
+constexpr ScriptNotice ScriptGone = {Text::ScriptGone, Text::ScriptGoneTitle};
+constexpr ScriptNotice ScriptChanged = {Text::ScriptChanged, Text::ScriptChangedTitle};
 
-void Tell(const FileNotice& notice, const std::string& file, const std::string& player = "") {
-  ShowMessage(Say(notice.text, file, player), SayChosen(notice.title), msg::OkAlert);
+void Tell(const FileNotice& notice, const std::string& file) {
+  ShowMessage(Say(notice.text, file), Say(notice.title), msg::OkAlert);
+}
+
+void Tell(const ScriptNotice& notice, const std::string& file, const std::string& player) {
+  ShowMessage(Say(notice.text, file, player), Say(notice.title), msg::OkAlert);
 }
 
 // The path of a name in a game file, which may have '\' in it and be relative.
@@ -158,8 +167,8 @@ void TakeUpSessionsLog(int place, const std::string& log) {
   const bool there = FileExists(log);
   Table.SessionLogName[place] = there ? log : usual;
   if (there || log.empty() || log == usual) return;
-  Text text = FileExists(usual) ? Text::LogGoneExistingInstead : Text::LogGoneNewInstead;
-  ShowMessage(Say(text, log, name, usual), Say(Text::LogGoneTitle), msg::OkAlert);
+  const Text text = FileExists(usual) ? Text::LogGoneExistingInstead : Text::LogGoneNewInstead;
+  ShowMessage(SayChosen(text, log, name, usual), Say(Text::LogGoneTitle), msg::OkAlert);
 }
 
 // What goes wrong with one file is reported and leaves the others.

@@ -45,8 +45,8 @@ void RefuseFile() {
 
 bool AgreesToSessionInProgress(bool oneLog) {
   if (RollsInSession() == 0) return true;
-  Text question = oneLog ? Text::SessionGoesIntoNewLog : Text::SessionGoesIntoNewLogs;
-  Text title = oneLog ? Text::SessionGoesIntoNewLogTitle : Text::SessionGoesIntoNewLogsTitle;
+  const Text question = oneLog ? Text::SessionGoesIntoNewLog : Text::SessionGoesIntoNewLogs;
+  const Text title = oneLog ? Text::SessionGoesIntoNewLogTitle : Text::SessionGoesIntoNewLogsTitle;
   return ShowMessage(SayChosen(question), SayChosen(title), msg::AskNoDefault) == AnswerYes;
 }
 

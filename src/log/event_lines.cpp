@@ -210,8 +210,8 @@ void LogPlayerJoined(int place, Money amount) {
   if (EventsLog.LogOn == 0) return;
   const bool left = place <= 4;
   const std::string spot = std::to_string(left ? 5 - place : place - 4);
-  WriteNote(place, SayChosen(left ? Text::JoinedAtStickLeft : Text::JoinedAtStickRight, spot) +
-                       PlainText(amount));
+  WriteEvent("    " + SayChosen(left ? Text::JoinedAtStickLeft : Text::JoinedAtStickRight,
+                                NameOf(place), spot, PlainText(amount)));
 }
 
 void LogPlayerMoved(int place) {
@@ -221,7 +221,7 @@ void LogPlayerMoved(int place) {
 
 void LogPlayerRenamed(std::string_view before, std::string_view after) {
   if (EventsLog.LogOn == 0) return;
-  WriteEvent(Join("    ", before, Wording(Text::NameChanged), after));
+  WriteEvent("    " + Say(Text::NameChanged, before, after));
 }
 
 void LogCashOut(int place, Money abandoned) {
@@ -230,14 +230,12 @@ void LogCashOut(int place, Money abandoned) {
   const Money net = bankroll - Table.InvestedBankroll[place];
   std::string outcome = Say(Text::BrokeEven);
   if (net != Money()) {
-    outcome = Join("$", PlainText(Abs(net)), Wording(net > Money() ? 29 : 28));
+    outcome = SayChosen(net > Money() ? Text::CashOutWin : Text::CashOutLoss, PlainText(Abs(net)));
   }
   if (abandoned != Money()) {
-    outcome += Join(Wording(Text::CashOutAfterAbandoned), PlainText(abandoned), Wording(Text::N32));
-  } else {
-    outcome += ")";
+    outcome = Say(Text::CashOutAfterAbandoned, outcome, PlainText(abandoned));
   }
-  WriteNote(place, Join(Wording(Text::CashedOut), PlainText(bankroll), " (", outcome));
+  WriteEvent("    " + Say(Text::CashedOut, NameOf(place), PlainText(bankroll), outcome));
 }
 
 void LogSeed(int32_t generator, int32_t seed) {

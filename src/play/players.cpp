@@ -86,8 +86,8 @@ void PassToNobody(PassReason reason, int blocked) {
 // The dice go on in the middle of a hand, which stays credited to who started it.
 void TellOfPassedHand(PassReason reason, int from, int to) {
   if (RollsInHand() == 0) return;
-  Text text = to == Table.LastShooter ? Text::PassingBack : Text::PassingOn;
-  TellPassing(reason, Say(text, NameOf(from), NameOf(to)));
+  const Text text = to == Table.LastShooter ? Text::PassingBack : Text::PassingOn;
+  TellPassing(reason, SayChosen(text, NameOf(from), NameOf(to)));
   if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
 }
 
@@ -102,8 +102,9 @@ std::optional<Money> AskBankroll(const std::string& question,
     const std::optional<Money> amount = ParseTypedMoney(shown);
     if (amount && Abs(*amount) <= BankrollLimit) return amount;
     const bool tooLow = amount && *amount < Money();
-    text = std::string(Wording(tooLow ? Text::BankrollMinimum : Text::BankrollMaximum)) +
-           (tooLow ? "-$" : "$") + FormatMoney(BankrollLimit) + "\r\r" + question;
+    text = SayChosen(tooLow ? Text::BankrollMinimum : Text::BankrollMaximum,
+                     FormatMoney(BankrollLimit)) +
+           "\r\r" + question;
   }
   return std::nullopt;
 }
@@ -158,8 +159,8 @@ void BankrollLimitStop(int place) {
   const bool negative = BankrollOf(place) <= Money();
   const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };
   if (Table.HyperDriveOn != 0) {
-    Text text = negative ? Text::StoppedBelowLimit : Text::StoppedAboveLimit;
-    Table.StopReason = gone ? reset : withReset(Say(text, LimitText));
+    const Text text = negative ? Text::StoppedBelowLimit : Text::StoppedAboveLimit;
+    Table.StopReason = gone ? reset : withReset(SayChosen(text, LimitText));
   } else if (gone) {
     ShowMessage(reset, "", msg::OkAlert, help::NewSession);
   } else if (negative) {

@@ -31,10 +31,6 @@ constexpr const char* UsualBuyIn = "1000";
 // The name of a player's sessions log, which holds his, is one that every disk takes.
 constexpr size_t MostNameCharacters = 60;
 
-std::string Text(int id) {
-  return std::string(Wording(id));
-}
-
 // Asks `question` until the answer is a name that can be given; empty when the user gives up.
 std::string AskName(const std::string& question, const std::string& title, int place) {
   std::string text = question;
@@ -80,7 +76,7 @@ Money Total(const std::vector<AbandonedBet>& bets) {
   return total;
 }
 
-// "an active Pass Line bet and 2 active Come bets "
+// "an active Pass Line bet and 2 active Come bets"
 std::string ListOf(const std::vector<AbandonedBet>& bets) {
   const auto isCome = [](const AbandonedBet& bet) { return InFamily(bet.number, ComeFamily); };
   const auto comes = std::count_if(bets.begin(), bets.end(), isCome);
@@ -90,22 +86,22 @@ std::string ListOf(const std::vector<AbandonedBet>& bets) {
     parts.push_back(Say(Text::AbandonedBet, BetName[bet.number]));
   }
   if (comes > 1) {
-    parts.push_back(std::to_string(comes) + Say(Text::AbandonedBets, BetName[bet::Come]));
+    parts.push_back(Say(Text::AbandonedBets, comes, BetName[bet::Come]));
   }
   std::string list = parts.front();
   for (size_t k = 1; k < parts.size(); ++k)
-    list += Text(21) + parts[k];
+    list = Say(Text::AbandonedBetsJoined, list, parts[k]);
   return list;
 }
 
 bool ConfirmRemoval(int place, const std::vector<AbandonedBet>& abandoned) {
   const std::string& name = Table.PlayerName[place];
-  std::string text = Text(18) + name + "?";
+  std::string text = Say(Text::AskToRemovePlayer, name);
   if (!abandoned.empty()) {
-    text += "\r\r" + name + Text(19) + ListOf(abandoned) + Text(24) + "\r\r" + Text(25) +
-            FormatMoney(Total(abandoned));
+    text += "\r\r" + Say(Text::StillHasBets, name, ListOf(abandoned)) + "\r\r" +
+            Say(Text::TotalAbandoned, FormatMoney(Total(abandoned)));
   }
-  return ShowMessage(text, Text(26), msg::AskNoDefault, help::Players) == AnswerYes;
+  return ShowMessage(text, Say(Text::RemovePlayer), msg::AskNoDefault, help::Players) == AnswerYes;
 }
 
 void LoseAbandoned(int place, const std::vector<AbandonedBet>& bets) {
@@ -125,19 +121,22 @@ std::optional<std::string> NameRefusal(const std::string& name, int place) {
   for (int other = 1; other <= LastPlace; ++other) {
     if (other != place && IsTaken(Table, other) &&
         EqualIgnoringCase(Table.PlayerName[other], name)) {
-      return Text(6) + name;
+      return Say(Text::NameTaken, name);
     }
   }
-  if (name.find_first_not_of("0123456789") == std::string::npos) return Text(7);
+  if (name.find_first_not_of("0123456789") == std::string::npos) return Say(Text::NameAllNumeric);
   return std::nullopt;
 }
 
 bool AddPlayer(int place) {
   if (IsTaken(Table, place)) return false;
-  if (ShowMessage(Text(3), Text(5), msg::AskYesDefault, help::Players) != AnswerYes) return false;
-  const std::string name = AskName(Text(4), Text(5), 0);
+  if (ShowMessage(Say(Text::AskToAddPlayer), Say(Text::AddNewPlayer), msg::AskYesDefault,
+                  help::Players) != AnswerYes)
+    return false;
+  const std::string name = AskName(Say(Text::AskNewPlayerName), Say(Text::AddNewPlayer), 0);
   if (name.empty()) return false;
-  const std::optional<Money> buyIn = AskBankroll(Say(Text::AskBuyIn, name), Text(5), UsualBuyIn);
+  const std::optional<Money> buyIn =
+      AskBankroll(Say(Text::AskBuyIn, name), Say(Text::AddNewPlayer), UsualBuyIn);
   if (!buyIn) return false;
   SeatPlayer(place, name, *buyIn);
   Table.TableDirty = -1;
@@ -148,7 +147,7 @@ bool AddPlayer(int place) {
 bool RenamePlayer(int place) {
   if (!IsTaken(Table, place)) return false;
   const std::string before = Table.PlayerName[place];
-  const std::string name = AskName(Text(13) + before, Text(14), place);
+  const std::string name = AskName(Say(Text::AskNewName, before), Say(Text::RenamePlayer), place);
   if (name.empty()) return false;
   SetPlayerName(place, name);
   Table.TableDirty = -1;

@@ -44,7 +44,7 @@ bool Refuse(std::string text, std::string title, std::string reason) {
 
 // A demand on the shooter, with the note where it can be changed.
 std::string BetDemand(Text demand) {
-  return Say(demand, Table.PlayerName[Table.Shooter]) + "\r\r" + Say(Text::BetRequiredNote);
+  return SayChosen(demand, Table.PlayerName[Table.Shooter]) + "\r\r" + Say(Text::BetRequiredNote);
 }
 
 bool HasAnyBet(int place) {
@@ -52,9 +52,9 @@ bool HasAnyBet(int place) {
 }
 
 bool RefuseWithoutLineBet() {
-  Text demand = Table.PlayerCount == 1 ? Text::LineBetAlone
-                : Table.Point != 0     ? Text::LineBetDuringPoint
-                                       : Text::LineBetOrPass;
+  const Text demand = Table.PlayerCount == 1 ? Text::LineBetAlone
+                      : Table.Point != 0     ? Text::LineBetDuringPoint
+                                             : Text::LineBetOrPass;
   return Refuse(BetDemand(demand), Say(Text::LineBetRequired), Say(Text::ShooterWithoutLineBet));
 }
 

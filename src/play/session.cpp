@@ -229,15 +229,13 @@ void EmptyScripts() {
 
 // --- Leaving -----------------------------------------------------------------------------------
 
-std::string Text(int id) {
-  return std::string(Wording(id));
-}
-
 bool AskToStopUnattended() {
   const bool hyper = Table.HyperDriveOn != 0;
   if (!hyper && Table.AutoRollOn == 0) return true;
-  const int title = hyper ? 114 : 117, question = hyper ? 118 : 119;
-  if (ShowMessage(Text(question), Text(title), msg::AskYesDefault, help::AutoRoll) != AnswerYes)
+  const Text title = hyper ? Text::HyperDriveActive : Text::AutoRollActive;
+  const Text question = hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll;
+  if (ShowMessage(SayChosen(question), SayChosen(title), msg::AskYesDefault, help::AutoRoll) !=
+      AnswerYes)
     return false;
   StopUnattended();
   return true;
@@ -245,7 +243,8 @@ bool AskToStopUnattended() {
 
 bool AskToStopScripts() {
   if (AutoBet.ScriptRunning == 0) return true;
-  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
+  if (ShowMessage(Say(Text::AskToStopAutoBetting), Say(Text::AutoBetActive), msg::AskYesDefault,
+                  help::BettingSystems) != AnswerYes)
     return false;
   InterruptAutoBetting();
   return true;
@@ -254,8 +253,9 @@ bool AskToStopScripts() {
 // Saves a script, an untitled one where the user wants it; false when he gives up or it fails.
 bool SaveScript(int place) {
   const bool untitled = Scripts.Places[place].ScriptFile.empty();
-  const std::string file =
-      untitled ? FrontEnd.AskSaveFile(Text(147), Table.PlayerName[place] + ".bet") : "";
+  const std::string file = untitled ? FrontEnd.AskSaveFile(Say(Text::SaveAutoBetFileAs),
+                                                           Table.PlayerName[place] + ".bet")
+                                    : "";
   if (untitled && file.empty()) return false;
   return Trapped("SaveScriptFile",
                  [&] { untitled ? SaveScriptFileAs(place, file) : SaveScriptFile(place); });
@@ -264,8 +264,8 @@ bool SaveScript(int place) {
 bool OfferToSaveScript(int place) {
   if (!Scripts.Places[place].changed) return true;
   const std::string question = Say(Text::AskToSaveScript, Table.PlayerName[place]);
-  const int32_t answer =
-      ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel, help::BettingSystems);
+  const int32_t answer = ShowMessage(question, Say(Text::AskToSaveAutoBets),
+                                     msg::AskYesDefault | msg::Cancel, help::BettingSystems);
   return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
 }
 
@@ -307,8 +307,8 @@ bool SaveGameUnderItsName() {
 
 bool OfferToSaveGame() {
   if (Table.TableDirty == 0) return true;
-  const int32_t answer =
-      ShowMessage(Text(141), Text(139), msg::AskYesDefault | msg::Cancel, help::Saving);
+  const int32_t answer = ShowMessage(Say(Text::AskToSaveSession), Say(Text::SaveSessionTitle),
+                                     msg::AskYesDefault | msg::Cancel, help::Saving);
   return answer == AnswerNo || (answer == AnswerYes && SaveGameUnderItsName());
 }
 

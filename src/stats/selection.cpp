@@ -9,8 +9,6 @@ namespace tessarel {
 
 ViewSelectionState ViewSelections;
 
-namespace {}  // namespace
-
 std::string_view ScopeName(Scope scope) {
   return At(ScopeNames, scope / SlotsInScope);
 }
@@ -49,8 +47,7 @@ std::string SelectionCaption(PlaceSelection selection) {
   if (IsWholeTable(selection)) return Say(Text::AllPlayersSelected);
   const int count = std::popcount(PresentPlaces(selection));
   if (count == 0) return Say(Text::NoPlayersSelected);
-  const int text = count == 1 ? Text::PlayerSelected : Text::PlayersSelected;
-  return std::to_string(count) + " " + std::string(Wording(text));
+  return SayChosen(count == 1 ? Text::PlayerSelected : Text::PlayersSelected, count);
 }
 
 std::string BetSelectionCaption(const NumberSet& bets) {

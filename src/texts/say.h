@@ -53,7 +53,8 @@ std::string ValueText(Number value) {
 
 // The text with its values, which are texts or whole numbers.
 template <class... Values>
-std::string Say(std::type_identity_t<CheckedText<sizeof...(Values)>> text, const Values&... values) {
+std::string Say(std::type_identity_t<CheckedText<sizeof...(Values)>> text,
+                const Values&... values) {
   return FillText(text, {std::string_view(detail::ValueText(values))...});
 }
 

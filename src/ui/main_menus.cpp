@@ -78,11 +78,11 @@ struct MainMenus {
 
   void Menu(Text caption) {
     menu = window.menuBar()->addMenu(QString());
-    window.menus_.push_back({menu, &caption});
+    window.menus_.push_back({menu, caption});
   }
   QMenu* Submenu(Text caption) {
     QMenu* inner = menu->addMenu(QString());
-    window.menus_.push_back({inner, &caption});
+    window.menus_.push_back({inner, caption});
     return inner;
   }
   // `keys` is a shortcut; with a leading tab it is only shown, and the window handles the key.
@@ -106,7 +106,7 @@ struct MainMenus {
       this_->RefreshAll();
     });
     menu->addAction(entry);
-    window.entries_.push_back({entry, &caption, std::move(possible), std::move(checked)});
+    window.entries_.push_back({entry, caption, std::move(possible), std::move(checked)});
     return entry;
   }
   void Line() { menu->addSeparator(); }
@@ -143,7 +143,7 @@ struct MainMenus {
     auto* group = new QActionGroup(&window);
     for (const Choice& choice : choices) {
       group->addAction(Add(
-          choice.name, *choice.caption, "", [choose, value = choice.value] { choose(value); }, {},
+          choice.name, choice.caption, "", [choose, value = choice.value] { choose(value); }, {},
           [now, value = choice.value] { return now() == value; }));
     }
     menu = outer;
@@ -235,10 +235,10 @@ void MainMenus::Dice() {
   Line();
   Choices(
       Text::DiceAction,
-      {{"mnuDiceNormal", &Text::DiceNormal, DiceNormal},
-       {"mnuDiceStationary", &Text::DiceStationary, DiceStationary},
-       {"mnuDiceCenter", &Text::DiceCenter, DiceCenter},
-       {"mnuDiceWindow", &Text::DiceWindowed, DiceInWindow}},
+      {{"mnuDiceNormal", Text::DiceNormal, DiceNormal},
+       {"mnuDiceStationary", Text::DiceStationary, DiceStationary},
+       {"mnuDiceCenter", Text::DiceCenter, DiceCenter},
+       {"mnuDiceWindow", Text::DiceWindowed, DiceInWindow}},
       [] { return Settings.DiceAction; },
       [&w = window](int32_t action) {
         const int32_t before = std::exchange(Settings.DiceAction, action);
@@ -295,9 +295,9 @@ void MainMenus::View() {
   option("mnuStatusView", Text::ViewStatus, "", TableOption::StatusBox);
   Choices(
       Text::ViewStatusSize,
-      {{"mnuStatusboxSize1", &Text::StatusSizeSmall, 1},
-       {"mnuStatusboxSize2", &Text::StatusSizeMedium, 2},
-       {"mnuStatusboxSize3", &Text::StatusSizeLarge, 3}},
+      {{"mnuStatusboxSize1", Text::StatusSizeSmall, 1},
+       {"mnuStatusboxSize2", Text::StatusSizeMedium, 2},
+       {"mnuStatusboxSize3", Text::StatusSizeLarge, 3}},
       [] { return GameViews.StatusBoxSize; }, [](int32_t size) { GameViews.StatusBoxSize = size; });
   Line();
   Colours();
@@ -329,11 +329,11 @@ void MainMenus::Options() {
   Menu(Text::MenuOptions);
   Choices(
       Text::OptionsTips,
-      {{"mnuInfoTips0", &Text::TipsNone, 0},
-       {"mnuInfoTips1", &Text::TipsAmounts, 1},
-       {"mnuInfoTips2", &Text::TipsNames, 2},
-       {"mnuInfoTips3", &Text::TipsBoth, 3},
-       {"mnuInfoTips4", &Text::TipsAll, 4}},
+      {{"mnuInfoTips0", Text::TipsNone, 0},
+       {"mnuInfoTips1", Text::TipsAmounts, 1},
+       {"mnuInfoTips2", Text::TipsNames, 2},
+       {"mnuInfoTips3", Text::TipsBoth, 3},
+       {"mnuInfoTips4", Text::TipsAll, 4}},
       [] { return Settings.InfoTipLevel; },
       [](int32_t level) {
         Settings.InfoTipLevel = level;
@@ -362,9 +362,9 @@ void MainMenus::Options() {
   Line();
   Choices(
       Text::OptionsFont,
-      {{"optFontSize9", &Text::StatusSizeSmall, 9},
-       {"optFontSize11", &Text::StatusSizeMedium, 11},
-       {"optFontSize13", &Text::StatusSizeLarge, 13}},
+      {{"optFontSize9", Text::StatusSizeSmall, 9},
+       {"optFontSize11", Text::StatusSizeMedium, 11},
+       {"optFontSize13", Text::StatusSizeLarge, 13}},
       [] { return Settings.BasicFontSize; },
       [&w = window](int32_t size) {
         Settings.BasicFontSize = size;
@@ -496,14 +496,13 @@ void GiveShortcutLetters(const QMenu& menu) {
 
 void MainWindow::SetCaptions() {
   for (const MenuOfWindow& menu : menus_)
-    menu.menu->setTitle(Shown(*menu.caption));
+    menu.menu->setTitle(Shown(menu.caption));
   for (const MenuEntry& entry : entries_) {
-    QString caption = Shown(*entry.caption);
+    QString caption = Shown(entry.caption);
     const QVariant value = entry.action->property("value");
     if (value.isValid()) {
       const std::string number = std::to_string(value.toInt());
-      caption =
-          Shown(SayChosen(*entry.caption, number)).replace(Shown(number), "&" + Shown(number));
+      caption = Shown(SayChosen(entry.caption, number)).replace(Shown(number), "&" + Shown(number));
     }
     entry.action->setText(caption + entry.action->property("shownKeys").toString());
   }

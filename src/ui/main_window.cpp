@@ -329,10 +329,10 @@ void MainWindow::ShowHint() {
 void MainWindow::RightClick() {
   if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
     const bool hyper = Table.HyperDriveOn != 0;
-    const int32_t answer = ShowMessage(
-        std::string(Wording(hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll)),
-        std::string(Wording(hyper ? Text::HyperDriveActive : Text::AutoRollActive)),
-        msg::AskYesDefault, help::AutoRoll);
+    const int32_t answer =
+        ShowMessage(SayChosen(hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll),
+                    SayChosen(hyper ? Text::HyperDriveActive : Text::AutoRollActive),
+                    msg::AskYesDefault, help::AutoRoll);
     if (answer == AnswerYes) StopAutoRoll();
   } else {
     RollTheDice();

@@ -9,6 +9,7 @@
 #include <functional>
 #include <vector>
 
+#include "texts/say.h"
 #include "ui/autosave.h"
 #include "ui/control_bar.h"
 #include "ui/table_view.h"
@@ -83,13 +84,13 @@ class MainWindow : public QMainWindow {
 
   struct MenuEntry {
     QAction* action = nullptr;
-    Text caption = nullptr;
+    Text caption{};
     std::function<bool()> possible;
     std::function<bool()> checked;
   };
   struct MenuOfWindow {
     QMenu* menu = nullptr;
-    Text caption = nullptr;
+    Text caption{};
   };
 
   TableView* view_;

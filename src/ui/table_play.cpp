@@ -42,10 +42,6 @@ int32_t& WordOf(TableOption option) {
   }
 }
 
-std::string Text(int id) {
-  return std::string(Wording(id));
-}
-
 std::string NameOf(int place) {
   return Table.PlayerName[place];
 }
@@ -132,7 +128,7 @@ Money ClickedChange(int place, int number, ClickKind kind) {
 }
 
 void TellNobodyHere() {
-  ShowMessage(Text(1), Text(2), msg::Ok);
+  ShowMessage(Say(Text::ClickOpenPosition), Say(Text::AddPlayerTitle), msg::Ok);
 }
 
 void ClickBet(int spot, ClickKind kind) {
@@ -227,7 +223,7 @@ Text ActionText(int action) {
 
 ClickOutlook OutlookOfBet(int number) {
   const int place = CurrentPlace();
-  if (place == 0) return {Text(1), false};
+  if (place == 0) return {Say(Text::ClickOpenPosition), false};
   if (TablePlay.TableAction != ActionNormal) {
     return {SayChosen(ActionText(TablePlay.TableAction), SpotName(number)),
             Suits(number < FirstStack ? number : 0)};
@@ -261,8 +257,8 @@ std::string PayoffText(int number) {
   const PayoffRow& row = PayoffRowOf(number);
   const bool isTo = row.PayForm == Money(FormTo);
   const Money first = isTo ? row.PayNum : row.PayNum + row.PayDen;
-  return std::string(Wording(texts::Pays)) + FormatMoney(first) +
-         std::string(Wording(isTo ? Text::TipPaysTo : Text::TipPaysFor)) + FormatMoney(row.PayDen);
+  return SayChosen(isTo ? Text::TipPaysTo : Text::TipPaysFor, FormatMoney(first),
+                   FormatMoney(row.PayDen));
 }
 
 std::string StateText(int place, int number) {
@@ -283,20 +279,20 @@ void AddCompanions(std::string& tip, int place, int number) {
   const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
   if (lay || buy) {
     const auto& vigs = lay ? Table.LayVig[place] : Table.BuyVig[place];
-    tip += "\r" + Say(Text::TipVig) + FormatExact(At(vigs, (number - 1) % FamilySize));
+    tip += "\r" + Say(Text::TipVig, FormatExact(At(vigs, (number - 1) % FamilySize)));
   }
   const bool line = number == bet::PassLine || number == bet::DontPass;
   if (line && HasBet(place, number + 1)) {
-    tip += "\r" + Say(Text::TipOdds) + FormatExact(Bet(place, number + 1));
+    tip += "\r" + Say(Text::TipOdds, FormatExact(Bet(place, number + 1)));
   }
-  tip += "\r" + std::string(TrimSpaces(StateText(place, number)));
+  tip += "\r" + StateText(place, number);
 }
 
 std::string FullTip(int place, int number) {
   std::string tip = SpotName(number) + ": " + FormatExact(Bet(place, number));
   if (!IsBet(number)) return tip;
   if (HasBet(place, number)) AddCompanions(tip, place, number);
-  return tip + "\r" + std::string(TrimSpaces(PayoffText(number)));
+  return tip + "\r" + PayoffText(number);
 }
 
 }  // namespace
@@ -513,7 +509,7 @@ bool KeyAmount(char key) {
 ClickOutlook OutlookOfSpot(int spot) {
   const bool moves = TablePlay.TableAction > ActionMovePlayer;
   if (moves && !IsRailSpot(spot)) {
-    return {Text(12) + NameOf(TablePlay.TableAction - ActionMovePlayer), true};
+    return {Say(Text::ClickNewPosition, NameOf(TablePlay.TableAction - ActionMovePlayer)), true};
   }
   if (spot == 0) {
     const bool picks = TablePlay.TableAction != ActionNormal;
@@ -521,8 +517,8 @@ ClickOutlook OutlookOfSpot(int spot) {
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
   if (spot == PropositionSwitch) {
-    return {std::string(Wording(IsOn(TableOption::DisplayPropBets) ? Text::HidePropositions
-                                                                   : Text::ShowPropositions)),
+    return {SayChosen(IsOn(TableOption::DisplayPropBets) ? Text::HidePropositions
+                                                         : Text::ShowPropositions),
             true};
   }
   const int number = NumberOfSpot(spot);

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "texts/say.h"
+
 namespace tessarel {
 
 struct TablePreset {

@@ -17,8 +17,8 @@ QString Shown(std::string_view utf8) {
   return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
 }
 
-QString Shown(Text texts) {
-  return Shown(Wording(texts));
+QString Shown(Text text) {
+  return Shown(Wording(text));
 }
 
 std::string Typed(const QString& text) {

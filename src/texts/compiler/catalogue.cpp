@@ -215,8 +215,9 @@ std::string Header(const std::vector<Catalogue>& catalogues) {
   return "// Written by the compiler of the catalogues of texts.\n#pragma once\n\n"
          "#include <array>\n#include <cstdint>\n\nnamespace tessarel {\n\n"
          "enum LanguageNumber : int32_t { " +
-         languages + " };\ninline constexpr int LanguageCount = " +
-         std::to_string(catalogues.size()) + ";\n\nenum class Text : uint16_t {\n" + keys +
+         languages +
+         " };\ninline constexpr int LanguageCount = " + std::to_string(catalogues.size()) +
+         ";\n\nenum class Text : uint16_t {\n" + keys +
          "};\ninline constexpr int TextCount = " + std::to_string(count) +
          ";\n\n// How many values each text takes.\n"
          "inline constexpr std::array<uint8_t, TextCount> TextArguments = {" +
@@ -229,9 +230,8 @@ std::string Tables(const std::vector<Catalogue>& catalogues) {
       "namespace tessarel {\n\nconst TextTables TextsOfLanguages = {{\n";
   for (const Catalogue& catalogue : catalogues) {
     tables += "    // " + catalogue.Language + "\n    {{\n";
-    ForEachText(catalogue, [&](const Entry& entry) {
-      tables += "        " + Literal(entry.Text) + ",\n";
-    });
+    ForEachText(catalogue,
+                [&](const Entry& entry) { tables += "        " + Literal(entry.Text) + ",\n"; });
     tables += "    }},\n";
   }
   return tables + "}};\n\n}  // namespace tessarel\n";

@@ -38,8 +38,8 @@ struct Catalogue {
   int Lines = 0;
 };
 
-// The catalogue in `content`, the text of `file`. Throws Fault for a line that cannot be read, a key
-// that stands twice, and values that leave out a number.
+// The catalogue in `content`, the text of `file`. Throws Fault for a line that cannot be read, a
+// key that stands twice, and values that leave out a number.
 Catalogue Read(std::string_view file, std::string_view content);
 
 // Throws Fault unless `other` has the headings and keys of `first` in the same order, each with the

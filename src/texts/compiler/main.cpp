@@ -1,6 +1,6 @@
-// texts-compiler KEYS.h TABLES.cpp FIRST.txt OTHER.txt...: makes the keys and tables of the program's
-// texts from one catalogue a language. The build runs it; the first catalogue is the measure of the
-// others.
+// texts-compiler KEYS.h TABLES.cpp FIRST.txt OTHER.txt...: makes the keys and tables of the
+// program's texts from one catalogue a language. The build runs it; the first catalogue is the
+// measure of the others.
 #include <fstream>
 #include <iostream>
 #include <iterator>

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/paint/contrast.h"
 #include "ui/paint/felt_lettering.h"

@@ -21,6 +21,11 @@ QColor FeltColor() {
   return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
 }
 
+constexpr std::array TotalWords = {Text::TotalTwo,    Text::TotalThree, Text::TotalFour,
+                                   Text::TotalFive,   Text::TotalSix,   Text::TotalSeven,
+                                   Text::TotalEight,  Text::TotalNine,  Text::TotalTen,
+                                   Text::TotalEleven, Text::TotalTwelve};
+
 QString TotalInWords() {
   const int total = Table.Die1 + Table.Die2;
   if (total < 2 || total > 12) return Shown(Text::NoRollYet);

@@ -1,6 +1,7 @@
 #include <QListWidget>
 
 #include "state/settings.h"
+#include "texts/language.h"
 #include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
@@ -20,8 +21,8 @@ class LanguageWindow : public QDialog {
     lstLanguages_ = new QListWidget;
     lstLanguages_->setObjectName(QStringLiteral("lstLanguages"));
     for (int32_t language = 0; language < LanguageCount; ++language) {
-      auto* const item = new QListWidgetItem(
-          Shown(Text::LanguageName[static_cast<size_t>(language)]), lstLanguages_);
+      auto* const item =
+          new QListWidgetItem(Shown(Wording(Text::LanguageName, language)), lstLanguages_);
       item->setData(Qt::UserRole, language);
       item->setSizeHint({LookStep(44), LookStep(7)});
     }

@@ -16,10 +16,10 @@ namespace {
 
 // How a roll file goes on "as it is": the words of what it does now.
 QString GoingOnCaption() {
-  const int text = Text::KeepRollFile.RollFileMode == RollFilePlay     ? 133
-                   : Text::KeepRollFile.RollFileMode == RollFileRecord ? 134
-                                                                       : 135;
-  QString caption = Shown(Wording(text));
+  const Text text = RollFile.RollFileMode == RollFilePlay     ? Text::ContinuePlayback
+                    : RollFile.RollFileMode == RollFileRecord ? Text::ContinueRecording
+                                                              : Text::ContinueInactive;
+  QString caption = Shown(text);
   caption[0] = caption[0].toUpper();
   return caption;
 }
@@ -114,8 +114,7 @@ NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
   answer.options.keepSessions = choices.PreservePrevSessions ? 1 : 0;
   answer.options.keepStacks = choices.PreserveCheckstacks ? 1 : 0;
   answer.options.keepLogs = choices.PreserveSessionsLogs ? 1 : 0;
-  const bool keepsRollFile =
-      choices.PreserveDiceRollFile && !Text::KeepRollFile.RollFileName.empty();
+  const bool keepsRollFile = choices.PreserveDiceRollFile && !RollFile.RollFileName.empty();
   answer.options.rollFileAction = !keepsRollFile   ? CloseRollFileNow
                                   : choices.Rewind ? RewindRollFile
                                                    : ContinueRollFile;

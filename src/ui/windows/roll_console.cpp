@@ -33,6 +33,12 @@ namespace tessarel {
 
 namespace {
 
+constexpr std::array DisplayCaptions = {Text::DisplayBasic, Text::DisplayTriangle, Text::DisplayBox,
+                                        Text::DisplaySingleDice};
+constexpr std::array ButtonColorCaptions = {Text::ButtonColorNumbers,  Text::ButtonColorSeven,
+                                            Text::ButtonColorCraps,    Text::ButtonColorEleven,
+                                            Text::ButtonColorHardWays, Text::ButtonColorSingle};
+
 constexpr int PlaceSlot = 20;
 constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
@@ -316,8 +322,8 @@ void RollConsole::Refresh() {
   const QString caption = cmdHyperDrive_->text();
   cmdHyperDrive_->setMinimumWidth(0);
   int widest = 0;
-  for (const int text : {Text::StartHyperDrive, Text::HyperDriveActive}) {
-    cmdHyperDrive_->setText(Shown(Wording(text)));
+  for (const Text text : {Text::StartHyperDrive, Text::HyperDriveActive}) {
+    cmdHyperDrive_->setText(Shown(text));
     widest = std::max(widest, cmdHyperDrive_->sizeHint().width());
   }
   cmdHyperDrive_->setText(caption);
