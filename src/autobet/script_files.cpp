@@ -47,19 +47,19 @@ std::vector<std::string> UpgradedLines(std::string_view bytes) {
 // Flags that are up as long as this lives, whatever becomes of the cycle in between.
 class RaisedFlags {
  public:
-  explicit RaisedFlags(std::initializer_list<int32_t*> flags) : flags_(flags) {
-    for (int32_t* flag : flags_)
-      *flag = -1;
+  explicit RaisedFlags(std::initializer_list<bool*> flags) : flags_(flags) {
+    for (bool* flag : flags_)
+      *flag = true;
   }
   ~RaisedFlags() {
-    for (int32_t* flag : flags_)
-      *flag = 0;
+    for (bool* flag : flags_)
+      *flag = false;
   }
   RaisedFlags(const RaisedFlags&) = delete;
   RaisedFlags& operator=(const RaisedFlags&) = delete;
 
  private:
-  std::vector<int32_t*> flags_;
+  std::vector<bool*> flags_;
 };
 
 // One place's script as the only active one.
@@ -78,7 +78,7 @@ class OnlyScript {
   OnlyScript& operator=(const OnlyScript&) = delete;
 
  private:
-  PerPlace<int32_t> flags_;
+  PerPlace<bool> flags_;
 };
 
 bool ActiveScriptsCompile() {
@@ -87,14 +87,14 @@ bool ActiveScriptsCompile() {
 }
 
 void RunFirstCycle() {
-  if (Scripts.ScriptActive[0] == 0 || !ActiveScriptsCompile()) return;
+  if (!Scripts.ScriptActive[0] || !ActiveScriptsCompile()) return;
   const RaisedFlags flags{&AutoBet.Initializing};
   RunAutoBet();
 }
 
 // Not during a roll: its cycles are those of the program it began with.
 bool WantsFirstCycle(std::string question) {
-  if (Table.RollInProgress != 0) return false;
+  if (Table.RollInProgress) return false;
   return ShowMessage(std::move(question), Say(Text::AutoBet), msg::AskYesNo,
                      help::BettingSystems) == AnswerYes;
 }
@@ -176,7 +176,7 @@ void InitializeScripts() {
 }
 
 void RunHotKeyScript(const std::string& path) {
-  if (AutoBet.ScriptRunning != 0 || Table.RollInProgress != 0) return;
+  if (AutoBet.ScriptRunning || Table.RollInProgress) return;
   Trapped("RunHotKeyScript", [&path] { RunHotKey(path); });
   // What was compiled is not the program of the active scripts.
   Scripts.ProgramReady = false;

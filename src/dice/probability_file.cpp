@@ -42,7 +42,7 @@ bool AnyShare(const ProbabilityPlanes& planes) {
 
 void TakeName(const std::string& path) {
   Probability.ProbabilityFileName = path;
-  Probability.ProbabilityChanged = 0;
+  Probability.ProbabilityChanged = false;
 }
 
 SaveChoice AskToSave(CheckedText<0> question, int32_t flags) {
@@ -96,14 +96,14 @@ void SaveProbabilityFile(const std::string& name) {
 }
 
 SaveChoice AskToSaveOnExit() {
-  if (Probability.ProbabilityFileName.empty() || Probability.ProbabilityChanged == 0) {
+  if (Probability.ProbabilityFileName.empty() || !Probability.ProbabilityChanged) {
     return SaveChoice::GoOn;
   }
   return AskToSave(Text::CurrentProbabilitiesNotSaved, msg::AskYesNo | msg::Cancel);
 }
 
 SaveChoice AskToSaveBeforeNew() {
-  if (Probability.ProbabilityChanged == 0) return SaveChoice::GoOn;
+  if (!Probability.ProbabilityChanged) return SaveChoice::GoOn;
   return AskToSave(Text::TheseProbabilitiesNotSaved, msg::AskYesNo);
 }
 

@@ -23,13 +23,13 @@ namespace {
 constexpr Money LongestDelay = 300;  // seconds
 
 bool Runs() {
-  return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
+  return Table.AutoRollOn || Table.HyperDriveOn;
 }
 
 void Start(UnattendedMode mode) {
-  if (Runs() || Table.RollInProgress != 0) return;
-  Table.AutoRollOn = -1;
-  Table.HyperDriveOn = mode == UnattendedMode::HyperDrive ? -1 : 0;
+  if (Runs() || Table.RollInProgress) return;
+  Table.AutoRollOn = true;
+  Table.HyperDriveOn = mode == UnattendedMode::HyperDrive;
   FrontEnd.DrawStatus();
   MakeRoll();
   StopUnattended();
@@ -61,11 +61,11 @@ void StopAutoRoll() {
 }
 
 std::string_view HyperDriveCaption() {
-  return Wording(Table.HyperDriveOn != 0 ? Text::HyperDriveActive : Text::StartHyperDrive);
+  return Wording(Table.HyperDriveOn ? Text::HyperDriveActive : Text::StartHyperDrive);
 }
 
 std::string_view AutoRollCaption() {
-  const bool active = Table.AutoRollOn != 0 && Table.HyperDriveOn == 0;
+  const bool active = Table.AutoRollOn && !Table.HyperDriveOn;
   return Wording(active ? Text::AutoRollActive : Text::StartAutoRoll);
 }
 
@@ -83,7 +83,7 @@ void AskSetTimeDelay() {
 }
 
 bool ConfirmScriptActive() {
-  if (AutoBet.ScriptRunning == 0) return true;
+  if (!AutoBet.ScriptRunning) return true;
   const std::string question =
       Say(Text::AskToStopAutoBetting) + "\r\r" +
       Say(Text::ScriptProcessing, Table.PlayerName[AutoBet.CurrentScriptPlayer]);
@@ -95,9 +95,9 @@ bool ConfirmScriptActive() {
 }
 
 void InterruptAutoBetting() {
-  AutoBet.ScriptRunning = 0;
-  AutoBet.AutoBetMessageStop = -1;
-  if (Table.HyperDriveOn != 0) Table.StopReason = Wording(Text::AutoBettingInterrupted);
+  AutoBet.ScriptRunning = false;
+  AutoBet.AutoBetMessageStop = true;
+  if (Table.HyperDriveOn) Table.StopReason = Wording(Text::AutoBettingInterrupted);
   StopUnattended();
 }
 

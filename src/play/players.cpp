@@ -32,7 +32,7 @@ constexpr int NextShooterPlace(int place) {
 
 void TellPassing(PassReason reason, std::string text) {
   const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
-  if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
+  if (reason != PlayerAsked || Table.HyperDriveOn || silent) return;
   ShowMessage(std::move(text), Say(Text::PassTheDice), msg::OkAlert, help::Players);
 }
 
@@ -49,7 +49,7 @@ int FindShooter(Qualifies&& qualifies) {
 
 // Whether a player could shoot now: with the point on he may need a line bet he cannot make.
 bool MayShoot(int place) {
-  return Settings.AllowPutBets != 0 || Settings.BetNeededToShoot != 1 || Table.Point == 0 ||
+  return Settings.AllowPutBets || Settings.BetNeededToShoot != 1 || Table.Point == 0 ||
          HasLineBet(place);
 }
 
@@ -88,7 +88,7 @@ void TellOfPassedHand(PassReason reason, int from, int to) {
   if (RollsInHand() == 0) return;
   const Text text = to == Table.LastShooter ? Text::PassingBack : Text::PassingOn;
   TellPassing(reason, SayChosen(text, NameOf(from), NameOf(to)));
-  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+  if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
 }  // namespace
@@ -140,7 +140,7 @@ void PassDice(PassReason reason) {
   if (Table.PlayerCount == 1) return PassWithOnePlayer(reason);
   int blocked = 0;
   const int next = FindShooter([&blocked](int place) {
-    if (Table.DeclinesDice[place] != 0) return false;
+    if (Table.DeclinesDice[place]) return false;
     if (!MayShoot(place)) ++blocked;
     return MayShoot(place);
   });
@@ -148,7 +148,7 @@ void PassDice(PassReason reason) {
   const int from = Table.Shooter;
   if (reason == PlayerAsked) LogDicePassed(next);
   Table.Shooter = next;
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  if (!Table.HyperDriveOn) FrontEnd.DrawTable();
   TellOfPassedHand(reason, from, next);
   if (RollsInHand() == 0) Table.LastShooter = next;
 }
@@ -158,7 +158,7 @@ void BankrollLimitStop(int place) {
   const bool gone = !IsTaken(Table, place);
   const bool negative = BankrollOf(place) <= Money();
   const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };
-  if (Table.HyperDriveOn != 0) {
+  if (Table.HyperDriveOn) {
     const Text text = negative ? Text::StoppedBelowLimit : Text::StoppedAboveLimit;
     Table.StopReason = gone ? reset : withReset(SayChosen(text, LimitText));
   } else if (gone) {
@@ -168,7 +168,7 @@ void BankrollLimitStop(int place) {
                 help::NewSession);
   } else {
     const bool first = Table.BankrollStopPlace == 0;
-    if (first && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::LimitBroken);
+    if (first && !Settings.DisableAllSound) FrontEnd.PlaySound(Sound::LimitBroken);
     ShowMessage(withReset(Say(Text::AboveLimit, NameOf(place), LimitText)), "", msg::Ok,
                 help::NewSession);
   }

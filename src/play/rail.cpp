@@ -139,7 +139,7 @@ bool AddPlayer(int place) {
       AskBankroll(Say(Text::AskBuyIn, name), Say(Text::AddNewPlayer), UsualBuyIn);
   if (!buyIn) return false;
   SeatPlayer(place, name, *buyIn);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   FrontEnd.DrawTable();
   return true;
 }
@@ -150,7 +150,7 @@ bool RenamePlayer(int place) {
   const std::string name = AskName(Say(Text::AskNewName, before), Say(Text::RenamePlayer), place);
   if (name.empty()) return false;
   SetPlayerName(place, name);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   LogPlayerRenamed(before, name);
   OfferToRenameSessionsLog(place);
   FrontEnd.DrawTable();
@@ -162,7 +162,7 @@ bool DeletePlayer(int place, bool ask) {
   const std::vector<AbandonedBet> abandoned = AbandonedBets(place);
   if (ask && !ConfirmRemoval(place, abandoned)) return false;
   LoseAbandoned(place, abandoned);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   LogCashOut(place, Total(abandoned));
   Trapped("DeletePlayer", [place] { WriteSession(place); });
   ClearPlace(place);
@@ -190,7 +190,7 @@ bool MovePlayer(int from, int to) {
   }
   FollowInViews(from, to);
   Scripts.ProgramReady = false;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   RebuildDerived();
   LogPlayerMoved(to);
   FrontEnd.DrawTable();

@@ -71,7 +71,7 @@ TEST_F(AdvantageList, PercentagesWithTheSignForTheColour) {
 }
 
 TEST_F(AdvantageList, RollsDecisionsAndTimes) {
-  Advantage.ShowMiscData = -1;
+  Advantage.ShowMiscData = true;
   EXPECT_EQ(AdvantageNote(), "");
   EXPECT_EQ(AdvantageColumns()[5], "Time/Dec");
   EXPECT_EQ(AdvantageRowOf(bet::PassLine).Figures,

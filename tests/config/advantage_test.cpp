@@ -167,7 +167,7 @@ Step PlayLine(int number, const Life& life, int total) {
   if (life.Point == 0) {
     if (IsPointNumber(total)) return GoesOn({.Point = total});
     if (dont && total == Settings.BarNumber)
-      return Advantage.IncludeZeroOutcomes != 0 ? Ends(0) : GoesOn({});
+      return Advantage.IncludeZeroOutcomes ? Ends(0) : GoesOn({});
     return Ends(IsOneOf(total, {7, 11}) != dont ? Pays(dont ? DontPass : Come) : -1);
   }
   if (total != 7 && total != life.Point) return GoesOn(life);
@@ -239,7 +239,7 @@ Step Play(int number, Life life, int die1, int die2) {
       return PlayHand(number, life, total);
     default: {
       const double result = RollResult(number, die1, die2);
-      return result != 0 || Advantage.IncludeZeroOutcomes != 0 ? Ends(result) : GoesOn({});
+      return result != 0 || Advantage.IncludeZeroOutcomes ? Ends(result) : GoesOn({});
     }
   }
 }
@@ -396,7 +396,7 @@ void ExpectFigures(int number, const DiceProbabilities& dice) {
   };
   const double variance = apart(square - value * value);
   const bool oneRoll = !IsLongBet(number) && !IsHandBet(number);
-  const bool zeroes = Advantage.IncludeZeroOutcomes != 0;
+  const bool zeroes = Advantage.IncludeZeroOutcomes;
   EXPECT_NEAR(result.EvPerRoll, perRoll, SixDecimals);
   EXPECT_NEAR(result.EvPerDec, IsHandBet(number) && zeroes ? perRoll : value, SixDecimals);
   EXPECT_NEAR(result.RollsPerDec, rolls, oneRoll ? 0.0050001 : SixDecimals);
@@ -495,7 +495,7 @@ TEST_F(HouseAdvantage, FollowsThePayoffsAndTheBarredNumber) {
 }
 
 TEST_F(HouseAdvantage, FollowsTheVigOnWinsOnly) {
-  Settings.BuyVigAllBets = Settings.LayVigAllBets = 0;
+  Settings.BuyVigAllBets = Settings.LayVigAllBets = false;
   Settings.BuyVigPct = Money::FromRaw(400);
   Settings.LayVigPct = Money::FromRaw(250);
   for (const auto& [name, dice] : DiceCases) {
@@ -508,7 +508,7 @@ TEST_F(HouseAdvantage, FollowsTheVigOnWinsOnly) {
 }
 
 TEST_F(HouseAdvantage, CountsZeroOutcomesAsDecisions) {
-  Advantage.IncludeZeroOutcomes = -1;
+  Advantage.IncludeZeroOutcomes = true;
   ExpectAllFigures();
 
   // The barred number adds a decision, though no term to the deviation.
@@ -559,7 +559,7 @@ TEST_F(HouseAdvantage, HandsThatNeverEndPayForAllThatCanBeMade) {
 TEST_F(HouseAdvantage, FollowsAnActiveMatrix) {
   BalanceMatrix(TotalColumn, 6, 30'000);
   EXPECT_DOUBLE_EQ(FigureAdvantage(bet::Seven).EvPerDec, -0.166667) << "not active yet";
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   const AdvantageResult seven = FigureAdvantage(bet::Seven);
   EXPECT_DOUBLE_EQ(seven.EvPerRoll, 0.5001);
   EXPECT_DOUBLE_EQ(seven.EvPerDec, 0.50015);

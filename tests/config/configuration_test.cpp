@@ -83,9 +83,9 @@ TEST_F(Configuration, ClosingRefusesTheFirstFaultInItsOrder) {
 TEST_F(Configuration, TheTestOfLargestBetsSkipsWhatIsOffTheLayout) {
   Settings.MaxPropBetPayoff = 40;  // only the special bets pay more on one smallest check
   EXPECT_TRUE(ValidateConfiguration());
-  Settings.UseSpecialPropBets = 0;
+  Settings.UseSpecialPropBets = false;
   EXPECT_FALSE(ValidateConfiguration());
-  Settings.UseSpecialPropBets = -1;
+  Settings.UseSpecialPropBets = true;
   EXPECT_FALSE(ValidateConfiguration({.TestLargestBets = false}));
 }
 
@@ -113,7 +113,7 @@ TEST_F(Configuration, AChangedHouseStandardIsOfferedToEachPlayer) {
 TEST_F(Configuration, BetsLeaveTheLayoutOnlyWithTheirOwnersConsent) {
   struct {
     LayoutOption Option;
-    int32_t* Flag;
+    bool* Flag;
     std::vector<int> Bets;
     std::string Names;
   } const cases[] = {
@@ -130,9 +130,9 @@ TEST_F(Configuration, BetsLeaveTheLayoutOnlyWithTheirOwnersConsent) {
   Seat(8, "Bob", 1000);
   for (const auto& c : cases) {
     EXPECT_TRUE(ChangeBetAvailability(c.Option, false));
-    EXPECT_EQ(*c.Flag, 0);
+    EXPECT_FALSE(*c.Flag);
     EXPECT_TRUE(ChangeBetAvailability(c.Option, true));
-    EXPECT_EQ(*c.Flag, -1);
+    EXPECT_TRUE(*c.Flag);
     EXPECT_TRUE(Shown.empty());
 
     for (const int number : c.Bets) {
@@ -141,10 +141,10 @@ TEST_F(Configuration, BetsLeaveTheLayoutOnlyWithTheirOwnersConsent) {
     }
     Answers = {AnswerNo, AnswerYes};
     EXPECT_FALSE(ChangeBetAvailability(c.Option, false));
-    EXPECT_EQ(*c.Flag, -1);
+    EXPECT_TRUE(*c.Flag);
     EXPECT_EQ(Bet(8, c.Bets.front()), Money(5));
     EXPECT_TRUE(ChangeBetAvailability(c.Option, false));
-    EXPECT_EQ(*c.Flag, 0);
+    EXPECT_FALSE(*c.Flag);
     for (const int number : c.Bets)
       EXPECT_FALSE(AnyHolds(number));
     ASSERT_EQ(Shown.size(), 2u);
@@ -161,7 +161,7 @@ TEST_F(Configuration, SpecialBetsStayWhileSevenPointSevenIsAContract) {
   PutDown(1, bet::SevenPoint7, 5);
   Table.Point = 8;
   EXPECT_FALSE(ChangeBetAvailability(LayoutOption::SpecialProps, false));
-  EXPECT_EQ(Settings.UseSpecialPropBets, -1);
+  EXPECT_TRUE(Settings.UseSpecialPropBets);
   ASSERT_EQ(Shown.size(), 1u);
   EXPECT_EQ(Shown[0].Flags & msg::YesNo, 0);
   EXPECT_EQ(
@@ -219,7 +219,7 @@ TEST_F(Configuration, AVigThatAPlayerCannotPayIsUndone) {
             "required.\r\rThis can be remedied by doing one or more of the following:\r -- Make a "
             "withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check Allow "
             "negative bankroll");
-  Table.AllowNegBankroll[4] = -1;
+  Table.AllowNegBankroll[4] = true;
   EXPECT_TRUE(ChangeVig(&SettingsState::BuyVigPct, Money::FromRaw(800)));
   EXPECT_EQ(Table.MoneyOnTable[4], Money(108));
 }
@@ -231,10 +231,10 @@ TEST_F(Configuration, ABankrollMayBeBarredFromTheNegativeOnlyAboveIt) {
   SetBankrollSlots(3, 10);
   PutDown(3, bet::PassLine, 15);
   EXPECT_FALSE(SetAllowNegBankroll(3, false));
-  EXPECT_EQ(Table.AllowNegBankroll[3], -1);
+  EXPECT_TRUE(Table.AllowNegBankroll[3]);
   PutDown(3, bet::PassLine, 10);
   EXPECT_TRUE(SetAllowNegBankroll(3, false));
-  EXPECT_EQ(Table.AllowNegBankroll[3], 0);
+  EXPECT_FALSE(Table.AllowNegBankroll[3]);
   ASSERT_EQ(Shown.size(), 2u);
   EXPECT_EQ(Shown[0].Text,
             "Ann currently has a negative bankroll.\r\rSome options:\r -- Win some more money\r -- "
@@ -312,7 +312,7 @@ TEST_F(Configuration, ListsOfBetsChangeBySelection) {
   const int comps[] = {bet::PassLineOdds, bet::Fire};
   ChangeCompBets(comps, ListChoice::Flip);
   EXPECT_EQ(CompBetRowText(bet::PassLineOdds), "Yes - Pass Line Odds");
-  EXPECT_EQ(Settings.CompBet[bet::Fire], 0);
+  EXPECT_FALSE(Settings.CompBet[bet::Fire]);
   ChangeCompBets(comps, ListChoice::Default);
   EXPECT_EQ(Settings.CompBet, SettingsState::DefaultCompBets());
 

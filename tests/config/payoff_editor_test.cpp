@@ -260,7 +260,7 @@ TEST_F(PayoffEditor, ClosingTestsLetPassWhatIsOnlyOdd) {
     row.PayNum = 0;
   Payoffs.FieldPayoff[1].PayNum = 1;
   Payoffs.SharpShooterPayoff[1].PayNum = -1;
-  Settings.UseFireBet = 0;
+  Settings.UseFireBet = false;
   Settings.MaxFireBet = 0;
   EXPECT_FALSE(TestPayoffs());
 }

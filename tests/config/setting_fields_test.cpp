@@ -15,6 +15,7 @@ class SettingFieldRows : public ConfigurationTest {};
 Money Stored(const SettingField& field, int place, int key) {
   const FieldValue where = field.Reach(place, key);
   if (Money* const* amount = std::get_if<Money*>(&where)) return **amount;
+  if (bool* const* flag = std::get_if<bool*>(&where)) return **flag ? -1 : 0;
   return *std::get<int32_t*>(where);
 }
 
@@ -139,8 +140,8 @@ TEST_F(SettingFieldRows, ListsAreSetByBetNameOrNumber) {
   EXPECT_EQ(Table.BetWorkingDefault[0][bet::PassLineOdds], 1);
   EXPECT_EQ(Table.BetWorkingDefault[0][bet::Lay4], 0);
   EXPECT_EQ(SetField("CompBet", {}, "Fire:0,44:1"), std::nullopt);
-  EXPECT_EQ(Settings.CompBet[bet::Fire], 0);
-  EXPECT_EQ(Settings.CompBet[bet::PassLineOdds], -1);
+  EXPECT_FALSE(Settings.CompBet[bet::Fire]);
+  EXPECT_TRUE(Settings.CompBet[bet::PassLineOdds]);
   EXPECT_EQ(SetField("Denomination", {}, "0.25,1,5,25,100"), std::nullopt);
   EXPECT_EQ(SmallestCheck(), Money::FromRaw(2500));
 }
@@ -158,14 +159,14 @@ TEST_F(SettingFieldRows, WithoutAPlaceEveryPlayerIsSet) {
 
 TEST_F(SettingFieldRows, RulesOfChangeHoldAndTheirRefusalIsTheError) {
   Seat(1, "Ann", -5);
-  Table.AllowNegBankroll[1] = -1;
+  Table.AllowNegBankroll[1] = true;
   const auto error = SetField("AllowNegBankroll", 1, "0");
   ASSERT_TRUE(error);
   EXPECT_EQ(*error,
             "AllowNegBankroll@1 was not changed: Ann currently has a negative bankroll. /  / Some "
             "options: /  -- Win some more money /  -- Withdraw some money from the ATM /  -- Start "
             "a new session");
-  EXPECT_EQ(Table.AllowNegBankroll[1], -1);
+  EXPECT_TRUE(Table.AllowNegBankroll[1]);
 
   Answers = {AnswerYes};
   PutDown(1, bet::Fire, 5);

@@ -180,7 +180,7 @@ TEST_F(BalanceTest, SharesGiveWayByTheRules) {
       EXPECT_TRUE(BalanceMatrix(column, row, value)) << name;
     for (const auto& [column, row, share] : results)
       EXPECT_EQ(ShareOf(column, row), share) << name << ": " << column << ' ' << row;
-    EXPECT_EQ(Probability.ProbabilityChanged, -1);
+    EXPECT_TRUE(Probability.ProbabilityChanged);
   }
 }
 
@@ -210,7 +210,7 @@ TEST_F(BalanceTest, EditsFailWhenNothingIsFree) {
       LockShare(cell.Column, cell.Row, true);
     EXPECT_FALSE(BalanceMatrix(edit.column, edit.row, edit.value)) << name;
     EXPECT_EQ(Probability.ProbabilityMatrix.Shares, TrueMatrix().Shares) << name;
-    EXPECT_EQ(Probability.ProbabilityChanged, 0) << name;
+    EXPECT_FALSE(Probability.ProbabilityChanged) << name;
     ForEachShare([](int column, int row) { EXPECT_EQ(FlagOf(column, row) % LockFlag, 0); });
     EXPECT_EQ(FlagOf(edit.column, edit.row), LockFlag) << name;
   }
@@ -276,7 +276,7 @@ TEST_F(BalanceTest, FaultsLeaveTheMatrixAlone) {
   EXPECT_EQ(FaultOf([] { BalanceMatrix(2, 6, -1e12); }), overflow);
   EXPECT_EQ(FaultOf([] { MakePercentageDice({1, 3}, {}); }), index);
   EXPECT_EQ(Probability.ProbabilityMatrix, before);
-  EXPECT_EQ(Probability.ProbabilityChanged, 0);
+  EXPECT_FALSE(Probability.ProbabilityChanged);
 }
 
 TEST_F(BalanceTest, PercentageDiceTakeFromAnAxis) {

@@ -84,18 +84,18 @@ TEST_F(ProbabilityFileTest, MatrixComesBackAsItStood) {
     }
   }
   const ProbabilityPlanes matrix = Probability.ProbabilityMatrix;
-  Probability.ProbabilityChanged = -1;
+  Probability.ProbabilityChanged = true;
   SaveProbabilityFile("mine.prb");
-  EXPECT_EQ(Probability.ProbabilityChanged, 0);
+  EXPECT_FALSE(Probability.ProbabilityChanged);
   const std::string path = folder_.Path() + "mine.prb";
   EXPECT_EQ(Probability.ProbabilityFileName, path);
   Probability = {};
-  Probability.ProbabilityChanged = -1;
+  Probability.ProbabilityChanged = true;
   EXPECT_TRUE(OpenProbabilityFile("mine.prb"));
   EXPECT_EQ(Probability.ProbabilityMatrix, matrix);
   EXPECT_EQ(Probability.ProbabilityFileName, path);
-  EXPECT_EQ(Probability.ProbabilityChanged, 0);
-  EXPECT_EQ(Probability.ProbabilityMatrixActive, 0);
+  EXPECT_FALSE(Probability.ProbabilityChanged);
+  EXPECT_FALSE(Probability.ProbabilityMatrixActive);
   EXPECT_EQ(Messages, 0);
 }
 
@@ -151,7 +151,7 @@ TEST_F(ProbabilityFileTest, RefusedFilesAreReportedAndChangeNothing) {
   EXPECT_EQ(Messages, 4);
   EXPECT_EQ(Probability.ProbabilityMatrix, before);
   EXPECT_EQ(Probability.ProbabilityFileName, "/tmp/before.prb");
-  EXPECT_EQ(Probability.ProbabilityChanged, -1);
+  EXPECT_TRUE(Probability.ProbabilityChanged);
 }
 
 TEST_F(ProbabilityFileTest, MissingFilesAreLeftToTheCaller) {

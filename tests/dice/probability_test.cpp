@@ -232,7 +232,7 @@ TEST_F(ProbabilityMatrixTest, GeneratorsGiveOneNumberARoll) {
   };
   constexpr int Rolls = 300;
   for (const auto& [generator, odd, even] : Cases) {
-    Probability.ProbabilityMatrixActive = -1;
+    Probability.ProbabilityMatrixActive = true;
     Seed(generator);
     std::vector<Pair> rolled, expected;
     for (int k = 0; k < Rolls; ++k)
@@ -253,20 +253,20 @@ TEST_F(ProbabilityMatrixTest, ShuffledGeneratorsRoundHalfToEven) {
                             {3.0F / 64, 4689},
                             {0, 1},
                             {1, 100'001}};  // 1562.5 and 4687.5 and the ends
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   for (const auto& [real, n] : Cases) {
     for (const int32_t generator : {5, 6}) {
       Seed(generator);
       Dice.Ran1.table.fill(real);
       OnlyShares({{{1, 1}, n - 1}, {{1, 2}, 1}, {{1, 3}, 200'000}});
-      Probability.ProbabilityMatrixActive = -1;
+      Probability.ProbabilityMatrixActive = true;
       EXPECT_EQ(Drawn(MakeDice(0)), Pair(1, 2)) << real;
     }
   }
 }
 
 TEST_F(ProbabilityMatrixTest, NoGeneratorDrawsNothing) {
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   SelectRNG(0);
   EXPECT_EQ(Drawn(MakeDice(0)), Pair(0, 0));
 }
@@ -282,7 +282,7 @@ TEST_F(ProbabilityMatrixTest, RollLineNamesTheMatrix) {
       {-1, "", " from RNG #8 using untitled probability matrix"},
       {-1, "/tmp/loaded.prb", " from RNG #8 using probability matrix: /tmp/loaded.prb"},
   };
-  EventsLog.LogRolls = -1;
+  EventsLog.LogRolls = true;
   SelectRNG(8);
   for (const auto& [active, name, end] : Cases) {
     Probability.ProbabilityMatrixActive = active;
@@ -298,8 +298,8 @@ TEST_F(ProbabilityMatrixTest, RollLineNamesTheMatrix) {
 
 TEST_F(ProbabilityMatrixTest, EmptyMatrixEndsTheHyperDrive) {
   OnlyShares({});
-  Probability.ProbabilityMatrixActive = -1;
-  Table.HyperDriveOn = -1;
+  Probability.ProbabilityMatrixActive = true;
+  Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(RollsInSession(), 0);
   EXPECT_EQ(Table.LastStopReason, "No dice can be drawn from the probability matrix.");
@@ -376,16 +376,16 @@ TEST_F(ProbabilityMatrixTest, FormsAreNamedWithTheirBase) {
 
 TEST_F(ProbabilityMatrixTest, NewKeepsUseAndForm) {
   OnlyShares({});
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   Probability.optProbability = ShownAsRolls;
   Probability.ProbabilityFileName = "/tmp/loaded.prb";
-  Probability.ProbabilityChanged = -1;
+  Probability.ProbabilityChanged = true;
   LockShare(2, 6, true);
   NewProbabilities();
   EXPECT_EQ(Probability.ProbabilityMatrix, TrueMatrix());
   EXPECT_EQ(Probability.ProbabilityFileName, "");
-  EXPECT_EQ(Probability.ProbabilityChanged, 0);
-  EXPECT_EQ(Probability.ProbabilityMatrixActive, -1);
+  EXPECT_FALSE(Probability.ProbabilityChanged);
+  EXPECT_TRUE(Probability.ProbabilityMatrixActive);
   EXPECT_EQ(Probability.optProbability, ShownAsRolls);
 }
 

@@ -42,7 +42,7 @@ class RollFileEditing : public ::testing::Test {
     PopupRoll = {};
     FrontEnd = {};
     Message = {};
-    Table.AutoRollOn = Table.HyperDriveOn = Table.RollInProgress = 0;
+    Table.AutoRollOn = Table.HyperDriveOn = Table.RollInProgress = false;
     Titles.clear();
     Answer = AnswerYes;
   }
@@ -109,11 +109,11 @@ TEST_F(RollFileEditing, EditsWaitForTheTableAndAnOpenFile) {
     EXPECT_FALSE(edit());
     EXPECT_EQ(Titles, std::vector<std::string>{"Record Dice Rolls"});
     Open("AB", 1);
-    Table.RollInProgress = -1;
+    Table.RollInProgress = true;
     EXPECT_FALSE(edit());
-    Table.AutoRollOn = -1;
+    Table.AutoRollOn = true;
     EXPECT_FALSE(edit());
-    EXPECT_EQ(Table.AutoRollOn, 0) << "the button stops the run";
+    EXPECT_FALSE(Table.AutoRollOn) << "the button stops the run";
     ExpectFile("AB", 1);
   }
 }
@@ -127,11 +127,11 @@ TEST_F(RollFileEditing, RecorderAsksBeforeItPlays) {
   OpenPopupRoll("dice.txt");
   Answer = AnswerNo;
   EXPECT_FALSE(SetRecorder(RollFilePlay));
-  EXPECT_NE(PopupRoll.PopupRollActive, 0);
+  EXPECT_TRUE(PopupRoll.PopupRollActive);
   EXPECT_EQ(RollFile.RollFileMode, RollFileRecord);
   Answer = AnswerYes;
   EXPECT_TRUE(SetRecorder(RollFilePlay));
-  EXPECT_EQ(PopupRoll.PopupRollActive, 0);
+  EXPECT_FALSE(PopupRoll.PopupRollActive);
   EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
   EXPECT_TRUE(SetRecorder(RollFileOff));
   ExpectFile("A", 2);
@@ -257,7 +257,7 @@ TEST_F(RollFileEditing, EndOfPlayRewindsOrSwitchesOff) {
       const bool rewound = answer == AnswerYes && use != RollFileOff;
       EXPECT_EQ(RollFile.RollFileMode, rewound ? RollFilePlay : RollFileOff);
       EXPECT_EQ(RollFile.NextRoll, rewound ? 1 : 3);
-      EXPECT_EQ(PopupRoll.PopupRollActive != 0, answer == AnswerNo);
+      EXPECT_EQ(PopupRoll.PopupRollActive, answer == AnswerNo);
     }
   }
   EXPECT_EQ(Message.MsgText, "Playback stopped.\rRewind for playback?");

@@ -27,7 +27,7 @@ class RollFiles : public ::testing::Test {
     SetAppFolder(folder_.Path());
     RollFile = {};
     Table.StopReason.clear();
-    Table.AutoRollOn = Table.HyperDriveOn = 0;
+    Table.AutoRollOn = Table.HyperDriveOn = false;
     MessagesShown = 0;
     FrontEnd = {};
     FrontEnd.ShowMessage = [] { ++MessagesShown; };
@@ -37,7 +37,7 @@ class RollFiles : public ::testing::Test {
     FrontEnd = {};
     Folders = {};
     Table.StopReason.clear();
-    Table.AutoRollOn = Table.HyperDriveOn = 0;
+    Table.AutoRollOn = Table.HyperDriveOn = false;
   }
 
   std::string Path(const std::string& name) const { return folder_.Path() + name; }

@@ -65,7 +65,7 @@ TEST_F(EventsLogWindow, AnIndexThatDoesNotFitIsMadeAnewWhenTheWindowOpens) {
                             "\1\0\0\0\x0e\0\0\0\x0e"s, "\1\0\0\0\xff\xff\xff\xff"s}) {
     Put(DefaultEventLogName(), "a\r\n Roll #1\r\nc\r\n");
     Put(EventsIndexName(), index);
-    EventsLog.KeepLatestRollOnTop = -1;
+    EventsLog.KeepLatestRollOnTop = true;
     LoadEventsLogView();
     EXPECT_EQ(IndexBytes(), "\1\0\0\0\4\0\0\0\x0e\0\0\0"s);
     EXPECT_EQ(EventsLogView.TopLine, 2);

@@ -93,7 +93,7 @@ class GameFileTest : public ::testing::Test {
     ASSERT_TRUE(SaveDefaultGame());
     const std::string before = Bytes("default.tsg");
     SeatPlayer(2, "Bob", 1000);
-    Table.TableDirty = -1;
+    Table.TableDirty = true;
     fill();
     const int files = Folder.EntryCount();
     EXPECT_FALSE(SaveDefaultGame());
@@ -101,7 +101,7 @@ class GameFileTest : public ::testing::Test {
     EXPECT_EQ(Folder.EntryCount(), files);
     makeRoom();
     EXPECT_EQ(Shown, std::vector<std::string>{"Error: Disk full, Error #61 occurred at: SaveGame"});
-    EXPECT_EQ(Table.TableDirty, -1);
+    EXPECT_TRUE(Table.TableDirty);
     EXPECT_TRUE(SaveDefaultGame());
     ASSERT_TRUE(OpenGame("default.tsg"));
     EXPECT_EQ(Table.PlayerName[2], "Bob");
@@ -148,7 +148,7 @@ class RandomPlay {
     const SilentBets silent;
     for (int roll = 0; roll < rolls; ++roll) {
       ForEachPlayer([this](int place) { Act(place); });
-      if (Upto(150) == 0) NewSession({-Upto(1), -Upto(1), -1, ContinueRollFile});
+      if (Upto(150) == 0) NewSession({Upto(1) != 0, Upto(1) != 0, true, ContinueRollFile});
       MakeRoll();
     }
   }
@@ -289,11 +289,11 @@ TEST_F(GameFileTest, WindowsComeBackAsTheyWereSet) {
 }
 
 TEST_F(GameFileTest, TitleAndNameFollowTheFile) {
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   SaveGame("a.tsg");
   EXPECT_EQ(GameFile.WindowTitle, "Tessarel (a.tsg)");
   EXPECT_EQ(GameFile.GameFileName, Path("a.tsg"));
-  EXPECT_EQ(Table.TableDirty, 0);
+  EXPECT_FALSE(Table.TableDirty);
   SaveGame("DEFAULT.TSG");
   EXPECT_EQ(GameFile.WindowTitle, "Tessarel (DEFAULT.TSG)");
   ASSERT_TRUE(OpenGame("DEFAULT.TSG"));
@@ -435,7 +435,7 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
   SetScriptActive(1, true);
   EventsLog.EventLogName = Path("log.txt");
   SaveProbabilityFile("a.prb");
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   OpenRollFile("a.rol");
   RewindForPlayback();
   RollFile.NextRoll = 3;
@@ -447,12 +447,12 @@ TEST_F(GameFileTest, TellsWhatBecameOfTheFilesInUse) {
   EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
   EXPECT_EQ(RollFile.NextRoll, 3);
   EXPECT_EQ(PopupRoll.PopupRollFileName, Path("pop.txt"));
-  EXPECT_NE(PopupRoll.PopupRollActive, 0);
+  EXPECT_TRUE(PopupRoll.PopupRollActive);
   EXPECT_EQ(Probability.ProbabilityFileName, Path("a.prb"));
   EXPECT_EQ(EventsLog.EventLogName, Path("log.txt"));
   EXPECT_EQ(Scripts.Places[1].ScriptFile, "a.bet");
-  EXPECT_EQ(Scripts.ScriptActive[1], 0);
-  EXPECT_NE(GameFile.ScriptWasActive[1], 0);
+  EXPECT_FALSE(Scripts.ScriptActive[1]);
+  EXPECT_TRUE(GameFile.ScriptWasActive[1]);
 
   for (const char* name : {"a.bet", "a.rol", "a.prb"})
     later(name);
@@ -522,7 +522,7 @@ TEST_F(GameFileTest, NamesOfOtherSystemsAndOfTheProgramsFolderAreFound) {
 }
 
 TEST_F(GameFileTest, UnsavedMatrixGoesWithTheAutomaticFileOnly) {
-  Probability.ProbabilityMatrixActive = Probability.ProbabilityChanged = -1;
+  Probability.ProbabilityMatrixActive = Probability.ProbabilityChanged = true;
   Probability.ProbabilityMatrix.Shares[1][1] = 4242;
   SaveGame("a.tsg");
   EXPECT_FALSE(FileExists(Path("default.prb")));

@@ -188,8 +188,8 @@ TEST_F(SessionsLogTest, DeletedSessionsCloseUpAndTheFileKeepsItsLength) {
 TEST_F(SessionsLogTest, ANewSessionClosesTheOldOneInEveryLogOrDeletesTheLogs) {
   SeatPlayer(5, "a/../c", 500);
   Stats.RollCount[CurrentSession][0] = 12;
-  NewSession({.keepLogs = -1});
-  NewSession({.keepLogs = -1});
+  NewSession({.keepLogs = true});
+  NewSession({.keepLogs = true});
   EXPECT_EQ(RollsIn(Log()), (Counts{12}));
   EXPECT_EQ(RollsIn(Folder.Path() + "a_.._c.slg"), (Counts{12}));
   Table.SessionLogName[5] = Folder.Path() + "precious.txt";

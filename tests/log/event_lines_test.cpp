@@ -72,7 +72,7 @@ void EveryOccasion() {
 TEST_F(EventLines, NothingIsWrittenWhileTheLogIsOff) {
   SetBetAmount(2, bet::Field, 5);
   SetBetAmount(2, FirstStack, 5);
-  EventsLog.LogOn = 0;
+  EventsLog.LogOn = false;
   EveryOccasion();
   EXPECT_TRUE(std::filesystem::is_empty(folder_));
 }
@@ -84,7 +84,7 @@ TEST_F(EventLines, EachKindHasItsSwitch) {
   SetBetAmount(2, FirstStack, 5);
   SetBankrollSlots(2, 600);
   const struct {
-    int32_t State::*kind;
+    bool State::*kind;
     Strings lines;
   } cases[] = {
       {&State::LogRolls, {" Roll #1:  7 (3.4) from RNG #2"}},
@@ -130,8 +130,8 @@ TEST_F(EventLines, ChangesBeforeARollStandUnderTheirHeadingsInOrder) {
   SetBetAmount(2, FirstStack, Cents);
   SetBetAmount(8, 199, 0);
   Scripts.Places[2].ScriptFile = "ann.bet";
-  Scripts.ScriptActive = {-1, 0, -1};
-  Scripts.ScriptActiveAfterRoll = {-1, 0, 0, 0, 0, 0, 0, 0, -1};
+  Scripts.ScriptActive = {true, false, true};
+  Scripts.ScriptActiveAfterRoll = {true, false, false, false, false, false, false, false, true};
   const Strings expected = {
       "    AutoBets:",
       "      Ann activated script (ann.bet)",

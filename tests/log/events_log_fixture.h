@@ -26,7 +26,7 @@ class EventsLogTest : public ::testing::Test {
     std::filesystem::create_directories(folder_);
     SetAppFolder(folder_.string());
     EventsLog = {};
-    EventsLog.LogOn = -1;
+    EventsLog.LogOn = true;
     Table = {};
   }
   void TearDown() override {

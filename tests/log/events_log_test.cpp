@@ -40,7 +40,7 @@ TEST_F(EventsLogTest, PositionsAreLowestByteFirst) {
 TEST_F(EventsLogTest, LatestRollLineFollowsRollsOnlyWhenTheyAreKeptOnTop) {
   WriteEvent(" Roll #1");
   EXPECT_EQ(EventsLog.LatestRollLine, 0);
-  EventsLog.KeepLatestRollOnTop = -1;
+  EventsLog.KeepLatestRollOnTop = true;
   for (const auto* line : {"    Roll", "Rol", "----New hand, come-out roll", " roll #2", ""})
     WriteEvent(line);
   EXPECT_EQ(EventsLog.LatestRollLine, 2);
@@ -56,7 +56,7 @@ TEST_F(EventsLogTest, SectionHeadingsStandOnceUntilTheyEnd) {
 
 TEST_F(EventsLogTest, SelectingAllSetsAndClearsTheEightKinds) {
   using State = EventsLogState;
-  constexpr int32_t State::*Kinds[] = {
+  constexpr bool State::*Kinds[] = {
       &State::LogRolls, &State::LogBets,   &State::LogCheckStacks, &State::LogShooters,
       &State::LogWins,  &State::LogLosses, &State::LogDecisions,   &State::LogBankroll};
   for (const bool on : {false, true}) {
@@ -64,7 +64,7 @@ TEST_F(EventsLogTest, SelectingAllSetsAndClearsTheEightKinds) {
     for (const auto kind : Kinds)
       EXPECT_EQ(Logs(kind), on);
   }
-  EventsLog.LogOn = 0;
+  EventsLog.LogOn = false;
   for (const auto kind : Kinds)
     EXPECT_FALSE(Logs(kind));
 }
@@ -121,7 +121,7 @@ TEST_F(EventsLogTest, WithoutFilesThereAreNoLines) {
 
 TEST_F(EventsLogTest, ClearingTakesAwayTheLogOfAnyNameAndItsIndex) {
   EventsLog.EventLogName = Folders.AppFolder + "Friday.txt";
-  EventsLog.KeepLatestRollOnTop = -1;
+  EventsLog.KeepLatestRollOnTop = true;
   WriteSection("Roll");
   EXPECT_TRUE(EventsLogExists());
   for (int time = 1; time <= 2; ++time)

@@ -253,8 +253,8 @@ class LongGame : public RollTest {
       Bet1(place, roll);
       At(before, place) = BankrollOf(place);
       Table.Standing[place].ForEach([&](int standing) { At(number, place) = standing; });
-      const bool carries = InFamily(At(number, place), LayFamily)   ? Settings.LayVigAllBets != 0
-                           : InFamily(At(number, place), BuyFamily) ? Settings.BuyVigAllBets != 0
+      const bool carries = InFamily(At(number, place), LayFamily)   ? Settings.LayVigAllBets
+                           : InFamily(At(number, place), BuyFamily) ? Settings.BuyVigAllBets
                                                                     : false;
       const int k = (At(number, place) - 1) % 6;
       const Money vig = carries ? Table.LayVig[place][k] + Table.BuyVig[place][k] : Money();
@@ -285,7 +285,7 @@ class LongGame : public RollTest {
 TEST_F(LongGame, CountsWhatWasPlayedInEveryScope) {
   for (const int place : Places)
     Seat(place);
-  Settings.BuyVigAllBets = 0;
+  Settings.BuyVigAllBets = false;
   Dice.CurrentRNG = 1;
   Dice.SeedRequest = 2718;
   ASSERT_TRUE(SeedRNG(-1));

@@ -61,21 +61,21 @@ TEST_F(Comps, AreFiguredFromTheBaseOfTheConfiguration) {
 
 TEST_F(Comps, UseTheSkewedDiceOnlyIfAskedTo) {
   BalanceMatrix(TotalColumn, 6, 30'000);  // which favours the bet on seven
-  Probability.ProbabilityMatrixActive = -1;
-  Settings.CompBet[bet::PassLine] = 0;
+  Probability.ProbabilityMatrixActive = true;
+  Settings.CompBet[bet::PassLine] = false;
   const std::pair<int32_t, double> cases[] = {{-1, 60 * -0.166667}, {0, 60 * 0.50015}};
   for (const auto& [useTrue, loss] : cases) {
     Settings.CompsUseTrueProbs = useTrue;
     const CompFigures figures = FigureComps(Slot);
     EXPECT_DOUBLE_EQ(figures.TheoreticalLoss, loss);
     EXPECT_DOUBLE_EQ(figures.Comps, 0.30 * -loss);
-    EXPECT_NE(Probability.ProbabilityMatrixActive, 0);
+    EXPECT_TRUE(Probability.ProbabilityMatrixActive);
   }
 }
 
 TEST_F(Comps, CountOnlyTheChosenBetsOfTheSlot) {
-  Settings.CompBet[bet::PassLine] = 0;
-  Settings.CompBet[bet::PassLineOdds] = -1;
+  Settings.CompBet[bet::PassLine] = false;
+  Settings.CompBet[bet::PassLineOdds] = true;
   EXPECT_EQ(FigureComps(Slot).Action, Money(560));
   const CompFigures other = FigureComps(Slot + 1);
   EXPECT_EQ(other.AverageAction, Money(0));

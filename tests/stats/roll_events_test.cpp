@@ -96,10 +96,10 @@ TEST(RollEvents, AnActiveMatrixGivesTheChances) {
   };
   for (const auto& c : cases) {
     EXPECT_DOUBLE_EQ(EventProbability(c.code, false), c.truePercent) << "not active yet";
-    Probability.ProbabilityMatrixActive = -1;
+    Probability.ProbabilityMatrixActive = true;
     EXPECT_DOUBLE_EQ(EventProbability(c.code, false), c.skewedPercent);
     EXPECT_DOUBLE_EQ(EventProbability(c.code, true), c.truePercent);
-    Probability.ProbabilityMatrixActive = 0;
+    Probability.ProbabilityMatrixActive = false;
   }
   Probability = {};
 }

@@ -52,13 +52,13 @@ class StatsTest : public ::testing::Test {
     Wagers = std::move(wagers);
     Left = rolls;
     FrontEnd.RunPendingEvents = Rebet;
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     Rebet();
     MakeRoll();
   }
 
   static void Rebet() {
-    if (Left-- == 0) Table.HyperDriveOn = 0;
+    if (Left-- == 0) Table.HyperDriveOn = false;
     const SilentBets silent;
     for (const Wager& wager : Wagers) {
       Table.Amount = wager.amount - Bet(wager.place, wager.number);

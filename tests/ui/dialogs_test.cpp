@@ -18,6 +18,8 @@
 #include "play/roll_pace.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/dialog_driver.h"
 #include "ui/money_input.h"
 #include "ui/palette.h"
