@@ -7,7 +7,8 @@ namespace tessarel {
 namespace {
 
 bool Keeps(QChar letter) {
-  return letter == '?' || ToSingleByte(QString(letter).toStdString()) != "?";
+  const std::string text = QString(letter).toStdString();
+  return FromSingleByte(ToSingleByte(text)) == text;
 }
 
 }  // namespace

@@ -49,17 +49,16 @@ TEST_F(Language, SayPutsValuesWhereTheLanguageNeedsThemAndAsTheyStand) {
 
 // What the marks of a text must have in common in all languages.
 std::string Marks(std::string_view text) {
-  const auto count = [text](char mark) {
-    return std::to_string(std::count(text.begin(), text.end(), mark));
-  };
-  return count('&') + " & " + count('\r') + " breaks";
+  const auto count = [text](char mark) { return std::count(text.begin(), text.end(), mark); };
+  // A doubled mark stands for the character itself.
+  const auto shortcuts = count('&') - (text.find("&&") != text.npos ? 2 : 0);
+  return std::to_string(shortcuts) + " & " + std::to_string(count('\r')) + " breaks";
 }
 
 TEST_F(Language, TextsHaveTheMarksOfTheEnglishOne) {
   for (int key = 0; key < TextCount; ++key) {
     const auto text = static_cast<Text>(key);
     for (int32_t language = 0; language < LanguageCount; ++language) {
-      if (text == Text::HideWindow) continue;
       EXPECT_EQ(Marks(Wording(text, language)), Marks(Wording(text, English)))
           << Wording(text, language);
     }

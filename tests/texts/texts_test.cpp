@@ -61,7 +61,7 @@ TEST_F(TextsAtTheTable, ARefusedBetIsExplainedInTheLanguageInForce) {
   } cases[] = {
       {English, "Come Bet: Ann,\r\rYou may not make a Come bet until a point is established."},
       {German, "Come-Wette: Ann,\r\rSie dürfen eine Come-Wette erst setzen, wenn ein Point steht."},
-      {Turkish, "Come Bahsi: Ann,\r\rPoint belirlenmeden Come bahsi oynayamazsiniz."},
+      {Turkish, "Come Bahsi: Ann,\r\rPoint belirlenmeden Come bahsi oynayamazsınız."},
   };
   for (const auto& [language, text] : cases) {
     SetLanguage(language);
@@ -85,7 +85,7 @@ TEST_F(TextsAtTheTable, LimitsPutTheAmountWhereTheLanguageNeedsIt) {
   SetLanguage(Turkish);
   Settings.MinPlacardBet = 5;
   Ask(bet::PassLine, 1);
-  EXPECT_EQ(Said(), "Pass Line Bahsi: En düsük Pass Line bahsi: $5\r\r$5 oynaniyor.");
+  EXPECT_EQ(Said(), "Pass Line Bahsi: En düşük Pass Line bahsi: $5\r\r$5 oynanıyor.");
   Settings.Denomination[1] = 0;
   const auto refusal = ValidateConfiguration();
   ASSERT_TRUE(refusal.has_value());
