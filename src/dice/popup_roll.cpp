@@ -84,13 +84,14 @@ std::optional<Faces> TakePopupRoll() {
   } catch (const Fault& fault) {
     // A file that stays would give its dice again and again, or none at each of a run's rolls.
     ReportFault(fault, "TakePopupRoll");
-    Table.StopReason = fault.Description;
+    Table.Stop = StopCause::PopupRollFault;
+    Table.StopFault = fault.Description;
     return std::nullopt;
   }
   if (!Table.HyperDriveOn) {
     ShowMessage(Say(Text::InvalidRollInPopup), Say(Text::RollFileError), msg::OkAlert);
   }
-  Table.StopReason = Wording(Text::StoppedByInvalidRoll);
+  Table.Stop = StopCause::InvalidRoll;
   return std::nullopt;
 }
 

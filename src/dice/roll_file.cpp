@@ -134,7 +134,7 @@ void StopAtInvalidRoll() {
     FrontEnd.RefreshViews();
     ShowMessage(Say(Text::InvalidRollInFile), Say(Text::RollFileError), msg::OkAlert);
   }
-  Table.StopReason = Wording(Text::StoppedByInvalidRoll);
+  Table.Stop = StopCause::InvalidRoll;
 }
 
 }  // namespace
@@ -190,7 +190,7 @@ bool PlaysNextRoll() {
 std::optional<Faces> PlayBackRoll() {
   RollFile.EndReached = !HoldNextRoll();
   if (RollFile.EndReached) {
-    Table.StopReason = Wording(Text::StoppedByEndOfFile);
+    Table.Stop = StopCause::EndOfRollFile;
     return std::nullopt;
   }
   const Faces faces = HeldRoll();

@@ -97,7 +97,7 @@ bool ConfirmScriptActive() {
 void InterruptAutoBetting() {
   AutoBet.ScriptRunning = false;
   AutoBet.AutoBetMessageStop = true;
-  if (Table.HyperDriveOn) Table.StopReason = Wording(Text::AutoBettingInterrupted);
+  if (Table.HyperDriveOn) Table.Stop = StopCause::ScriptInterrupted;
   StopUnattended();
 }
 

@@ -35,9 +35,9 @@ namespace tessarel {
 namespace {
 
 // A roll that cannot be made: the message outside the Hyper-Drive, and the reason that a run ends.
-bool Refuse(std::string text, std::string title, std::string reason) {
+bool Refuse(std::string text, std::string title, StopCause cause) {
   if (!Table.HyperDriveOn) ShowMessage(std::move(text), std::move(title), msg::OkAlert, help::Dice);
-  Table.StopReason = std::move(reason);
+  Table.Stop = cause;
   return false;
 }
 
@@ -54,25 +54,24 @@ bool RefuseWithoutLineBet() {
   const Text demand = Table.PlayerCount == 1 ? Text::LineBetAlone
                       : Table.Point != 0     ? Text::LineBetDuringPoint
                                              : Text::LineBetOrPass;
-  return Refuse(BetDemand(demand), Say(Text::LineBetRequired), Say(Text::ShooterWithoutLineBet));
+  return Refuse(BetDemand(demand), Say(Text::LineBetRequired), StopCause::ShooterWithoutLineBet);
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
-    return Refuse(Say(Text::NoPlayersToBet), Say(Text::BetRequired), Say(Text::NobodyToBet));
+    return Refuse(Say(Text::NoPlayersToBet), Say(Text::BetRequired), StopCause::NobodyToBet);
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
   return Refuse(BetDemand(Text::AnyBetOrPass), Say(Text::AnyBetRequired),
-                Say(Text::ShooterWithoutBet));
+                StopCause::ShooterWithoutBet);
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  const std::string reset = "\r\r" + Say(Text::ResetTable);
-  return Refuse(Say(Text::MaximumRolls) + reset, Say(Text::MaximumRollsTitle),
-                Say(Text::StoppedByMaximumRolls) + reset);
+  return Refuse(Say(Text::MaximumRolls) + "\r\r" + Say(Text::ResetTable),
+                Say(Text::MaximumRollsTitle), StopCause::MaximumRolls);
 }
 
 void FigureAvailableBankrolls() {
@@ -115,7 +114,7 @@ DiceSource TakeDice(std::optional<Faces>& chosen, Faces& faces) {
   }
   faces = MakeDice(RollsInSession());
   if (faces.die1 == 0) {
-    Table.StopReason = Wording(Text::NoGenerator);
+    Table.Stop = StopCause::NoGenerator;
     return DiceSource::None;
   }
   const bool cubes = faces.die1 <= 6 && faces.die2 <= 6;
@@ -272,7 +271,7 @@ bool StoppedByBankroll() {
 }
 
 void StopAtCount() {
-  if (AutoStopIsDue()) Table.StopReason = Wording(Text::StoppedByAutoStop);
+  if (AutoStopIsDue()) Table.Stop = StopCause::AutoStop;
 }
 
 void CheckEverything() {
@@ -312,7 +311,7 @@ void PlayRoll(Faces faces, DiceSource source) {
 // One roll, from its refusals to its last snapshot. Returns false when no roll can be made.
 bool OneRoll(std::optional<Faces>& chosen) {
   Table.TableDirty = true;
-  Table.StopReason.clear();
+  Table.Stop = StopCause::None;
   Table.RollInProgress = true;
   if (!RequiredBetStands() || !BelowMaximumRolls()) return false;
   if (!PopupRollIsThere(chosen)) return false;
@@ -340,7 +339,7 @@ bool GoOnRolling() {
   FrontEnd.RunPendingEvents();
   StopAtCount();
   if (Table.HyperDriveOn && !ScriptsCanRun()) StopUnattended();
-  if (!Table.HyperDriveOn || !Table.StopReason.empty()) return false;
+  if (!Table.HyperDriveOn || Table.Stop != StopCause::None) return false;
   if (Settings.Throttle > 0) ThrottleRoll();
   return true;
 }
@@ -357,7 +356,7 @@ bool RollUntilStopped(std::optional<Faces>& chosen) {
 
 // Between two rolls of Auto-Roll: the table stands as it is until the next one may begin.
 void PauseAutoRoll() {
-  if (!Table.AutoRollOn || Table.HyperDriveOn || !Table.StopReason.empty()) return;
+  if (!Table.AutoRollOn || Table.HyperDriveOn || Table.Stop != StopCause::None) return;
   FrontEnd.DrawStatus();
   if (AutoStopIsDue()) {
     StopUnattended();
@@ -377,17 +376,17 @@ void CallComeOut() {
 // The end of play asks what becomes of the roll file: the end of a person's run, and that of the
 // file itself. A Hyper-Drive that no one at the table has started asks nobody.
 void EndPlay(bool ranUnattended) {
-  const bool fileEnded = !Table.StopReason.empty() && RollFile.EndReached;
+  const bool fileEnded = Table.Stop != StopCause::None && RollFile.EndReached;
   const bool asksNobody = Table.HyperDriveOn && !Table.AutoRollOn;
-  if (!Table.StopReason.empty()) StopUnattended();
+  if (Table.Stop != StopCause::None) StopUnattended();
   const bool runEnded = ranUnattended && !Table.AutoRollOn;
   if (!asksNobody && (fileEnded || runEnded)) Trapped("StopRollFile", StopRollFile);
 }
 
 void EndRolling(bool ranUnattended, bool rolled) {
-  Table.LastStopReason = Table.StopReason;
+  Table.LastStop = Table.Stop;
   EndPlay(ranUnattended);
-  Table.StopReason.clear();
+  Table.Stop = StopCause::None;
   if (rolled) CallComeOut();
   Table.RollInProgress = false;
   FrontEnd.DrawStatus();

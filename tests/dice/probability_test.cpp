@@ -1,4 +1,5 @@
 #include "dice/probability.h"
+#include "engine/unattended.h"
 
 #include <gtest/gtest.h>
 
@@ -175,9 +176,9 @@ TEST_F(ProbabilityMatrixTest, DrawEndsWhenNothingCanBeReached) {
       {}, {{{1, 1}, -1}}, {{{1, 1}, 5}, {{1, 2}, -10}}, {{{1, 1}, -5}, {{6, 1}, 5}}};
   for (const auto& shares : cases) {
     OnlyShares(shares);
-    Table.StopReason.clear();
+    Table.Stop = StopCause::None;
     EXPECT_EQ(FaultOf([] { DrawCell(50); }), NumberOf(FaultNumber::InvalidCall));
-    EXPECT_EQ(Table.StopReason, "No dice can be drawn from the probability matrix.");
+    EXPECT_EQ(StopText(Table.Stop), "No dice can be drawn from the probability matrix.");
   }
   OnlyShares({{{1, 1}, 5}, {{1, 2}, -10}});
   EXPECT_EQ(Drawn(DrawCell(5)), Pair(1, 1));
@@ -302,7 +303,7 @@ TEST_F(ProbabilityMatrixTest, EmptyMatrixEndsTheHyperDrive) {
   Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(RollsInSession(), 0);
-  EXPECT_EQ(Table.LastStopReason, "No dice can be drawn from the probability matrix.");
+  EXPECT_EQ(StopText(Table.LastStop), "No dice can be drawn from the probability matrix.");
 }
 
 // --- Shown and typed ---------------------------------------------------------------------------

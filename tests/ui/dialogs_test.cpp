@@ -19,7 +19,6 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "texts/language.h"
-#include "texts/say.h"
 #include "ui/dialog_driver.h"
 #include "ui/money_input.h"
 #include "ui/palette.h"
