@@ -14,8 +14,8 @@
 #include "dice/roll_file.h"
 #include "engine/seats.h"
 #include "files/game_blocks.h"
-#include "files/game_views.h"
 #include "state/scripts.h"
+#include "state/view_state.h"
 #include "texts/say.h"
 
 namespace tessarel {

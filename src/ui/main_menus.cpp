@@ -15,11 +15,11 @@
 #include "config/configuration.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
-#include "play/roll_pace.h"
 #include "play/game_commands.h"
+#include "play/roll_pace.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 #include "texts/say.h"
 #include "ui/main_window.h"
 #include "ui/sound/sounds.h"
@@ -59,8 +59,8 @@ void FullOdds(void (*bet)(int)) {
   FrontEnd.DrawTable();
 }
 
-void ToggleOption(TableOption option) {
-  SetOption(option, !IsOn(option));
+void ToggleOption(bool TableOptions::*option) {
+  GameViews.Table.*option = !(GameViews.Table.*option);
   FrontEnd.DrawTable();
 }
 
@@ -218,9 +218,9 @@ void MainMenus::Bets() {
       "mnuKeyInBetAmounts", Text::BetsKeyIn, "F9",
       [] {
         TablePlay.EnteredAmount.clear();
-        ToggleOption(TableOption::KeyInBetAmounts);
+        ToggleOption(&TableOptions::KeyInBetAmounts);
       },
-      {}, [] { return IsOn(TableOption::KeyInBetAmounts); });
+      {}, [] { return GameViews.Table.KeyInBetAmounts; });
 }
 
 void MainMenus::Dice() {
@@ -284,21 +284,24 @@ void MainMenus::Colours() {
 
 void MainMenus::View() {
   Menu(Text::MenuView);
-  const auto option = [this](const char* name, Text caption, const char* keys, TableOption which) {
+  const auto option = [this](const char* name, Text caption, const char* keys,
+                             bool TableOptions::*which) {
     Add(
-        name, caption, keys, [which] { ToggleOption(which); }, {}, [which] { return IsOn(which); });
+        name, caption, keys, [which] { ToggleOption(which); }, {},
+        [which] { return GameViews.Table.*which; });
   };
-  option("mnuDisplayPropBets", Text::ViewPropositions, "\tC", TableOption::DisplayPropBets);
-  option("mnuDisplayBetAmounts", Text::ViewAmounts, "F11", TableOption::DisplayBetAmounts);
-  option("mnuFlashBets", Text::ViewFlash, "\tSpace", TableOption::FlashBets);
+  option("mnuDisplayPropBets", Text::ViewPropositions, "\tC", &TableOptions::DisplayPropBets);
+  option("mnuDisplayBetAmounts", Text::ViewAmounts, "F11", &TableOptions::DisplayBetAmounts);
+  option("mnuFlashBets", Text::ViewFlash, "\tSpace", &TableOptions::FlashBets);
   Line();
-  option("mnuStatusView", Text::ViewStatus, "", TableOption::StatusBox);
+  option("mnuStatusView", Text::ViewStatus, "", &TableOptions::StatusBox);
   Choices(
       Text::ViewStatusSize,
       {{"mnuStatusboxSize1", Text::StatusSizeSmall, 1},
        {"mnuStatusboxSize2", Text::StatusSizeMedium, 2},
        {"mnuStatusboxSize3", Text::StatusSizeLarge, 3}},
-      [] { return GameViews.StatusBoxSize; }, [](int32_t size) { GameViews.StatusBoxSize = size; });
+      [] { return GameViews.Table.StatusBoxSize; },
+      [](int32_t size) { GameViews.Table.StatusBoxSize = size; });
   Line();
   Colours();
   Line();
@@ -381,8 +384,7 @@ void MainMenus::Auto() {
       [] { return Table.AutoRollOn && !Table.HyperDriveOn; });
   Add(
       "mnuHyperDrive", Text::AutoHyper, "\tH", [&w = window] { w.ToggleRun(true); },
-      [] { return Table.HyperDriveOn || TableIsIdle(); },
-      [] { return Table.HyperDriveOn; });
+      [] { return Table.HyperDriveOn || TableIsIdle(); }, [] { return Table.HyperDriveOn; });
   Line();
   Add("mnuSetTimeDelay", Text::AutoDelayMenu, "", AskSetTimeDelay);
   Add("mnuSetAutoStop", Text::AutoStopMenu, "", AskSetAutoStop);
@@ -408,8 +410,8 @@ void MainMenus::Window() {
       [&w = window] { w.ShowSmall(SmallWindowKind::Tray, !w.IsSmallShown(SmallWindowKind::Tray)); },
       {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Tray); });
   Add(
-      "mnuWindowStatus", Text::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
-      [] { return IsOn(TableOption::StatusBox); });
+      "mnuWindowStatus", Text::ViewStatus, "", [] { ToggleOption(&TableOptions::StatusBox); }, {},
+      [] { return GameViews.Table.StatusBox; });
 }
 
 void MainMenus::Help() {

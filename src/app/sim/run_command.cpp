@@ -183,6 +183,7 @@ void PlayRollByRoll() {
 
 // What ended the run before its counts; a roll by hand at a bankroll's limit has only said so.
 std::string StopReason() {
+  if (Table.LastStop == StopCause::None && Interrupted()) return "interrupted";
   const bool limit = Table.LastStop == StopCause::None && Table.BankrollStopPlace != 0;
   return limit ? BankrollLimitText(Table.BankrollStopPlace) : StopText(Table.LastStop);
 }
