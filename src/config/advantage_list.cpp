@@ -6,7 +6,7 @@
 #include "base/number_format.h"
 #include "config/payoff_editor.h"
 #include "state/settings.h"
-#include "texts/configuration_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -83,7 +83,7 @@ const std::array<std::string_view, 1 + AdvantageFigureCount>& AdvantageColumns()
 
 std::string_view AdvantageNote() {
   if (Advantage.ShowMiscData) return "";
-  return Localized(ConfigurationTexts.FiguresInPercent);
+  return Wording(Text::FiguresInPercent);
 }
 
 AdvantageRow AdvantageRowOf(int number) {

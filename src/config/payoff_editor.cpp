@@ -10,7 +10,7 @@
 #include "engine/bet_limits.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/configuration_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -121,12 +121,12 @@ constexpr PairSet ThreeAndEleven = PairBit(1, 2) | PairBit(5, 6);
 // What a sub-row's caption leaves out on the command line.
 struct CountWord {
   std::string_view Word;
-  SixTexts Row;  // the caption that is shown for it
+  CheckedText<1> Row;  // the caption that is shown for it
 };
-constexpr CountWord CountWords[] = {{" points", ConfigurationTexts.PointsRow},
-                                    {" point", ConfigurationTexts.PointRow},
-                                    {" passes", ConfigurationTexts.PassesRow},
-                                    {" pass", ConfigurationTexts.PassRow}};
+constexpr CountWord CountWords[] = {{" points", Text::PointsRow},
+                                    {" point", Text::PointRow},
+                                    {" passes", Text::PassesRow},
+                                    {" pass", Text::PassRow}};
 
 void RequireRow(PayoffCell cell) {
   const int last = cell.Grid == PayoffGrid::Bets ? PayoffEditorRowCount : FieldRowCount;
@@ -146,7 +146,7 @@ std::string ShownOwnCaption(std::string_view caption) {
     if (!caption.ends_with(count.Word)) continue;
     caption.remove_suffix(count.Word.size());
     caption.remove_prefix(caption.find_first_not_of(' '));
-    return FillIn(count.Row, {caption});
+    return "      " + Say(count.Row, caption);
   }
   return std::string(caption);
 }
@@ -229,10 +229,8 @@ std::optional<PayoffRefusal> TestPositive(int firstRow, int lastRow, std::string
   for (int row = firstRow; row <= lastRow; ++row) {
     const PayoffCell cell{PayoffGrid::Bets, row};
     if (PayoffOf(cell).PayNum > Money()) continue;
-    if (bet.empty())
-      return PayoffRefusal{FillIn(ConfigurationTexts.PayoffNotPositive, {PayoffCaption(cell)}),
-                           cell};
-    return PayoffRefusal{FillIn(ConfigurationTexts.PayoffsNotPositive, {bet}), cell};
+    if (bet.empty()) return PayoffRefusal{Say(Text::PayoffNotPositive, PayoffCaption(cell)), cell};
+    return PayoffRefusal{Say(Text::PayoffsNotPositive, bet), cell};
   }
   return std::nullopt;
 }
@@ -244,18 +242,18 @@ std::optional<PayoffRefusal> TestTable(PayoffCell first, int count, std::string_
     const PayoffCell cell{first.Grid, first.Row + k};
     const PayoffRow& row = PayoffOf(cell);
     if (row.PayNum < -row.PayDen) {
-      return PayoffRefusal{FillIn(ConfigurationTexts.LossExceedsWager, {bet}), cell};
+      return PayoffRefusal{Say(Text::LossExceedsWager, bet), cell};
     }
     wins = wins || row.PayNum > Money();
   }
   if (wins) return std::nullopt;
-  return PayoffRefusal{FillIn(ConfigurationTexts.NoPositivePayoff, {bet}), first};
+  return PayoffRefusal{Say(Text::NoPositivePayoff, bet), first};
 }
 
 std::optional<PayoffRefusal> TestMaxFireBet() {
   if (!Settings.UseFireBet || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
     return std::nullopt;
-  return PayoffRefusal{LocalizedText(ConfigurationTexts.MaxFireBelowMinimum), std::nullopt};
+  return PayoffRefusal{Say(Text::MaxFireBelowMinimum), std::nullopt};
 }
 
 std::optional<PayoffCell> CellByName(std::string_view name) {
@@ -400,8 +398,7 @@ void SetFieldPayoffs(const FieldPreset& preset) {
 
 bool RestoreDefaultPayoffs() {
   const int32_t answer =
-      ShowMessage(LocalizedText(ConfigurationTexts.AskDefaultPayoffs),
-                  LocalizedText(ConfigurationTexts.RestoreDefaultPayoffs), msg::AskYesNo);
+      ShowMessage(Say(Text::AskDefaultPayoffs), Say(Text::RestoreDefaultPayoffs), msg::AskYesNo);
   if (answer != AnswerYes) return false;
   DefaultPayoffs();
   SetOddsPayoffRows();

@@ -14,8 +14,7 @@
 #include "dice/probability.h"
 #include "log/event_lines.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -162,11 +161,10 @@ int32_t FilesNeeded(int32_t generator) {
 
 // Asks for a seed until the answer is from 1 to the limit. False on Cancel.
 bool PromptForSeed(int32_t limit) {
-  const std::string question = FillIn(GetText(39), FormatNumber(limit, "#,#"));
+  const std::string question = Say(Text::AskSeed, FormatNumber(limit, "#,#"));
   std::string text = question;
   int32_t offered = Dice.LastSeed;
-  while (AskForText(text, std::string(GetTitle(TitleRandomNumberGenerator)),
-                    std::to_string(offered))) {
+  while (AskForText(text, Say(Text::RandomNumberGenerator), std::to_string(offered))) {
     std::string typed = Message.MsgInput;
     std::erase_if(typed, [](char c) { return c == ' ' || c == ','; });
     const Money value = ParseMoney(typed).value_or(Money());
@@ -174,7 +172,7 @@ bool PromptForSeed(int32_t limit) {
       Dice.SeedRequest = value;
       return true;
     }
-    text = std::string(GetText(40)).append("\r\r").append(question);
+    text = Say(Text::SeedOutOfLimits).append("\r\r").append(question);
     // Where nobody answers, the offered seed has to end the asking.
     offered = std::clamp(offered, 1, limit);
   }
@@ -356,8 +354,8 @@ SelectResult SelectRNG(int32_t number) {
 bool PickGenerator(int32_t number) {
   const SelectResult result = SelectRNG(number);
   if (result == Unavailable) {
-    ShowMessage(FillIn(DiceTexts.GeneratorUnavailable, {std::to_string(number)}),
-                std::string(GetTitle(TitleRandomNumberGenerator)), msg::OkAlert);
+    ShowMessage(Say(Text::GeneratorUnavailable, number), Say(Text::RandomNumberGenerator),
+                msg::OkAlert);
   }
   return result == Selected;
 }
@@ -373,13 +371,12 @@ void SeedAllGenerators() {
 std::string MissingSupportText() {
   if (Dice.SupportFilesMissing == 0) return {};
   std::string text;
-  if ((Dice.SupportFilesMissing & FirstTwister) != 0)
-    text += Localized(DiceTexts.FirstTwisterMissing);
+  if ((Dice.SupportFilesMissing & FirstTwister) != 0) text += Wording(Text::FirstTwisterMissing);
   if ((Dice.SupportFilesMissing & SecondTwister) != 0) {
     if (!text.empty()) text += "\r\r";
-    text += Localized(DiceTexts.SecondTwisterMissing);
+    text += Wording(Text::SecondTwisterMissing);
   }
-  return text.append("\r\r").append(Localized(DiceTexts.WhatToDoAboutMissing));
+  return text.append("\r\r").append(Wording(Text::WhatToDoAboutMissing));
 }
 
 int32_t PlatformRandom(int32_t n) {

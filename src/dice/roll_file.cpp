@@ -12,7 +12,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -132,8 +132,7 @@ void StopAtInvalidRoll() {
   RollFile.RollFileMode = RollFileOff;
   if (!Table.HyperDriveOn) {
     FrontEnd.RefreshViews();
-    ShowMessage(LocalizedText(DiceTexts.InvalidRollInFile), LocalizedText(DiceTexts.RollFileError),
-                msg::OkAlert);
+    ShowMessage(Say(Text::InvalidRollInFile), Say(Text::RollFileError), msg::OkAlert);
   }
   Table.Stop = StopCause::InvalidRoll;
 }

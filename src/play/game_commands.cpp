@@ -14,16 +14,11 @@
 #include "files/game_file.h"
 #include "state/scripts.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
-
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
 
 void EmptyScripts() {
   for (int place = 1; place <= LastPlace; ++place)
@@ -43,9 +38,9 @@ bool SaveScript(int place) {
 
 bool OfferToSaveScript(int place) {
   if (!Scripts.Places[place].changed) return true;
-  const std::string question = FillIn(FileTexts.AskToSaveScript, {Table.PlayerName[place]});
-  const int32_t answer =
-      ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel, help::BettingSystems);
+  const std::string question = Say(Text::AskToSaveScript, Table.PlayerName[place]);
+  const int32_t answer = ShowMessage(question, Say(Text::AskToSaveAutoBets),
+                                     msg::AskYesDefault | msg::Cancel, help::BettingSystems);
   return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
 }
 
@@ -64,8 +59,8 @@ bool SaveGameUnderItsName() {
 
 bool OfferToSaveGame() {
   if (!Table.TableDirty) return true;
-  const int32_t answer =
-      ShowMessage(Text(141), Text(139), msg::AskYesDefault | msg::Cancel, help::Saving);
+  const int32_t answer = ShowMessage(Say(Text::AskToSaveSession), Say(Text::SaveSessionTitle),
+                                     msg::AskYesDefault | msg::Cancel, help::Saving);
   return answer == AnswerNo || (answer == AnswerYes && SaveGameUnderItsName());
 }
 

@@ -8,13 +8,11 @@
 #include "stats/hands_view.h"
 #include "stats/roll_totals.h"
 #include "stats/text_table.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
-
-constexpr int NoPlayersPresent = 100;
 
 std::string Heading(std::string_view title) {
   return "\n" + std::string(title) + "\n" + std::string(title.size(), '-') + "\n";
@@ -75,7 +73,7 @@ std::string BetResultsOf(const ReportInputs& inputs, int place) {
 
 std::string BetResultsSection(const ReportInputs& inputs) {
   std::string text = Heading(BetResultsTitle);
-  if (Table.TakenPlaces == 0) return text + std::string(GetText(NoPlayersPresent)) + "\n";
+  if (Table.TakenPlaces == 0) return text + Say(Text::NoPlayersPresent) + "\n";
   ForEachPlayer([&](int place) { text += BetResultsOf(inputs, place); });
   return text;
 }

@@ -4,18 +4,11 @@
 #include <bit>
 
 #include "state/view_state.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 ViewSelectionState ViewSelections;
-
-namespace {
-
-constexpr int NoPlayersPresent = 100, NoPlayersSelected = 101, PlayerSelected = 102,
-              PlayersSelected = 103, AllPlayersSelected = 104;
-
-}  // namespace
 
 std::string_view ScopeName(Scope scope) {
   return At(ScopeNames, scope / SlotsInScope);
@@ -51,12 +44,11 @@ std::string Placeholder(PlaceSelection selection) {
 }
 
 std::string SelectionCaption(PlaceSelection selection) {
-  if (Table.TakenPlaces == 0) return std::string(GetText(NoPlayersPresent));
-  if (IsWholeTable(selection)) return std::string(GetText(AllPlayersSelected));
+  if (Table.TakenPlaces == 0) return Say(Text::NoPlayersPresent);
+  if (IsWholeTable(selection)) return Say(Text::AllPlayersSelected);
   const int count = std::popcount(PresentPlaces(selection));
-  if (count == 0) return std::string(GetText(NoPlayersSelected));
-  const int text = count == 1 ? PlayerSelected : PlayersSelected;
-  return std::to_string(count) + " " + std::string(GetText(text));
+  if (count == 0) return Say(Text::NoPlayersSelected);
+  return SayChosen(count == 1 ? Text::PlayerSelected : Text::PlayersSelected, count);
 }
 
 std::string BetSelectionCaption(const NumberSet& bets) {

@@ -5,7 +5,6 @@
 #include <QWidgetAction>
 #include <string>
 
-#include "ui/main_texts.h"
 #include "ui/main_window.h"
 #include "ui/table_play.h"
 #include "ui/text.h"
@@ -63,18 +62,18 @@ MainMenus::MainMenus(MainWindow& window) : QObject(&window), window_(window) {
   AddHelpMenu();
 }
 
-void MainMenus::BeginMenu(const SixTexts& caption) {
+void MainMenus::BeginMenu(Text caption) {
   menu_ = window_.menuBar()->addMenu(QString());
-  menus_.push_back({menu_, &caption});
+  menus_.push_back({menu_, caption});
 }
 
-QMenu* MainMenus::BeginSubmenu(const SixTexts& caption) {
+QMenu* MainMenus::BeginSubmenu(Text caption) {
   QMenu* inner = menu_->addMenu(QString());
-  menus_.push_back({inner, &caption});
+  menus_.push_back({inner, caption});
   return inner;
 }
 
-QAction* MainMenus::MakeEntry(const char* name, const SixTexts& caption, const char* keys) {
+QAction* MainMenus::MakeEntry(const char* name, Text caption, const char* keys) {
   auto* entry = new QAction(this);
   entry->setObjectName(name);
   const QString shown = QString::fromLatin1(keys);
@@ -84,11 +83,11 @@ QAction* MainMenus::MakeEntry(const char* name, const SixTexts& caption, const c
     entry->setShortcut(QKeySequence(shown));
   }
   menu_->addAction(entry);
-  entries_.push_back({entry, &caption});
+  entries_.push_back({entry, caption});
   return entry;
 }
 
-void MainMenus::AddSlider(const SixTexts& caption, int most, int (*value)(), void (*change)(int)) {
+void MainMenus::AddSlider(Text caption, int most, int (*value)(), void (*change)(int)) {
   QMenu* inner = BeginSubmenu(caption);
   auto* slider = new QSlider(Qt::Horizontal, inner);
   slider->setRange(0, most);
@@ -122,13 +121,13 @@ void MainMenus::ListPlayers() {
 
 void MainMenus::SetCaptions() {
   for (const auto& [menu, caption] : menus_)
-    menu->setTitle(Shown(*caption));
+    menu->setTitle(Shown(caption));
   for (const auto& [entry, caption] : entries_) {
-    QString text = Shown(*caption);
+    QString text = Shown(caption);
     const QVariant value = entry->property("value");
     if (value.isValid()) {
       const std::string number = std::to_string(value.toInt());
-      text = Shown(FillIn(*caption, {number})).replace(Shown(number), "&" + Shown(number));
+      text = Shown(SayChosen(caption, number)).replace(Shown(number), "&" + Shown(number));
     }
     entry->setText(text + entry->property("shownKeys").toString());
   }

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "state/table.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -52,15 +52,15 @@ class MainMenus : public QObject {
   void AddHelpMenu();
   void ListPlayers();
 
-  void BeginMenu(const SixTexts& caption);
-  QMenu* BeginSubmenu(const SixTexts& caption);  // within the menu begun
+  void BeginMenu(Text caption);
+  QMenu* BeginSubmenu(Text caption);  // within the menu begun
   void AddLine() { menu_->addSeparator(); }
-  QAction* MakeEntry(const char* name, const SixTexts& caption, const char* keys);
+  QAction* MakeEntry(const char* name, Text caption, const char* keys);
 
   // `keys` is a shortcut; with a leading tab it is only shown, and the window handles the key.
   template <class Action, class Possible = Unconditional, class Checked = Unconditional>
   QAction* Add(const char* name,
-               const SixTexts& caption,
+               Text caption,
                const char* keys,
                Action action,
                Possible possible = {},
@@ -85,32 +85,29 @@ class MainMenus : public QObject {
   // Entries of which one holds.
   struct Choice {
     const char* name;
-    const SixTexts* caption;
+    Text caption;
     int32_t value;
   };
   template <class Now, class Choose>
-  void AddChoices(const SixTexts& caption,
-                  std::initializer_list<Choice> choices,
-                  Now now,
-                  Choose choose) {
+  void AddChoices(Text caption, std::initializer_list<Choice> choices, Now now, Choose choose) {
     QMenu* outer = std::exchange(menu_, BeginSubmenu(caption));
     auto* group = new QActionGroup(this);
     for (const Choice& choice : choices) {
       const int32_t value = choice.value;
       group->addAction(Add(
-          choice.name, *choice.caption, "", [choose, value] { choose(value); }, {},
+          choice.name, choice.caption, "", [choose, value] { choose(value); }, {},
           [now, value] { return now() == value; }));
     }
     menu_ = outer;
   }
 
   // A slider from 0 to `most` in a menu of its own.
-  void AddSlider(const SixTexts& caption, int most, int (*value)(), void (*change)(int));
+  void AddSlider(Text caption, int most, int (*value)(), void (*change)(int));
 
   template <class Kind>
   struct Captioned {
     Kind* shown;
-    const SixTexts* caption;
+    Text caption;
   };
 
   MainWindow& window_;

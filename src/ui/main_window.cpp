@@ -18,7 +18,7 @@
 #include "play/leaving.h"
 #include "play/players.h"
 #include "state/settings.h"
-#include "ui/main_texts.h"
+#include "texts/say.h"
 #include "ui/sound/sounds.h"
 #include "ui/text.h"
 #include "ui/window_place.h"
@@ -102,8 +102,7 @@ void MainWindow::ConnectCoreQuestions() {
           });
   connect(core_, &FrontEndBridge::ScriptFailed, this, [](const std::string& text) {
     if (Table.HyperDriveOn) return;
-    ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert,
-                help::BettingSystems);
+    ShowMessage(text, Say(Text::AutoBetErrorTitle), msg::OkAlert, help::BettingSystems);
   });
 }
 
@@ -161,8 +160,8 @@ void MainWindow::Start() {
   Message.MsgText.clear();
   OfferUnfinishedTable();
   if (!autosave_->CanWrite()) {
-    ShowMessage(FillIn(texts::FolderIsReadOnly, {std::string(Folders.AppFolder)}),
-                std::string(Localized(texts::FolderTitle)), msg::OkAlert);
+    ShowMessage(Say(Text::FolderIsReadOnly, std::string(Folders.AppFolder)), Say(Text::FolderTitle),
+                msg::OkAlert);
   }
   autosave_->Start();
 }
@@ -179,8 +178,8 @@ void MainWindow::TakeUpGame() {
 
 void MainWindow::OfferUnfinishedTable() {
   if (!autosave_->FindsTable()) return;
-  const std::string question = FillIn(texts::UnfinishedQuestion, {autosave_->TimeOfTable()});
-  const std::string title(Localized(texts::UnfinishedTitle));
+  const std::string question = Say(Text::UnfinishedQuestion, autosave_->TimeOfTable());
+  const std::string title = Say(Text::UnfinishedTitle);
   const bool goOn = ShowMessage(question, title, msg::AskYesDefault, help::Saving) == AnswerYes;
   if (!goOn) return autosave_->Discard();
   if (autosave_->TakeUp() && OpenGame(std::string(AutomaticGameFile))) {
@@ -221,7 +220,8 @@ void MainWindow::ConnectTable() {
 void MainWindow::ShowHint() {
   const ClickOutlook outlook = OutlookOfSpot(TablePlay.HotSpot);
   const bool nobody = outlook.text.empty() && Table.PlayerCount == 0;
-  const QString hint = Shown(nobody ? GetText(1) : std::string_view(outlook.text));
+  const QString hint =
+      Shown(nobody ? Wording(Text::ClickOpenPosition) : std::string_view(outlook.text));
   bar_->ShowHint(hint, outlook.possible);
   view_->setAccessibleDescription(hint);
 }
@@ -236,7 +236,8 @@ void MainWindow::RightClick() {
   if (!Table.AutoRollOn && !Table.HyperDriveOn) return Roll();
   const bool hyper = Table.HyperDriveOn;
   const int32_t answer =
-      ShowMessage(std::string(GetText(hyper ? 118 : 119)), std::string(GetText(hyper ? 114 : 117)),
+      ShowMessage(SayChosen(hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll),
+                  SayChosen(hyper ? Text::HyperDriveActive : Text::AutoRollActive),
                   msg::AskYesDefault, help::AutoRoll);
   if (answer == AnswerYes) StopAutoRoll();
   RefreshAll();

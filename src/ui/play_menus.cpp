@@ -9,8 +9,8 @@
 #include "play/game_commands.h"
 #include "play/roll_pace.h"
 #include "state/settings.h"
+#include "texts/say.h"
 #include "ui/main_menus.h"
-#include "ui/main_texts.h"
 #include "ui/main_window.h"
 #include "ui/table_play.h"
 #include "ui/windows/dice_window.h"
@@ -33,7 +33,7 @@ bool HasOpenPlace() {
 }
 
 void TellWhereToJoin() {
-  ShowMessage(std::string(GetText(1)), std::string(GetText(2)), msg::Ok, help::Players);
+  ShowMessage(Say(Text::ClickOpenPosition), Say(Text::AddPlayerTitle), msg::Ok, help::Players);
 }
 
 // All odds of the current player at once.
@@ -47,60 +47,59 @@ void FullOdds(void (*bet)(int)) {
 }  // namespace
 
 void MainMenus::AddGameMenu() {
-  BeginMenu(texts::MenuGame);
+  BeginMenu(Text::MenuGame);
   Add(
-      "mnuNew", texts::GameNew, "Ctrl+N", [&w = window_] { w.NewGame(); }, TableIsIdle);
+      "mnuNew", Text::GameNew, "Ctrl+N", [&w = window_] { w.NewGame(); }, TableIsIdle);
   Add(
-      "mnuOpen", texts::GameOpen, "Ctrl+O", [&w = window_] { w.OpenGameFile(); }, TableIsIdle);
+      "mnuOpen", Text::GameOpen, "Ctrl+O", [&w = window_] { w.OpenGameFile(); }, TableIsIdle);
   Add(
-      "mnuSave", texts::GameSave, "Ctrl+S", [] { SaveGameInUse(); }, TableIsIdle);
+      "mnuSave", Text::GameSave, "Ctrl+S", [] { SaveGameInUse(); }, TableIsIdle);
   Add(
-      "mnuSaveAs", texts::GameSaveAs, "Ctrl+Shift+S", [] { SaveGameAs(); }, TableIsIdle);
+      "mnuSaveAs", Text::GameSaveAs, "Ctrl+Shift+S", [] { SaveGameAs(); }, TableIsIdle);
   AddLine();
-  Add("mnuExit", texts::GameExit, "Ctrl+Q", [&w = window_] { w.close(); });
+  Add("mnuExit", Text::GameExit, "Ctrl+Q", [&w = window_] { w.close(); });
 }
 
 void MainMenus::AddPlayersMenu() {
-  BeginMenu(texts::MenuPlayers);
-  Add("mnuAddPlayer", texts::PlayersAdd, "", TellWhereToJoin, HasOpenPlace);
-  Add("mnuRenamePlayer", texts::PlayersRename, "", RenameCurrentPlayer, HasPlayer);
-  Add("mnuMovePlayer", texts::PlayersMove, "", MoveCurrentPlayer,
+  BeginMenu(Text::MenuPlayers);
+  Add("mnuAddPlayer", Text::PlayersAdd, "", TellWhereToJoin, HasOpenPlace);
+  Add("mnuRenamePlayer", Text::PlayersRename, "", RenameCurrentPlayer, HasPlayer);
+  Add("mnuMovePlayer", Text::PlayersMove, "", MoveCurrentPlayer,
       [] { return HasPlayer() && Table.PlayerCount < LastPlace; });
-  Add("mnuRemovePlayer", texts::PlayersRemove, "", RemoveCurrentPlayer, HasPlayer);
+  Add("mnuRemovePlayer", Text::PlayersRemove, "", RemoveCurrentPlayer, HasPlayer);
   AddLine();
-  Add("mnuBuyIn", texts::PlayersBuyIn, "", BuyInCurrentPlayer, HasPlayer);
-  Add("mnuPassDice", texts::PlayersPassDice, "\tP", PassTheDice, TableIsOpen);
+  Add("mnuBuyIn", Text::PlayersBuyIn, "", BuyInCurrentPlayer, HasPlayer);
+  Add("mnuPassDice", Text::PlayersPassDice, "\tP", PassTheDice, TableIsOpen);
   AddLine();
   players_ = menu_;
   connect(players_, &QMenu::aboutToShow, this, &MainMenus::ListPlayers);
 }
 
 void MainMenus::AddBetsMenu() {
-  BeginMenu(texts::MenuBets);
+  BeginMenu(Text::MenuBets);
   Add(
-      "mnuRemoveBet", texts::BetsRemove, "Del", [] { PickBetFor(ActionRemove); }, HasPlayer);
-  Add("mnuRemoveAllBets", texts::BetsRemoveAll, "Shift+Del", RemoveAllBets, HasPlayer);
+      "mnuRemoveBet", Text::BetsRemove, "Del", [] { PickBetFor(ActionRemove); }, HasPlayer);
+  Add("mnuRemoveAllBets", Text::BetsRemoveAll, "Shift+Del", RemoveAllBets, HasPlayer);
   AddLine();
   Add(
-      "mnuBuyPlaceBet", texts::BetsBuy, "F5", [] { PickBetFor(ActionBuy); }, HasPlayer);
+      "mnuBuyPlaceBet", Text::BetsBuy, "F5", [] { PickBetFor(ActionBuy); }, HasPlayer);
   Add(
-      "mnuCallBetOn", texts::BetsCallOn, "F6", [] { PickBetFor(ActionCallOn); }, HasPlayer);
+      "mnuCallBetOn", Text::BetsCallOn, "F6", [] { PickBetFor(ActionCallOn); }, HasPlayer);
   Add(
-      "mnuCallAllBetsOn", texts::BetsCallAllOn, "Shift+F6", [] { CallAllBets(true); }, HasPlayer);
+      "mnuCallAllBetsOn", Text::BetsCallAllOn, "Shift+F6", [] { CallAllBets(true); }, HasPlayer);
   Add(
-      "mnuCallBetOff", texts::BetsCallOff, "F7", [] { PickBetFor(ActionCallOff); }, HasPlayer);
+      "mnuCallBetOff", Text::BetsCallOff, "F7", [] { PickBetFor(ActionCallOff); }, HasPlayer);
   Add(
-      "mnuCallAllBetsOff", texts::BetsCallAllOff, "Shift+F7", [] { CallAllBets(false); },
-      HasPlayer);
+      "mnuCallAllBetsOff", Text::BetsCallAllOff, "Shift+F7", [] { CallAllBets(false); }, HasPlayer);
   AddLine();
   const auto withPoint = [] { return HasPlayer() && Table.Point != 0; };
   Add(
-      "mnuTakeFullOdds", texts::BetsTakeOdds, "", [] { FullOdds(BetFullOdds); }, withPoint);
+      "mnuTakeFullOdds", Text::BetsTakeOdds, "", [] { FullOdds(BetFullOdds); }, withPoint);
   Add(
-      "mnuLayFullOdds", texts::BetsLayOdds, "", [] { FullOdds(BetFullLay); }, withPoint);
+      "mnuLayFullOdds", Text::BetsLayOdds, "", [] { FullOdds(BetFullLay); }, withPoint);
   AddLine();
   Add(
-      "mnuKeyInBetAmounts", texts::BetsKeyIn, "F9",
+      "mnuKeyInBetAmounts", Text::BetsKeyIn, "F9",
       [] {
         TablePlay.EnteredAmount.clear();
         ToggleOption(&TableOptions::KeyInBetAmounts);
@@ -109,20 +108,20 @@ void MainMenus::AddBetsMenu() {
 }
 
 void MainMenus::AddDiceMenu() {
-  BeginMenu(texts::MenuDice);
+  BeginMenu(Text::MenuDice);
   RollConsole* console = &window_.Floating().Console();
-  Add("mnuRollDice", texts::DiceRoll, "F2", RollTheDice, TableIsIdle);
+  Add("mnuRollDice", Text::DiceRoll, "F2", RollTheDice, TableIsIdle);
   Add(
-      "mnuRollYourOwnNumbers", texts::DiceOwn, "F12",
+      "mnuRollYourOwnNumbers", Text::DiceOwn, "F12",
       [console] { FloatingWindows::Toggle(*console); }, {},
       [console] { return console->isVisible(); });
   AddLine();
   AddChoices(
-      texts::DiceAction,
-      {{"mnuDiceNormal", &texts::DiceNormal, DiceNormal},
-       {"mnuDiceStationary", &texts::DiceStationary, DiceStationary},
-       {"mnuDiceCenter", &texts::DiceCenter, DiceCenter},
-       {"mnuDiceWindow", &texts::DiceWindowed, DiceInWindow}},
+      Text::DiceAction,
+      {{"mnuDiceNormal", Text::DiceNormal, DiceNormal},
+       {"mnuDiceStationary", Text::DiceStationary, DiceStationary},
+       {"mnuDiceCenter", Text::DiceCenter, DiceCenter},
+       {"mnuDiceWindow", Text::DiceWindowed, DiceInWindow}},
       [] { return Settings.DiceAction; },
       [&w = window_](int32_t action) {
         const int32_t before = std::exchange(Settings.DiceAction, action);
@@ -134,22 +133,22 @@ void MainMenus::AddDiceMenu() {
 }
 
 void MainMenus::AddAutoMenu() {
-  BeginMenu(texts::MenuAuto);
+  BeginMenu(Text::MenuAuto);
   Add(
-      "mnuAutoRoll", texts::AutoRoll, "\tR", [&w = window_] { w.ToggleRun(false); }, NotDriving,
+      "mnuAutoRoll", Text::AutoRoll, "\tR", [&w = window_] { w.ToggleRun(false); }, NotDriving,
       [] { return Table.AutoRollOn && !Table.HyperDriveOn; });
   Add(
-      "mnuHyperDrive", texts::AutoHyper, "\tH", [&w = window_] { w.ToggleRun(true); },
+      "mnuHyperDrive", Text::AutoHyper, "\tH", [&w = window_] { w.ToggleRun(true); },
       [] { return Table.HyperDriveOn || TableIsIdle(); }, [] { return Table.HyperDriveOn; });
   AddLine();
-  Add("mnuSetTimeDelay", texts::AutoDelay, "", AskSetTimeDelay);
-  Add("mnuSetAutoStop", texts::AutoStop, "", AskSetAutoStop);
+  Add("mnuSetTimeDelay", Text::AutoDelayMenu, "", AskSetTimeDelay);
+  Add("mnuSetAutoStop", Text::AutoStopMenu, "", AskSetAutoStop);
   AddSlider(
-      texts::AutoThrottle, MaxThrottle, [] { return static_cast<int>(Settings.Throttle); },
+      Text::AutoThrottle, MaxThrottle, [] { return static_cast<int>(Settings.Throttle); },
       [](int position) { Settings.Throttle = position; });
   AddLine();
   Add(
-      "mnuStopAutobetting", texts::AutoStopScripts, "", [] { ConfirmScriptActive(); },
+      "mnuStopAutobetting", Text::AutoStopScripts, "", [] { ConfirmScriptActive(); },
       [] { return AutoBet.ScriptRunning; });
 }
 

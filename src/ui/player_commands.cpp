@@ -9,14 +9,13 @@
 #include "play/players.h"
 #include "play/rail.h"
 #include "state/settings.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/table_play.h"
-#include "ui/table_texts.h"
 
 namespace tessarel {
 
 void TellNobodyHere() {
-  ShowMessage(std::string(GetText(1)), std::string(GetText(2)), msg::Ok);
+  ShowMessage(Say(Text::ClickOpenPosition), Say(Text::AddPlayerTitle), msg::Ok);
 }
 
 bool MayChange() {
@@ -50,8 +49,8 @@ void MoveCurrentPlayer() {
 void BuyInCurrentPlayer() {
   const int place = PlayerForCommand();
   if (place == 0) return;
-  const std::string question = FillIn(texts::BuyInQuestion, {Table.PlayerName[place]});
-  const std::string title(Localized(texts::BuyInTitle));
+  const std::string question = Say(Text::AskMoreBuyIn, Table.PlayerName[place]);
+  const std::string title = Say(Text::BuyInTitle);
   std::string offered = PlainText(Settings.AtmAmount);
   while (AskForText(question, title, offered, help::Players)) {
     offered = Message.MsgInput;
@@ -61,7 +60,7 @@ void BuyInCurrentPlayer() {
       Table.TableDirty = true;
       return FrontEnd.DrawTable();
     }
-    ShowMessage(std::string(Localized(texts::BuyInRefused)), title, msg::OkAlert);
+    ShowMessage(Say(Text::BuyInRefused), title, msg::OkAlert);
   }
 }
 

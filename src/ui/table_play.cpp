@@ -17,19 +17,14 @@
 #include "play/roll_driver.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/layout/table_layout.h"
-#include "ui/table_texts.h"
 
 namespace tessarel {
 
 TablePlayState TablePlay;
 
 namespace {
-
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
 
 std::string NameOf(int place) {
   return Table.PlayerName[place];
@@ -154,11 +149,10 @@ void ClickRail(int place) {
 
 std::string OutlookOnRail(int place) {
   if (TablePlay.TableAction > ActionMovePlayer) {
-    return FillIn(texts::MoveHere, {NameOf(TablePlay.TableAction - ActionMovePlayer)});
+    return Say(Text::MoveHere, NameOf(TablePlay.TableAction - ActionMovePlayer));
   }
-  if (!IsTaken(Table, place)) return std::string(Localized(texts::JoinHere));
-  return FillIn(place == CurrentPlace() ? texts::PlayersMenu : texts::BetForPlayer,
-                {NameOf(place)});
+  if (!IsTaken(Table, place)) return Say(Text::JoinHere);
+  return SayChosen(place == CurrentPlace() ? Text::PlayersMenu : Text::BetForPlayer, NameOf(place));
 }
 
 // --- Saying what is there ----------------------------------------------------------------------
@@ -170,24 +164,24 @@ std::string SpotName(int number) {
   return name.empty() ? "CheckStack #" + std::to_string(number - FirstStack) : name;
 }
 
-const SixTexts& ActionText(int action) {
+Text ActionText(int action) {
   switch (action) {
     case ActionCallOn:
-      return texts::CallOnHere;
+      return Text::CallOnHere;
     case ActionCallOff:
-      return texts::CallOffHere;
+      return Text::CallOffHere;
     case ActionBuy:
-      return texts::BuyHere;
+      return Text::BuyHere;
     default:
-      return texts::RemoveHere;
+      return Text::RemoveHere;
   }
 }
 
 ClickOutlook OutlookOfBet(int number) {
   const int place = CurrentPlace();
-  if (place == 0) return {Text(1), false};
+  if (place == 0) return {Say(Text::ClickOpenPosition), false};
   if (TablePlay.TableAction != ActionNormal) {
-    return {FillIn(ActionText(TablePlay.TableAction), {SpotName(number)}),
+    return {SayChosen(ActionText(TablePlay.TableAction), SpotName(number)),
             Suits(number < FirstStack ? number : 0)};
   }
   const std::optional<Money> entered =
@@ -205,7 +199,7 @@ ClickOutlook OutlookOfBet(int number) {
     return {OnOneLine(why), false};
   }
   const std::string amount = FormatMoney(entered ? *entered : trial.delta);
-  return {FillIn(entered ? texts::SetBetTo : texts::AddToBet, {SpotName(number), amount}), true};
+  return {SayChosen(entered ? Text::SetBetTo : Text::AddToBet, SpotName(number), amount), true};
 }
 
 bool PayoffVaries(int number) {
@@ -215,24 +209,24 @@ bool PayoffVaries(int number) {
 }
 
 std::string PayoffText(int number) {
-  if (PayoffVaries(number)) return std::string(Localized(texts::PayoffVaries));
+  if (PayoffVaries(number)) return Say(Text::TipPayoffVaries);
   const PayoffRow& row = PayoffRowOf(number);
   const bool isTo = row.PayForm == Money(FormTo);
   const Money first = isTo ? row.PayNum : row.PayNum + row.PayDen;
-  return std::string(Localized(texts::Pays)) + FormatMoney(first) +
-         std::string(Localized(isTo ? texts::PaysTo : texts::PaysFor)) + FormatMoney(row.PayDen);
+  return SayChosen(isTo ? Text::TipPaysTo : Text::TipPaysFor, FormatMoney(first),
+                   FormatMoney(row.PayDen));
 }
 
 std::string StateText(int place, int number) {
   switch (Table.BetWorking[place][number]) {
     case CalledOff:
-      return std::string(Localized(texts::IsCalledOff));
+      return Say(Text::TipCalledOff);
     case CalledOn:
-      return std::string(Localized(texts::IsCalledOn));
+      return Say(Text::TipCalledOn);
     case NotWorking:
-      return std::string(Localized(texts::NotWorking));
+      return Say(Text::TipNotWorking);
     default:
-      return std::string(Localized(texts::Working));
+      return Say(Text::TipWorking);
   }
 }
 
@@ -241,21 +235,20 @@ void AddCompanions(std::string& tip, int place, int number) {
   const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
   if (lay || buy) {
     const auto& vigs = lay ? Table.LayVig[place] : Table.BuyVig[place];
-    tip += "\r" + std::string(Localized(texts::Vig)) +
-           FormatExact(At(vigs, (number - 1) % FamilySize));
+    tip += "\r" + Say(Text::TipVig, FormatExact(At(vigs, (number - 1) % FamilySize)));
   }
   const bool line = number == bet::PassLine || number == bet::DontPass;
   if (line && HasBet(place, number + 1)) {
-    tip += "\r" + std::string(Localized(texts::TipOdds)) + FormatExact(Bet(place, number + 1));
+    tip += "\r" + Say(Text::TipOdds, FormatExact(Bet(place, number + 1)));
   }
-  tip += "\r" + std::string(TrimSpaces(StateText(place, number)));
+  tip += "\r" + StateText(place, number);
 }
 
 std::string FullTip(int place, int number) {
   std::string tip = SpotName(number) + ": " + FormatExact(Bet(place, number));
   if (!IsBet(number)) return tip;
   if (HasBet(place, number)) AddCompanions(tip, place, number);
-  return tip + "\r" + std::string(TrimSpaces(PayoffText(number)));
+  return tip + "\r" + PayoffText(number);
 }
 
 }  // namespace
@@ -372,16 +365,16 @@ bool KeyAmount(char key) {
 ClickOutlook OutlookOfSpot(int spot) {
   const bool moves = TablePlay.TableAction > ActionMovePlayer;
   if (moves && !IsRailSpot(spot)) {
-    return {Text(12) + NameOf(TablePlay.TableAction - ActionMovePlayer), true};
+    return {Say(Text::ClickNewPosition, NameOf(TablePlay.TableAction - ActionMovePlayer)), true};
   }
   if (spot == 0) {
     const bool picks = TablePlay.TableAction != ActionNormal;
-    return {picks ? std::string(Localized(texts::PickABet)) : std::string(), true};
+    return {picks ? Say(Text::PickABet) : std::string(), true};
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
   if (spot == PropositionSwitch) {
-    return {std::string(Localized(GameViews.Table.DisplayPropBets ? texts::HidePropositions
-                                                                  : texts::ShowPropositions)),
+    return {SayChosen(GameViews.Table.DisplayPropBets ? Text::HidePropositions
+                                                      : Text::ShowPropositions),
             true};
   }
   const int number = NumberOfSpot(spot);

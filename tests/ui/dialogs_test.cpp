@@ -19,6 +19,7 @@
 #include "play/roll_pace.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/language.h"
 #include "ui/dialog_driver.h"
 #include "ui/money_input.h"
 #include "ui/palette.h"

@@ -19,7 +19,6 @@
 #include "ui/windows/rate_meter.h"
 #include "ui/windows/roll_console.h"
 #include "ui/windows/roll_pad.h"
-#include "ui/windows/small_window_texts.h"
 #include "ui/windows/status_panel.h"
 
 namespace tessarel {

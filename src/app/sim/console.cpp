@@ -100,7 +100,7 @@ std::string TextOf(const SettlePrompt& prompt) {
     if (!text.empty()) text += "\r";
     text += row.caption;
     if (row.figure.empty()) continue;
-    text += (row.caption.ends_with(' ') ? "" : " ") + row.figure;
+    text += " " + row.figure;
   }
   return text;
 }

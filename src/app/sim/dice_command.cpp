@@ -9,7 +9,7 @@
 #include "dice/generators.h"
 #include "play/start_up.h"
 #include "state/table.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -63,7 +63,7 @@ void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
     throw Failure(CannotBeDone, "RNG #" + std::to_string(number) + " is not available.");
   }
   if (seed && (*seed < 1 || *seed > SeedLimit(number))) {
-    throw Failure(CannotBeDone, std::string(GetText(40)) + " RNG #" + std::to_string(number) +
+    throw Failure(CannotBeDone, Say(Text::SeedOutOfLimits) + " RNG #" + std::to_string(number) +
                                     " takes whole numbers from 1 to " +
                                     std::to_string(SeedLimit(number)) + ".");
   }

@@ -35,7 +35,6 @@
 #include "play/start_up.h"
 #include "state/books.h"
 #include "state/table.h"
-#include "texts/language.h"
 
 namespace tessarel::sim {
 

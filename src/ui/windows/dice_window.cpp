@@ -5,13 +5,18 @@
 
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
 namespace {
+
+constexpr std::array TotalWords = {Text::TotalTwo,    Text::TotalThree, Text::TotalFour,
+                                   Text::TotalFive,   Text::TotalSix,   Text::TotalSeven,
+                                   Text::TotalEight,  Text::TotalNine,  Text::TotalTen,
+                                   Text::TotalEleven, Text::TotalTwelve};
 
 QColor FeltColor() {
   const int32_t felt = Settings.TableColor[0];
@@ -20,7 +25,7 @@ QColor FeltColor() {
 
 QString TotalInWords() {
   const int total = Table.Die1 + Table.Die2;
-  if (total < 2 || total > 12) return Shown(NoRollYet);
+  if (total < 2 || total > 12) return Shown(Text::NoRollYet);
   return Shown(At(TotalWords, total - 2));
 }
 
@@ -29,10 +34,10 @@ QString NoteOnTotal() {
     case 2:
     case 3:
     case 12:
-      return Shown(CrapsCall);
+      return Shown(Text::CrapsCall);
     default:
       const bool hard = total > 0 && Table.Die1 == Table.Die2;
-      return hard ? Shown(HardWayCall) : QString();
+      return hard ? Shown(Text::HardWayCall) : QString();
   }
 }
 
@@ -49,7 +54,7 @@ DiceWindow::DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::
 }
 
 void DiceWindow::Refresh() {
-  setWindowTitle(Shown(DiceTitle));
+  setWindowTitle(Shown(Text::DiceTitle));
   setAccessibleDescription(DiceCall());
   update();
 }

@@ -16,18 +16,16 @@
 #include "play/roll_pace.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
 #include "ui/windows/help_window.h"
 #include "ui/windows/message_pictures.h"
-#include "ui/windows/message_texts.h"
 
 namespace tessarel {
 
 namespace {
 
-constexpr int YesText = 33, NoText = 34;
 constexpr int32_t MediumFontSize = 11;
 constexpr int TimerInterval = 100;  // milliseconds
 
@@ -69,15 +67,15 @@ Choice EscapeChoice(const std::vector<Choice>& choices) {
 QString CaptionOf(ButtonKind kind) {
   switch (kind) {
     case YesButton:
-      return Shown(GetText(YesText));
+      return Shown(Text::Yes);
     case NoButton:
-      return Shown(GetText(NoText));
+      return Shown(Text::No);
     case HelpButton:
-      return Shown(dialog_text::Help);
+      return Shown(Text::Help);
     case OkButton:
-      return Shown(dialog_text::Ok);
+      return Shown(Text::Ok);
     default:
-      return Shown(dialog_text::Cancel);
+      return Shown(Text::Cancel);
   }
 }
 
@@ -203,7 +201,7 @@ class MessageBox : public QDialog {
 
   void AddHideBox(QVBoxLayout* side) {
     if (notices_ == 0) return;
-    chkHide_ = new QCheckBox(Shown(message_text::Hide));
+    chkHide_ = new QCheckBox(Shown(Text::HideSuchMessages));
     chkHide_->setObjectName(QStringLiteral("chkHide"));
     side->addWidget(chkHide_);
   }

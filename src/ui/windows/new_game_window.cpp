@@ -3,11 +3,10 @@
 
 #include "base/folders.h"
 #include "dice/roll_file.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
 #include "ui/windows/game_dialogs.h"
-#include "ui/windows/new_game_texts.h"
 
 namespace tessarel {
 
@@ -15,10 +14,10 @@ namespace {
 
 // How a roll file goes on "as it is": the words of what it does now.
 QString GoingOnCaption() {
-  const int text = RollFile.RollFileMode == RollFilePlay     ? 133
-                   : RollFile.RollFileMode == RollFileRecord ? 134
-                                                             : 135;
-  QString caption = Shown(GetText(text));
+  const Text text = RollFile.RollFileMode == RollFilePlay     ? Text::ContinuePlayback
+                    : RollFile.RollFileMode == RollFileRecord ? Text::ContinueRecording
+                                                              : Text::ContinueInactive;
+  QString caption = Shown(text);
   caption[0] = caption[0].toUpper();
   return caption;
 }
@@ -27,26 +26,25 @@ class NewGameWindow : public QDialog {
  public:
   NewGameWindow(QWidget* parent, NewGameChoices& choices) : QDialog(parent), choices_(choices) {
     setObjectName(QStringLiteral("frmNew"));
-    DressWindow(*this, Shown(new_game_text::Title));
+    DressWindow(*this, Shown(Text::NewGameTitle));
     QVBoxLayout* const column = MakeColumn(*this);
-    column->addWidget(MakeHeading(Shown(new_game_text::Question)));
+    column->addWidget(MakeHeading(Shown(Text::AskWhatToKeep)));
     column->addSpacing(LookStep(1));
-    using namespace new_game_text;
-    chkPreserveCheckstacks_ =
-        AddBox(column, "chkPreserveCheckstacks", Checkstacks, choices_.PreserveCheckstacks);
-    chkPreservePrevSessions_ =
-        AddBox(column, "chkPreservePrevSessions", PrevSessions, choices_.PreservePrevSessions);
-    chkPreserveSessionsLogs_ =
-        AddBox(column, "chkPreserveSessionsLogs", SessionsLogs, choices_.PreserveSessionsLogs);
+    chkPreserveCheckstacks_ = AddBox(column, "chkPreserveCheckstacks", Text::KeepCheckStacks,
+                                     choices_.PreserveCheckstacks);
+    chkPreservePrevSessions_ = AddBox(column, "chkPreservePrevSessions", Text::KeepPreviousSessions,
+                                      choices_.PreservePrevSessions);
+    chkPreserveSessionsLogs_ = AddBox(column, "chkPreserveSessionsLogs", Text::KeepSessionsLogs,
+                                      choices_.PreserveSessionsLogs);
     chkPreserveAutoBets_ =
-        AddBox(column, "chkPreserveAutoBets", AutoBets, choices_.PreserveAutoBets);
-    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", new_game_text::RollFile,
+        AddBox(column, "chkPreserveAutoBets", Text::KeepAutoBets, choices_.PreserveAutoBets);
+    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", Text::KeepRollFile,
                                       choices_.PreserveDiceRollFile);
     AddRollFileUses(column);
     QHBoxLayout* const row = AddButtonRow(column);
-    QPushButton* const cmdOK = AddButton(row, Shown(Start), [this] { accept(); });
+    QPushButton* const cmdOK = AddButton(row, Shown(Text::StartSession), [this] { accept(); });
     cmdOK->setDefault(true);
-    AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    AddButton(row, Shown(Text::Cancel), [this] { reject(); });
     HelpOnF1(*this, help::NewSession);
     chkPreserveCheckstacks_->setFocus();
   }
@@ -63,10 +61,7 @@ class NewGameWindow : public QDialog {
   }
 
  private:
-  static QCheckBox* AddBox(QVBoxLayout* column,
-                           const char* name,
-                           const SixTexts& caption,
-                           bool checked) {
+  static QCheckBox* AddBox(QVBoxLayout* column, const char* name, Text caption, bool checked) {
     auto* const box = new QCheckBox(Shown(caption));
     box->setObjectName(QLatin1String(name));
     box->setChecked(checked);
@@ -84,7 +79,7 @@ class NewGameWindow : public QDialog {
 
   void AddRollFileUses(QVBoxLayout* column) {
     const QString file = hasRollFile_ ? Shown(ShortName(tessarel::RollFile.RollFileName))
-                                      : Shown(new_game_text::NoRollFile);
+                                      : Shown(Text::NoRollFileOpen);
     chkPreserveDiceRollFile_->setText(chkPreserveDiceRollFile_->text() + " (" +
                                       QString(file).replace("&", "&&") + ")");
     chkPreserveDiceRollFile_->setEnabled(hasRollFile_);
@@ -93,7 +88,7 @@ class NewGameWindow : public QDialog {
     uses->setContentsMargins(LookStep(6), 0, 0, 0);
     uses->setSpacing(LookStep(2));
     const bool rewinds = choices_.Rewind;
-    optRewind_ = AddUse(uses, "optRewind", Shown(new_game_text::Rewind), rewinds);
+    optRewind_ = AddUse(uses, "optRewind", Shown(Text::RewindAndPlay), rewinds);
     QRadioButton* const optContinue = AddUse(uses, "optContinue", GoingOnCaption(), !rewinds);
     column->addLayout(uses);
     const auto enableUses = [=, this] {

@@ -7,8 +7,8 @@
 #include "base/number_format.h"
 #include "state/books.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/text.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
@@ -51,7 +51,7 @@ HyperDriveMeter::HyperDriveMeter(QWidget* parent) : QWidget(parent) {
 
 QSize HyperDriveMeter::sizeHint() const {
   const QFontMetrics metrics = fontMetrics();
-  const QString widest = Shown(FillIn(RollsPerSecondText, {"88,888,888"}));
+  const QString widest = Shown(Say(Text::RollsPerSecondRate, "88,888,888"));
   return {metrics.horizontalAdvance(widest) + 4, metrics.height() + 2};
 }
 
@@ -59,7 +59,7 @@ QString HyperDriveMeter::Text() {
   if (!Table.HyperDriveOn) return {};
   const QString rate = RollRateText(rate_.PerSecond());
   if (rate.isEmpty()) return {};
-  return Shown(FillIn(RollsPerSecondText, {Typed(rate)}));
+  return Shown(Say(Text::RollsPerSecondRate, Typed(rate)));
 }
 
 void HyperDriveMeter::showEvent(QShowEvent*) {

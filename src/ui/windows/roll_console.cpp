@@ -16,8 +16,8 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "stats/view_text.h"
+#include "texts/say.h"
 #include "ui/text.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
@@ -25,8 +25,11 @@ namespace {
 
 constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
-// Numbers of the general text table.
-constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114;
+constexpr std::array DisplayCaptions = {Text::DisplayBasic, Text::DisplayTriangle, Text::DisplayBox,
+                                        Text::DisplaySingleDice};
+constexpr std::array ButtonColorCaptions = {Text::ButtonColorNumbers,  Text::ButtonColorSeven,
+                                            Text::ButtonColorCraps,    Text::ButtonColorEleven,
+                                            Text::ButtonColorHardWays, Text::ButtonColorSingle};
 
 }  // namespace
 
@@ -192,23 +195,23 @@ void RollConsole::Run(Action action) {
 }
 
 void RollConsole::RefreshCaptions() {
-  setWindowTitle(Shown(ConsoleTitle));
-  displayMenu_->setTitle(Shown(DisplayMenu));
-  rollMenu_->setTitle(Shown(RollMenu));
+  setWindowTitle(Shown(Text::ConsoleTitle));
+  displayMenu_->setTitle(Shown(Text::DisplayMenu));
+  rollMenu_->setTitle(Shown(Text::RollMenu));
   for (int k = 0; k < RollPadDisplays; ++k)
     At(mnuRYONDisplay_, k)->setText(Shown(At(DisplayCaptions, k)));
   for (int k = 0; k < RollKinds; ++k)
     At(mnuButtonColor_, k)->setText(Shown(At(ButtonColorCaptions, k)));
-  mnuRollCounter_->setText(Shown(RollCounterCaption));
-  mnuHyperDriveButton_->setText(Shown(HyperDriveButtonCaption));
-  mnuRandomButton_->setText(Shown(RandomButtonCaption));
-  colorMenu_->setTitle(Shown(ButtonColorMenu));
-  defaultColors_->setText(Shown(DefaultColorsCaption));
-  mnuHide_->setText(Shown(HideCaption));
-  rollAtRandom_->setText(Shown(RandomRollCaption));
-  cmdRandomRoll_->setText(Shown(RandomRollCaption));
-  throttleCaption_->setText(Shown(ThrottleCaption));
-  hsbThrottle_->setToolTip(Shown(ThrottleNote));
+  mnuRollCounter_->setText(Shown(Text::RollCounter));
+  mnuHyperDriveButton_->setText(Shown(Text::HyperDriveButton));
+  mnuRandomButton_->setText(Shown(Text::RandomRollButton));
+  colorMenu_->setTitle(Shown(Text::ButtonColorMenu));
+  defaultColors_->setText(Shown(Text::DefaultColors));
+  mnuHide_->setText(Shown(Text::HideWindow));
+  rollAtRandom_->setText(Shown(Text::RandomRoll));
+  cmdRandomRoll_->setText(Shown(Text::RandomRoll));
+  throttleCaption_->setText(Shown(Text::Throttle));
+  hsbThrottle_->setToolTip(Shown(Text::ThrottleNote));
   throttleValue_->setMinimumWidth(fontMetrics().horizontalAdvance("100"));
   hint_->setMinimumWidth(RollPad::WidestHint(hint_->fontMetrics()));
 }
@@ -232,12 +235,12 @@ void RollConsole::RefreshFigures() {
   const QSignalBlocker blocker(hsbThrottle_);
   hsbThrottle_->setValue(Settings.Throttle);
   throttleValue_->setText(QString::number(hsbThrottle_->value()));
-  lblRollCounter_->setText(Shown(FillIn(RollCountText, {CountText(int64_t{RollsInSession()})})));
+  lblRollCounter_->setText(Shown(Say(Text::RollCount, CountText(int64_t{RollsInSession()}))));
   const int64_t stop = Settings.AutoStopRolls.Floor();
-  const std::string every = stop > 0 ? CountText(stop) : std::string(Localized(NoAutoStop));
-  mnuSetAutoStop_->setText(Shown(FillIn(AutoStopCaption, {every})));
+  const std::string every = stop > 0 ? CountText(stop) : Say(Text::NoAutoStop);
+  mnuSetAutoStop_->setText(Shown(Say(Text::SetAutoStopEvery, every)));
   mnuSetAutoRollTimeDelay_->setText(
-      Shown(FillIn(TimeDelayCaption, {AmountText(Settings.RollDelay)})));
+      Shown(Say(Text::SetTimeDelayOf, AmountText(Settings.RollDelay))));
   pad_->Refresh();
 }
 
@@ -258,8 +261,8 @@ void RollConsole::Refresh() {
   const QString caption = cmdHyperDrive_->text();
   cmdHyperDrive_->setMinimumWidth(0);
   int widest = 0;
-  for (const int text : {StartHyperDriveText, HyperDriveActiveText}) {
-    cmdHyperDrive_->setText(Shown(GetText(text)));
+  for (const Text text : {Text::StartHyperDrive, Text::HyperDriveActive}) {
+    cmdHyperDrive_->setText(Shown(text));
     widest = std::max(widest, cmdHyperDrive_->sizeHint().width());
   }
   cmdHyperDrive_->setText(caption);

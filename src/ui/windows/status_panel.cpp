@@ -7,7 +7,7 @@
 
 #include "state/table.h"
 #include "state/view_state.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
 #include "ui/windows/small_die.h"
@@ -18,7 +18,6 @@ namespace {
 
 constexpr std::array<int, 3> PointSizes = {9, 11, 14};
 constexpr int MostBlocksInColumn = 4;
-constexpr int EmptyTableText = 1;  // of the general text table
 constexpr int Padding = 8;
 
 const QColor Plate(0x12, 0x16, 0x1E, 0xE6), PlateEdge(0x46, 0x4E, 0x5C);
@@ -90,7 +89,7 @@ QSize StatusPanel::sizeHint() const {
   if (blocks_.empty()) {
     const QFontMetrics metrics(BlockFont(false));
     const QRect text = metrics.boundingRect(QRect(0, 0, BlockWidth() * 3 / 2, 1000),
-                                            Qt::TextWordWrap, Shown(GetText(EmptyTableText)));
+                                            Qt::TextWordWrap, Shown(Text::ClickOpenPosition));
     return text.size() + QSize(2 * Padding + 2, 2 * Padding);
   }
   const int width = Columns() * BlockWidth() + (Columns() - 1) * 2 * Padding + 2 * Padding;
@@ -200,7 +199,7 @@ void StatusPanel::paintEvent(QPaintEvent*) {
     painter.setFont(BlockFont(false));
     painter.setPen(FigureInk);
     painter.drawText(rect().adjusted(Padding, Padding, -Padding, -Padding),
-                     Qt::AlignCenter | Qt::TextWordWrap, Shown(GetText(EmptyTableText)));
+                     Qt::AlignCenter | Qt::TextWordWrap, Shown(Text::ClickOpenPosition));
     return;
   }
   for (int k = 0; k < static_cast<int>(blocks_.size()); ++k) {
