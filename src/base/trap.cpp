@@ -5,6 +5,7 @@
 namespace tessarel {
 
 std::string FaultText(const Fault& fault, std::string_view place) {
+  if (FaultWording.Report != nullptr) return FaultWording.Report(fault, place);
   return fault.Description + ", Error #" + std::to_string(fault.Number) +
          " occurred at: " + std::string(place);
 }

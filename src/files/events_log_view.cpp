@@ -24,8 +24,6 @@ EventsLogViewState EventsLogView;
 
 namespace {
 
-constexpr std::string_view PrintHeading = "Tessarel Events Log";
-
 void UseLog(const std::string& path) {
   CloseEventsLog();
   EventsLog.EventLogName = IsSameFile(path, DefaultEventLogName()) ? "" : path;
@@ -263,7 +261,8 @@ bool PrintEventsLog(std::string_view gameFile,
     return false;
   }
   bool wanted = true;
-  for (std::string heading = ReportHeader(PrintHeading, gameFile); wanted && !heading.empty();)
+  for (std::string heading = ReportHeader(Wording(Text::EventsLogReport), gameFile);
+       wanted && !heading.empty();)
     wanted = print(HeadingRow(heading));
   for (int32_t line = 1; wanted && line <= lines; ++line)
     wanted = print(reader.Line(line));

@@ -130,7 +130,7 @@ std::optional<Money> ReadValue(std::string text) {
 }
 
 std::string_view ChosenStatName() {
-  return At(SessionStatNames, SessionsView.Stat);
+  return Wording(At(SessionStatNames, SessionsView.Stat));
 }
 
 bool FindFrom(const SessionStatistics& statistics, int32_t from, int step) {
