@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "autobet/interpreter.h"
+#include "base/clock.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
@@ -336,11 +337,22 @@ bool ScriptsCanRun() {
   return Scripts.ProgramReady;
 }
 
+// Once a second what a run has logged goes to the disk.
+void KeepLogUpToDate() {
+  if (!EventsLog.LogOn) return;
+  constexpr int64_t Second = 1000;
+  const int64_t now = TickMilliseconds();
+  if (now - RollPace.LogStamp < Second) return;
+  RollPace.LogStamp = now;
+  Trapped("MakeRoll", FlushEventsLog);
+}
+
 // Between two rolls of the Hyper-Drive. Returns whether it goes on. The events may have changed the
 // scripts.
 bool GoOnRolling() {
   if (!Table.HyperDriveOn) return false;
   FrontEnd.RunPendingEvents();
+  KeepLogUpToDate();
   StopAtCount();
   if (Table.HyperDriveOn && !ScriptsCanRun()) StopUnattended();
   if (!Table.HyperDriveOn || Table.Stop != StopCause::None) return false;
@@ -362,6 +374,7 @@ bool RollUntilStopped(std::optional<Faces>& chosen) {
 void PauseAutoRoll() {
   if (!Table.AutoRollOn || Table.HyperDriveOn || Table.Stop != StopCause::None) return;
   FrontEnd.DrawStatus();
+  Trapped("MakeRoll", FlushEventsLog);
   if (AutoStopIsDue()) {
     StopUnattended();
     ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
@@ -392,6 +405,7 @@ void EndRolling(bool ranUnattended, bool rolled) {
   EndPlay(ranUnattended);
   Table.Stop = StopCause::None;
   if (rolled) CallComeOut();
+  Trapped("MakeRoll", CloseEventsLog);
   Table.RollInProgress = false;
   FrontEnd.DrawStatus();
 }
