@@ -1,12 +1,11 @@
 #include "state/books.h"
-#include "engine/seats.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <sstream>
 
 #include "base/message.h"
+#include "engine/seats.h"
 #include "play/players.h"
 #include "play/roll_fixture.h"
 #include "state/books_check.h"
@@ -15,56 +14,6 @@ namespace tessarel {
 namespace {
 
 using Store = RollTest;
-
-// --- Roll codes --------------------------------------------------------------------------------
-
-std::vector<int> Numbers(const char* text) {
-  std::istringstream in(text);
-  return {std::istream_iterator<int>(in), std::istream_iterator<int>()};
-}
-
-TEST_F(Store, EveryPairReportsItsCodes) {
-  constexpr int PairCode[6][6] = {{2, 22, 24, 27, 33, 39},  {23, 13, 29, 35, 41, 48},
-                                  {25, 30, 14, 43, 50, 54}, {28, 36, 44, 15, 56, 60},
-                                  {34, 42, 51, 57, 16, 63}, {40, 49, 55, 61, 64, 12}};
-  const struct {
-    int low, high;
-    const char* codes;
-  } pairs[] = {
-      {1, 1, "21 65 66 20 69 74"},
-      {1, 2, "3 21 65 66 20 70 74 75"},
-      {1, 3, "4 26 21 17 19 67 71"},
-      {2, 2, "4 21 17 19 67 71"},
-      {1, 4, "5 31 17 18 19 67 72"},
-      {2, 3, "5 32 17 18 19 67 72"},
-      {1, 5, "6 37 17 18 67 73"},
-      {2, 4, "6 38 17 18 67 73"},
-      {3, 3, "6 17 18 67 73"},
-      {1, 6, "7 45 65 76"},
-      {2, 5, "7 46 65 76"},
-      {3, 4, "7 47 65 76"},
-      {2, 6, "8 52 17 18 68 73"},
-      {3, 5, "8 53 17 18 68 73"},
-      {4, 4, "8 17 18 68 73"},
-      {3, 6, "9 58 21 17 18 19 68 72"},
-      {4, 5, "9 59 21 17 18 19 68 72"},
-      {4, 6, "10 62 21 17 19 68 71"},
-      {5, 5, "10 21 17 19 68 71"},
-      {5, 6, "11 21 65 66 70 76 77"},
-      {6, 6, "21 65 66 20 69 75 77"},
-  };
-  for (const auto& pair : pairs) {
-    for (const auto& [die1, die2] : {std::pair(pair.low, pair.high), {pair.high, pair.low}}) {
-      std::vector<int> expected = {die1 + 77, die2 + 83, PairCode[die1 - 1][die2 - 1]};
-      for (const int code : Numbers(pair.codes))
-        expected.push_back(code);
-      const RollCodeList& list = CodesOfRoll(die1, die2);
-      const auto end = std::find(list.begin(), list.end(), 0);
-      ASSERT_NE(end, list.end());
-      EXPECT_EQ(std::vector<int>(list.begin(), end), expected) << die1 << "-" << die2;
-    }
-  }
-}
 
 // --- A long game, counted again from its history -----------------------------------------------
 
@@ -238,9 +187,7 @@ class LongGame : public RollTest {
     if (!lay && !InFamily(number, BuyFamily)) return;
     const Money vig = lay ? FigureLayVig(number, amount) : FigureBuyVig(number, amount);
     At(At(lay ? Table.LayVig : Table.BuyVig, place), (number - 1) % 6) = vig;
-    if ((lay ? Settings.LayVigAllBets : Settings.BuyVigAllBets) != 0) {
-      Table.MoneyOnTable[place] += vig;
-    }
+    if (lay ? Settings.LayVigAllBets : Settings.BuyVigAllBets) Table.MoneyOnTable[place] += vig;
   }
 
   void PlayOne() {
@@ -253,8 +200,8 @@ class LongGame : public RollTest {
       Bet1(place, roll);
       At(before, place) = BankrollOf(place);
       Table.Standing[place].ForEach([&](int standing) { At(number, place) = standing; });
-      const bool carries = InFamily(At(number, place), LayFamily)   ? Settings.LayVigAllBets != 0
-                           : InFamily(At(number, place), BuyFamily) ? Settings.BuyVigAllBets != 0
+      const bool carries = InFamily(At(number, place), LayFamily)   ? Settings.LayVigAllBets
+                           : InFamily(At(number, place), BuyFamily) ? Settings.BuyVigAllBets
                                                                     : false;
       const int k = (At(number, place) - 1) % 6;
       const Money vig = carries ? Table.LayVig[place][k] + Table.BuyVig[place][k] : Money();
@@ -285,7 +232,7 @@ class LongGame : public RollTest {
 TEST_F(LongGame, CountsWhatWasPlayedInEveryScope) {
   for (const int place : Places)
     Seat(place);
-  Settings.BuyVigAllBets = 0;
+  Settings.BuyVigAllBets = false;
   Dice.CurrentRNG = 1;
   Dice.SeedRequest = 2718;
   ASSERT_TRUE(SeedRNG(-1));
@@ -372,7 +319,7 @@ TEST_F(Store, ClearingAPlaceLeavesTheOthers) {
   EXPECT_EQ(RollsInSession(), 3);
 }
 
-TEST_F(Store, ClearingAllSessionsKeepsTheSession) {
+TEST_F(Store, ClearingAllSessionsKeepsTheSessionAndOneWithoutRollsTheLast) {
   Seat(1);
   PutDown(1, bet::Field, 10);
   Throw(1, 1);
@@ -381,40 +328,31 @@ TEST_F(Store, ClearingAllSessionsKeepsTheSession) {
   EXPECT_EQ(Stats.Bets[1 + AllSessions][bet::Field].Won.Count, Money());
   EXPECT_EQ(RollsInSession(), 1);
   EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Field].Won.Count, Money(1));
+  for (int time = 1; time <= 2; ++time) {
+    StartSessionStatistics();
+    EXPECT_EQ(Stats.RollCount[LastSession][0], 1);
+  }
 }
 
 TEST_F(Store, AFullFigureIsReportedAndTheRollGoesOn) {
   constexpr int64_t Full = std::numeric_limits<int64_t>::max();
-  struct {
-    const char* Place;
-    void (*Fill)();
-  } const cases[] = {
+  const std::pair<const char*, void (*)()> cases[] = {
       {"RecordRoll", [] { Stats.RollCount[AllSessions][0] = std::numeric_limits<int32_t>::max(); }},
       {"RecordBetResult",
        [] { Stats.Bets[1 + AllSessions][bet::Field].Lost.Sum = Money::FromRaw(Full); }},
-      {"RecordBankrolls", [] { Table.BankrollSum[1] = Money::FromRaw(Full); }},
-  };
-  for (const auto& c : cases) {
+      {"RecordBankrolls", [] { Table.BankrollSum[1] = Money::FromRaw(Full); }}};
+  for (const auto& [routine, fill] : cases) {
     SetUp();
     Seat(1, 100);
     Throw(2, 2);
-    c.Fill();
+    fill();
     PutDown(1, bet::Field, 10);
     Throw(3, 4);
-    EXPECT_EQ(Message.MsgText, "Overflow, Error #6 occurred at: " + std::string(c.Place));
+    EXPECT_EQ(Message.MsgText, "Overflow, Error #6 occurred at: " + std::string(routine));
     EXPECT_EQ(Table.Point, 0);
     EXPECT_EQ(BankrollOf(1), Money(90));
     EXPECT_EQ(RollsInHand(), 0) << "the seven ends the hand";
   }
-}
-
-TEST_F(Store, SessionWithoutRollsKeepsTheLastOne) {
-  Seat(1);
-  Throw(1, 1);
-  StartSessionStatistics();
-  EXPECT_EQ(Stats.RollCount[LastSession][0], 1);
-  StartSessionStatistics();
-  EXPECT_EQ(Stats.RollCount[LastSession][0], 1);
 }
 
 }  // namespace
