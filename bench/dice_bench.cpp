@@ -21,7 +21,7 @@ BENCHMARK(MakeDiceOfGenerator)->DenseRange(1, GeneratorCount);
 
 void MakeDiceOfMatrix(benchmark::State& state) {
   Probability = {};
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   MakeDiceOfGenerator(state);
   Probability = {};
 }

@@ -33,7 +33,7 @@ BenchState Bench;
 
 void Rebet() {
   if (--Bench.rollsLeft <= 0) {
-    Table.HyperDriveOn = 0;
+    Table.HyperDriveOn = false;
     return;
   }
   const SilentBets silent;
@@ -53,8 +53,8 @@ void SetTable(int players, std::vector<Wager> wagers) {
   Settings.BetNeededToShoot = 0;
   for (int place = 1; place <= players; ++place) {
     SeatPlayer(place, "Player " + std::to_string(place), 1'000'000);
-    Table.AllowNegBankroll[place] = -1;
-    Table.AutoTakeFullOdds[place] = Table.AutoLayFullOdds[place] = -1;
+    Table.AllowNegBankroll[place] = true;
+    Table.AutoTakeFullOdds[place] = Table.AutoLayFullOdds[place] = true;
   }
   Bench.wagers = std::move(wagers);
 }
@@ -64,13 +64,13 @@ void RunRolls(benchmark::State& state) {
   FrontEnd.RunPendingEvents = Rebet;
   for (auto _ : state) {
     Bench.rollsLeft = RollsInBatch + 1;
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     Rebet();
     MakeRoll();
     ForEachPlayer([](int place) { SetBankroll(place, 1'000'000); });
   }
   FrontEnd.RunPendingEvents = [] {};
-  Table.HyperDriveOn = 0;
+  Table.HyperDriveOn = false;
   state.SetItemsProcessed(state.iterations() * RollsInBatch);
 }
 

@@ -22,7 +22,7 @@ namespace {
 int64_t RollsLeft = 0;
 
 void CountRoll() {
-  if (--RollsLeft <= 0) Table.HyperDriveOn = 0;
+  if (--RollsLeft <= 0) Table.HyperDriveOn = false;
 }
 
 void SetTable(int sample, int players) {
@@ -33,7 +33,7 @@ void SetTable(int sample, int players) {
   Settings.BetNeededToShoot = 0;
   for (int place = 1; place <= players; ++place) {
     SeatPlayer(place, "Player " + std::to_string(place), 1'000'000);
-    Table.AllowNegBankroll[place] = -1;
+    Table.AllowNegBankroll[place] = true;
     ReadScriptFile(place, TESSAREL_SAMPLES "/sample" + std::to_string(sample) + ".bet");
     // A system that stops when it has won enough would end the measurement.
     std::erase_if(Scripts.Places[place].lines, [](const std::string& line) {
@@ -48,7 +48,7 @@ void Roll(benchmark::State& state) {
   FrontEnd.RunPendingEvents = CountRoll;
   constexpr int64_t RollsInBatch = 20'000;
   for (auto _ : state) {
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     RollsLeft = RollsInBatch;
     MakeRoll();
   }

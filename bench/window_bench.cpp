@@ -34,7 +34,7 @@ void AnswerNothing() {
 
 void SeatEight() {
   AnswerNothing();
-  Settings.DisableAllSound = -1;
+  Settings.DisableAllSound = true;
   Settings.Notices = 0;
   for (int place = 1; place <= LastPlace; ++place) {
     SeatPlayer(place, "Player " + std::to_string(place), 100'000);
@@ -88,9 +88,9 @@ void HyperDrive(benchmark::State& state) {
   SeatPlayer(4, "Ann", 9'000'000);
   Settings.AutoStopRolls = Money::FromWhole(RollsOfRun);
   for ([[maybe_unused]] auto _ : state) {
-    Table.HyperDriveOn = -1;  // without the question that the end of a person's run asks
+    Table.HyperDriveOn = true;  // without the question that the end of a person's run asks
     MakeRoll();
-    Table.HyperDriveOn = 0;
+    Table.HyperDriveOn = false;
   }
   state.counters["rolls"] = benchmark::Counter(RollsOfRun * static_cast<double>(state.iterations()),
                                                benchmark::Counter::kIsRate);

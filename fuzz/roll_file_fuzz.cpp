@@ -18,11 +18,11 @@ namespace {
 constexpr int32_t RollsOfOpenFile = 5;
 
 void PlayAll() {
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   RewindForPlayback();
   while (const auto faces = PlayBackRoll())
     Require(IsFace(faces->die1) && IsFace(faces->die2));
-  Table.HyperDriveOn = 0;
+  Table.HyperDriveOn = false;
 }
 
 void CheckCount() {

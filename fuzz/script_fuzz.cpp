@@ -51,10 +51,10 @@ void SetTable(std::vector<std::string> lines) {
   SeatPlayer(1, "Ann", 1000);
   SeatPlayer(2, "Bob", 1000);
   Settings.BetNeededToShoot = 0;
-  Scripts.AllowReset[1] = Scripts.AllowAct4Others[1] = Scripts.AllowActProb[1] = -1;
+  Scripts.AllowReset[1] = Scripts.AllowAct4Others[1] = Scripts.AllowActProb[1] = true;
   Scripts.Places[1].lines = std::move(lines);
   SetScriptActive(1, true);
-  FrontEnd.RunPendingEvents = [] { AutoBet.ScriptRunning = 0; };
+  FrontEnd.RunPendingEvents = [] { AutoBet.ScriptRunning = false; };
 }
 
 void Play(std::string_view text) {

@@ -58,20 +58,20 @@ void StartSession(const ScriptCommand& command) {
   ScriptHost.StartSession(form == PreserveStacks || form == PreserveBoth,
                           form == PreserveRollFile || form == PreserveBoth);
   if (stops) Table.StopReason = Localized(RollTexts.StoppedByCommand);
-  AutoBet.TableWasReset = AutoBet.NewSessionBegins = -1;
-  AutoBet.Initializing = 0;
+  AutoBet.TableWasReset = AutoBet.NewSessionBegins = true;
+  AutoBet.Initializing = false;
 }
 
 // In a roll the cycle goes on, and the roll driver ends the run behind it.
 void StopRolling(const ScriptCommand&) {
   Table.StopReason = Localized(RollTexts.StoppedByCommand);
-  if (Table.RollInProgress != 0) return;
+  if (Table.RollInProgress) return;
   StopUnattended();
   Table.StopReason.clear();
 }
 
 void TurnStepsOn(const ScriptCommand&) {
-  AutoBet.ShowSteps = -1;
+  AutoBet.ShowSteps = true;
 }
 
 void PassTheDice(const ScriptCommand&) {
@@ -299,7 +299,7 @@ void RunCommand(const ScriptCommand& command) {
 }
 
 bool ScriptMessagesShown() {
-  const int32_t bit = Table.HyperDriveOn != 0 ? NoticeAutoBetHyper : NoticeAutoBet;
+  const int32_t bit = Table.HyperDriveOn ? NoticeAutoBetHyper : NoticeAutoBet;
   return (Settings.Notices & bit) != 0;
 }
 

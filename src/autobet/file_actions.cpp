@@ -117,7 +117,7 @@ bool AddToOutputFile(std::ios::openmode mode, const std::string& bytes) {
 
 }  // namespace
 
-bool HasRight(const PerPlace<int32_t>& right, int32_t error) {
+bool HasRight(const PerPlace<bool>& right, int32_t error) {
   if (At(right, AutoBet.CurrentScriptPlayer) != 0) return true;
   FailScript(error);
   return false;
@@ -144,19 +144,19 @@ void ActivateProbabilities(const ScriptCommand& command) {
   if (!HasRight(Scripts.AllowActProb, 854)) return;
   const std::string name = TrimmedText(command, 0);
   if (!name.empty() && !LoadProbabilities(name)) return FailScript(1008);
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
 }
 
 void SwitchOffProbabilities(const ScriptCommand&) {
   if (!HasRight(Scripts.AllowActProb, 854)) return;
-  Probability.ProbabilityMatrixActive = 0;
+  Probability.ProbabilityMatrixActive = false;
 }
 
 void PlayScriptSound(const ScriptCommand& command) {
-  if (Settings.DisableAutoBetSounds != 0 || Settings.DisableAllSound != 0) return FailScript(992);
+  if (Settings.DisableAutoBetSounds || Settings.DisableAllSound) return FailScript(992);
   const std::string name = TrimmedText(command, 0);
   if (name.empty()) return FailScript(9998);
-  if (Table.HyperDriveOn == 0) FrontEnd.PlaySoundFile(InFolder(Folders.AppFolder, name));
+  if (!Table.HyperDriveOn) FrontEnd.PlaySoundFile(InFolder(Folders.AppFolder, name));
 }
 
 void OpenOutputFile(const ScriptCommand& command) {

@@ -8,7 +8,7 @@
 namespace tessarel {
 
 // Whether the running script has a right (a row of the script store); else the run-time error.
-bool HasRight(const PerPlace<int32_t>& right, int32_t error);
+bool HasRight(const PerPlace<bool>& right, int32_t error);
 
 void PlayBackRollFile(const ScriptCommand& command);        // A310
 void SwitchOffRollFile(const ScriptCommand& command);       // A119

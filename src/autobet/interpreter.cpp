@@ -301,7 +301,7 @@ class Cycle {
   void Fail(const Fault& fault);
   void ReportError(std::string_view outcome) const;
   void Step(std::string_view text) const {
-    if (AutoBet.ShowSteps != 0) ShowStep(std::string(text));
+    if (AutoBet.ShowSteps) ShowStep(std::string(text));
   }
   void ShowStep(std::string text) const;
   const Statement& Current() const { return Interpreter.Program.statements[pointer_]; }
@@ -326,10 +326,10 @@ void Cycle::ShowStep(std::string text) const {
 }
 
 void Cycle::ReportError(std::string_view outcome) const {
-  if (Table.HyperDriveOn != 0) return;
+  if (Table.HyperDriveOn) return;
   const std::string text = ScriptErrorText(AutoBet.ScriptError);
   FrontEnd.ReportScriptError(AutoBet.CurrentScriptPlayer, Current().line, text);
-  if (AutoBet.ShowSteps != 0) ShowStep(std::string(outcome) + "\r" + text);
+  if (AutoBet.ShowSteps) ShowStep(std::string(outcome) + "\r" + text);
 }
 
 // The condition and the then behind it, at which the pointer stands when it goes on or jumps.
@@ -349,17 +349,17 @@ void Cycle::RunCondition() {
 // The script of the session that a statement has started begins with its first statement.
 void Cycle::StartOver() {
   Step("The table has been reset and the script will now start over.");
-  AutoBet.TableWasReset = 0;
-  AutoBet.Initializing = 0;
-  AutoBet.NewSessionBegins = -1;
+  AutoBet.TableWasReset = false;
+  AutoBet.Initializing = false;
+  AutoBet.NewSessionBegins = true;
   Interpreter.SubroutineStack.clear();
   pointer_ = 0;
 }
 
 void Cycle::RunAction(const Statement& statement) {
-  const bool showed = AutoBet.ShowSteps != 0;
+  const bool showed = AutoBet.ShowSteps;
   Evaluate(statement);
-  if (AutoBet.TableWasReset != 0) return StartOver();
+  if (AutoBet.TableWasReset) return StartOver();
   if (AutoBet.ScriptError != 0)
     ReportError("No action taken.");
   else if (showed)
@@ -456,7 +456,7 @@ void Cycle::RunStatement(const Statement& statement) {
 }
 
 void Cycle::RunStatements() {
-  while (pointer_ < Interpreter.Program.statements.size() && AutoBet.ScriptRunning != 0) {
+  while (pointer_ < Interpreter.Program.statements.size() && AutoBet.ScriptRunning) {
     RunStatement(Current());
     if (--untilEvents_ > 0) continue;
     untilEvents_ = StatementsBetweenEvents;
@@ -501,10 +501,10 @@ void WaitForStatus(int64_t began) {
 
 void EndCycle() {
   DropMadeStrings();
-  AutoBet.ScriptRunning = 0;
-  AutoBet.NewSessionBegins = 0;
+  AutoBet.ScriptRunning = false;
+  AutoBet.NewSessionBegins = false;
   // What a hot key has put in the place of the active scripts runs once.
-  if (AutoBet.HotKeyRun != 0) Scripts.ProgramReady = false;
+  if (AutoBet.HotKeyRun) Scripts.ProgramReady = false;
 }
 
 void LoadProgram(ScriptProgram program, std::vector<ScriptString> strings) {
@@ -532,18 +532,18 @@ void TellOfFaultyScript(int place) {
 
 void CheckScriptErrors() {
   Scripts.ProgramReady = false;
-  if (AutoBet.ScriptRunning != 0) return;
+  if (AutoBet.ScriptRunning) return;
   ScriptProgram program;
   std::vector<ScriptString> strings(1);
   for (int place = 1; place <= LastPlace; ++place) {
-    if (Scripts.ScriptActive[place] == 0) continue;
+    if (!Scripts.ScriptActive[place]) continue;
     if (AddScript(place, program, strings)) return TellOfFaultyScript(place);
   }
   LoadProgram(std::move(program), std::move(strings));
 }
 
 bool CompileHotKeyScript() {
-  if (AutoBet.ScriptRunning != 0) return false;
+  if (AutoBet.ScriptRunning) return false;
   Scripts.ProgramReady = false;
   ScriptProgram program;
   std::vector<ScriptString> strings(1);
@@ -553,14 +553,14 @@ bool CompileHotKeyScript() {
 }
 
 void RunAutoBet() {
-  if (!Scripts.ProgramReady || AutoBet.ScriptRunning != 0) return;
-  AutoBet.ScriptRunning = -1;
-  AutoBet.AutoBetMessageStop = 0;
-  const bool watched = Table.HyperDriveOn == 0;
+  if (!Scripts.ProgramReady || AutoBet.ScriptRunning) return;
+  AutoBet.ScriptRunning = true;
+  AutoBet.AutoBetMessageStop = false;
+  const bool watched = !Table.HyperDriveOn;
   const int64_t began = watched ? TickMilliseconds() : 0;
   if (watched) FrontEnd.DrawStatus();
   Cycle().Run();
-  if (watched && Table.HyperDriveOn == 0) WaitForStatus(began);
+  if (watched && !Table.HyperDriveOn) WaitForStatus(began);
   EndCycle();
   if (!watched) return;
   FrontEnd.DrawStatus();

@@ -48,19 +48,19 @@ std::vector<std::string> UpgradedLines(std::string_view bytes) {
 // Flags that are up as long as this lives, whatever becomes of the cycle in between.
 class RaisedFlags {
  public:
-  explicit RaisedFlags(std::initializer_list<int32_t*> flags) : flags_(flags) {
-    for (int32_t* flag : flags_)
-      *flag = -1;
+  explicit RaisedFlags(std::initializer_list<bool*> flags) : flags_(flags) {
+    for (bool* flag : flags_)
+      *flag = true;
   }
   ~RaisedFlags() {
-    for (int32_t* flag : flags_)
-      *flag = 0;
+    for (bool* flag : flags_)
+      *flag = false;
   }
   RaisedFlags(const RaisedFlags&) = delete;
   RaisedFlags& operator=(const RaisedFlags&) = delete;
 
  private:
-  std::vector<int32_t*> flags_;
+  std::vector<bool*> flags_;
 };
 
 // One place's script as the only active one.
@@ -79,7 +79,7 @@ class OnlyScript {
   OnlyScript& operator=(const OnlyScript&) = delete;
 
  private:
-  PerPlace<int32_t> flags_;
+  PerPlace<bool> flags_;
 };
 
 bool ActiveScriptsCompile() {
@@ -88,14 +88,14 @@ bool ActiveScriptsCompile() {
 }
 
 void RunFirstCycle() {
-  if (Scripts.ScriptActive[0] == 0 || !ActiveScriptsCompile()) return;
+  if (!Scripts.ScriptActive[0] || !ActiveScriptsCompile()) return;
   const RaisedFlags flags{&AutoBet.Initializing};
   RunAutoBet();
 }
 
 // Not during a roll: its cycles are those of the program it began with.
 bool WantsFirstCycle(const SixTexts& question, std::string_view name = "") {
-  if (Table.RollInProgress != 0) return false;
+  if (Table.RollInProgress) return false;
   constexpr int AutoBetTitle = 156;
   return ShowMessage(FillIn(question, {name}), std::string(GetText(AutoBetTitle)), msg::AskYesNo,
                      help::BettingSystems) == AnswerYes;
@@ -178,7 +178,7 @@ void InitializeScripts() {
 }
 
 void RunHotKeyScript(const std::string& path) {
-  if (AutoBet.ScriptRunning != 0 || Table.RollInProgress != 0) return;
+  if (AutoBet.ScriptRunning || Table.RollInProgress) return;
   Trapped("RunHotKeyScript", [&path] { RunHotKey(path); });
   // What was compiled is not the program of the active scripts.
   Scripts.ProgramReady = false;

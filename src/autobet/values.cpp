@@ -55,7 +55,7 @@ bool MayActFor(int place) {
     return false;
   }
   const int owner = AutoBet.CurrentScriptPlayer;
-  if (place == owner || Scripts.AllowAct4Others[owner] != 0) return true;
+  if (place == owner || Scripts.AllowAct4Others[owner]) return true;
   FailScript(852);
   return false;
 }

@@ -68,14 +68,14 @@ struct AutoBetState {
   // from 1.
   std::vector<ScriptString> Strings = std::vector<ScriptString>(1);
 
-  int32_t ScriptRunning = 0;        // -1 in a cycle; set to 0, the cycle stops
-  int32_t AutoBetMessageStop = 0;   // -1: a user has stopped the cycle; a waiting step ends then
+  bool ScriptRunning = false;       // -1 in a cycle; set to 0, the cycle stops
+  bool AutoBetMessageStop = false;  // -1: a user has stopped the cycle; a waiting step ends then
   int32_t CurrentScriptPlayer = 0;  // whose script runs
-  int32_t Initializing = 0;         // the cycle is one before the first roll
-  int32_t NewSessionBegins = 0;     // the cycle is the first of a session
-  int32_t HotKeyRun = 0;
-  int32_t TableWasReset = 0;  // a statement has started a new session
-  int32_t ShowSteps = 0;
+  bool Initializing = false;        // the cycle is one before the first roll
+  bool NewSessionBegins = false;    // the cycle is the first of a session
+  bool HotKeyRun = false;
+  bool TableWasReset = false;  // a statement has started a new session
+  bool ShowSteps = false;
   int32_t ScriptError = 0;   // of the running statement; 0 none
   std::string FaultText;     // of error 10000
   int32_t Answer = 0;        // to the last question of any script: 6 yes, 7 no

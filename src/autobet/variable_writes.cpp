@@ -120,10 +120,10 @@ void WriteHandling(const HandlingVariable& variable, int place, const ScriptValu
 
 // A switch of the player, and what setting it does at once to what stands.
 void WriteSwitch(int place, int32_t number, bool on) {
-  constexpr std::array<PerPlace<int32_t> TableState::*, 4> Switches = {
+  constexpr std::array<PerPlace<bool> TableState::*, 4> Switches = {
       &TableState::AutoTakeFullOdds, &TableState::AutoLayFullOdds, &TableState::AutoDownPlaceBets,
       &TableState::DeclinesDice};
-  (Table.*At(Switches, number - 700))[place] = on ? -1 : 0;
+  (Table.*At(Switches, number - 700))[place] = on;
   if (!on) return;
   const SilentBets silent;
   if (number == 700) BetFullOdds(place);
@@ -137,13 +137,13 @@ void WriteSwitch(int place, int32_t number, bool on) {
 // The bankroll of a session that has not begun, cut to what the table allows.
 void WriteBankroll(int place, double value) {
   if (RollsInSession() > 0) return FailScript(SessionHasBegun);
-  const bool mayBeNegative = Table.AllowNegBankroll[place] != 0;
+  const bool mayBeNegative = Table.AllowNegBankroll[place];
   const Money lowest =
       mayBeNegative ? -BankrollLimit : std::max(Table.MoneyOnTable[place], Money());
   const Money amount = std::max(std::min(MoneyToCut(value), BankrollLimit), lowest);
   if (Stats.RollCount[AllSessions][0] == 0) BeginBankroll(place + AllSessions, amount);
   SetBankroll(place, amount);
-  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+  if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
 void WriteOwn(int place, int32_t number, const ScriptValue& value) {
@@ -235,7 +235,7 @@ void SetVariable(const Reference& reference, const ScriptValue& value) {
     if (!MayActFor(place)) return;
     WriteOwn(place, reference.number, value);
   }
-  if (AutoBet.ScriptError == 0) Table.TableDirty = -1;
+  if (AutoBet.ScriptError == 0) Table.TableDirty = true;
 }
 
 }  // namespace tessarel

@@ -18,6 +18,10 @@ namespace tessarel {
 
 namespace {
 
+double Flag(bool truth) {
+  return truth ? TrueValue : FalseValue;
+}
+
 constexpr int32_t FirstStackName = 800, LastStackName = 899;
 constexpr int32_t FirstStatistic = 1000, FirstTableVariable = 5000;
 
@@ -34,13 +38,13 @@ double OwnFigure(int place, int32_t number) {
     case 671:
       return Table.HandleLosingBets[place] + 1;
     case 700:
-      return Table.AutoTakeFullOdds[place];
+      return Flag(Table.AutoTakeFullOdds[place]);
     case 701:
-      return Table.AutoLayFullOdds[place];
+      return Flag(Table.AutoLayFullOdds[place]);
     case 702:
-      return Table.AutoDownPlaceBets[place];
+      return Flag(Table.AutoDownPlaceBets[place]);
     case 703:
-      return Table.DeclinesDice[place];
+      return Flag(Table.DeclinesDice[place]);
     default:
       return 0;
   }
@@ -189,10 +193,6 @@ int32_t AfterRoll(int32_t figure) {
   return Rolled() ? figure : 0;
 }
 
-double Flag(bool truth) {
-  return truth ? TrueValue : FalseValue;
-}
-
 double SeatFigure(int32_t number) {
   switch (number) {
     case 5200:
@@ -267,9 +267,9 @@ double FreshRandom() {
 double TableVariable(int32_t number) {
   switch (number) {
     case 5000:
-      return Flag(AutoBet.Initializing != 0);
+      return Flag(AutoBet.Initializing);
     case 5001:
-      return Flag(AutoBet.NewSessionBegins != 0);
+      return Flag(AutoBet.NewSessionBegins);
     case 5002:
       return Flag(RollsInHand() == 0);
     case 5005:

@@ -201,7 +201,7 @@ double AsWritten(double value, double scale, std::string_view pattern) {
 }
 
 AdvantageResult FigureCells(const DiceCells& cells, const DiceProbabilities& dice) {
-  const bool includeZero = Advantage.IncludeZeroOutcomes != 0;
+  const bool includeZero = Advantage.IncludeZeroOutcomes;
   AdvantageResult result;
   double deciding = 0;
   ForEachCell(cells, dice, [&](double value, double chance) {
@@ -444,7 +444,7 @@ AdvantageResult FigureHand(std::span<const double> chances,
     result.EvPerRoll = expectation / rolls;
     result.StDevPerRoll = std::sqrt(perDecision / rolls);
   }
-  if (Advantage.IncludeZeroOutcomes != 0) {
+  if (Advantage.IncludeZeroOutcomes) {
     result.EvPerDec = result.EvPerRoll;
     result.StDevPerDec = result.StDevPerRoll;
   }
@@ -531,7 +531,7 @@ AdvantageResult FigureFire(const DiceProbabilities& dice) {
 
 AdvantageResult FigureUnrounded(int number, const DiceProbabilities& dice) {
   const Weights ofLine =
-      Advantage.IncludeZeroOutcomes != 0 ? Weights::AsTheyStand : Weights::PerDecision;
+      Advantage.IncludeZeroOutcomes ? Weights::AsTheyStand : Weights::PerDecision;
   switch (number) {
     case bet::PassLine:
       return FigureOutcomes(FigurePassLine(dice), ofLine);
@@ -577,7 +577,7 @@ DiceProbabilities TrueDice() {
 }
 
 DiceProbabilities DiceInForce() {
-  if (Probability.ProbabilityMatrixActive == 0) return TrueDice();
+  if (!Probability.ProbabilityMatrixActive) return TrueDice();
   DiceProbabilities dice;
   const auto probability = [](int column, int row) {
     return static_cast<double>(ShareOf(column, row)) / WholeShare;

@@ -12,8 +12,8 @@ namespace tessarel {
 
 // The options of the advantage list. They are saved with the configuration.
 struct AdvantageState {
-  int32_t IncludeZeroOutcomes = 0;  // rolls that decide nothing count as decisions
-  int32_t ShowMiscData = 0;         // the list shows rolls, decisions and times
+  bool IncludeZeroOutcomes = false;  // rolls that decide nothing count as decisions
+  bool ShowMiscData = false;         // the list shows rolls, decisions and times
 };
 
 extern AdvantageState Advantage;

@@ -78,11 +78,11 @@ std::array<std::string, AdvantageFigureCount> MiscFigures(double rolls, double r
 }  // namespace
 
 const std::array<std::string_view, 1 + AdvantageFigureCount>& AdvantageColumns() {
-  return Advantage.ShowMiscData != 0 ? MiscColumns : ValueColumns;
+  return Advantage.ShowMiscData ? MiscColumns : ValueColumns;
 }
 
 std::string_view AdvantageNote() {
-  if (Advantage.ShowMiscData != 0) return "";
+  if (Advantage.ShowMiscData) return "";
   return Localized(ConfigurationTexts.FiguresInPercent);
 }
 
@@ -92,7 +92,7 @@ AdvantageRow AdvantageRowOf(int number) {
   AdvantageRow row;
   row.Caption = Caption(number);
   row.Sign = (result.EvPerRoll > 0) - (result.EvPerRoll < 0);
-  if (Advantage.ShowMiscData != 0) {
+  if (Advantage.ShowMiscData) {
     row.Figures = MiscFigures(result.RollsPerDec, rollRate);
   } else {
     row.Figures = {Percent(result.EvPerRoll), Percent(result.StDevPerRoll),

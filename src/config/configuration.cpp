@@ -123,7 +123,7 @@ void OfferHouseWorking(const PerBet<int32_t>& before) {
 }
 
 struct LayoutRow {
-  int32_t SettingsState::*Flag;
+  bool SettingsState::*Flag;
   SixTexts Names;  // in the question
   std::array<int, 8> Bets;
 };
@@ -157,7 +157,7 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
   bool payable = true;
   ForEachPlayer([&](int place) {
     const Money rest = BankrollOf(place) - ChargeChangedVig(place);
-    if (rest < Money() && Table.AllowNegBankroll[place] == 0) payable = false;
+    if (rest < Money() && !Table.AllowNegBankroll[place]) payable = false;
   });
   if (payable) return true;
   Settings.*setting = before;
@@ -180,14 +180,14 @@ bool AnyPlayer() {
   return false;
 }
 
-int32_t Chosen(ListChoice choice, int32_t now, int32_t standard, int32_t yes) {
+bool Chosen(ListChoice choice, bool now, bool standard) {
   switch (choice) {
     case ListChoice::Yes:
-      return yes;
+      return true;
     case ListChoice::No:
-      return 0;
+      return false;
     case ListChoice::Flip:
-      return now == 0 ? yes : 0;
+      return !now;
     default:
       return standard;
   }
@@ -238,7 +238,7 @@ bool ChangeBetAvailability(LayoutOption option, bool use) {
       }
     });
   }
-  Settings.*row.Flag = use ? -1 : 0;
+  Settings.*row.Flag = use;
   Scripts.ProgramReady = false;  // scripts may name only bets of the layout
   FrontEnd.DrawTable();
   return true;
@@ -251,8 +251,8 @@ Money ChargeChangedVig(int place) {
     const int lay = LayFamily + k, buy = BuyFamily + k;
     Table.LayVig[place][k] = FigureLayVig(lay, Bet(place, lay));
     Table.BuyVig[place][k] = FigureBuyVig(buy, Bet(place, buy));
-    if (Settings.LayVigAllBets != 0) total += Table.LayVig[place][k];
-    if (Settings.BuyVigAllBets != 0) total += Table.BuyVig[place][k];
+    if (Settings.LayVigAllBets) total += Table.LayVig[place][k];
+    if (Settings.BuyVigAllBets) total += Table.BuyVig[place][k];
   }
   Table.MoneyOnTable[place] = total;
   return total;
@@ -266,13 +266,17 @@ bool ChangeVig(int32_t SettingsState::*setting, int32_t value) {
   return ChangeVigSetting(setting, value);
 }
 
+bool ChangeVig(bool SettingsState::*setting, bool value) {
+  return ChangeVigSetting(setting, value);
+}
+
 bool SetAllowNegBankroll(int place, bool allow) {
   if (!allow && BankrollOf(place) < Money())
     return RefuseNonNegative(place, ConfigurationTexts.BankrollIsNegative);
   if (!allow && Table.MoneyOnTable[place] > BankrollOf(place)) {
     return RefuseNonNegative(place, ConfigurationTexts.BetsExceedBankroll);
   }
-  Table.AllowNegBankroll[place] = allow ? -1 : 0;
+  Table.AllowNegBankroll[place] = allow;
   return true;
 }
 
@@ -319,7 +323,7 @@ void ChangeWorkingDefaults(int place, std::span<const int> bets, ListChoice choi
     const int32_t standard =
         place == 0 ? OriginalHouseWorking(number) : Table.BetWorkingDefault[0][number];
     int32_t& works = Table.BetWorkingDefault[place][number];
-    works = Chosen(choice, works, standard, 1);
+    works = Chosen(choice, works != 0, standard != 0) ? 1 : 0;
   }
 }
 
@@ -327,8 +331,8 @@ void ChangeCompBets(std::span<const int> bets, ListChoice choice) {
   constexpr auto Standard = SettingsState::DefaultCompBets();
   for (const int number : bets) {
     RequireBet(number, LastBet);
-    int32_t& counts = Settings.CompBet[number];
-    counts = Chosen(choice, counts, At(Standard, number), -1);
+    bool& counts = Settings.CompBet[number];
+    counts = Chosen(choice, counts, Standard[number]);
   }
 }
 
@@ -337,7 +341,7 @@ std::string WorkingRowText(int place, int number) {
 }
 
 std::string CompBetRowText(int number) {
-  return YesNoRow(Settings.CompBet[number] != 0, number);
+  return YesNoRow(Settings.CompBet[number], number);
 }
 
 bool RestoreDefaultDenoms() {

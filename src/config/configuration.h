@@ -76,6 +76,7 @@ Money ChargeChangedVig(int place);
 // unless a player could not pay the vig that would be charged.
 bool ChangeVig(Money SettingsState::*setting, Money value);
 bool ChangeVig(int32_t SettingsState::*setting, int32_t value);
+bool ChangeVig(bool SettingsState::*setting, bool value);
 
 // Lets a player's bankroll be negative, or no longer, which needs one that is not.
 bool SetAllowNegBankroll(int place, bool allow);

@@ -253,7 +253,7 @@ std::optional<PayoffRefusal> TestTable(PayoffCell first, int count, std::string_
 }
 
 std::optional<PayoffRefusal> TestMaxFireBet() {
-  if (Settings.UseFireBet == 0 || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
+  if (!Settings.UseFireBet || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
     return std::nullopt;
   return PayoffRefusal{LocalizedText(ConfigurationTexts.MaxFireBelowMinimum), std::nullopt};
 }

@@ -26,7 +26,8 @@ using T = TableState;
 using Rights = ScriptStoreState;
 
 template <class Value>
-constexpr bool IsSingle = std::is_same_v<Value, Money> || std::is_same_v<Value, int32_t>;
+constexpr bool IsSingle =
+    std::is_same_v<Value, Money> || std::is_same_v<Value, int32_t> || std::is_same_v<Value, bool>;
 
 template <class Value>
 FieldValue Element(Value& value, int key) {
@@ -49,13 +50,19 @@ FieldValue Of(int place, int key) {
     return Element((Table.*Member)[place], key);
 }
 
+bool ChangeVigTo(Money S::*setting, Money value) {
+  return ChangeVig(setting, value);
+}
+bool ChangeVigTo(int32_t S::*setting, Money value) {
+  return ChangeVig(setting, static_cast<int32_t>(value.Floor()));
+}
+bool ChangeVigTo(bool S::*setting, Money value) {
+  return ChangeVig(setting, value != Money());
+}
+
 template <auto Member>
-bool ChangeVigTo(int, Money value) {
-  if constexpr (std::is_same_v<decltype(Member), Money S::*const> ||
-                std::is_same_v<decltype(Member), Money S::*>)
-    return ChangeVig(Member, value);
-  else
-    return ChangeVig(Member, static_cast<int32_t>(value.Floor()));
+bool ChangeVigOf(int, Money value) {
+  return ChangeVigTo(Member, value);
 }
 
 template <LayoutOption Option>
@@ -77,19 +84,19 @@ bool ChangeBankrollInitType(int place, Money value) {
 }
 
 bool ChangeDownPlaceBets(int place, Money value) {
-  Table.AutoDownPlaceBets[place] = static_cast<int32_t>(value.Floor());
+  Table.AutoDownPlaceBets[place] = value != Money();
   if (value != Money()) DownPlaceBets(place);
   return true;
 }
 
 bool ChangeTakeFullOdds(int place, Money value) {
-  Table.AutoTakeFullOdds[place] = static_cast<int32_t>(value.Floor());
+  Table.AutoTakeFullOdds[place] = value != Money();
   if (value != Money()) BetFullOdds(place);
   return true;
 }
 
 bool ChangeLayFullOdds(int place, Money value) {
-  Table.AutoLayFullOdds[place] = static_cast<int32_t>(value.Floor());
+  Table.AutoLayFullOdds[place] = value != Money();
   if (value != Money()) BetFullLay(place);
   return true;
 }
@@ -142,12 +149,12 @@ constexpr SettingField Fields[] = {
     {"HouseWorking", Mark, Flags, Of<&T::BetWorkingDefault>, false, nullptr, ByBet, 1, bet::Midway},
 
     // Vigorish.
-    {"BuyVigPct", Amount, Fractions, Of<&S::BuyVigPct>, false, ChangeVigTo<&S::BuyVigPct>},
-    {"LayVigPct", Amount, Fractions, Of<&S::LayVigPct>, false, ChangeVigTo<&S::LayVigPct>},
-    {"BuyVigAllBets", Flag, Flags, Of<&S::BuyVigAllBets>, false, ChangeVigTo<&S::BuyVigAllBets>},
-    {"LayVigAllBets", Flag, Flags, Of<&S::LayVigAllBets>, false, ChangeVigTo<&S::LayVigAllBets>},
-    {"RoundBuyVig", WholeNumber, UpTo(2), Of<&S::RoundBuyVig>, false, ChangeVigTo<&S::RoundBuyVig>},
-    {"RoundLayVig", WholeNumber, UpTo(2), Of<&S::RoundLayVig>, false, ChangeVigTo<&S::RoundLayVig>},
+    {"BuyVigPct", Amount, Fractions, Of<&S::BuyVigPct>, false, ChangeVigOf<&S::BuyVigPct>},
+    {"LayVigPct", Amount, Fractions, Of<&S::LayVigPct>, false, ChangeVigOf<&S::LayVigPct>},
+    {"BuyVigAllBets", Flag, Flags, Of<&S::BuyVigAllBets>, false, ChangeVigOf<&S::BuyVigAllBets>},
+    {"LayVigAllBets", Flag, Flags, Of<&S::LayVigAllBets>, false, ChangeVigOf<&S::LayVigAllBets>},
+    {"RoundBuyVig", WholeNumber, UpTo(2), Of<&S::RoundBuyVig>, false, ChangeVigOf<&S::RoundBuyVig>},
+    {"RoundLayVig", WholeNumber, UpTo(2), Of<&S::RoundLayVig>, false, ChangeVigOf<&S::RoundLayVig>},
 
     // Checks and dice.
     {"Denomination", Amount, {0, AmountLimit, CentStep}, Of<&S::Denomination>, false, nullptr, InOrder, 1, 5},
@@ -203,7 +210,7 @@ constexpr SettingField Fields[] = {
     {"AutoTakeFullOdds", Flag, Flags, Of<&T::AutoTakeFullOdds>, true, ChangeTakeFullOdds},
     {"AutoLayFullOdds", Flag, Flags, Of<&T::AutoLayFullOdds>, true, ChangeLayFullOdds},
     {"AutoDownPlaceBets", Flag, Flags, Of<&T::AutoDownPlaceBets>, true, ChangeDownPlaceBets},
-    {"AutoAdjustBetAmounts", Mark, Flags, Of<&T::AutoAdjustBetAmounts>, true},
+    {"AutoAdjustBetAmounts", Flag, Flags, Of<&T::AutoAdjustBetAmounts>, true},
     {"DoBias", WholeNumber, UpTo(2), Of<&T::DoBias>, true},
     {"DontBias", WholeNumber, UpTo(2), Of<&T::DontBias>, true},
     {"PlaceBias", WholeNumber, UpTo(2), Of<&T::PlaceBias>, true},
@@ -324,12 +331,15 @@ Error ReadAll(const SettingField& field,
 void Write(FieldValue where, Money value) {
   if (Money* const* amount = std::get_if<Money*>(&where))
     **amount = value;
+  else if (bool* const* flag = std::get_if<bool*>(&where))
+    **flag = value != Money();
   else
     *std::get<int32_t*>(where) = static_cast<int32_t>(value.Floor());
 }
 
 Money Read(FieldValue where) {
   if (Money* const* amount = std::get_if<Money*>(&where)) return **amount;
+  if (bool* const* flag = std::get_if<bool*>(&where)) return **flag ? -1 : 0;
   return *std::get<int32_t*>(where);
 }
 

@@ -33,7 +33,7 @@ struct FieldRange {
   Money Low, High, Step;
 };
 
-using FieldValue = std::variant<Money*, int32_t*>;
+using FieldValue = std::variant<Money*, int32_t*, bool*>;
 
 struct SettingField {
   std::string_view Name;

@@ -291,7 +291,7 @@ void ReplaceMissingGenerator() {
 Faces MakeDice(int32_t rollCount) {
   if (Dice.SupportFilesMissing != 0) ReplaceMissingGenerator();
   const bool odd = rollCount % 2 != 0;
-  if (Probability.ProbabilityMatrixActive != 0 && Dice.CurrentRNG != 0) {
+  if (Probability.ProbabilityMatrixActive && Dice.CurrentRNG != 0) {
     return DrawCell(DrawOfGenerator(Dice.CurrentRNG, odd));
   }
   switch (Dice.CurrentRNG) {
@@ -323,7 +323,7 @@ int32_t SeedLimit(int32_t generator) {
 bool SeedRNG(int mode) {
   const int32_t limit = SeedLimit(Dice.CurrentRNG);
   if (mode != -1) {
-    if (Dice.AskForSeed == 0) {
+    if (!Dice.AskForSeed) {
       Dice.SeedRequest = 0;
     } else if (!PromptForSeed(limit)) {
       return false;

@@ -40,8 +40,8 @@ struct DiceState {
   int32_t CurrentSeed = 1;  // the seed last applied; with RNG #3 the running state
   int32_t LastSeed = 0;     // the seed last applied
   Money SeedRequest;        // what SeedRNG is asked for; 0: a seed from the clock
-  int32_t AskForSeed = 0;
-  int32_t ReseedEachSession = 0;
+  bool AskForSeed = false;
+  bool ReseedEachSession = false;
   int32_t SupportFilesMissing = 0;  // bits of SupportFile
   Twister Twister1 = TwisterByRecurrence(Twister::DefaultSeed);
   Twister Twister2 = TwisterByUpperHalves(Twister::DefaultSeed);

@@ -38,8 +38,8 @@ Faces FirstDice(const std::string& path) {
 bool WaitUntilThere() {
   const float began = SecondsSinceMidnight(Now());
   bool unattended = false;
-  while (PopupRoll.PopupRollActive != 0 && !FileExists(PopupRoll.PopupRollFileName)) {
-    if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
+  while (PopupRoll.PopupRollActive && !FileExists(PopupRoll.PopupRollFileName)) {
+    if (Table.AutoRollOn || Table.HyperDriveOn) {
       unattended = true;
     } else {
       const float waited = SecondsSinceMidnight(Now()) - began;
@@ -56,12 +56,12 @@ bool WaitUntilThere() {
 
 void OpenPopupRoll(const std::string& name) {
   PopupRoll.PopupRollFileName = InFolder(Folders.AppFolder, name);
-  PopupRoll.PopupRollActive = -1;
+  PopupRoll.PopupRollActive = true;
 }
 
 void ClosePopupRoll() {
   PopupRoll.PopupRollFileName.clear();
-  PopupRoll.PopupRollActive = 0;
+  PopupRoll.PopupRollActive = false;
 }
 
 bool WaitForPopupRoll() {
@@ -87,7 +87,7 @@ std::optional<Faces> TakePopupRoll() {
     Table.StopReason = fault.Description;
     return std::nullopt;
   }
-  if (Table.HyperDriveOn == 0) {
+  if (!Table.HyperDriveOn) {
     ShowMessage(LocalizedText(DiceTexts.InvalidRollInPopup), LocalizedText(DiceTexts.RollFileError),
                 msg::OkAlert);
   }

@@ -14,7 +14,7 @@ namespace tessarel {
 
 struct PopupRollState {
   std::string PopupRollFileName;  // full name; empty without one
-  int32_t PopupRollActive = 0;
+  bool PopupRollActive = false;
   bool Waiting = false;  // a roll waits for the file; the table's status says so
 };
 

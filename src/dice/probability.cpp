@@ -102,7 +102,7 @@ Faces DrawCell(int32_t n) {
 void NewProbabilities() {
   Probability.ProbabilityMatrix = TrueMatrix();
   Probability.ProbabilityFileName.clear();
-  Probability.ProbabilityChanged = 0;
+  Probability.ProbabilityChanged = false;
 }
 
 void LockShare(int column, int row, bool lock) {

@@ -106,8 +106,8 @@ enum ProbabilityDisplay : int32_t {
 
 struct ProbabilityState {
   ProbabilityPlanes ProbabilityMatrix = TrueMatrix();
-  int32_t ProbabilityMatrixActive = 0;
-  int32_t ProbabilityChanged = 0;   // the matrix differs from its file
+  bool ProbabilityMatrixActive = false;
+  bool ProbabilityChanged = false;  // the matrix differs from its file
   std::string ProbabilityFileName;  // full name; empty when the matrix is untitled
   int32_t optProbability = ShownAsPercentages;
   double RollsOutOf = 36;  // the base of the numbers of rolls

@@ -258,7 +258,7 @@ bool BalanceMatrix(int column, int row, double value) {
   if (balanced) SumGroups(edit);
   RemoveMarks(edit);
   Probability.ProbabilityMatrix = edit.planes;
-  if (balanced) Probability.ProbabilityChanged = -1;
+  if (balanced) Probability.ProbabilityChanged = true;
   return balanced;
 }
 

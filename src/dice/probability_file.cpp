@@ -44,7 +44,7 @@ bool AnyShare(const ProbabilityPlanes& planes) {
 
 void TakeName(const std::string& path) {
   Probability.ProbabilityFileName = path;
-  Probability.ProbabilityChanged = 0;
+  Probability.ProbabilityChanged = false;
 }
 
 SaveChoice AskToSave(const SixTexts& question, int32_t flags) {
@@ -100,14 +100,14 @@ void SaveProbabilityFile(const std::string& name) {
 }
 
 SaveChoice AskToSaveOnExit() {
-  if (Probability.ProbabilityFileName.empty() || Probability.ProbabilityChanged == 0) {
+  if (Probability.ProbabilityFileName.empty() || !Probability.ProbabilityChanged) {
     return SaveChoice::GoOn;
   }
   return AskToSave(DiceTexts.CurrentNotSaved, msg::AskYesNo | msg::Cancel);
 }
 
 SaveChoice AskToSaveBeforeNew() {
-  if (Probability.ProbabilityChanged == 0) return SaveChoice::GoOn;
+  if (!Probability.ProbabilityChanged) return SaveChoice::GoOn;
   return AskToSave(DiceTexts.TheseNotSaved, msg::AskYesNo);
 }
 

@@ -130,7 +130,7 @@ void ReopenRollFile() {
 
 void StopAtInvalidRoll() {
   RollFile.RollFileMode = RollFileOff;
-  if (Table.HyperDriveOn == 0) {
+  if (!Table.HyperDriveOn) {
     FrontEnd.RefreshViews();
     ShowMessage(LocalizedText(DiceTexts.InvalidRollInFile), LocalizedText(DiceTexts.RollFileError),
                 msg::OkAlert);

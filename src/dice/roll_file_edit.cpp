@@ -41,11 +41,11 @@ bool FileIsOpen() {
 }
 
 bool TableIsAtRest() {
-  if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
+  if (Table.AutoRollOn || Table.HyperDriveOn) {
     StopUnattended();
     return false;
   }
-  return Table.RollInProgress == 0;
+  return !Table.RollInProgress;
 }
 
 bool MayEdit() {
@@ -278,7 +278,7 @@ void WriteText(RollRange range, int32_t number, const std::string& path) {
 // --- The recorder -------------------------------------------------------------------------------
 
 bool MayPlay() {
-  if (PopupRoll.PopupRollActive != 0) {
+  if (PopupRoll.PopupRollActive) {
     if (Show(DiceTexts.PlaybackClosesPopup, DiceTexts.PopupTitle, msg::AskYesNo) != AnswerYes)
       return false;
     ClosePopupRoll();
@@ -441,7 +441,7 @@ std::vector<std::string> RollPrintRows(RollRange rolls) {
 }
 
 void StopRollFile() {
-  const bool popup = PopupRoll.PopupRollActive != 0;
+  const bool popup = PopupRoll.PopupRollActive;
   const int32_t use = RollFile.RollFileMode;
   if (popup && Show(DiceTexts.AskToClosePopup, DiceTexts.PopupTitle, msg::AskYesNo) == AnswerYes) {
     ClosePopupRoll();

@@ -39,7 +39,7 @@ void MoveBankroll(int place, Money change) {
   Table.BankrollAtRoll[place] = bankroll;
   Table.GraphBankroll[Table.GraphIndex][place] = bankroll;
   MoveHighAndLow(place);
-  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+  if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
 }  // namespace
@@ -51,14 +51,14 @@ Money ATM(int place, bool deposit, Money amount, bool tell) {
       amount, std::max(deposit ? bankroll + BankrollLimit : BankrollLimit - bankroll, Money()));
   std::string text;
   if (allowed < amount) text = LimitText(place, amount, allowed, deposit);
-  if (deposit && Table.AllowNegBankroll[place] == 0) {
+  if (deposit && !Table.AllowNegBankroll[place]) {
     const Money left = std::max(bankroll - Table.MoneyOnTable[place], Money());
     if (left < allowed) {
       allowed = left;
       text = WageredText(place, amount, allowed);
     }
   }
-  if (!text.empty() && tell && Table.HyperDriveOn == 0) {
+  if (!text.empty() && tell && !Table.HyperDriveOn) {
     const SixTexts& title = deposit ? RailTexts.AtmDeposit : RailTexts.AtmWithdrawal;
     ShowMessage(std::move(text), LocalizedText(title), msg::OkAlert, help::Players);
   }

@@ -35,7 +35,7 @@ Money AmountBefore(int place) {
 template <class Title>
 void TellHowItStands(int place, Title&& title) {
   const Money amount = Bet(place, Table.CurrentBet);
-  const bool quiet = Table.HyperDriveOn != 0 || (Table.MessageSwitches & ShowVigNotices) == 0 ||
+  const bool quiet = Table.HyperDriveOn || (Table.MessageSwitches & ShowVigNotices) == 0 ||
                      (Settings.Notices & NoticeCharges) == 0;
   if (quiet || amount == Money()) return;
   const Money change = amount - AmountBefore(place);
@@ -179,7 +179,7 @@ void AskHandling(int place, Outcome outcome, bool asWin) {
 }
 
 bool CanAsk(int place) {
-  return Table.HyperDriveOn == 0 && Bet(place, Table.CurrentBet) > Money();
+  return !Table.HyperDriveOn && Bet(place, Table.CurrentBet) > Money();
 }
 
 void RunWinMode(int place, Outcome outcome) {
@@ -303,7 +303,7 @@ void HandleIdleOdds(int place) {
   const int odds = Table.CurrentBet;
   Table.NetWin = Table.GrossWin = Money();
   Table.BetCantStay =
-      Settings.AllowPutBets == 0 || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
+      !Settings.AllowPutBets || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
   const bool asLoss = Table.BetStreak[place][FlatUnder(odds)] < 2;
   if (asLoss) {
     RunLossMode(place, Outcome::Idle);

@@ -183,10 +183,10 @@ Money RoundVig(Money vig, int32_t rounding, Money amount) {
 }  // namespace
 
 bool OnLayout(int number) {
-  if (number == bet::Big6 || number == bet::Big8) return Settings.UseBig68 != 0;
-  if (number == bet::Midway) return Settings.UseMidwayBet != 0;
-  if (number == bet::Fire) return Settings.UseFireBet != 0;
-  if (number >= bet::AllSmall) return Settings.UseSpecialPropBets != 0;
+  if (number == bet::Big6 || number == bet::Big8) return Settings.UseBig68;
+  if (number == bet::Midway) return Settings.UseMidwayBet;
+  if (number == bet::Fire) return Settings.UseFireBet;
+  if (number >= bet::AllSmall) return Settings.UseSpecialPropBets;
   return true;
 }
 

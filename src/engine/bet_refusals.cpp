@@ -51,7 +51,7 @@ RefusalKind IncreaseRefusal(int place, int number, Money total) {
   const bool aboveContract = total > Table.BetContract[place][number];
   const bool handStarted = RollsInHand() > 0;
   if (InFamily(number, ComeFamily)) {
-    const bool put = aboveContract && !Table.BetMoving && Settings.AllowPutBets == 0;
+    const bool put = aboveContract && !Table.BetMoving && !Settings.AllowPutBets;
     return put ? PutCome : None;
   }
   if (InFamily(number, DontComeFamily)) {
@@ -62,7 +62,7 @@ RefusalKind IncreaseRefusal(int place, int number, Money total) {
   }
   switch (number) {
     case bet::PassLine:
-      return point && aboveContract && Settings.AllowPutBets == 0 ? PutPassLine : None;
+      return point && aboveContract && !Settings.AllowPutBets ? PutPassLine : None;
     case bet::PassLineOdds:
       return point && Bet(place, bet::PassLine) > Money() ? None : OddsWithoutPassLine;
     case bet::Come:

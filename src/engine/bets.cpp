@@ -25,7 +25,7 @@ constexpr Money StackLimit = Money::FromRaw(999'999'999'999'999'999);
 constexpr Money AllThatIsAllowed = 9'999'999;
 
 bool Quiet(int32_t messageSwitch) {
-  return Table.HyperDriveOn != 0 || (Table.MessageSwitches & messageSwitch) == 0;
+  return Table.HyperDriveOn || (Table.MessageSwitches & messageSwitch) == 0;
 }
 
 std::string BetTitle(int number) {
@@ -111,7 +111,7 @@ class Change {
   }
 
   void Adjust() {
-    if (Table.AutoAdjustBetAmounts[place_] <= 0) return;
+    if (!Table.AutoAdjustBetAmounts[place_]) return;
     const Adjustment adjustment = AdjustForOddsPayoff(place_, number_, Total());
     if (adjustment.possible) {
       delta_ = adjustment.total - Amount();
@@ -128,10 +128,10 @@ class Change {
   // What the change takes from the bankroll: itself and the up-front vig it moves.
   Money Cost(Money delta) const {
     Money cost = delta;
-    if (Settings.BuyVigAllBets != 0 && InFamily(number_, BuyFamily)) {
+    if (Settings.BuyVigAllBets && InFamily(number_, BuyFamily)) {
       cost += FigureBuyVig(number_, Amount() + delta) - VigNow();
     }
-    if (Settings.LayVigAllBets != 0 && InFamily(number_, LayFamily)) {
+    if (Settings.LayVigAllBets && InFamily(number_, LayFamily)) {
       cost += FigureLayVig(number_, Amount() + delta) - VigNow();
     }
     return cost;
@@ -143,7 +143,7 @@ class Change {
   }
 
   void ApplyBankroll() {
-    if (Total() == Money() || Table.AllowNegBankroll[place_] != 0) return;
+    if (Total() == Money() || Table.AllowNegBankroll[place_]) return;
     const Money left = BankrollOf(place_) - Table.MoneyOnTable[place_];
     if (Cost(delta_) <= left) return;
     delta_ = LargestAffordable(left);
@@ -218,14 +218,14 @@ void StandAt(int place, int number, Money amount, bool silent) {
   onTable += amount - Bet(place, number);
   SetBetAmount(place, number, amount);
   if (amount == Money()) ResetBetWorking(place, number);
-  Table.TableDirty = Table.BetChangedThisRoll = -1;
+  Table.TableDirty = Table.BetChangedThisRoll = true;
   const size_t index = static_cast<size_t>((number - 1) % FamilySize);
   if (InFamily(number, BuyFamily)) {
     MoveVig(number, Table.BuyVig[place][index], FigureBuyVig(number, amount), onTable,
-            Settings.BuyVigAllBets != 0, silent);
+            Settings.BuyVigAllBets, silent);
   } else if (InFamily(number, LayFamily)) {
     MoveVig(number, Table.LayVig[place][index], FigureLayVig(number, amount), onTable,
-            Settings.LayVigAllBets != 0, silent);
+            Settings.LayVigAllBets, silent);
   }
 }
 
@@ -252,7 +252,7 @@ void ChangeStack(int place, int number) {
 
 // Changes within a roll are shown when it ends.
 void RefreshViews() {
-  if (Table.HyperDriveOn == 0 && Table.RollInProgress == 0) FrontEnd.RefreshViews();
+  if (!Table.HyperDriveOn && !Table.RollInProgress) FrontEnd.RefreshViews();
 }
 
 // The place whose Lay bets share the spot of this one's.
@@ -327,13 +327,13 @@ void PlaceBet(int place, int number, int x, int y) {
 
 void PlaceBet(int place, int number) {
   ChangeBet(place, number);
-  if (Table.HyperDriveOn == 0 && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::Check);
+  if (!Table.HyperDriveOn && !Settings.DisableAllSound) FrontEnd.PlaySound(Sound::Check);
   RedrawBet(place, number);
   if (Table.BetDelta != Money()) FollowWithOdds(place, number);
 }
 
 void RedrawBet(int place, int number) {
-  if (Table.HyperDriveOn != 0) return;
+  if (Table.HyperDriveOn) return;
   FrontEnd.DrawBet(place, number);
   if (number == bet::DontPass) FrontEnd.DrawBet(place, bet::DontPassOdds);
   if (number == bet::DontPassOdds) FrontEnd.DrawBet(place, bet::DontPass);
@@ -439,7 +439,7 @@ void UpdateWorkingFlags() {
       const int32_t normal = pointOn ? (state == NotWorking ? IsWorking : state) : defaults[number];
       working[number] = called ? state : normal;
     }
-    Table.WorkingChanged[place] = -1;
+    Table.WorkingChanged[place] = true;
   });
 }
 

@@ -39,7 +39,7 @@ std::vector<StackRow> StackRows(int place, bool zeros) {
 void SetStackValue(int place, int stack, Money value) {
   Table.Amount = value - Bet(place, FirstStack + stack);
   ChangeBet(place, FirstStack + stack);
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawBet(place, FirstStack + stack);
+  if (!Table.HyperDriveOn) FrontEnd.DrawBet(place, FirstStack + stack);
 }
 
 void SetStackName(int place, int stack, std::string name) {
@@ -66,7 +66,7 @@ bool SetVisibleStacks(int place, const std::array<int, 4>& stacks) {
   for (int k = 0; k < 4; ++k) {
     Table.VisibleStack[place][k + 1] = FirstStack + At(stacks, k);
   }
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  if (!Table.HyperDriveOn) FrontEnd.DrawTable();
   return true;
 }
 

@@ -109,10 +109,10 @@ const PayoffRow& DecidingRow(int number, int result) {
 // The vig that a result of the bet has to carry.
 Money VigOf(int place, int number, Money gross) {
   const auto index = static_cast<size_t>((number - 1) % FamilySize);
-  if (InFamily(number, LayFamily) && (gross > Money() || Settings.LayVigAllBets != 0)) {
+  if (InFamily(number, LayFamily) && (gross > Money() || Settings.LayVigAllBets)) {
     return Table.LayVig[place][index];
   }
-  if (InFamily(number, BuyFamily) && (gross > Money() || Settings.BuyVigAllBets != 0)) {
+  if (InFamily(number, BuyFamily) && (gross > Money() || Settings.BuyVigAllBets)) {
     return Table.BuyVig[place][index];
   }
   return Money();
@@ -121,7 +121,7 @@ Money VigOf(int place, int number, Money gross) {
 // Whether a won bet has to come down.
 bool HasToComeDown(int place, int number) {
   if (InFamily(number, DontComeFamily) || InFamily(number, DontComeOddsFamily)) return true;
-  if (InFamily(number, ComeFamily)) return Settings.AllowPutBets == 0;
+  if (InFamily(number, ComeFamily)) return !Settings.AllowPutBets;
   if (InFamily(number, ComeOddsFamily)) return Bet(place, number - FamilySize) == Money();
   switch (number) {
     case bet::Come:
@@ -184,7 +184,7 @@ void Travel(int place, int from, int to, Money amount) {
   SetBetContract(place, to, amount);
   if (!InFamily(to, ComeFamily)) return;
   Table.ComeOriginal[place][static_cast<size_t>(to - bet::Come4)] = amount;
-  if (Table.AutoDownPlaceBets[place] != 0) RemovePlaceBets(place, PointOf(to));
+  if (Table.AutoDownPlaceBets[place]) RemovePlaceBets(place, PointOf(to));
 }
 
 // --- Which bets a roll touches ---------------------------------------------------------------
@@ -445,7 +445,7 @@ void LosersOfPointMade() {
 
 void LosersByTotal() {
   RunLines(LosersOfTotal, Lose);
-  if (Table.DiceTotal != 7 || Settings.UseSpecialPropBets == 0) return;
+  if (Table.DiceTotal != 7 || !Settings.UseSpecialPropBets) return;
   Table.MarkedNumbers = 0;
   for (const int number : {bet::AllSmall, bet::AllTall, bet::MakeAll, bet::FourRollsNo7}) {
     Decide(number, Lose);
@@ -459,7 +459,7 @@ void OverAndUnder() {
 
 // On the roll after the come-out, or on a come-out that left no point, the 7 bets are decided.
 void LosersOfPoint7() {
-  if (Settings.UseSpecialPropBets == 0) return;
+  if (!Settings.UseSpecialPropBets) return;
   const bool seven = Table.DiceTotal == 7;
   if (Table.LastPoint == 0 && Table.Point == 0) {
     Decide(bet::Point7, Lose);
@@ -496,18 +496,18 @@ void PointMade() {
   const int32_t bit = 1 << PointIndex(Table.LastPoint);
   if ((Table.FirePointsMask & bit) == 0) ++Table.FirePoints;
   Table.FirePointsMask |= bit;
-  if (Settings.UseSpecialPropBets == 0) return;
+  if (!Settings.UseSpecialPropBets) return;
   ++Table.SharpShooterPoints;
   ++Table.RideTheLinePasses;
 }
 
 void CountLinePass() {
   const bool natural = Table.LastPoint == 0 && (Table.DiceTotal == 7 || Table.DiceTotal == 11);
-  if (natural && Settings.UseSpecialPropBets != 0) ++Table.RideTheLinePasses;
+  if (natural && Settings.UseSpecialPropBets) ++Table.RideTheLinePasses;
 }
 
 void WinnersOfSeven() {
-  if (Settings.UseSpecialPropBets != 0) {
+  if (Settings.UseSpecialPropBets) {
     if (Table.LastPoint == 0) Decide(bet::SevenPoint7, 1);
     if (Table.LastPoint != 0 && Table.PointBeforeLast == 0) {
       Decide(bet::Point7, Win);
@@ -629,7 +629,7 @@ void SettleRoll() {
   LosersOfOneRoll();
   PointMade();
   WinnersByTotal();
-  if (Settings.UseSpecialPropBets == 0) return;
+  if (!Settings.UseSpecialPropBets) return;
   BetsThatComplete();
   BetsOfTheHand();
 }

@@ -8,8 +8,8 @@
 namespace tessarel {
 
 void StopUnattended() {
-  if (Table.AutoRollOn == 0 && Table.HyperDriveOn == 0) return;
-  Table.AutoRollOn = Table.HyperDriveOn = 0;
+  if (!Table.AutoRollOn && !Table.HyperDriveOn) return;
+  Table.AutoRollOn = Table.HyperDriveOn = false;
   if (!Table.StopReason.empty()) {
     ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert,
                 help::AutoRoll);

@@ -170,7 +170,7 @@ void LoadEventsLogView() {
   EventsLogView.TopLine = 1;
   EventsLogView.FollowedRollLine = 0;
   Trapped("LoadEventsLogView", MakeIndexFit);
-  if (EventsLog.KeepLatestRollOnTop != 0) KeepLatestRollOnTop(true);
+  if (EventsLog.KeepLatestRollOnTop) KeepLatestRollOnTop(true);
 }
 
 bool OpenEventsLog(const std::string& name) {
@@ -221,7 +221,7 @@ void ScrollEventsLog(int32_t line) {
 
 bool FollowLatestRoll() {
   const int32_t latest = EventsLog.LatestRollLine;
-  if (EventsLog.KeepLatestRollOnTop == 0 || latest == EventsLogView.FollowedRollLine) return false;
+  if (!EventsLog.KeepLatestRollOnTop || latest == EventsLogView.FollowedRollLine) return false;
   EventsLogView.FollowedRollLine = latest;
   const int32_t before = EventsLogView.TopLine;
   ScrollEventsLog(latest);
@@ -229,7 +229,7 @@ bool FollowLatestRoll() {
 }
 
 void KeepLatestRollOnTop(bool on) {
-  EventsLog.KeepLatestRollOnTop = on ? -1 : 0;
+  EventsLog.KeepLatestRollOnTop = on;
   if (!on) return;
   Trapped("KeepLatestRollOnTop", [] { EventsLog.LatestRollLine = LatestRollInLog(); });
   EventsLogView.FollowedRollLine = 0;

@@ -22,7 +22,7 @@ struct FilesInUse {
   int32_t RollFileMode = 0, FirstRollShown = 1, NextRoll = 1, RollCount = 0;
   PerPlace<HeldFile> Script;
   PerPlace<std::string> ScriptOutput, SessionsLog;
-  PerPlace<int32_t> ScriptActive{};
+  PerPlace<bool> ScriptActive{};
 };
 
 // How many entries of the lists behind the fixed records a game has.

@@ -53,7 +53,7 @@ void NameGame(const std::string& path) {
   GameFile.GameFileName = path;
   GameFile.WindowTitle = ProgramName;
   if (!path.empty()) GameFile.WindowTitle += " (" + ShortName(path) + ")";
-  Table.TableDirty = 0;
+  Table.TableDirty = false;
 }
 
 // --- Opening -----------------------------------------------------------------------------------
@@ -94,9 +94,7 @@ void ReadBody(RecordFile& file, FilesInUse& files) {
 }
 
 void NoteActiveScripts(const FilesInUse& files) {
-  ForEachPlayer([&](int place) {
-    At(GameFile.ScriptWasActive, place) = At(files.ScriptActive, place) != 0 ? -1 : 0;
-  });
+  ForEachPlayer([&](int place) { GameFile.ScriptWasActive[place] = files.ScriptActive[place]; });
 }
 
 // A game that is cut off is played on as far as it was read, but its file is left alone.

@@ -19,7 +19,7 @@ struct GameFileState {
   std::string WindowTitle = "Tessarel";  // of the main window
   bool MainWindowShown = false;
   // The scripts that were active when the opened game was saved; opening it switches them off.
-  PerPlace<int32_t> ScriptWasActive{};
+  PerPlace<bool> ScriptWasActive{};
 };
 
 extern GameFileState GameFile;

@@ -42,8 +42,8 @@ void NoteRollFile(FilesInUse& files) {
 
 // A matrix that differs from its file has no name in a game, unless it is saved with it.
 void NoteProbability(FilesInUse& files, bool automaticFile) {
-  if (Probability.ProbabilityChanged != 0) {
-    if (!automaticFile || Probability.ProbabilityMatrixActive == 0) return;
+  if (Probability.ProbabilityChanged) {
+    if (!automaticFile || !Probability.ProbabilityMatrixActive) return;
     SaveProbabilityFile(Folders.AppFolder + std::string(AutomaticProbabilityFile));
   }
   if (!FileExists(Probability.ProbabilityFileName)) return;
@@ -125,7 +125,7 @@ void TakeUpEventsLog(const std::string& name) {
   }
   const bool another = !IsSameFile(EventsLogPath(), before);
   if (another) EventsLogView = {};
-  if (another || EventsLog.LogOn != 0) IndexEventsLog();
+  if (another || EventsLog.LogOn) IndexEventsLog();
 }
 
 bool CanReadScript(int place, const std::string& path) {

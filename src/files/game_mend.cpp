@@ -61,10 +61,6 @@ void MendSettings() {
   MendMinimum(Settings.MinPlacardBet);
   MendMinimum(Settings.MinPlacardPropBet);
   Settings.MaxPlacardBet = std::max(Settings.MaxPlacardBet, Settings.MinPlacardBet);
-  for (int32_t* flag : {&Advantage.IncludeZeroOutcomes, &Advantage.ShowMiscData,
-                        &Probability.ProbabilityMatrixActive}) {
-    *flag = *flag != 0 ? -1 : 0;
-  }
 }
 
 // A row that cannot pay, or costs more than the wager, takes its original values.
@@ -145,7 +141,6 @@ void MendPlace(int place) {
   MendVig(place);
   MendVisibleStacks(place);
   Table.BetWorkingBefore[place] = Table.BetWorking[place];
-  Scripts.ScriptActiveAfterRoll[place] = Scripts.ScriptActiveAfterRoll[place] != 0 ? -1 : 0;
   Table.MoneyOnTable[place] = FigureMoneyOnTable(place);
   Table.AvailableBankroll[place] = BankrollOf(place) - Table.MoneyOnTable[place];
 }

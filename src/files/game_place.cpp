@@ -48,7 +48,6 @@ void PlayerRecord(GameRecords& records, int place) {
       {3, &Settings.AtmAmount},
       {4, &Table.BankrollSum[place]},
       {5, &Table.InvestedBankroll[place]},
-      {6, &Table.AutoAdjustBetAmounts[place]},
       {7, &Table.AutoTakeFullOdds[place]},
       {8, &Table.AutoLayFullOdds[place]},
       {9, &Table.AutoDownPlaceBets[place]},
@@ -61,6 +60,10 @@ void PlayerRecord(GameRecords& records, int place) {
       {16, &Table.DontBias[place]},
   };
   records.Moneys(fields);
+  // The one flag that is on above zero.
+  int32_t adjusts = Table.AutoAdjustBetAmounts[place] ? 1 : 0;
+  records.Amount(6, adjusts);
+  Table.AutoAdjustBetAmounts[place] = adjusts > 0;
 }
 
 // An amount for each number, with another one of the place in the slot of number 0.

@@ -78,6 +78,12 @@ void GameRecords::Amount(int slot, int32_t& value) {
     record.PutAmount(slot, value);
 }
 
+void GameRecords::Amount(int slot, bool& value) {
+  int32_t number = value ? -1 : 0;
+  Amount(slot, number);
+  value = number != 0;
+}
+
 void GameRecords::Short(int slot, int32_t& value) {
   Record& record = file_.At(number_);
   if (Reading())

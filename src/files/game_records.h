@@ -22,7 +22,7 @@ struct SlotField {
   int Count = 1;
 };
 using WordField = SlotField<int32_t, uint32_t, bool>;  // a bool is 0 or -1
-using MoneyField = SlotField<Money, int32_t>;          // whole numbers are kept as amounts
+using MoneyField = SlotField<Money, int32_t, bool>;    // whole numbers and flags as amounts
 
 class GameRecords {
  public:
@@ -60,6 +60,7 @@ class GameRecords {
   }
   void Amount(int slot, Money& value);
   void Amount(int slot, int32_t& value);
+  void Amount(int slot, bool& value);
   void Short(int slot, int32_t& value);
 
  private:
@@ -75,7 +76,10 @@ class SlotRun {
   SlotRun(GameRecords& records, int slotsInRecord)
       : records_(records), slotsInRecord_(slotsInRecord), slot_(slotsInRecord) {}
 
-  void Word(int32_t& value) { records_.Word(NextSlot(), value); }
+  template <class Value>
+  void Word(Value& value) {
+    records_.Word(NextSlot(), value);
+  }
   void Amount(Money& value) { records_.Amount(NextSlot(), value); }
   void Amount(int32_t& value) { records_.Amount(NextSlot(), value); }
   void Short(int32_t& value) { records_.Short(NextSlot(), value); }

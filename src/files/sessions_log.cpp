@@ -159,7 +159,7 @@ Record SessionRecord(int place) {
 }
 
 void WriteSession(int place) {
-  if (SessionsLog.KeepLogs == 0 || RollsInSession() == 0) return;
+  if (!SessionsLog.KeepLogs || RollsInSession() == 0) return;
   const std::string& name = SessionsLogNameOf(place);
   const Record record = SessionRecord(place);
   const int32_t sessions = SessionsToKeep(name);
@@ -208,7 +208,7 @@ void MoveSessionsLog(const std::string& from, const std::string& to) {
 }
 
 void DeleteSessionsLog(int place) {
-  if (SessionsLog.KeepLogs == 0) return;
+  if (!SessionsLog.KeepLogs) return;
   const std::string& name = SessionsLogNameOf(place);
   if (IsSessionsLog(name)) DeleteFileIfPresent(name);
 }

@@ -14,7 +14,7 @@
 namespace tessarel {
 
 struct SessionsLogState {
-  int32_t KeepLogs = -1;  // 0: sessions leave no record, and no log is deleted
+  bool KeepLogs = true;  // 0: sessions leave no record, and no log is deleted
 };
 
 extern SessionsLogState SessionsLog;

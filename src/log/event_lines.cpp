@@ -46,7 +46,7 @@ void WriteItem(std::string_view heading, int place, std::string_view text) {
 
 void LogScript(int place) {
   const std::string& file = Scripts.Places[place].ScriptFile;
-  if (Scripts.ScriptActive[place] == 0) {
+  if (!Scripts.ScriptActive[place]) {
     WriteItem(ScriptsHeading, place, " deactivated script");
   } else if (file.empty()) {
     WriteItem(ScriptsHeading, place, " activated untitled script");
@@ -126,11 +126,11 @@ constexpr std::string_view NoShooterLine = "----New hand, come-out roll---------
 }  // namespace
 
 void LogChangesSinceLastRoll() {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   EndSections();
   ForEachPlayer([](int place) {
-    const bool before = Scripts.ScriptActiveAfterRoll[place] != 0;
-    if (before != (Scripts.ScriptActive[place] != 0)) LogScript(place);
+    const bool before = Scripts.ScriptActiveAfterRoll[place];
+    if (before != (Scripts.ScriptActive[place])) LogScript(place);
   });
   if (Logs(&EventsLogState::LogBankroll)) {
     ForEachPlayer([](int place) {
@@ -183,7 +183,7 @@ void LogBetMoved(int place, int from, int to) {
 }
 
 void LogBankrollsAfterRoll() {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   if (Logs(&EventsLogState::LogBankroll)) {
     ForEachPlayer(
         [](int place) { LogBankroll(place, Table.BankrollAtRoll[place], " gain", " loss"); });
@@ -207,24 +207,24 @@ void LogDicePassed(int to) {
 }
 
 void LogPlayerJoined(int place, Money amount) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   const bool left = place <= 4;
   const std::string spot = std::to_string(left ? 5 - place : place - 4);
   WriteNote(place, FillIn(GetText(left ? 15 : 16), spot) + PlainText(amount));
 }
 
 void LogPlayerMoved(int place) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   WriteNote(place, Join(" moved to stick ", StickPosition(place)));
 }
 
 void LogPlayerRenamed(std::string_view before, std::string_view after) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   WriteEvent(Join("    ", before, GetText(17), after));
 }
 
 void LogCashOut(int place, Money abandoned) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   const Money bankroll = BankrollOf(place);
   const Money net = bankroll - Table.InvestedBankroll[place];
   std::string outcome(GetText(30));
@@ -240,17 +240,17 @@ void LogCashOut(int place, Money abandoned) {
 }
 
 void LogSeed(int32_t generator, int32_t seed) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   WriteEvent(Join("    RNG #", std::to_string(generator), " seeded: ", std::to_string(seed)));
 }
 
 void LogPlayback(std::string_view file) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   WriteEvent(Join("    Dice roll file playback activated (", file, ")"));
 }
 
 void LogNewSession() {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   EndSections();
   const LocalTime now = Now();
   if (EventsLogExists()) WriteEvent(RuleLine);
@@ -264,12 +264,12 @@ void LogNewSession() {
 }
 
 void LogFirstHand(std::string_view playedFile) {
-  if (EventsLog.LogOn == 0) return;
+  if (!EventsLog.LogOn) return;
   if (!playedFile.empty()) {
     WriteEvent(Join("    Dice roll file playback actived (", playedFile, ")"));
   }
   ForEachPlayer([](int place) {
-    if (Scripts.ScriptActive[place] != 0) LogScript(place);
+    if (Scripts.ScriptActive[place]) LogScript(place);
   });
   EndSections();
   // Nobody shot before in this session, so that a shooter is always a new one.

@@ -173,7 +173,7 @@ void WriteEvent(std::string_view line) {
   log << ToSingleByte(line) << LineEnd;
   Close(index);
   Close(log);
-  if (EventsLog.KeepLatestRollOnTop != 0 && IsRollLine(line)) {
+  if (EventsLog.KeepLatestRollOnTop && IsRollLine(line)) {
     EventsLog.LatestRollLine = static_cast<int32_t>(lines + 1);
   }
 }
@@ -190,7 +190,7 @@ void EndSections() {
 
 void SelectAllEvents(bool on) {
   for (const auto kind : AllKinds)
-    EventsLog.*kind = on ? -1 : 0;
+    EventsLog.*kind = on;
 }
 
 void ClearEventsLog() {

@@ -10,10 +10,10 @@
 namespace tessarel {
 
 struct EventsLogState {
-  int32_t LogOn = 0;  // the master switch
-  int32_t LogRolls = -1, LogBets = -1, LogCheckStacks = -1, LogShooters = -1, LogWins = -1,
-          LogLosses = -1, LogDecisions = -1, LogBankroll = -1;
-  int32_t KeepLatestRollOnTop = 0;
+  bool LogOn = false;  // the master switch
+  bool LogRolls = true, LogBets = true, LogCheckStacks = true, LogShooters = true, LogWins = true,
+       LogLosses = true, LogDecisions = true, LogBankroll = true;
+  bool KeepLatestRollOnTop = false;
   int32_t LatestRollLine = 0;  // number of the latest line that starts with "Roll", blanks aside
   std::string EventLogName;    // full name of the text, empty for the default; see EventsIndexName
   std::string SectionHeading;  // the heading under which the lines of the roll now stand
@@ -22,8 +22,8 @@ struct EventsLogState {
 extern EventsLogState EventsLog;
 
 // Whether events of a kind are to be written.
-inline bool Logs(int32_t EventsLogState::*kind) {
-  return EventsLog.LogOn != 0 && EventsLog.*kind != 0;
+inline bool Logs(bool EventsLogState::*kind) {
+  return EventsLog.LogOn && EventsLog.*kind != 0;
 }
 
 // Appends one line (UTF-8, without its line end) to the log and its position to the index. Both are

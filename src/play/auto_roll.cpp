@@ -32,13 +32,13 @@ constexpr SixTexts Interrupted = {
     "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
 
 bool Runs() {
-  return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
+  return Table.AutoRollOn || Table.HyperDriveOn;
 }
 
 void Start(UnattendedMode mode) {
-  if (Runs() || Table.RollInProgress != 0) return;
-  Table.AutoRollOn = -1;
-  Table.HyperDriveOn = mode == UnattendedMode::HyperDrive ? -1 : 0;
+  if (Runs() || Table.RollInProgress) return;
+  Table.AutoRollOn = true;
+  Table.HyperDriveOn = mode == UnattendedMode::HyperDrive;
   FrontEnd.DrawStatus();
   MakeRoll();
   StopUnattended();
@@ -70,11 +70,11 @@ void StopAutoRoll() {
 }
 
 std::string_view HyperDriveCaption() {
-  return GetText(Table.HyperDriveOn != 0 ? HyperDriveActiveText : StartHyperDriveText);
+  return GetText(Table.HyperDriveOn ? HyperDriveActiveText : StartHyperDriveText);
 }
 
 std::string_view AutoRollCaption() {
-  const bool active = Table.AutoRollOn != 0 && Table.HyperDriveOn == 0;
+  const bool active = Table.AutoRollOn && !Table.HyperDriveOn;
   return GetText(active ? AutoRollActiveText : StartAutoRollText);
 }
 
@@ -92,7 +92,7 @@ void AskSetTimeDelay() {
 }
 
 bool ConfirmScriptActive() {
-  if (AutoBet.ScriptRunning == 0) return true;
+  if (!AutoBet.ScriptRunning) return true;
   const std::string question =
       std::string(GetText(StopAutoBettingText)) + "\r\r" +
       FillIn(RollTexts.ScriptProcessing, {Table.PlayerName[AutoBet.CurrentScriptPlayer]});
@@ -104,9 +104,9 @@ bool ConfirmScriptActive() {
 }
 
 void InterruptAutoBetting() {
-  AutoBet.ScriptRunning = 0;
-  AutoBet.AutoBetMessageStop = -1;
-  if (Table.HyperDriveOn != 0) Table.StopReason = Localized(Interrupted);
+  AutoBet.ScriptRunning = false;
+  AutoBet.AutoBetMessageStop = true;
+  if (Table.HyperDriveOn) Table.StopReason = Localized(Interrupted);
   StopUnattended();
 }
 

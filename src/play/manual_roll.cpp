@@ -66,7 +66,7 @@ bool RollMayBegin() {
     StopAutoRoll();
     return false;
   }
-  return ConfirmScriptActive() && Table.RollInProgress == 0;
+  return ConfirmScriptActive() && !Table.RollInProgress;
 }
 
 }  // namespace
@@ -103,7 +103,7 @@ std::optional<Faces> RollChoice::Take(const RollPadCell& cell, RandomChoice rand
 }
 
 bool RollPadStopsRun() {
-  return Table.AutoRollOn != 0 || Table.HyperDriveOn != 0;
+  return Table.AutoRollOn || Table.HyperDriveOn;
 }
 
 void RollChosen(Faces faces) {

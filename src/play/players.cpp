@@ -34,7 +34,7 @@ constexpr int NextShooterPlace(int place) {
 
 void TellPassing(PassReason reason, std::string text) {
   const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
-  if (reason != PlayerAsked || Table.HyperDriveOn != 0 || silent) return;
+  if (reason != PlayerAsked || Table.HyperDriveOn || silent) return;
   ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::OkAlert, help::Players);
 }
 
@@ -51,7 +51,7 @@ int FindShooter(Qualifies&& qualifies) {
 
 // Whether a player could shoot now: with the point on he may need a line bet he cannot make.
 bool MayShoot(int place) {
-  return Settings.AllowPutBets != 0 || Settings.BetNeededToShoot != 1 || Table.Point == 0 ||
+  return Settings.AllowPutBets || Settings.BetNeededToShoot != 1 || Table.Point == 0 ||
          HasLineBet(place);
 }
 
@@ -91,7 +91,7 @@ void TellOfPassedHand(PassReason reason, int from, int to) {
   if (RollsInHand() == 0) return;
   const SixTexts& text = to == Table.LastShooter ? RailTexts.PassingBack : RailTexts.PassingOn;
   TellPassing(reason, FillIn(text, {NameOf(from), NameOf(to)}));
-  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+  if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
 }  // namespace
@@ -144,7 +144,7 @@ void PassDice(PassReason reason) {
   if (Table.PlayerCount == 1) return PassWithOnePlayer(reason);
   int blocked = 0;
   const int next = FindShooter([&blocked](int place) {
-    if (Table.DeclinesDice[place] != 0) return false;
+    if (Table.DeclinesDice[place]) return false;
     if (!MayShoot(place)) ++blocked;
     return MayShoot(place);
   });
@@ -152,7 +152,7 @@ void PassDice(PassReason reason) {
   const int from = Table.Shooter;
   if (reason == PlayerAsked) LogDicePassed(next);
   Table.Shooter = next;
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  if (!Table.HyperDriveOn) FrontEnd.DrawTable();
   TellOfPassedHand(reason, from, next);
   if (RollsInHand() == 0) Table.LastShooter = next;
 }
@@ -162,7 +162,7 @@ void BankrollLimitStop(int place) {
   const bool gone = !IsTaken(Table, place);
   const bool negative = BankrollOf(place) <= Money();
   const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };
-  if (Table.HyperDriveOn != 0) {
+  if (Table.HyperDriveOn) {
     const SixTexts& text = negative ? RailTexts.StoppedBelowLimit : RailTexts.StoppedAboveLimit;
     Table.StopReason = gone ? reset : withReset(FillIn(text, {LimitText}));
   } else if (gone) {
@@ -172,7 +172,7 @@ void BankrollLimitStop(int place) {
                 msg::OkAlert, help::NewSession);
   } else {
     const bool first = Table.BankrollStopPlace == 0;
-    if (first && Settings.DisableAllSound == 0) FrontEnd.PlaySound(Sound::LimitBroken);
+    if (first && !Settings.DisableAllSound) FrontEnd.PlaySound(Sound::LimitBroken);
     ShowMessage(withReset(FillIn(RailTexts.AboveLimit, {NameOf(place), LimitText})), "", msg::Ok,
                 help::NewSession);
   }

@@ -141,7 +141,7 @@ bool AddPlayer(int place) {
   const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
   if (!buyIn) return false;
   SeatPlayer(place, name, *buyIn);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   FrontEnd.DrawTable();
   return true;
 }
@@ -152,7 +152,7 @@ bool RenamePlayer(int place) {
   const std::string name = AskName(Text(13) + before, Text(14), place);
   if (name.empty()) return false;
   SetPlayerName(place, name);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   LogPlayerRenamed(before, name);
   OfferToRenameSessionsLog(place);
   FrontEnd.DrawTable();
@@ -164,7 +164,7 @@ bool DeletePlayer(int place, bool ask) {
   const std::vector<AbandonedBet> abandoned = AbandonedBets(place);
   if (ask && !ConfirmRemoval(place, abandoned)) return false;
   LoseAbandoned(place, abandoned);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   LogCashOut(place, Total(abandoned));
   Trapped("DeletePlayer", [place] { WriteSession(place); });
   ClearPlace(place);
@@ -192,7 +192,7 @@ bool MovePlayer(int from, int to) {
   }
   FollowInViews(from, to);
   Scripts.ProgramReady = false;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   RebuildDerived();
   LogPlayerMoved(to);
   FrontEnd.DrawTable();

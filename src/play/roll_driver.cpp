@@ -37,8 +37,7 @@ namespace {
 
 // A roll that cannot be made: the message outside the Hyper-Drive, and the reason that a run ends.
 bool Refuse(std::string text, std::string title, std::string reason) {
-  if (Table.HyperDriveOn == 0)
-    ShowMessage(std::move(text), std::move(title), msg::OkAlert, help::Dice);
+  if (!Table.HyperDriveOn) ShowMessage(std::move(text), std::move(title), msg::OkAlert, help::Dice);
   Table.StopReason = std::move(reason);
   return false;
 }
@@ -92,9 +91,9 @@ enum class DiceSource { None, ManualPad, PopupRoll, RollFile, Generator };
 
 // Whether the roll may begin: a pop-up roll file that does not come leaves it unmade.
 bool PopupRollIsThere(const std::optional<Faces>& chosen) {
-  if (PopupRoll.PopupRollActive == 0 || chosen) return true;
+  if (!PopupRoll.PopupRollActive || chosen) return true;
   if (WaitForPopupRoll()) return true;
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  if (!Table.HyperDriveOn) FrontEnd.DrawTable();
   return false;
 }
 
@@ -113,7 +112,7 @@ DiceSource TakeDice(std::optional<Faces>& chosen, Faces& faces) {
     faces = *std::exchange(chosen, std::nullopt);
     return DiceSource::ManualPad;
   }
-  if (PopupRoll.PopupRollActive != 0) {
+  if (PopupRoll.PopupRollActive) {
     return DiceFrom(DiceSource::PopupRoll, TakePopupRoll(), faces);
   }
   if (RollFile.RollFileMode == RollFilePlay) {
@@ -147,7 +146,7 @@ void SnapshotBeforeRoll() {
 
 std::string GeneratorText() {
   const std::string from = " from RNG #" + std::to_string(Dice.CurrentRNG);
-  if (Probability.ProbabilityMatrixActive == 0) return from;
+  if (!Probability.ProbabilityMatrixActive) return from;
   return Probability.ProbabilityFileName.empty()
              ? from + " using untitled probability matrix"
              : from + " using probability matrix: " + Probability.ProbabilityFileName;
@@ -169,9 +168,9 @@ void SetDice(Faces faces) {
 }
 
 void ShowDice() {
-  if (Table.HyperDriveOn != 0) return;
+  if (Table.HyperDriveOn) return;
   FrontEnd.AnimateDice();
-  if (Settings.DisableAllSound != 0) return;
+  if (Settings.DisableAllSound) return;
   FrontEnd.PlaySound(Sound::Total);
   if (Table.Die1 == Table.Die2) FrontEnd.PlaySound(Sound::Doubles);
 }
@@ -225,11 +224,11 @@ bool EndHandOnSevenOut() {
 
 void PlaceAutomaticOdds(int place) {
   if (Bet(place, bet::PassLine) > Money()) {
-    if (Table.AutoTakeFullOdds[place] != 0) ReplaceBet(place, bet::PassLineOdds);
-    if (Table.AutoDownPlaceBets[place] != 0) RemovePlaceBets(place, Table.Point);
+    if (Table.AutoTakeFullOdds[place]) ReplaceBet(place, bet::PassLineOdds);
+    if (Table.AutoDownPlaceBets[place]) RemovePlaceBets(place, Table.Point);
   }
-  if (Bet(place, bet::DontPass) > Money() && Table.AutoLayFullOdds[place] != 0) {
-    if (Table.HyperDriveOn == 0) FrontEnd.DrawBet(place, bet::DontPass);
+  if (Bet(place, bet::DontPass) > Money() && Table.AutoLayFullOdds[place]) {
+    if (!Table.HyperDriveOn) FrontEnd.DrawBet(place, bet::DontPass);
     ReplaceBet(place, bet::DontPassOdds);
   }
 }
@@ -299,7 +298,7 @@ void PlayRoll(Faces faces, DiceSource source) {
   if (RollFile.RollFileMode == RollFileRecord) RecordToRollFile(faces);
   ShowDice();
   RecordRoll(faces.die1, faces.die2);
-  if (Settings.UseSpecialPropBets != 0) MarkRoll();
+  if (Settings.UseSpecialPropBets) MarkRoll();
   MovePoint();
   SettleRoll();
   RecordBankrolls();
@@ -310,31 +309,31 @@ void PlayRoll(Faces faces, DiceSource source) {
   if (handEnded) LogNextHand(shooterBefore);
   StoreGraphPoint();
   SnapshotWorking();
-  if (Scripts.ScriptActive[0] != 0) RunAutoBet();
+  if (Scripts.ScriptActive[0]) RunAutoBet();
   SnapshotAfterRoll();
   CheckEverything();
 }
 
 // One roll, from its refusals to its last snapshot. Returns false when no roll can be made.
 bool OneRoll(std::optional<Faces>& chosen) {
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   Table.StopReason.clear();
-  Table.RollInProgress = -1;
+  Table.RollInProgress = true;
   if (!RequiredBetStands() || !BelowMaximumRolls()) return false;
   if (!PopupRollIsThere(chosen)) return false;
-  Table.BetChangedThisRoll = 0;
+  Table.BetChangedThisRoll = false;
   FigureAvailableBankrolls();
   Faces faces{};
   const DiceSource source = TakeDice(chosen, faces);
   if (source == DiceSource::None) return false;
   PlayRoll(faces, source);
-  if (Table.HyperDriveOn == 0) FrontEnd.RefreshViews();
+  if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
   return !StoppedByBankroll();
 }
 
 // Whether the active scripts, if there are any, are compiled as they stand now.
 bool ScriptsCanRun() {
-  if (Scripts.ScriptActive[0] == 0) return true;
+  if (!Scripts.ScriptActive[0]) return true;
   if (!Scripts.ProgramReady) CheckScriptErrors();
   return Scripts.ProgramReady;
 }
@@ -342,11 +341,11 @@ bool ScriptsCanRun() {
 // Between two rolls of the Hyper-Drive. Returns whether it goes on. The events may have changed the
 // scripts.
 bool GoOnRolling() {
-  if (Table.HyperDriveOn == 0) return false;
+  if (!Table.HyperDriveOn) return false;
   FrontEnd.RunPendingEvents();
   StopAtCount();
-  if (Table.HyperDriveOn != 0 && !ScriptsCanRun()) StopUnattended();
-  if (Table.HyperDriveOn == 0 || !Table.StopReason.empty()) return false;
+  if (Table.HyperDriveOn && !ScriptsCanRun()) StopUnattended();
+  if (!Table.HyperDriveOn || !Table.StopReason.empty()) return false;
   if (Settings.Throttle > 0) ThrottleRoll();
   return true;
 }
@@ -363,7 +362,7 @@ bool RollUntilStopped(std::optional<Faces>& chosen) {
 
 // Between two rolls of Auto-Roll: the table stands as it is until the next one may begin.
 void PauseAutoRoll() {
-  if (Table.AutoRollOn == 0 || Table.HyperDriveOn != 0 || !Table.StopReason.empty()) return;
+  if (!Table.AutoRollOn || Table.HyperDriveOn || !Table.StopReason.empty()) return;
   FrontEnd.DrawStatus();
   if (AutoStopIsDue()) {
     StopUnattended();
@@ -375,7 +374,7 @@ void PauseAutoRoll() {
 }
 
 void CallComeOut() {
-  if (Table.Point != 0 || Settings.DisableAllSound != 0) return;
+  if (Table.Point != 0 || Settings.DisableAllSound) return;
   if (RollsInSession() == 1) FrontEnd.PlaySound(Sound::FirstComeOut);
   FrontEnd.PlaySound(Sound::ComeOut);
 }
@@ -384,9 +383,9 @@ void CallComeOut() {
 // file itself. A Hyper-Drive that no one at the table has started asks nobody.
 void EndPlay(bool ranUnattended) {
   const bool fileEnded = !Table.StopReason.empty() && RollFile.EndReached;
-  const bool asksNobody = Table.HyperDriveOn != 0 && Table.AutoRollOn == 0;
+  const bool asksNobody = Table.HyperDriveOn && !Table.AutoRollOn;
   if (!Table.StopReason.empty()) StopUnattended();
-  const bool runEnded = ranUnattended && Table.AutoRollOn == 0;
+  const bool runEnded = ranUnattended && !Table.AutoRollOn;
   if (!asksNobody && (fileEnded || runEnded)) Trapped("StopRollFile", StopRollFile);
 }
 
@@ -395,7 +394,7 @@ void EndRolling(bool ranUnattended, bool rolled) {
   EndPlay(ranUnattended);
   Table.StopReason.clear();
   if (rolled) CallComeOut();
-  Table.RollInProgress = 0;
+  Table.RollInProgress = false;
   FrontEnd.DrawStatus();
 }
 
@@ -408,15 +407,15 @@ bool RollAndEnd(std::optional<Faces>& chosen) {
     return false;
   }
   if (!ScriptsCanRun()) {
-    if (Table.AutoRollOn != 0) StopUnattended();
+    if (Table.AutoRollOn) StopUnattended();
     return false;
   }
   const int32_t rollsBefore = RollsInSession();
-  const bool ranUnattended = Table.AutoRollOn != 0;
+  const bool ranUnattended = Table.AutoRollOn;
   const bool goesOn = RollUntilStopped(chosen);
   if (goesOn) PauseAutoRoll();
   EndRolling(ranUnattended, RollsInSession() != rollsBefore);
-  return goesOn && Table.AutoRollOn != 0;
+  return goesOn && Table.AutoRollOn;
 }
 
 }  // namespace
@@ -427,7 +426,7 @@ bool AutoStopIsDue() {
 }
 
 void MakeRoll(std::optional<Faces> chosen) {
-  if (Table.RollInProgress != 0 || Message.AnswerPending != 0) return;
+  if (Table.RollInProgress || Message.AnswerPending != 0) return;
   while (RollAndEnd(chosen)) {
   }
 }

@@ -47,7 +47,7 @@ void WaitForNextRoll() {
   const int64_t delay = (Settings.RollDelay * 1000).Floor();
   RollPace.RollStamp = TickMilliseconds();
   FrontEnd.RunPendingEvents();
-  while (Table.AutoRollOn != 0 && TickMilliseconds() - RollPace.RollStamp < delay) {
+  while (Table.AutoRollOn && TickMilliseconds() - RollPace.RollStamp < delay) {
     Rest(LookEvery);
     FrontEnd.RunPendingEvents();
   }

@@ -69,7 +69,7 @@ void LoseAbandoned(int number) {
 // The bets that cannot be taken back are lost with the session; nobody is asked what becomes of
 // them.
 void LoseAbandonedBets() {
-  if (Settings.ReturnAbandonedBets != 0) return;
+  if (Settings.ReturnAbandonedBets) return;
   const auto modes = std::exchange(Table.HandleLosingBets, {});
   Table.HandleLosingBets.fill(LossTakeDown);
   if (Table.Point != 0) {
@@ -139,7 +139,7 @@ Money AskBeginningBankroll(int place) {
 
 void StartBankroll(int place, bool keepSessions) {
   Money amount = Table.BankrollInitAmount[place];
-  if (Table.BankrollInitType[place] == 1 && Table.HyperDriveOn == 0) {
+  if (Table.BankrollInitType[place] == 1 && !Table.HyperDriveOn) {
     amount = Table.BankrollInitAmount[place] = AskBeginningBankroll(place);
   } else if (Table.BankrollInitType[place] == 2) {
     amount = BankrollOf(place);
@@ -158,33 +158,33 @@ void ApplyRollFileAction(int32_t action) {
 
 void StartNewSession(const SessionOptions& options) {
   LoseAbandonedBets();
-  CloseSessionsLogs(options.keepLogs != 0);
-  CloseStatistics(options.keepSessions != 0);
+  CloseSessionsLogs(options.keepLogs);
+  CloseStatistics(options.keepSessions);
   ClearSpecialBets();
-  ClearLayout(options.keepStacks != 0);
-  ForEachPlayer([&](int place) { StartBankroll(place, options.keepSessions != 0); });
+  ClearLayout(options.keepStacks);
+  ForEachPlayer([&](int place) { StartBankroll(place, options.keepSessions); });
   Table.GraphIndex = 0;
   BankrollGraph.GraphWidth = 150;
   BankrollGraph.GraphScrolledBack = 0;
   Table.StopReason.clear();
-  if (Settings.ClearEventsLogOnNew != 0) Attempt(ClearEventsLog);
+  if (Settings.ClearEventsLogOnNew) Attempt(ClearEventsLog);
   Table.LastShooter = Table.Shooter;
   Table.Point = Table.LastPoint = Table.PointBeforeLast = Table.LastDecidedPoint = 0;
   Attempt([&] { ApplyRollFileAction(options.rollFileAction); });
   Attempt(LogNewSession);
-  if (Dice.ReseedEachSession != 0) Attempt([] { SeedRNG(0); });
+  if (Dice.ReseedEachSession) Attempt([] { SeedRNG(0); });
   Attempt([] { LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : ""); });
   Scripts.ScriptActiveAfterRoll = Scripts.ScriptActive;  // the log tells these once
   Table.BankrollStopPlace = 0;
   FrontEnd.RefreshViews();
-  if (Table.HyperDriveOn == 0) FrontEnd.DrawTable();
+  if (!Table.HyperDriveOn) FrontEnd.DrawTable();
 }
 
 // What a script cannot ask for is kept: the data of former sessions and the sessions logs.
 void StartSessionOfScript(bool keepStacks, bool keepRollFile) {
-  NewSession({.keepSessions = -1,
-              .keepStacks = keepStacks ? -1 : 0,
-              .keepLogs = -1,
+  NewSession({.keepSessions = true,
+              .keepStacks = keepStacks,
+              .keepLogs = true,
               .rollFileAction = keepRollFile ? ContinueRollFile : CloseRollFileNow});
 }
 
@@ -236,8 +236,8 @@ std::string Text(int id) {
 }
 
 bool AskToStopUnattended() {
-  const bool hyper = Table.HyperDriveOn != 0;
-  if (!hyper && Table.AutoRollOn == 0) return true;
+  const bool hyper = Table.HyperDriveOn;
+  if (!hyper && !Table.AutoRollOn) return true;
   const int title = hyper ? 114 : 117, question = hyper ? 118 : 119;
   if (ShowMessage(Text(question), Text(title), msg::AskYesDefault, help::AutoRoll) != AnswerYes)
     return false;
@@ -246,7 +246,7 @@ bool AskToStopUnattended() {
 }
 
 bool AskToStopScripts() {
-  if (AutoBet.ScriptRunning == 0) return true;
+  if (!AutoBet.ScriptRunning) return true;
   if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
     return false;
   InterruptAutoBetting();
@@ -308,7 +308,7 @@ bool SaveGameUnderItsName() {
 }
 
 bool OfferToSaveGame() {
-  if (Table.TableDirty == 0) return true;
+  if (!Table.TableDirty) return true;
   const int32_t answer =
       ShowMessage(Text(141), Text(139), msg::AskYesDefault | msg::Cancel, help::Saving);
   return answer == AnswerNo || (answer == AnswerYes && SaveGameUnderItsName());
@@ -345,15 +345,15 @@ void NewSession(const SessionOptions& options) {
 }
 
 bool StartNewGame(const SessionOptions& options, bool keepScripts) {
-  if (Table.HyperDriveOn != 0) return false;
+  if (Table.HyperDriveOn) return false;
   if (!keepScripts && !OfferToSaveScripts()) return false;
   // The automatic game file is that of the program with a table to be seen.
-  if (GameFile.MainWindowShown && Table.TableDirty != 0) SaveDefaultGame();
+  if (GameFile.MainWindowShown && Table.TableDirty) SaveDefaultGame();
   if (!keepScripts) EmptyScripts();
-  const bool restart = Scripts.ScriptActive[0] != 0;
+  const bool restart = Scripts.ScriptActive[0];
   if (restart && !Scripts.ProgramReady) Trapped("CheckScriptErrors", CheckScriptErrors);
   NewSession(options);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   if (!restart) return true;
   Trapped("StartNewGame", DeleteRollClipboard);
   if (Scripts.ProgramReady) InitializeScripts();

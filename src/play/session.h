@@ -12,9 +12,9 @@ namespace tessarel {
 enum RollFileAction : int32_t { RewindRollFile = 1, ContinueRollFile = 2, CloseRollFileNow = 0 };
 
 struct SessionOptions {
-  int32_t keepSessions = 0;  // non-zero: the data of former sessions
-  int32_t keepStacks = 0;    // check stacks with their names
-  int32_t keepLogs = 0;      // sessions logs
+  bool keepSessions = false;  // non-zero: the data of former sessions
+  bool keepStacks = false;    // check stacks with their names
+  bool keepLogs = false;      // sessions logs
   int32_t rollFileAction = CloseRollFileNow;
 };
 

@@ -154,10 +154,10 @@ void Enter(BetMeasures& measures, Money amount, Money roll) {
 // What was at risk: the bet and the vig that was paid with it.
 Money StakeOf(int place, int number, Money amount) {
   const auto index = static_cast<size_t>((number - 1) % FamilySize);
-  if (InFamily(number, LayFamily) && Settings.LayVigAllBets != 0) {
+  if (InFamily(number, LayFamily) && Settings.LayVigAllBets) {
     return amount + Table.LayVig[place][index];
   }
-  if (InFamily(number, BuyFamily) && Settings.BuyVigAllBets != 0) {
+  if (InFamily(number, BuyFamily) && Settings.BuyVigAllBets) {
     return amount + Table.BuyVig[place][index];
   }
   return amount;

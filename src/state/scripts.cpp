@@ -7,10 +7,10 @@ namespace tessarel {
 ScriptStoreState Scripts;
 
 void SetScriptActive(int place, bool active) {
-  Scripts.ScriptActive[place] = active ? -1 : 0;
+  Scripts.ScriptActive[place] = active;
   const bool any = std::any_of(Scripts.ScriptActive.begin() + 1, Scripts.ScriptActive.end(),
                                [](int32_t flag) { return flag != 0; });
-  Scripts.ScriptActive[0] = any ? -1 : 0;
+  Scripts.ScriptActive[0] = any;
   Scripts.ProgramReady = false;
 }
 

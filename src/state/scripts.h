@@ -24,13 +24,13 @@ struct ScriptPlace {
 struct ScriptStoreState {
   PerPlace<ScriptPlace> Places;  // 0: the script of a hot key, which has no seat
 
-  PerPlace<int32_t> ScriptActive{};  // 1 to 8; 0: whether any is
-  PerPlace<int32_t> ScriptActiveAfterRoll{};
+  PerPlace<bool> ScriptActive{};  // 1 to 8; 0: whether any is
+  PerPlace<bool> ScriptActiveAfterRoll{};
 
   // Rights.
-  PerPlace<int32_t> AllowReset{};       // to start new sessions
-  PerPlace<int32_t> AllowAct4Others{};  // to act for other players
-  PerPlace<int32_t> AllowActProb{};     // to switch probability files and roll files
+  PerPlace<bool> AllowReset{};       // to start new sessions
+  PerPlace<bool> AllowAct4Others{};  // to act for other players
+  PerPlace<bool> AllowActProb{};     // to switch probability files and roll files
 
   // Whether the program of all active scripts is compiled and as the scripts and names are now.
   bool ProgramReady = false;

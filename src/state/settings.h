@@ -25,20 +25,20 @@ struct SettingsState {
   int32_t OddsCalcMethod = 0;    // 0 to 5, ConfigurationTexts.OddsCalcMethods
   int32_t BarNumber = 12;        // 2 or 12
   int32_t BetNeededToShoot = 1;  // 0 none, 1 a line bet, 2 any bet
-  int32_t AllowPutBets = -1;
-  int32_t ReturnAbandonedBets = 0;
+  bool AllowPutBets = true;
+  bool ReturnAbandonedBets = false;
 
   // Bets on the layout.
-  int32_t UseBig68 = -1, UseSpecialPropBets = -1, UseMidwayBet = -1, UseFireBet = -1;
+  bool UseBig68 = true, UseSpecialPropBets = true, UseMidwayBet = true, UseFireBet = true;
 
   // Vigorish. The percentages are fractions: 0.05 is five percent.
   Money BuyVigPct = Money::FromRaw(500), LayVigPct = Money::FromRaw(500);
-  int32_t BuyVigAllBets = -1, LayVigAllBets = -1;  // charged up front, with the bet
-  int32_t RoundBuyVig = 0, RoundLayVig = 0;        // 0 normally, 1 down, 2 up
+  bool BuyVigAllBets = true, LayVigAllBets = true;  // charged up front, with the bet
+  int32_t RoundBuyVig = 0, RoundLayVig = 0;         // 0 normally, 1 down, 2 up
 
   // Checks and dice.
   Indexed<Money, 6> Denomination = {0, 1, 5, 25, 100, 500};  // 1 to 5, rising
-  int32_t UseCentsSymbol = -1, AutoArrangeChips = -1;
+  bool UseCentsSymbol = true, AutoArrangeChips = true;
   int32_t CheckStyle = 2, DiceStyle = 1;
   int32_t DiceAction = 0;   // 0 normal, 1 stationary, 2 center, 3 window
   Money SimRollRate = 120;  // rolls an hour
@@ -49,20 +49,20 @@ struct SettingsState {
   // Comps.
   Money CompRate = 30;   // percent
   int32_t CompBase = 0;  // 0 theoretical vig, 1 total action, 2 average action and time
-  int32_t CompsUseTrueProbs = -1;
-  Indexed<int32_t, 101> CompBet = DefaultCompBets();
+  bool CompsUseTrueProbs = true;
+  Indexed<bool, 101> CompBet = DefaultCompBets();
 
   // Sound: indices into the lists of sounds found, 0 for none. A table without sounds counts every
   // index as 0.
   int32_t StickPersonVoice = 1, DiceSound = 1, CheckSound = 1, WinSound = 1;
-  int32_t DisableAutoBetSounds = 0, DisableAllSound = 0;
+  bool DisableAutoBetSounds = false, DisableAllSound = false;
 
   // Misc.
   int32_t InfoTipLevel = 1;    // 0 to 4
   int32_t BasicFontSize = 11;  // 9, 11 or 13
   int32_t Notices = 15;        // bits of Notice
-  int32_t SnapMouse = -1;
-  int32_t ColorPrint = 0;
+  bool SnapMouse = true;
+  bool ColorPrint = false;
   int32_t Language = 0;  // 0 to 5, texts/language.h
 
   // Colours, as TableRgb makes them.
@@ -72,15 +72,15 @@ struct SettingsState {
   Indexed<int32_t, 6> SeriesColor = {0, 65280, 255, 65535, 8421376, 8388736};
 
   // Session and automation.
-  int32_t ClearEventsLogOnNew = 0;
+  bool ClearEventsLogOnNew = false;
   Money AutoStopRolls;  // 0 none
   Money RollDelay = 0;  // seconds between rolls under Auto-Roll, 0 to 300
   int32_t Throttle = 0;
 
-  static constexpr Indexed<int32_t, 101> DefaultCompBets() {
-    Indexed<int32_t, 101> flags{};
+  static constexpr Indexed<bool, 101> DefaultCompBets() {
+    Indexed<bool, 101> flags{};
     for (int number = 1; number <= LastBet; ++number) {
-      flags[static_cast<size_t>(number)] = IsOdds(number) ? 0 : -1;
+      flags[static_cast<size_t>(number)] = !IsOdds(number);
     }
     return flags;
   }

@@ -57,8 +57,8 @@ Money FigureMoneyOnTable(int place) {
   for (int number = 1; number <= LastBet; ++number)
     sum += Bet(place, number);
   for (size_t k = 0; k < FamilySize; ++k) {
-    if (Settings.LayVigAllBets != 0) sum += Table.LayVig[place][k];
-    if (Settings.BuyVigAllBets != 0) sum += Table.BuyVig[place][k];
+    if (Settings.LayVigAllBets) sum += Table.LayVig[place][k];
+    if (Settings.BuyVigAllBets) sum += Table.BuyVig[place][k];
   }
   return sum;
 }

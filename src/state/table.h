@@ -65,16 +65,16 @@ struct TableState {
   PerSlot<Money> Bankroll{}, BankrollBegin{}, BankrollHigh{}, BankrollLow{};
   PerPlace<Money> InvestedBankroll{}, MoneyOnTable{}, BankrollAtRoll{}, BankrollAfterRoll{};
   PerPlace<Money> AvailableBankroll{}, BankrollSum{};
-  PerPlace<int32_t> AllowNegBankroll{};
+  PerPlace<bool> AllowNegBankroll{};
   PerPlace<int32_t> BankrollInitType{};  // 0 a fixed sum, 1 ask, 2 carry the last one forward
   PerPlace<Money> BankrollInitAmount{};
   PerPlace<int32_t> HandleWinningBets{}, HandleLosingBets{};
   PerPlace<PerHandlingSlot<Money>> HandleAmount{}, HandleUnits{};
   PerPlace<PerHandlingSlot<int32_t>> HandleOperator{};
-  PerPlace<int32_t> AutoTakeFullOdds{}, AutoLayFullOdds{}, AutoDownPlaceBets{};
-  PerPlace<int32_t> AutoAdjustBetAmounts{};                        // above 0: on
+  PerPlace<bool> AutoTakeFullOdds{}, AutoLayFullOdds{}, AutoDownPlaceBets{};
+  PerPlace<bool> AutoAdjustBetAmounts{};
   PerPlace<int32_t> DoBias{}, DontBias{}, PlaceBias{}, LayBias{};  // 0 down, 1 up, 2 nearest
-  PerPlace<int32_t> DeclinesDice{};
+  PerPlace<bool> DeclinesDice{};
   PerPlace<std::string> SessionLogName;
   PerPlace<Indexed<std::string, StackCount>> CheckStackName{};
   PerPlace<Indexed<int32_t, 5>> VisibleStack{};  // rail positions 1 to 4: number 100 to 199
@@ -103,11 +103,11 @@ struct TableState {
   int32_t SharpShooterPoints = 0, RideTheLinePasses = 0;
 
   int32_t BankrollStopPlace = 0;
-  int32_t RollInProgress = 0;
-  int32_t TableDirty = 0;
-  int32_t BetChangedThisRoll = 0;
-  int32_t HyperDriveOn = 0;    // rolls are made without being shown
-  int32_t AutoRollOn = 0;      // a run that a person has started, of either kind
+  bool RollInProgress = false;
+  bool TableDirty = false;
+  bool BetChangedThisRoll = false;
+  bool HyperDriveOn = false;   // rolls are made without being shown
+  bool AutoRollOn = false;     // a run that a person has started, of either kind
   std::string StopReason;      // why an unattended run stops
   std::string LastStopReason;  // why the last call of the roll driver ended; empty: it just did
 
@@ -122,7 +122,7 @@ struct TableState {
   uint32_t TakenPlaces = 0;            // bit p: place p has a player
   PerPlace<NumberSet> ChangedForRoll;  // changed since the snapshot before the last roll
   PerPlace<NumberSet> ChangedAfter;    // changed since the snapshot after the last roll
-  PerPlace<int32_t> WorkingChanged{};  // some BetWorking changed since then
+  PerPlace<bool> WorkingChanged{};     // some BetWorking changed since then
 };
 
 // The kinds of message that bet rules may show; automatic callers clear them to keep silent.
@@ -158,7 +158,7 @@ inline void SetBetContract(int place, int number, Money amount) {
 
 inline void SetBetWorking(int place, int number, int32_t state) {
   Table.BetWorking[place][number] = state;
-  Table.WorkingChanged[place] = -1;
+  Table.WorkingChanged[place] = true;
   MarkChanged(place, number);
 }
 

@@ -27,11 +27,11 @@ double Base(const CompFigures& figures) {
 
 CompFigures FigureComps(int slot) {
   if (slot < 0 || slot >= SlotCount) RaiseIndexOutOfRange();
-  const DiceProbabilities dice = Settings.CompsUseTrueProbs != 0 ? TrueDice() : DiceInForce();
+  const DiceProbabilities dice = Settings.CompsUseTrueProbs ? TrueDice() : DiceInForce();
   CompFigures figures;
   for (int number = 1; number <= LastBet; ++number) {
     const BetMeasures& wagered = Stats.Bets[slot][number].Tendered;
-    if (Settings.CompBet[number] == 0 || wagered.Sum <= Money()) continue;
+    if (!Settings.CompBet[number] || wagered.Sum <= Money()) continue;
     figures.Action += wagered.Sum;
     figures.Decisions += wagered.Count;
     figures.TheoreticalLoss += wagered.Sum.ToDouble() * FigureAdvantage(number, dice).EvPerDec;

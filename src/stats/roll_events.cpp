@@ -177,7 +177,7 @@ int CodeOfPair(int die1, int die2) {
 }
 
 SkewedDice SkewedDiceInForce() {
-  return Probability.ProbabilityMatrixActive != 0 ? SkewedDiceOfMatrix() : SkewedDice{};
+  return Probability.ProbabilityMatrixActive ? SkewedDiceOfMatrix() : SkewedDice{};
 }
 
 SkewedDice SkewedDiceOfMatrix() {

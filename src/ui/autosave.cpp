@@ -76,7 +76,7 @@ void Autosave::Tick() {
 void Autosave::SaveIfDue() {
   if (!due_) return;
   due_ = false;
-  if (Table.TableDirty == 0) return Discard();
+  if (!Table.TableDirty) return Discard();
   try {
     SaveGameCopy(file_);
   } catch (const Fault&) {

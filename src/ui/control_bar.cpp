@@ -244,8 +244,8 @@ void ControlBar::ShowRun() {
 }
 
 void ControlBar::Refresh() {
-  const bool hyper = Table.HyperDriveOn != 0;
-  const bool autoRoll = Table.AutoRollOn != 0 && !hyper;
+  const bool hyper = Table.HyperDriveOn;
+  const bool autoRoll = Table.AutoRollOn && !hyper;
   ShowState();
   const int die1 = Table.Die1 == 0 ? 3 : Table.Die1, die2 = Table.Die2 == 0 ? 4 : Table.Die2;
   if (!hyper && !TablePlay.DiceInAir && (die1 != shownDie1_ || die2 != shownDie2_)) {

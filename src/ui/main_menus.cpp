@@ -40,7 +40,7 @@ bool HasPlayer() {
 }
 
 bool NotDriving() {
-  return Table.HyperDriveOn == 0;
+  return !Table.HyperDriveOn;
 }
 
 bool HasOpenPlace() {
@@ -54,7 +54,7 @@ void TellWhereToJoin() {
 // All odds of the current player at once.
 void FullOdds(void (*bet)(int)) {
   if (!HasPlayer() || !ConfirmScriptActive()) return;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   bet(CurrentPlace());
   FrontEnd.DrawTable();
 }
@@ -64,9 +64,9 @@ void ToggleOption(TableOption option) {
   FrontEnd.DrawTable();
 }
 
-void ToggleSetting(int32_t& setting) {
-  setting = setting != 0 ? 0 : -1;
-  Table.TableDirty = -1;
+void ToggleSetting(bool& setting) {
+  setting = !setting;
+  Table.TableDirty = true;
 }
 
 }  // namespace
@@ -246,7 +246,7 @@ void MainMenus::Dice() {
       [] { return Settings.DiceAction; },
       [&w = window](int32_t action) {
         const int32_t before = std::exchange(Settings.DiceAction, action);
-        Table.TableDirty = -1;
+        Table.TableDirty = true;
         if (before == DiceInWindow || action == DiceInWindow)
           w.ShowSmall(SmallWindowKind::Tray, action == DiceInWindow);
         FrontEnd.DrawTable();
@@ -274,7 +274,7 @@ void MainMenus::Colours() {
   const auto offer = [this](std::string_view name, const SixTexts& caption, auto apply) {
     Add(std::string(name).c_str(), caption, "", [apply] {
       apply();
-      Table.TableDirty = -1;
+      Table.TableDirty = true;
       FrontEnd.DrawTable();
     });
   };
@@ -342,27 +342,27 @@ void MainMenus::Options() {
       [] { return Settings.InfoTipLevel; },
       [](int32_t level) {
         Settings.InfoTipLevel = level;
-        Table.TableDirty = -1;
+        Table.TableDirty = true;
       });
   Add(
       "chkSnapMouse", texts::OptionsSnap, "", [] { ToggleSetting(Settings.SnapMouse); }, {},
-      [] { return Settings.SnapMouse != 0; });
+      [] { return Settings.SnapMouse; });
   Add(
       "chkAutoArrangeChips", texts::OptionsArrange, "",
       [] {
         ToggleSetting(Settings.AutoArrangeChips);
         FrontEnd.DrawTable();
       },
-      {}, [] { return Settings.AutoArrangeChips != 0; });
+      {}, [] { return Settings.AutoArrangeChips; });
   Notices();
   Line();
   Add(
       "chkDisableAllSound", texts::OptionsSilence, "",
       [] {
         ToggleSetting(Settings.DisableAllSound);
-        if (Settings.DisableAllSound != 0) StopSounds();
+        if (Settings.DisableAllSound) StopSounds();
       },
-      {}, [] { return Settings.DisableAllSound != 0; });
+      {}, [] { return Settings.DisableAllSound; });
   Slider(texts::OptionsVolume, 100, SoundVolume, SetSoundVolume);
   Line();
   Choices(
@@ -373,7 +373,7 @@ void MainMenus::Options() {
       [] { return Settings.BasicFontSize; },
       [&w = window](int32_t size) {
         Settings.BasicFontSize = size;
-        Table.TableDirty = -1;
+        Table.TableDirty = true;
         w.TakeUpFontSize();
       });
   Add("mnuLanguage", texts::OptionsLanguage, "", [&w = window] { AskLanguage(&w); });
@@ -383,11 +383,10 @@ void MainMenus::Auto() {
   Menu(texts::MenuAuto);
   Add(
       "mnuAutoRoll", texts::AutoRoll, "\tR", [&w = window] { w.ToggleRun(false); }, NotDriving,
-      [] { return Table.AutoRollOn != 0 && Table.HyperDriveOn == 0; });
+      [] { return Table.AutoRollOn && !Table.HyperDriveOn; });
   Add(
       "mnuHyperDrive", texts::AutoHyper, "\tH", [&w = window] { w.ToggleRun(true); },
-      [] { return Table.HyperDriveOn != 0 || TableIsIdle(); },
-      [] { return Table.HyperDriveOn != 0; });
+      [] { return Table.HyperDriveOn || TableIsIdle(); }, [] { return Table.HyperDriveOn; });
   Line();
   Add("mnuSetTimeDelay", texts::AutoDelay, "", AskSetTimeDelay);
   Add("mnuSetAutoStop", texts::AutoStop, "", AskSetAutoStop);
@@ -397,7 +396,7 @@ void MainMenus::Auto() {
   Line();
   Add(
       "mnuStopAutobetting", texts::AutoStopScripts, "", [] { ConfirmScriptActive(); },
-      [] { return AutoBet.ScriptRunning != 0; });
+      [] { return AutoBet.ScriptRunning; });
 }
 
 void MainMenus::Window() {

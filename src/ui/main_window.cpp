@@ -133,14 +133,14 @@ void MainWindow::FillFrontEnd() {
   };
   FrontEnd.RunPendingEvents = [] { Main->PumpEvents(); };
   FrontEnd.DrawBet = [](int place, int number) {
-    if (Table.HyperDriveOn == 0) Main->view_->DrawBet(place, number);
+    if (!Table.HyperDriveOn) Main->view_->DrawBet(place, number);
   };
   FrontEnd.DrawTable = [] {
     Main->view_->DrawTable();
     Main->RefreshStatus();
   };
   FrontEnd.DrawStatus = [] {
-    if (Table.HyperDriveOn == 0) {
+    if (!Table.HyperDriveOn) {
       Main->view_->DrawTable();
       Main->HearWins();
     }
@@ -148,7 +148,7 @@ void MainWindow::FillFrontEnd() {
   };
   // The Hyper-Drive shows its figures by itself; what scripts do meanwhile waits for its end.
   FrontEnd.RefreshViews = [] {
-    if (Table.HyperDriveOn == 0) Main->RefreshStatus();
+    if (!Table.HyperDriveOn) Main->RefreshStatus();
   };
   FrontEnd.PlaySound = [](Sound sound) {
     PlayTableSound(sound);
@@ -157,7 +157,7 @@ void MainWindow::FillFrontEnd() {
   FrontEnd.AnimateDice = [] { Main->Animate(); };
   FrontEnd.PlaySoundFile = PlaySoundOfFile;
   FrontEnd.ReportScriptError = [](int, int, const std::string& text) {
-    if (Table.HyperDriveOn == 0)
+    if (!Table.HyperDriveOn)
       ShowMessage(text, std::string(Localized(texts::ScriptErrorTitle)), msg::OkAlert,
                   help::BettingSystems);
   };
@@ -190,7 +190,7 @@ void MainWindow::HearWins() {
 // Called once a roll under the Hyper-Drive, so that the clock is looked at only now and then: after
 // twice as many calls each time, until a sixtieth of a second is over.
 void MainWindow::PumpEvents() {
-  if (Table.HyperDriveOn == 0) {
+  if (!Table.HyperDriveOn) {
     QCoreApplication::processEvents();
     QThread::usleep(500);
   } else {
@@ -206,7 +206,7 @@ void MainWindow::PumpEvents() {
     sincePump_.restart();
     batch_ = untilLook_ = 1;
   }
-  if (AutoBet.ScriptRunning == 0 && !view_->IsAnimating()) autosave_.SaveIfDue();
+  if (!AutoBet.ScriptRunning && !view_->IsAnimating()) autosave_.SaveIfDue();
 }
 
 void MainWindow::RefreshStatus() {
@@ -236,7 +236,7 @@ void MainWindow::Start() {
     ShowMessage(FillIn(texts::FolderIsReadOnly, {std::string(Folders.AppFolder)}),
                 std::string(Localized(texts::FolderTitle)), msg::OkAlert);
   }
-  autosave_.Start([this] { return Table.RollInProgress == 0 && AutoBet.ScriptRunning == 0; });
+  autosave_.Start([this] { return !Table.RollInProgress && !AutoBet.ScriptRunning; });
 }
 
 void MainWindow::TakeUpGame() {
@@ -258,7 +258,7 @@ void MainWindow::OfferUnfinishedTable() {
   const bool goOn = ShowMessage(question, title, msg::AskYesDefault, help::Saving) == AnswerYes;
   if (!goOn) return autosave_.Discard();
   if (autosave_.TakeUp() && OpenGame(std::string(AutomaticGameFile))) {
-    Table.TableDirty = -1;
+    Table.TableDirty = true;
     TakeUpGame();
   }
 }
@@ -327,8 +327,8 @@ void MainWindow::ShowHint() {
 
 // The right button rolls; during a run it asks to stop.
 void MainWindow::RightClick() {
-  if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
-    const bool hyper = Table.HyperDriveOn != 0;
+  if (Table.AutoRollOn || Table.HyperDriveOn) {
+    const bool hyper = Table.HyperDriveOn;
     const int32_t answer =
         ShowMessage(std::string(GetText(hyper ? 118 : 119)),
                     std::string(GetText(hyper ? 114 : 117)), msg::AskYesDefault, help::AutoRoll);
@@ -348,7 +348,7 @@ void MainWindow::ShowPlayerMenu(int, QPoint at) {
 }
 
 void MainWindow::ToggleRun(bool hyperDrive) {
-  if (Table.AutoRollOn != 0 || Table.HyperDriveOn != 0) {
+  if (Table.AutoRollOn || Table.HyperDriveOn) {
     StopAutoRoll();
   } else if (TableIsIdle() && ConfirmScriptActive()) {
     batch_ = untilLook_ = 1;
@@ -375,7 +375,7 @@ void MainWindow::OpenGameFile() {
 }
 
 void MainWindow::TakeUpLanguage() {
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   SetCaptions();
   view_->DrawTable();
   RefreshAll();
@@ -528,7 +528,7 @@ bool MainWindow::HandleTableKey(int key) {
       if (!KeyAmount(8)) ClickSpot(TablePlay.HotSpot, ClickKind::TakeOff);
       return true;
     case Qt::Key_Escape:
-      if (!GiveUpSomething() && Table.AutoRollOn != 0) StopAutoRoll();
+      if (!GiveUpSomething() && Table.AutoRollOn) StopAutoRoll();
       return true;
   }
   return HandleDigit(key);

@@ -114,7 +114,7 @@ bool MayChange() {
 
 void ChangeAmount(int place, int number, Money amount) {
   Table.Amount = amount;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   IsBet(number) ? PlaceBet(place, number) : ChangeBet(place, number);
   if (!IsBet(number)) FrontEnd.DrawBet(place, number);
 }
@@ -149,7 +149,7 @@ void ApplyAction(TableActionMode action, int spot) {
   int number = NumberOfSpot(spot);
   if (place == 0 || number == 0 || !MayChange()) return;
   if (number == bet::DontPassOdds && !HasBet(place, number)) number = bet::DontPass;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   switch (action) {
     case ActionCallOn:
       return CallBet(place, number, CallOn);
@@ -184,7 +184,7 @@ void FinishMove(int spot) {
 void ClickRail(int place) {
   if (IsTaken(Table, place)) return SelectPlace(place);
   if (!TableIsOpen() || !AddPlayer(place)) return;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   SelectPlace(place);
 }
 
@@ -423,7 +423,7 @@ void PickBetFor(TableActionMode action) {
 void CallAllBets(bool on) {
   const int place = PlayerForCommand();
   if (place == 0 || !MayChange()) return;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   SilentBets silent;
   for (int number = 1; number <= LastBet; ++number) {
     if (HasBet(place, number)) CallBet(place, number, on ? CallOn : CallOff);
@@ -433,7 +433,7 @@ void CallAllBets(bool on) {
 void RemoveAllBets() {
   const int place = PlayerForCommand();
   if (place == 0 || !MayChange()) return;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   SilentBets silent;
   // Odds first: they would follow their flat bet, and stay when it has to.
   for (const bool odds : {true, false}) {
@@ -471,7 +471,7 @@ void BuyInCurrentPlayer() {
     const std::optional<Money> amount = ParseTypedMoney(offered);
     if (amount && *amount > Money()) {
       ATM(place, false, *amount, true);
-      Table.TableDirty = -1;
+      Table.TableDirty = true;
       return FrontEnd.DrawTable();
     }
     ShowMessage(std::string(Localized(texts::BuyInRefused)), title, msg::OkAlert);
@@ -480,21 +480,21 @@ void BuyInCurrentPlayer() {
 
 void PassTheDice() {
   if (!MayChange()) return;
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   PassDice(PlayerAsked);
   FrontEnd.DrawTable();
 }
 
 void RollTheDice() {
-  if (Table.RollInProgress == 0 && ConfirmScriptActive()) MakeRoll();
+  if (!Table.RollInProgress && ConfirmScriptActive()) MakeRoll();
 }
 
 bool TableIsIdle() {
-  return Table.RollInProgress == 0 && Table.HyperDriveOn == 0 && Table.AutoRollOn == 0;
+  return !Table.RollInProgress && !Table.HyperDriveOn && !Table.AutoRollOn;
 }
 
 bool TableIsOpen() {
-  return !TablePlay.DiceInAir && Table.HyperDriveOn == 0;
+  return !TablePlay.DiceInAir && !Table.HyperDriveOn;
 }
 
 bool KeyAmount(char key) {

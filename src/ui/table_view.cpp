@@ -119,7 +119,7 @@ void TableView::RebuildPositions() {
 
 QPointF TableView::PositionOf(int place, int number) const {
   const QPointF own = At(At(positions_, place), number);
-  if (Settings.AutoArrangeChips != 0 || number > LastBet) return own;
+  if (Settings.AutoArrangeChips || number > LastBet) return own;
   // Checks that are not arranged stand where they were put, if that is still inside their region.
   const QPointF put(Table.BetX[place][number], Table.BetY[place][number]);
   if (put.isNull()) return own;
@@ -318,7 +318,7 @@ void TableView::mousePressEvent(QMouseEvent* event) {
   const bool right = event->button() == Qt::RightButton;
   if (animating_) {
     EndAnimation();
-    if (right && Table.AutoRollOn != 0 && RightClick) RightClick();
+    if (right && Table.AutoRollOn && RightClick) RightClick();
     return;
   }
   if (event->button() == Qt::LeftButton) PressLeft(event->pos());
@@ -379,7 +379,7 @@ void TableView::ReleaseLeft(QPoint pixel, Qt::KeyboardModifiers modifiers) {
 // Checks that are not arranged stand where the first of them is put.
 void TableView::KeepClickedPosition(int spot, QPoint pixel) {
   const int place = CurrentPlace();
-  if (Settings.AutoArrangeChips != 0 || place == 0 || !IsBet(spot)) return;
+  if (Settings.AutoArrangeChips || place == 0 || !IsBet(spot)) return;
   if (Bet(place, spot) > Money()) return;
   const QPoint at = ToLayout(pixel).toPoint();
   Table.BetX[place][spot] = at.x();
@@ -417,7 +417,7 @@ void TableView::MoveHotSpot(int dx, int dy) {
   if (best == 0) return;
   SetHotSpot(best);
   chosenByKeys_ = true;
-  if (Settings.SnapMouse == 0) return;
+  if (!Settings.SnapMouse) return;
   pointer_ = PixelOf(place, best);
   QCursor::setPos(mapToGlobal(pointer_));
 }

@@ -38,7 +38,7 @@ QPointF Between(QPointF from, QPointF to, double t) {
 
 // How long the dice tumble: shorter when Auto-Roll leaves less time between two rolls.
 double TumbleMs() {
-  if (Table.AutoRollOn == 0) return ThrowMs;
+  if (!Table.AutoRollOn) return ThrowMs;
   const double delay = static_cast<double>(Settings.RollDelay.Raw()) / 10;  // milliseconds
   return std::clamp(delay / 2, 60.0, ThrowMs);
 }
@@ -200,9 +200,9 @@ void TableView::PaintMovingThings(QPainter& painter) {
 }
 
 void TableView::StartFlight(int place, int number, Money before, Money now) {
-  if (MotionIsReduced() || Table.HyperDriveOn != 0 || !isVisible() || !IsBet(number)) return;
+  if (MotionIsReduced() || Table.HyperDriveOn || !isVisible() || !IsBet(number)) return;
   // Under Auto-Roll everything moves at once; nothing could be followed.
-  if (Table.AutoRollOn != 0 && Settings.RollDelay < 1) return;
+  if (Table.AutoRollOn && Settings.RollDelay < 1) return;
   const QPointF bet = PositionOf(place, number);
   const QPointF rail = RailPlaceArea(place).center();
   const bool arrives = now > before;

@@ -60,7 +60,7 @@ class Actions : public RulesTest {
     return {number, static_cast<int8_t>(place), 0, ModWagered, ModCurrentAmount};
   }
   static void Allow() {
-    Scripts.AllowReset[Ann] = Scripts.AllowAct4Others[Ann] = Scripts.AllowActProb[Ann] = -1;
+    Scripts.AllowReset[Ann] = Scripts.AllowAct4Others[Ann] = Scripts.AllowActProb[Ann] = true;
   }
   static ScriptValue FromRoll() { return {StringToken, FromRollString}; }
   static std::string Content(const std::string& name) {
@@ -169,25 +169,25 @@ TEST_F(Actions, StartSessionsThatKeepWhatIsAsked) {
   };
   Allow();
   started.clear();
-  Table.RollInProgress = -1;
+  Table.RollInProgress = true;
   Run(115);
   for (int32_t action = 100; action <= 103; ++action) {
-    AutoBet.TableWasReset = AutoBet.NewSessionBegins = 0;
+    AutoBet.TableWasReset = AutoBet.NewSessionBegins = false;
     EXPECT_EQ(Run(action), 0);
-    EXPECT_EQ(AutoBet.TableWasReset, -1);
-    EXPECT_EQ(AutoBet.NewSessionBegins, -1);
+    EXPECT_TRUE(AutoBet.TableWasReset);
+    EXPECT_TRUE(AutoBet.NewSessionBegins);
   }
   EXPECT_EQ(started, "srSrsRSR");
   EXPECT_EQ(Table.StopReason, "Stopped by Auto-Bet command.");
 }
 
 TEST_F(Actions, StopARunAtOnceOnlyBetweenRolls) {
-  Table.AutoRollOn = Table.RollInProgress = -1;
+  Table.AutoRollOn = Table.RollInProgress = true;
   Run(115);
-  EXPECT_EQ(Table.AutoRollOn, -1);
-  Table.RollInProgress = 0;
+  EXPECT_TRUE(Table.AutoRollOn);
+  Table.RollInProgress = false;
   Run(115);
-  EXPECT_EQ(Table.AutoRollOn, 0);
+  EXPECT_FALSE(Table.AutoRollOn);
   EXPECT_EQ(Table.StopReason, "");
   EXPECT_EQ(Said(), "Stopped by Auto-Bet command.");
 }
@@ -213,7 +213,7 @@ TEST_F(Actions, ShowMessagesAndPlaySoundsOnlyWhereTheyAreWanted) {
   }
   ASSERT_EQ(Shown.size(), 4u);
   EXPECT_EQ(Shown[3].Title + ":" + Shown[3].Text, "Auto-Bet (Ann): Up\r$5 ");
-  Settings.DisableAutoBetSounds = -1;
+  Settings.DisableAutoBetSounds = true;
   EXPECT_EQ(Run(212, {MakeText("a.wav")}), 992);
 }
 
@@ -285,14 +285,14 @@ TEST_F(Actions, SwitchTheProbabilityMatrix) {
   Probability = {};
   for (const char* const bad : {"gone.prb", "bad.prb", "."})
     EXPECT_EQ(Run(213, {MakeText(bad)}), 1008) << bad;
-  EXPECT_EQ(Probability.ProbabilityMatrixActive, 0);
+  EXPECT_FALSE(Probability.ProbabilityMatrixActive);
   EXPECT_EQ(Said(), "");
   EXPECT_EQ(Run(213, {MakeText("skew.prb")}), 0);
   EXPECT_EQ(ShareOf(2, 1), 1234);
   EXPECT_EQ(Run(114), 0);
-  EXPECT_EQ(Probability.ProbabilityMatrixActive, 0);
+  EXPECT_FALSE(Probability.ProbabilityMatrixActive);
   EXPECT_EQ(Run(213), 0);
-  EXPECT_EQ(Probability.ProbabilityMatrixActive, -1);
+  EXPECT_TRUE(Probability.ProbabilityMatrixActive);
 }
 
 }  // namespace

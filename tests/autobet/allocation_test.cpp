@@ -42,7 +42,7 @@ int RollsLeft = 0;
 
 void RollFor(int rolls) {
   RollsLeft = rolls;
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   MakeRoll();
 }
 
@@ -56,7 +56,7 @@ TEST(ScriptsUnderTheHyperDrive, AllocateNothing) {
   }
   InitializeScripts();
   FrontEnd.RunPendingEvents = [] {
-    if (--RollsLeft == 0) Table.HyperDriveOn = 0;
+    if (--RollsLeft == 0) Table.HyperDriveOn = false;
   };
   RollFor(2'000);
   const long before = Allocations;

@@ -162,9 +162,9 @@ TEST_F(CheckerTest, SpellsGroupsOut) {
   EXPECT_EQ(count("big bets"), 2);
   EXPECT_EQ(count("hard bets"), 4);
   EXPECT_EQ(count("inside lay bets, place bets player(count(big bets))"), 4 + 6 * (1 + 2));
-  Settings.UseBig68 = 0;
+  Settings.UseBig68 = false;
   EXPECT_EQ(count("bets"), 91);
-  Settings.UseSpecialPropBets = Settings.UseMidwayBet = Settings.UseFireBet = 0;
+  Settings.UseSpecialPropBets = Settings.UseMidwayBet = Settings.UseFireBet = false;
   EXPECT_EQ(count("bets"), 81);
 }
 

@@ -37,10 +37,10 @@ std::vector<std::string> StepsOf(std::vector<std::string> lines) {
   FrontEnd.ShowStep = [](const ScriptStep& step) {
     Shown.push_back(std::to_string(step.line) + " " + OnOneLine(step.text));
   };
-  AutoBet.ShowSteps = -1;
+  AutoBet.ShowSteps = true;
   RunAutoBet();
   FrontEnd = {};
-  AutoBet.ShowSteps = 0;
+  AutoBet.ShowSteps = false;
   return Shown;
 }
 
@@ -79,7 +79,7 @@ TEST(ScriptCycle, TakesUpWhatChangesDuringTheHyperDrive) {
   const TemporaryFolder folder;
   ActivateScript(folder, {"cs1 = 1"});
   Settings.BetNeededToShoot = 0;
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   FrontEnd.RunPendingEvents = [] {
     if (RollsInSession() == 1) {
       Scripts.Places[1].lines = {"cs2 = 2"};
@@ -94,7 +94,7 @@ TEST(ScriptCycle, TakesUpWhatChangesDuringTheHyperDrive) {
   EXPECT_EQ(Bet(1, FirstStack + 1), Money(1));
   EXPECT_EQ(Bet(1, FirstStack + 2), Money(2));
   EXPECT_EQ(RollsInSession(), 3);
-  EXPECT_EQ(Table.HyperDriveOn, 0);
+  EXPECT_FALSE(Table.HyperDriveOn);
   NewScript(1);
 }
 

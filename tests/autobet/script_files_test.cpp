@@ -197,16 +197,16 @@ TEST_F(FilesOfScripts, ActivationAsksForOneCycleAndKeepsTheOthersActive) {
   const std::string chance = "\r\rYou have an opportunity now to run ";
   EXPECT_EQ(Shown, Strings{"Auto-Bet: Ann's auto-bet script has been activated." + chance +
                            "Ann's script" + middle + "Ann's auto-bet script now?"});
-  EXPECT_EQ(Scripts.ScriptActive, (PerPlace<int32_t>{-1, -1, 0, 0, -1}));
+  EXPECT_EQ(Scripts.ScriptActive, (PerPlace<bool>{true, true, false, false, true}));
   EXPECT_FALSE(Scripts.ProgramReady);
-  EXPECT_EQ(AutoBet.Initializing, 0);
+  EXPECT_FALSE(AutoBet.Initializing);
 
   NewScript(1);
   Shown.clear();
   ActivateScript(9);
   EXPECT_EQ(Shown, Strings{"Auto-Bet: All players' auto-bet scripts have been activated." + chance +
                            "each script" + middle + "all auto-bet scripts now?"});
-  EXPECT_EQ(Scripts.ScriptActive, (PerPlace<int32_t>{-1, -1, 0, 0, -1}));
+  EXPECT_EQ(Scripts.ScriptActive, (PerPlace<bool>{true, true, false, false, true}));
 }
 
 TEST_F(FilesOfScripts, FirstCycleIsMarkedOnlyWhileItRuns) {
@@ -216,14 +216,14 @@ TEST_F(FilesOfScripts, FirstCycleIsMarkedOnlyWhileItRuns) {
   const auto stacks = [] { return std::pair(Bet(2, FirstStack + 5), Bet(2, FirstStack + 6)); };
   ActivateScript(2);
   EXPECT_EQ(stacks(), std::pair(Money(1), Money(0)));
-  EXPECT_TRUE(StartNewGame({.keepStacks = -1}, true));
+  EXPECT_TRUE(StartNewGame({.keepStacks = true}, true));
   EXPECT_EQ(stacks(), std::pair(Money(2), Money(1)));
-  EXPECT_EQ(AutoBet.Initializing, 0);
-  EXPECT_EQ(AutoBet.NewSessionBegins, 0);
+  EXPECT_FALSE(AutoBet.Initializing);
+  EXPECT_FALSE(AutoBet.NewSessionBegins);
   Put("key.bet", "if initializing script then\nadd 5 to checkstack5 player(2)\nendif\n");
-  Scripts.AllowAct4Others[0] = -1;
+  Scripts.AllowAct4Others[0] = true;
   RunHotKeyScript("key.bet");
-  EXPECT_EQ(AutoBet.HotKeyRun, 0);
+  EXPECT_FALSE(AutoBet.HotKeyRun);
   EXPECT_FALSE(Scripts.ProgramReady);
   EXPECT_EQ(Scripts.Places[0].ScriptFile, "key.bet");
 }

@@ -206,14 +206,14 @@ void ScriptFiles::Play(const std::filesystem::path& path) {
   ReadExpectations(lines);
   Scripts.Places[owner_].lines = lines;
   SetScriptActive(owner_, true);
-  AutoBet.ShowSteps = -1;
+  AutoBet.ShowSteps = true;
   CompiledScript script;
   const std::optional<ScriptError> error = CheckScript(owner_, script);
   ASSERT_FALSE(error) << Runner.file << ":" << error->line << ": " << error->text;
   CheckScriptErrors();
-  AutoBet.Initializing = AutoBet.NewSessionBegins = -1;
+  AutoBet.Initializing = AutoBet.NewSessionBegins = true;
   RunAutoBet();
-  AutoBet.Initializing = 0;
+  AutoBet.Initializing = false;
   CompareCycle(dice_.empty());
   for (size_t k = 0; k < dice_.size(); ++k) {
     MakeRoll(dice_[k]);
@@ -278,11 +278,11 @@ TEST_F(ScriptFiles, OfTheSamplesRunWithoutAnError) {
     CompiledScript script;
     ASSERT_EQ(Described(CheckScript(1, script)), "no error");
     CheckScriptErrors();
-    AutoBet.Initializing = AutoBet.NewSessionBegins = -1;
+    AutoBet.Initializing = AutoBet.NewSessionBegins = true;
     RunAutoBet();
-    AutoBet.Initializing = 0;
+    AutoBet.Initializing = false;
     Settings.AutoStopRolls = 2'000;
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     MakeRoll();
     EXPECT_EQ(Stats.RollCount[AllSessions][0], 2'000);
     EXPECT_GT(Stats.Bets[AllSessions + 1][bet::PassLine].Tendered.Count +

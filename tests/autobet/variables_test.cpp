@@ -285,7 +285,7 @@ TEST_F(VariablesTest, SkewedDice) {
   const std::vector<ListItem> seven = {{0, Number(7)}};
   EXPECT_NEAR(Statistic(25, table, seven), 100 / 6.0, 1e-9);
   EXPECT_EQ(Statistic(33, table, seven), 50);
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
   EXPECT_EQ(Statistic(25, table, seven), 50);
   EXPECT_EQ(Statistic(32, table, seven), 0.5);
   EXPECT_NEAR(Statistic(31, table, seven), 1 / 6.0, 1e-9);
@@ -400,7 +400,7 @@ TEST_F(VariablesTest, SwitchesActAtOnce) {
   EXPECT_EQ(Write(702, -1), None);
   EXPECT_EQ(Bet(Ann, bet::Place6), Money());
   EXPECT_EQ(Write(703, 5), None);
-  EXPECT_EQ(Table.DeclinesDice[Ann], -1);
+  EXPECT_TRUE(Table.DeclinesDice[Ann]);
   EXPECT_EQ(Write(700, 0.0), None);
   EXPECT_EQ(Bet(Ann, bet::PassLineOdds), Money(30));
 }

@@ -270,7 +270,7 @@ TEST_F(Configuration, ListsOfBetsChangeBySelection) {
   const int comps[] = {bet::PassLineOdds, bet::Fire};
   ChangeCompBets(comps, ListChoice::Flip);
   EXPECT_EQ(CompBetRowText(bet::PassLineOdds), "Yes - Pass Line Odds");
-  EXPECT_EQ(Settings.CompBet[bet::Fire], 0);
+  EXPECT_FALSE(Settings.CompBet[bet::Fire]);
   ChangeCompBets(comps, ListChoice::Default);
   EXPECT_EQ(Settings.CompBet, SettingsState::DefaultCompBets());
 

@@ -66,7 +66,7 @@ TEST_F(PopupRolls, RollByHandWaitsHalfASecond) {
   MakeRoll();
   EXPECT_NEAR(static_cast<double>(TickMilliseconds() - before), 500, 10);
   EXPECT_EQ(RollsInSession(), 0);
-  EXPECT_EQ(Table.RollInProgress, 0);
+  EXPECT_FALSE(Table.RollInProgress);
   HoldClock({2026, 11, 22, 23, 59, 59, 990});
   MakeRoll();
   EXPECT_LT(Now().millisecond, 100) << "midnight ends the wait";
@@ -79,13 +79,13 @@ TEST_F(PopupRolls, RunWaitsForEachFileAndForTheUser) {
     if (RollsInSession() < 2) {
       Drop("12");
     } else {
-      Table.AutoRollOn = Table.HyperDriveOn = 0;
+      Table.AutoRollOn = Table.HyperDriveOn = false;
     }
   };
-  Table.AutoRollOn = Table.HyperDriveOn = -1;
+  Table.AutoRollOn = Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(RollsInSession(), 2);
-  EXPECT_EQ(PopupRoll.PopupRollActive, 0);
+  EXPECT_FALSE(PopupRoll.PopupRollActive);
   EXPECT_EQ(Shown.back().second, "Would you like to close the pop-up roll file?");
 }
 

@@ -74,7 +74,7 @@ TEST_F(AmountAdjustment, AmountsMoveToTheirUnitByTheBiasOfTheirKind) {
       {Field, Places, Up, 7, 7, ""},
       {PassLine, Do, Up, 7, 17, ""},
       {Hard4, Places, Up, 7, 7, ""},
-      {Place6, Places, Up, 14, 14, "", [] { Table.AutoAdjustBetAmounts[Ann] = 0; }},
+      {Place6, Places, Up, 14, 14, "", [] { Table.AutoAdjustBetAmounts[Ann] = false; }},
   };
   for (const Case& test : cases) {
     StartOver();

@@ -126,7 +126,7 @@ TEST_F(BetHandling, ModifyFigures) {
 TEST_F(BetHandling, WhatCannotStayComesDownWhateverTheChoice) {
   Table.HandleWinningBets[1] = WinPressDouble;
   Table.HandleLosingBets[1] = LossPressDouble;
-  Settings.AllowPutBets = 0;
+  Settings.AllowPutBets = false;
   Ask(bet::PassLine, 10);
   Throw(4, 2);
   Ask(bet::PassLineOdds, 20);
@@ -141,7 +141,7 @@ TEST_F(BetHandling, WhatCannotStayComesDownWhateverTheChoice) {
 }
 
 TEST_F(BetHandling, WhatCannotStayComesDownWhateverIsAnswered) {
-  Settings.AllowPutBets = 0;
+  Settings.AllowPutBets = false;
   const struct {
     int box, number;
     int die1, die2;
@@ -150,7 +150,7 @@ TEST_F(BetHandling, WhatCannotStayComesDownWhateverIsAnswered) {
     for (const int button : {1, 2, 3, 4, 5, 6}) {
       Table = TableState{};
       SetUp();
-      Settings.AllowPutBets = 0;
+      Settings.AllowPutBets = false;
       Throw(4, 2);
       Ask(each.box, 10);
       Throw(3, 1);
@@ -194,14 +194,14 @@ TEST_F(BetHandling, ParlayOfAPushSetsTheLargestBet) {
 
 TEST_F(BetHandling, FaultWhileABetTravelsLeavesSoundsAndRulesInForce) {
   Settings.OddsCalcMethod = 4;
-  Table.AutoTakeFullOdds[1] = -1;
+  Table.AutoTakeFullOdds[1] = true;
   Payoffs.Payoff[bet::Come4Odds].PayDen = 0;
   Throw(4, 2);
   Ask(bet::Come, 10);
   Throw(3, 1);
   EXPECT_EQ(Talk.messages.back(), "Error: Division by zero, Error #11 occurred at: MakeRoll");
   EXPECT_EQ(Bet(1, bet::Come4), 10);
-  EXPECT_EQ(Settings.DisableAllSound, 0);
+  EXPECT_FALSE(Settings.DisableAllSound);
   EXPECT_FALSE(Table.BetMoving);
 }
 
@@ -216,8 +216,8 @@ TEST_F(BetHandling, NumbersThatAreNoBetsTakeNoMoney) {
 
 TEST_F(BetHandling, HyperDriveNeverAsks) {
   Ask(bet::Field, 10);
-  Table.HyperDriveOn = -1;
-  FrontEnd.RunPendingEvents = [] { Table.HyperDriveOn = 0; };
+  Table.HyperDriveOn = true;
+  FrontEnd.RunPendingEvents = [] { Table.HyperDriveOn = false; };
   Throw(4, 5);
   EXPECT_EQ(Bet(1, bet::Field), 0);
   EXPECT_TRUE(Talk.shown.empty());
@@ -298,7 +298,7 @@ TEST_F(BetHandling, LineOddsThatWereCalledOffAreTold) {
 
 TEST_F(BetHandling, ComingDownBehindATravellingBetIsHeardOnlyOfBetsThatStand) {
   static int sounds;
-  Table.AutoDownPlaceBets[1] = -1;
+  Table.AutoDownPlaceBets[1] = true;
   Ask(bet::PassLine, 10);
   Ask(bet::Place6, 12);
   sounds = 0;

@@ -43,9 +43,9 @@ void Expect(const Case& test, Money left, const std::string& said) {
 }
 
 TEST_F(Bets, RulesOfTheMomentCutWhatIsAsked) {
-  const auto noPuts = [] { Settings.AllowPutBets = 0; };
+  const auto noPuts = [] { Settings.AllowPutBets = false; };
   const auto moving = [] {
-    Settings.AllowPutBets = 0;
+    Settings.AllowPutBets = false;
     Table.BetMoving = true;
   };
   const auto minimumTen = [] { Settings.MinPlacardBet = 10; };
@@ -216,7 +216,7 @@ TEST_F(Bets, AmountsAreBroughtIntoTheirLimits) {
       {PassLine, 500, 500, 0, 100, "The maximum Pass Line bet is $100" + Standing("100", true), 0,
        maximumHundred},
       {Fire, 0, 0, 5, 0, "The maximum Fire bet is $0" + Standing("0", false), 0,
-       [] { Settings.UseFireBet = 0; }},
+       [] { Settings.UseFireBet = false; }},
   };
   for (const Case& test : cases) {
     StartOver();
@@ -241,7 +241,7 @@ TEST_F(Bets, BankrollCutsWhatItCannotPay) {
     const char* Notice;
     void (*Rule)() = [] {};
   };
-  const auto winnersPay = [] { Settings.BuyVigAllBets = Settings.LayVigAllBets = 0; };
+  const auto winnersPay = [] { Settings.BuyVigAllBets = Settings.LayVigAllBets = false; };
   const auto minimumTen = [] { Settings.MinPlacardBet = 10; };
   const BankrollCase cases[] = {
       {Place6, 0, 0, 50, 50, nullptr},
@@ -251,7 +251,7 @@ TEST_F(Bets, BankrollCutsWhatItCannotPay) {
       {Place6, 50, 12, 0, 0, "$0 which is being bet."},
       {Place6, 60, 20, -4, 0, "$0 which is being bet."},
       {Place6, 44.5, 0, 10, 5, "$5 which is being bet."},
-      {Place6, 0, 0, 60, 60, nullptr, [] { Table.AllowNegBankroll[Ann] = -1; }},
+      {Place6, 0, 0, 60, 60, nullptr, [] { Table.AllowNegBankroll[Ann] = true; }},
       // 48 carries a vig of 2.40, rounded to 2; 49 and its 2.45 would make 51.
       {Buy4, 0, 0, 50, 48, "$48 which is being bet."},
       {Buy4, 0, 0, 50, 50, nullptr, winnersPay},
@@ -340,7 +340,7 @@ TEST_F(Bets, ChangesOfVigAreTold) {
     EXPECT_EQ(Table.MoneyOnTable[Ann], Money(step.OnTable));
     EXPECT_EQ(CheckTable(), "");
   }
-  Settings.BuyVigAllBets = Settings.LayVigAllBets = 0;
+  Settings.BuyVigAllBets = Settings.LayVigAllBets = false;
   const Step onWinners[] = {
       {Buy4, 20, "If you win, the vig charge will be $1\rVig increased by $1", 20},
       {Lay4, 100, "If you win, the vig charge will be $3\rVig increased by $3", 120},
@@ -378,7 +378,7 @@ TEST_F(Bets, EveryKindOfMessageCanBeSilencedAndItsRuleHolds) {
       StartOver();
       if (silencer == 1) Table.MessageSwitches &= ~kind.Switch;
       if (silencer == 2) Settings.Notices &= ~kind.Notice;
-      if (silencer == 3) Table.HyperDriveOn = -1;
+      if (silencer == 3) Table.HyperDriveOn = true;
       if (silencer == 4) {
         const SilentBets silent;
         kind.Try();
@@ -423,7 +423,7 @@ TEST_F(Bets, OddsFollowTheirFlatBet) {
   for (const FollowCase& test : cases) {
     StartOver();
     Table.Point = test.Point;
-    Table.AutoTakeFullOdds[Ann] = Table.AutoLayFullOdds[Ann] = test.KeepFull ? -1 : 0;
+    Table.AutoTakeFullOdds[Ann] = Table.AutoLayFullOdds[Ann] = test.KeepFull;
     PutDown(Ann, test.Flat, test.FlatBefore);
     PutDown(Ann, test.Odds, test.OddsBefore);
     Place(test.Flat, test.Change);
@@ -574,10 +574,10 @@ TEST_F(Bets, OpenViewsFollowChangesOutsideRolls) {
   Ask(Place6, 12);
   Ask(FirstStack, 12);
   EXPECT_EQ(refreshed, 2);
-  Table.RollInProgress = -1;
+  Table.RollInProgress = true;
   Ask(Place6, 12);
-  Table.RollInProgress = 0;
-  Table.HyperDriveOn = -1;
+  Table.RollInProgress = false;
+  Table.HyperDriveOn = true;
   Ask(Place6, 12);
   EXPECT_EQ(refreshed, 2);
 }
@@ -588,7 +588,7 @@ TEST_F(Bets, RandomRequestsKeepTheTableRight) {
   const auto pick = [&random](int count) { return static_cast<int>(random() % unsigned(count)); };
   for (int round = 0; round < 60; ++round) {
     StartOver();
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     if (pick(2) != 0) UseChecks(0.25, 1, 5, 25, 100);
     Settings.AllowPutBets = -pick(2);
     Settings.BuyVigAllBets = Settings.LayVigAllBets = -pick(2);

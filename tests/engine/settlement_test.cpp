@@ -326,8 +326,8 @@ class RuleCard : public RollTest, public ::testing::WithParamInterface<House> {
 TEST_P(RuleCard, HoldsForEveryBetOnEveryRollInEveryState) {
   LiftLimits();
   Settings.BarNumber = GetParam().barred;
-  Settings.AllowPutBets = GetParam().putBets ? -1 : 0;
-  Settings.LayVigAllBets = Settings.BuyVigAllBets = GetParam().vigUpFront ? -1 : 0;
+  Settings.AllowPutBets = GetParam().putBets;
+  Settings.LayVigAllBets = Settings.BuyVigAllBets = GetParam().vigUpFront;
   for (int place = 1; place <= LastPlace; ++place)
     Seat(place);
   const TableState fresh = Table;
@@ -417,7 +417,7 @@ TEST_F(Settlement, HandBetsPayByWhatTheShooterMade) {
 
 TEST_F(Settlement, WithTheSpecialBetsOffTheyRestWhileFireAndMidwayPlay) {
   LiftLimits();
-  Settings.UseSpecialPropBets = 0;
+  Settings.UseSpecialPropBets = false;
   Seat(1);
   for (const int number : {bet::SharpShooter, bet::RideTheLine, bet::Point7, bet::SevenPoint7,
                            bet::AllSmall, bet::FourRollsNo7, bet::Fire, bet::Midway}) {
@@ -825,7 +825,7 @@ TEST_F(Settlement, BoxMovesToItsNumber) {
   EXPECT_EQ(Bet(3, bet::Place10) + Bet(3, bet::Buy10), Money(40));
   EXPECT_FALSE(Table.BetMoving);
 
-  Table.AutoDownPlaceBets[3] = -1;
+  Table.AutoDownPlaceBets[3] = true;
   PutDown(3, bet::DontCome, 15);
   MoveBet(3, bet::DontCome, bet::DontCome10);
   EXPECT_EQ(Bet(3, bet::DontCome10), Money(15));
@@ -840,8 +840,8 @@ TEST_F(Settlement, BoxMovesToItsNumber) {
 }
 
 TEST_F(Settlement, TravellingIgnoresTheRulesOnNumbersAndKeepsTheSoundSwitch) {
-  Settings.AllowPutBets = 0;
-  for (const int32_t soundOff : {0, -1}) {
+  Settings.AllowPutBets = false;
+  for (const bool soundOff : {false, true}) {
     Reset();
     Settings.DisableAllSound = soundOff;
     FrontEnd.PlaySound = [](Sound) { ADD_FAILURE() << "a sound"; };

@@ -48,15 +48,15 @@ TEST_F(AutoRolling, StopsAtEachMultipleOfTheCount) {
                                     : std::pair(std::string("Auto-Roll Stopped"),
                                                 std::string("Stopped by Auto-Stop")));
     }
-    EXPECT_EQ(Table.AutoRollOn, 0);
-    EXPECT_EQ(Table.HyperDriveOn, 0);
+    EXPECT_FALSE(Table.AutoRollOn);
+    EXPECT_FALSE(Table.HyperDriveOn);
   }
 }
 
 TEST_F(AutoRolling, SwitchStopsWithoutAMessage) {
   FrontEnd.RunPendingEvents = [] {
-    EXPECT_EQ(Table.HyperDriveOn != 0, HyperDriveCaption() == GetText(114));
-    EXPECT_EQ(Table.HyperDriveOn == 0, AutoRollCaption() == GetText(117));
+    EXPECT_EQ(Table.HyperDriveOn, HyperDriveCaption() == GetText(114));
+    EXPECT_EQ(!Table.HyperDriveOn, AutoRollCaption() == GetText(117));
     if (RollsInSession() % 5 == 0) ToggleAutoRoll();
   };
   Settings.RollDelay = 300;
@@ -69,9 +69,9 @@ TEST_F(AutoRolling, SwitchStopsWithoutAMessage) {
   EXPECT_EQ(Shown, Shows{});
   EXPECT_EQ(HyperDriveCaption(), GetText(112));
   EXPECT_EQ(AutoRollCaption(), GetText(115));
-  Table.RollInProgress = -1;
+  Table.RollInProgress = true;
   StartAutoRoll();
-  EXPECT_EQ(Table.AutoRollOn, 0);
+  EXPECT_FALSE(Table.AutoRollOn);
 }
 
 TEST_F(AutoRolling, EndOfTheRollFileIsAskedAboutAtTheTableOnly) {
@@ -87,7 +87,7 @@ TEST_F(AutoRolling, EndOfTheRollFileIsAskedAboutAtTheTableOnly) {
                {StartAutoRoll, asked},
                {[] { MakeRoll(), MakeRoll(), MakeRoll(); }, {asked[1]}},
                {[] {
-                  Table.HyperDriveOn = -1;
+                  Table.HyperDriveOn = true;
                   MakeRoll();
                 },
                 {asked[0]}}};
@@ -146,23 +146,23 @@ TEST_F(AutoRolling, RunningScriptIsStoppedOnlyOnYes) {
   EXPECT_TRUE(ConfirmScriptActive());
   EXPECT_EQ(Shown, Shows{});
   AutoBet.CurrentScriptPlayer = 1;
-  AutoBet.ScriptRunning = Table.AutoRollOn = -1;
+  AutoBet.ScriptRunning = Table.AutoRollOn = true;
   EXPECT_FALSE(ConfirmScriptActive());
-  EXPECT_EQ(Table.AutoRollOn, -1);
+  EXPECT_TRUE(Table.AutoRollOn);
   EXPECT_EQ(
       Shown,
       Shows({{"Auto-Bet Active", "Do you want to stop auto-betting?\r\rP1's script processing."}}));
   FrontEnd.ShowMessage = [] { Message.MsgResult = AnswerYes; };
   EXPECT_TRUE(ConfirmScriptActive());
-  EXPECT_EQ(AutoBet.ScriptRunning, 0);
-  EXPECT_EQ(AutoBet.AutoBetMessageStop, -1);
-  EXPECT_EQ(Table.AutoRollOn, 0);
+  EXPECT_FALSE(AutoBet.ScriptRunning);
+  EXPECT_TRUE(AutoBet.AutoBetMessageStop);
+  EXPECT_FALSE(Table.AutoRollOn);
 }
 
 TEST_F(AutoRolling, InterruptedHyperDriveTellsWhy) {
-  Table.AutoRollOn = Table.HyperDriveOn = -1;
+  Table.AutoRollOn = Table.HyperDriveOn = true;
   InterruptAutoBetting();
-  EXPECT_EQ(Table.HyperDriveOn, 0);
+  EXPECT_FALSE(Table.HyperDriveOn);
   EXPECT_EQ(Shown, Shows({{"Hyper-Drive Stopped", "Auto-betting interrupted."}}));
 }
 

@@ -115,7 +115,7 @@ class HouseEdges : public ::testing::Test {
     Settings.MaxPropBetPayoff = 100'000;
     for (int place = 1; place <= LastPlace; ++place) {
       SeatPlayer(place, "Player " + std::string(1, static_cast<char>('A' + place)), 9'000'000);
-      Table.AllowNegBankroll[place] = -1;
+      Table.AllowNegBankroll[place] = true;
     }
     NewSession({});
     SelectRNG(1);
@@ -130,7 +130,7 @@ class HouseEdges : public ::testing::Test {
 
 TEST_F(HouseEdges, OfALongRunAreTheExactOnes) {
   Settings.AutoStopRolls = RollsAsked();
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   FrontEnd.RunPendingEvents = BringBetsToTheirAmounts;
   BringBetsToTheirAmounts();
   MakeRoll();

@@ -39,12 +39,12 @@ class LongRun : public StatsTest {
   };
 
   static std::vector<Wager> SeatAll() {
-    Settings.UseMidwayBet = Settings.UseFireBet = Settings.UseSpecialPropBets = -1;
+    Settings.UseMidwayBet = Settings.UseFireBet = Settings.UseSpecialPropBets = true;
     std::vector<Wager> wagers;
     for (int place = 1; place <= LastPlace; ++place) {
       SeatPlayer(place, "Player " + std::string(1, static_cast<char>('A' + place)), 1'000'000);
-      Table.AllowNegBankroll[place] = -1;
-      Table.AutoTakeFullOdds[place] = Table.AutoLayFullOdds[place] = -1;
+      Table.AllowNegBankroll[place] = true;
+      Table.AutoTakeFullOdds[place] = Table.AutoLayFullOdds[place] = true;
       for (const int number : At(Styles, place - 1).Bets)
         wagers.push_back({place, number, At(Styles, place - 1).Stake});
     }
@@ -128,7 +128,7 @@ TEST_F(LongRun, TheFiguresKeepStepWithTheMoneyAndWithEachOther) {
   const std::vector<Wager> wagers = SeatAll();
   for (int session = 1; session <= 2; ++session) {
     SCOPED_TRACE("session " + std::to_string(session));
-    NewSession({.keepSessions = -1});
+    NewSession({.keepSessions = true});
     Play(rolls, wagers, session);
     EXPECT_EQ(RollsInSession(), rolls) << Table.LastStopReason;
     EXPECT_EQ(CheckBooks(), "");

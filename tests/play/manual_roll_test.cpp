@@ -138,7 +138,7 @@ TEST_F(ManualRolls, ChoiceStopsARunInsteadOfRolling) {
     ToggleAutoRoll(mode);
     EXPECT_EQ(RollsInSession(), 20);
     EXPECT_FALSE(RollPadStopsRun());
-    EXPECT_EQ(Table.RollInProgress, 0);
+    EXPECT_FALSE(Table.RollInProgress);
   }
 }
 

@@ -34,7 +34,7 @@ TEST_F(Players, DiceGoDownTheNumbersAndSkipWhoDeclines) {
     EXPECT_EQ(Table.LastShooter, Table.Shooter);
   }
   EXPECT_EQ(order, "6516");
-  Table.DeclinesDice[5] = -1;
+  Table.DeclinesDice[5] = true;
   PassDice(HandEnded);
   EXPECT_EQ(Table.Shooter, 1);
   EXPECT_EQ(Said(), "");
@@ -42,7 +42,7 @@ TEST_F(Players, DiceGoDownTheNumbersAndSkipWhoDeclines) {
 
 TEST_F(Players, PassingIsRefusedWithItsReason) {
   const auto lineBetNeeded = [] {
-    Settings.AllowPutBets = 0;
+    Settings.AllowPutBets = false;
     Table.Point = 6;
   };
   struct Case {
@@ -59,17 +59,17 @@ TEST_F(Players, PassingIsRefusedWithItsReason) {
   const Case cases[] = {
       {{}, [] {}, "There are no players at the table." + cannot},
       {{4}, [] {}, "There are no other players at the table." + cannot},
-      {{4, 2}, [] { Table.DeclinesDice[2] = -1; }, notNow + "B doesn't want to shoot."},
+      {{4, 2}, [] { Table.DeclinesDice[2] = true; }, notNow + "B doesn't want to shoot."},
       {{4, 2, 8},
-       [] { Table.DeclinesDice[2] = Table.DeclinesDice[8] = -1; },
+       [] { Table.DeclinesDice[2] = Table.DeclinesDice[8] = true; },
        notNow + "None of the other players want to shoot."},
       {{4, 2}, lineBetNeeded, notNow + "There's one other player who wants to shoot " + wait},
       {{4, 2, 8}, lineBetNeeded, notNow + "There are 2 other players who want to shoot " + wait},
       {{4, 2, 8},
        [] {
-         Settings.AllowPutBets = 0;
+         Settings.AllowPutBets = false;
          Table.Point = 6;
-         Table.DeclinesDice[8] = -1;
+         Table.DeclinesDice[8] = true;
        },
        notNow + "There's one other player who wants to shoot " + wait},
   };
@@ -81,7 +81,7 @@ TEST_F(Players, PassingIsRefusedWithItsReason) {
       test.Rule();
       PassDice(HandEnded);
       EXPECT_EQ(Said(), "");
-      if (hyper) Table.HyperDriveOn = -1;
+      if (hyper) Table.HyperDriveOn = true;
       PassDice(PlayerAsked);
       if (!hyper) {
         ASSERT_EQ(Shown.size(), 1u);
@@ -105,13 +105,13 @@ TEST_F(Players, PointGoesOnlyToPlayersWithALineBetWhereOneIsNeeded) {
       {[] { PutDown(2, Field, 5); }, 6},
       {[] { Settings.BetNeededToShoot = 2; }, 4},
       {[] { Settings.BetNeededToShoot = 0; }, 4},
-      {[] { Settings.AllowPutBets = -1; }, 4},
+      {[] { Settings.AllowPutBets = true; }, 4},
       {[] { Table.Point = 0; }, 4},
   };
   for (const Case& test : cases) {
     StartOver();
     SeatAt({6, 4, 2});
-    Settings.AllowPutBets = 0;
+    Settings.AllowPutBets = false;
     Table.Point = 8;
     test.Rule();
     PassDice(HandEnded);
@@ -137,7 +137,7 @@ TEST_F(Players, HandThatGoesOnStaysWithWhoStartedIt) {
   PassDice(PlayerAsked);
   EXPECT_EQ(Said(), "B is passing the dice back to D who originally started this hand.");
   EXPECT_EQ(Table.Shooter, 4);
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   PassDice(PlayerAsked);
   EXPECT_EQ(Said(), "");
   EXPECT_EQ(Table.Shooter, 2);
@@ -187,21 +187,21 @@ TEST_F(Players, BankrollBeyondItsLimitStopsTheSession) {
     StartOver();
     sounds.clear();
     SetBankrollSlots(Ann, test.Bankroll);
-    Table.AutoRollOn = -1;
+    Table.AutoRollOn = true;
     for (int time = 0; time < 2; ++time) {
       BankrollLimitStop(Ann);
       EXPECT_EQ(Said(), test.Text);
     }
     EXPECT_EQ(sounds.size(), test.Sounds);
-    EXPECT_EQ(Table.AutoRollOn, 0);
+    EXPECT_FALSE(Table.AutoRollOn);
     EXPECT_EQ(Table.BankrollStopPlace, Ann);
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     BankrollLimitStop(Ann);
     EXPECT_EQ(Table.StopReason, test.Reason);
-    EXPECT_EQ(Table.HyperDriveOn, 0);
+    EXPECT_FALSE(Table.HyperDriveOn);
     EXPECT_EQ(Said(), test.Reason);
     Table.BankrollStopPlace = 0;
-    Settings.DisableAllSound = -1;
+    Settings.DisableAllSound = true;
     BankrollLimitStop(Ann);
     EXPECT_EQ(sounds.size(), test.Sounds);
   }

@@ -52,7 +52,7 @@ class Rail : public testing::Test {
  protected:
   void SetUp() override {
     StartUp("/tmp");
-    SessionsLog.KeepLogs = 0;
+    SessionsLog.KeepLogs = false;
     Settings.BetNeededToShoot = 0;
     Talk = {};
     FrontEnd.ShowMessage = AnswerDialog;
@@ -160,7 +160,7 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   ViewSelections.SummaryPlayer = 1u << 3 | 1u << 2;
   ViewSelections.CSPlayer = 3;
   Scripts.Places[3].ScriptFile = "ann.bet";
-  Scripts.AllowReset[3] = -1;
+  Scripts.AllowReset[3] = true;
   SetScriptActive(3, true);
   Scripts.ProgramReady = true;
   EXPECT_FALSE(MovePlayer(3, 9));
@@ -179,8 +179,9 @@ TEST_F(Rail, MovingTakesEverythingAlong) {
   EXPECT_EQ(ViewSelections.CSPlayer, 8);
   EXPECT_EQ(Scripts.Places[3], ScriptPlace());
   EXPECT_EQ(Scripts.Places[8].ScriptFile, "ann.bet");
-  EXPECT_EQ(Scripts.AllowReset[8], -1);
-  EXPECT_EQ(Scripts.ScriptActive, (PerPlace<int32_t>{-1, 0, 0, 0, 0, 0, 0, 0, -1}));
+  EXPECT_TRUE(Scripts.AllowReset[8]);
+  EXPECT_EQ(Scripts.ScriptActive,
+            (PerPlace<bool>{true, false, false, false, false, false, false, false, true}));
   EXPECT_FALSE(Scripts.ProgramReady);
 }
 
@@ -198,7 +199,7 @@ TEST_F(Rail, AScriptLeavesWithItsPlayerAndKnowsThePlayersByName) {
   EXPECT_FALSE(Scripts.ProgramReady);
   EXPECT_TRUE(DeletePlayer(2, false));
   EXPECT_EQ(Scripts.Places[2], ScriptPlace());
-  EXPECT_EQ(Scripts.ScriptActive, PerPlace<int32_t>());
+  EXPECT_EQ(Scripts.ScriptActive, PerPlace<bool>());
 }
 
 TEST_F(Rail, CallsOfAMoverAreNotNewsTwice) {

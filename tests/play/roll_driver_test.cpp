@@ -56,7 +56,7 @@ void ExpectSameGame(const TableState& a, const TableState& b) {
                        t.RideTheLinePasses,
                        t.GraphIndex,
                        t.LastDecidedPoint,
-                       t.RollInProgress};
+                       int32_t{t.RollInProgress}};
   };
   EXPECT_EQ(counters(a), counters(b));
 }
@@ -82,8 +82,8 @@ TEST_F(RollDriver, PointsFollowOneAnother) {
     EXPECT_EQ(Table.LastPoint, roll.last);
     EXPECT_EQ(Table.PointBeforeLast, roll.beforeLast);
     EXPECT_EQ(Table.LastDecidedPoint, roll.decided);
-    EXPECT_EQ(Table.RollInProgress, 0);
-    EXPECT_NE(Table.TableDirty, 0);
+    EXPECT_FALSE(Table.RollInProgress);
+    EXPECT_TRUE(Table.TableDirty);
   }
 }
 
@@ -135,13 +135,13 @@ TEST_F(RollDriver, GraphOfAnOpenPlaceKeepsNothingOfWhoLeft) {
 
 TEST_F(RollDriver, AutoRollGoesOnUntilSomethingStopsIt) {
   Seat(1);
-  Table.AutoRollOn = -1;
+  Table.AutoRollOn = true;
   FrontEnd.RunPendingEvents = [] {
     if (RollsInSession() == 3) Settings.BetNeededToShoot = 2;
   };
   Throw(1, 2);
   EXPECT_EQ(RollsInSession(), 3);
-  EXPECT_EQ(Table.AutoRollOn, 0);
+  EXPECT_FALSE(Table.AutoRollOn);
   EXPECT_EQ(Table.LastStopReason, "Shooter has no bet.");
 }
 
@@ -174,13 +174,13 @@ TEST_F(RollDriver, HyperDriveStopsAtTheBankrollLimitWithItsReason) {
     Reset();
     Settings.BetNeededToShoot = 0;
     Seat(1, Money(sign) * (Money(9'999'999) + Money::FromRaw(1)));
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     Throw(1, 2);
     EXPECT_EQ(Table.LastStopReason,
               (sign > 0 ? "Stopped by breaking the max bankroll limit of $9,999,999"
                         : "Stopped by exceeding the negative bankroll limit of -$9,999,999") +
                   NewGame);
-    EXPECT_EQ(Table.HyperDriveOn, 0);
+    EXPECT_FALSE(Table.HyperDriveOn);
     EXPECT_EQ(Table.StopReason, "");
   }
 }
@@ -226,12 +226,12 @@ TEST_F(RollDriver, RequiredBetIsAskedForInTheWordsOfTheHouse) {
       Throw(1, 2);
       const bool refused = !each.reason.empty();
       EXPECT_EQ(RollsInSession(), refused ? 0 : 1);
-      EXPECT_EQ(Table.RollInProgress, 0);
+      EXPECT_FALSE(Table.RollInProgress);
       EXPECT_EQ(Table.LastStopReason, refused      ? each.reason
                                       : hyper != 0 ? "Stopped by Auto-Stop."
                                                    : "");
       if (hyper != 0) {
-        EXPECT_EQ(Table.HyperDriveOn, 0);
+        EXPECT_FALSE(Table.HyperDriveOn);
       } else if (refused) {
         ASSERT_EQ(Shown.size(), 1u);
         EXPECT_EQ(Shown[0].first, each.title);
@@ -260,7 +260,7 @@ TEST_F(RollDriver, TwoThousandMillionRollsAreTheEndOfASession) {
 TEST_F(RollDriver, SevenOutPassesTheDiceDownTheRail) {
   for (const int place : {1, 5, 6, 8})
     Seat(place);
-  Table.DeclinesDice[8] = -1;
+  Table.DeclinesDice[8] = true;
   int shooter = 1;
   for (const int next : {6, 5, 1}) {
     Throw({{2, 2}, AnySeven});
@@ -272,7 +272,7 @@ TEST_F(RollDriver, SevenOutPassesTheDiceDownTheRail) {
   }
   Throw(AnySeven.first, AnySeven.second);
   EXPECT_EQ(Table.Shooter, 1) << "a natural keeps the dice";
-  Table.DeclinesDice[8] = 0;
+  Table.DeclinesDice[8] = false;
   Throw({{2, 2}, AnySeven});
   EXPECT_EQ(Table.Shooter, 8);
 }
@@ -316,8 +316,8 @@ TEST_F(RollDriver, CalledOffBetOutlivesTheSevenOut) {
 TEST_F(RollDriver, PointBringsOddsAndTheirRows) {
   Seat(1);
   Seat(2);
-  Table.AutoTakeFullOdds[1] = Table.AutoDownPlaceBets[1] = -1;
-  Table.AutoLayFullOdds[2] = -1;
+  Table.AutoTakeFullOdds[1] = Table.AutoDownPlaceBets[1] = true;
+  Table.AutoLayFullOdds[2] = true;
   PutDown(1, bet::PassLine, 10);
   PutDown(1, bet::Place6, 12);
   PutDown(1, bet::Place8, 12);
@@ -362,7 +362,7 @@ TEST_F(RollDriver, HyperDriveSurvivesAFaceOfSeven) {
   Dice.SeedRequest = 46169;
   ASSERT_TRUE(SeedRNG(-1));
   Settings.AutoStopRolls = 50;
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(RollsInSession(), 50);
   EXPECT_EQ(Table.LastStopReason, "Stopped by Auto-Stop.");
@@ -371,7 +371,7 @@ TEST_F(RollDriver, HyperDriveSurvivesAFaceOfSeven) {
 TEST_F(RollDriver, GeneratorZeroHasNoDice) {
   Seat(1);
   Dice.CurrentRNG = 0;
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   const TableState before = Table;
   MakeRoll();
   EXPECT_EQ(Table.LastStopReason, "No dice: random number generator #0 is selected.");
@@ -400,7 +400,7 @@ TEST_F(RollDriver, EndOfTheRollFileLeavesTheGameAsItStands) {
   PutDown(1, bet::Field, 10);
   OpenRollFile(file.string());
   RewindForPlayback();
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   Settings.AutoStopRolls = 3;
   MakeRoll();
   EXPECT_EQ(Table.LastStopReason, "Stopped by Auto-Stop.");
@@ -411,7 +411,7 @@ TEST_F(RollDriver, EndOfTheRollFileLeavesTheGameAsItStands) {
   SetBetWorking(1, bet::Field, CalledOff);
   const TableState before = Table;
   const auto counts = Stats.RollCount;
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(Table.LastStopReason, "Stopped due to end of Dice Roll File reached.");
   ExpectSameGame(Table, before);

@@ -109,15 +109,15 @@ TEST_F(Session, StartsWithAnEmptyTableUnderTheHouseRules) {
 TEST_F(Session, StartUpForgetsWhatWas) {
   PlayToPoint();
   Settings.MaxPlacardBet = 7;
-  Dice.ReseedEachSession = -1;
-  EventsLog.LogOn = -1;
+  Dice.ReseedEachSession = true;
+  EventsLog.LogOn = true;
   StartUp(Folder.Path());
   EXPECT_EQ(Table.PlayerCount, 0);
   EXPECT_EQ(Table.Point, 0);
   EXPECT_EQ(RollsInSession(), 0);
   EXPECT_EQ(Settings.MaxPlacardBet, Money(1000));
-  EXPECT_EQ(Dice.ReseedEachSession, 0);
-  EXPECT_EQ(EventsLog.LogOn, 0);
+  EXPECT_FALSE(Dice.ReseedEachSession);
+  EXPECT_FALSE(EventsLog.LogOn);
 }
 
 TEST_F(Session, ClearsTheTable) {
@@ -172,7 +172,7 @@ TEST_F(Session, AbandonedContractBetsAreLostUnlessTheHouseReturnsThem) {
     Table.MoneyOnTable[3] += 2;
     Table.BankrollInitType[3] = test.InitType;
     Settings.ReturnAbandonedBets = test.Returned;
-    NewSession({.keepSessions = -1});
+    NewSession({.keepSessions = true});
     EXPECT_EQ(PlainText(BankrollOf(3)), std::to_string(test.Bankroll));
     for (const auto& [number, lost] :
          {std::pair(PassLine, "5"), {Come4 + 3, "5"}, {SevenPoint7, "2"}}) {
@@ -187,7 +187,7 @@ TEST_F(Session, CheckStacksAreClearedUnlessKept) {
   SeatPlayer(3, "Ann", 100);
   Stake(3, FirstStack + 4, 10);
   Table.CheckStackName[3][4] = "rent";
-  NewSession({.keepStacks = -1});
+  NewSession({.keepStacks = true});
   EXPECT_EQ(Bet(3, FirstStack + 4), Money(10));
   EXPECT_EQ(Table.CheckStackName[3][4], "rent");
   // What was stacked since the last roll is still news for the log.
@@ -201,15 +201,15 @@ TEST_F(Session, CheckStacksAreClearedUnlessKept) {
 }
 
 TEST_F(Session, FormerSessionsAreKeptOnRequest) {
-  for (const int32_t keep : {-1, 0}) {
+  for (const bool keep : {true, false}) {
     StartUp(Folder.Path());
     PlayToPoint();
     Table.BankrollLow[AllSessions + 3] = 40;
     NewSession({.keepSessions = keep});
-    EXPECT_EQ(Stats.RollCount[AllSessions][0], keep != 0 ? 2 : 0);
-    EXPECT_EQ(Stats.Hands[AllSessions].HandCount, keep != 0 ? 1 : 0);
+    EXPECT_EQ(Stats.RollCount[AllSessions][0], keep ? 2 : 0);
+    EXPECT_EQ(Stats.Hands[AllSessions].HandCount, keep ? 1 : 0);
     EXPECT_EQ(Stats.Hands[LastSession].HandCount, 1);
-    EXPECT_EQ(Table.BankrollLow[AllSessions + 3], Money(keep != 0 ? 40 : 100));
+    EXPECT_EQ(Table.BankrollLow[AllSessions + 3], Money(keep ? 40 : 100));
   }
 }
 
@@ -269,7 +269,7 @@ TEST_F(Session, BankrollsStartByTheirType) {
 TEST_F(Session, NobodyIsAskedUnderTheHyperDrive) {
   SeatPlayer(3, "Ann", 130);
   Table.BankrollInitType[3] = 1;
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   NewSession({});
   EXPECT_TRUE(Shown.empty());
   EXPECT_EQ(BankrollOf(3), Money(130));
@@ -327,8 +327,8 @@ TEST_F(Session, LogTellsHowTheSessionBegan) {
   SeatPlayer(6, "Bob", 1500);
   SeatPlayer(3, "Ann", 100);
   OpenRollFile("test.rll");
-  EventsLog.LogOn = -1;
-  Dice.ReseedEachSession = -1;
+  EventsLog.LogOn = true;
+  Dice.ReseedEachSession = true;
   const std::string rule(44, '=');
   NewSession({.rollFileAction = RewindRollFile});
   const std::string opening = " New session started 2026-11-22 @ 19:04:05\r\n" + rule +
@@ -342,12 +342,12 @@ TEST_F(Session, LogTellsHowTheSessionBegan) {
   const std::string first =
       opening + "    Dice roll file playback actived (" + RollFile.RollFileName + ")\r\n" + shooter;
   EXPECT_EQ(LogText(), first);
-  Dice.ReseedEachSession = 0;
+  Dice.ReseedEachSession = false;
   NewSession({});
   const size_t seedLine = opening.find("    RNG");
   const std::string second = rule + "\r\n" + opening.substr(0, seedLine) + shooter;
   EXPECT_EQ(LogText(), first + second);
-  Settings.ClearEventsLogOnNew = -1;
+  Settings.ClearEventsLogOnNew = true;
   NewSession({});
   EXPECT_EQ(LogText(), opening.substr(0, seedLine) + shooter);
 }
@@ -355,17 +355,17 @@ TEST_F(Session, LogTellsHowTheSessionBegan) {
 TEST_F(Session, LeavingAsksToStopAnUnattendedRun) {
   EXPECT_TRUE(AskToLeave());
   EXPECT_TRUE(Shown.empty());
-  for (int32_t TableState::*run : {&TableState::HyperDriveOn, &TableState::AutoRollOn}) {
+  for (bool TableState::*run : {&TableState::HyperDriveOn, &TableState::AutoRollOn}) {
     FrontEnd.ShowMessage = [] {
       Shown.push_back(Message.MsgTitle + ": " + Message.MsgText);
       Message.MsgResult = Shown.size() == 1 ? AnswerNo : AnswerYes;
     };
     Shown.clear();
-    Table.*run = -1;
+    Table.*run = true;
     EXPECT_FALSE(AskToLeave());
-    EXPECT_EQ(Table.*run, -1);
+    EXPECT_TRUE(Table.*run);
     EXPECT_TRUE(AskToLeave());
-    EXPECT_EQ(Table.*run, 0);
+    EXPECT_FALSE(Table.*run);
     EXPECT_EQ(Shown[0], run == &TableState::HyperDriveOn
                             ? "Hyper-Drive Active: Do you want to stop the Hyper-Drive?"
                             : "Auto-Roll Active: Do you want to stop auto-rolling?");
@@ -399,7 +399,7 @@ TEST_F(Session, LeavingOffersToSaveTheMatrixAndKeepsTheGameWithItsRollFile) {
   SeatPlayer(2, "Ann", 100);
   SaveProbabilityFile("a.prb");
   Probability.ProbabilityMatrix.Shares[1][1] = 4242;
-  Probability.ProbabilityChanged = -1;
+  Probability.ProbabilityChanged = true;
   OpenRollFile("a.rol");
   HotKeys.Rows = {{"A", "a.bet", ""}};
   std::ofstream(Folder.Path() + "rollcopyfile.rll") << "x";
@@ -437,20 +437,20 @@ TEST_F(Session, SavingOffersTheScriptsFirstAndAsksForAName) {
   EXPECT_TRUE(SaveGameInUse());
   EXPECT_EQ(GameFile.GameFileName, Folder.Path() + "Save session file as.tsg");
   Scripts.Places[2] = {{"bet 5 on field"}, "ann.bet", "", true};
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   Answers = {"-"};
   EXPECT_FALSE(SaveGameInUse());
-  EXPECT_NE(Table.TableDirty, 0);
+  EXPECT_TRUE(Table.TableDirty);
   EXPECT_TRUE(SaveGameInUse());
   EXPECT_FALSE(Scripts.Places[2].changed);
-  EXPECT_EQ(Table.TableDirty, 0);
+  EXPECT_FALSE(Table.TableDirty);
 }
 
 TEST_F(Session, AnotherGameDoesNotReplaceOneThatIsUnsavedWithoutAsking) {
   EXPECT_TRUE(AskToReplaceGame());
   EXPECT_TRUE(Shown.empty());
   SeatPlayer(2, "Ann", 100);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   Answers = {"-"};
   EXPECT_FALSE(AskToReplaceGame());
   EXPECT_EQ(Shown, std::vector<std::string>{"Save Session: Your current session has not been "
@@ -460,7 +460,7 @@ TEST_F(Session, AnotherGameDoesNotReplaceOneThatIsUnsavedWithoutAsking) {
     return std::string("ann.tsg");
   };
   EXPECT_TRUE(AskToReplaceGame());
-  EXPECT_EQ(Table.TableDirty, 0);
+  EXPECT_FALSE(Table.TableDirty);
   EXPECT_TRUE(std::filesystem::exists(Folder.Path() + "ann.tsg"));
 }
 
@@ -479,7 +479,7 @@ TEST_F(Session, ANewGameKeepsTheOneOnAShownTable) {
   const std::string file = Folder.Path() + "default.tsg";
   for (const bool shown : {false, true}) {
     GameFile.MainWindowShown = shown;
-    Table.TableDirty = -1;
+    Table.TableDirty = true;
     EXPECT_TRUE(StartNewGame({}, true));
     EXPECT_EQ(std::filesystem::exists(file), shown);
   }
@@ -490,12 +490,12 @@ TEST_F(Session, ANewGameKeepsOrEmptiesTheScripts) {
   Scripts.Places[2].lines = {"'nothing"};
   SetScriptActive(2, true);
   std::ofstream(Folder.Path() + "rollcopyfile.rll") << "x";
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   EXPECT_FALSE(StartNewGame({}, false));
-  Table.HyperDriveOn = 0;
+  Table.HyperDriveOn = false;
   EXPECT_TRUE(StartNewGame({}, true));
   EXPECT_EQ(Scripts.Places[2].lines.size(), 1u);
-  EXPECT_EQ(Scripts.ScriptActiveAfterRoll[2], -1);
+  EXPECT_TRUE(Scripts.ScriptActiveAfterRoll[2]);
   EXPECT_FALSE(std::filesystem::exists(Folder.Path() + "rollcopyfile.rll"));
   Scripts.Places[2].changed = true;
   Answers = {"-"};
@@ -504,12 +504,12 @@ TEST_F(Session, ANewGameKeepsOrEmptiesTheScripts) {
   Scripts.Places[2].changed = false;
   EXPECT_TRUE(StartNewGame({}, false));
   EXPECT_EQ(Scripts.Places[2], ScriptPlace());
-  EXPECT_EQ(Scripts.ScriptActive[0], 0);
+  EXPECT_FALSE(Scripts.ScriptActive[0]);
 }
 
 TEST_F(Session, StartsAlthoughItsLogCannotBeWritten) {
   PlayToPoint();
-  EventsLog.LogOn = -1;
+  EventsLog.LogOn = true;
   EventsLog.EventLogName = Folder.Path() + "missing/log.txt";
   Table.BankrollStopPlace = 3;
   Table.BankrollInitType[3] = 2;
@@ -521,7 +521,7 @@ TEST_F(Session, StartsAlthoughItsLogCannotBeWritten) {
 }
 
 TEST_F(Session, LogOfAnEmptyTableNamesNobody) {
-  EventsLog.LogOn = -1;
+  EventsLog.LogOn = true;
   NewSession({});
   EXPECT_EQ(LogText(), " New session started 2026-11-22 @ 19:04:05\r\n" + std::string(44, '=') +
                            "\r\n----New hand, come-out roll----------\r\n");

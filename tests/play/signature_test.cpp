@@ -60,14 +60,14 @@ using SignatureTest = RollTest;
 TEST_F(SignatureTest, MillionRollsOfAMixedTable) {
   for (const int place : {1, 3, 6, 8}) {
     Seat(place);
-    Table.AllowNegBankroll[place] = -1;
+    Table.AllowNegBankroll[place] = true;
     for (int number = 1; number <= LastBet; ++number) {
       const bool works = InFamily(number, ComeOddsFamily) || OriginalHouseWorking(number) != 0;
       Table.BetWorkingDefault[place][number] = works ? IsWorking : NotWorking;
       ResetBetWorking(place, number);
     }
   }
-  Table.AutoTakeFullOdds[1] = Table.AutoLayFullOdds[3] = -1;
+  Table.AutoTakeFullOdds[1] = Table.AutoLayFullOdds[3] = true;
   Dice.CurrentRNG = 1;
   Dice.SeedRequest = 20240229;
   ASSERT_TRUE(SeedRNG(-1));
@@ -79,7 +79,7 @@ TEST_F(SignatureTest, MillionRollsOfAMixedTable) {
   MakeBets();
   for (const auto& station : stations) {
     Settings.AutoStopRolls = station.rolls;
-    Table.HyperDriveOn = -1;
+    Table.HyperDriveOn = true;
     MakeRoll();
     EXPECT_EQ(Table.LastStopReason, "Stopped by Auto-Stop.");
     EXPECT_EQ(RollsInSession(), station.rolls);

@@ -169,7 +169,7 @@ TEST_F(TextsAtTheTable, ARefusedBetIsExplainedInTheLanguageInForce) {
 
 TEST_F(TextsAtTheTable, APutBetIsRefusedWithItsNote) {
   SetLanguage(German);
-  Settings.AllowPutBets = 0;
+  Settings.AllowPutBets = false;
   Table.Point = 6;
   Ask(bet::PassLine, 10);
   EXPECT_EQ(Said(),

@@ -143,7 +143,7 @@ TEST(Layout, SettingsTakeBetsOffTheLayout) {
 
 TEST(Layout, OptionsFollowTheSettings) {
   Settings = SettingsState{};
-  Settings.UseBig68 = Settings.UseFireBet = 0;
+  Settings.UseBig68 = Settings.UseFireBet = false;
   Settings.BarNumber = 2;
   const LayoutOptions options = OptionsInForce(false);
   EXPECT_EQ(options, (LayoutOptions{false, true, true, false, false, 2}));

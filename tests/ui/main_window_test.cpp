@@ -52,7 +52,7 @@ TEST_F(WindowTest, AHandIsPlayedByMouseAndKeys) {
 
 TEST_F(WindowTest, BetsAreMadeByKeysAlone) {
   Seat(4, "Ann", 1000);
-  Settings.SnapMouse = 0;
+  Settings.SnapMouse = false;
   Press(Qt::Key_Left);  // the first arrow goes to the Pass Line
   EXPECT_EQ(TablePlay.HotSpot, bet::PassLine);
   Press(Qt::Key_3);
@@ -234,7 +234,7 @@ TEST_F(WindowTest, ARefusedClickSaysWhy) {
   };
   const auto noPuts = [&] {
     point();
-    Settings.AllowPutBets = 0;
+    Settings.AllowPutBets = false;
   };
   const auto midHand = [&] { Stats.RollCount[CurrentHand][0] = 3; };
   const struct {
@@ -337,7 +337,7 @@ TEST_F(WindowTest, AClickStopsTheHyperDrive) {
   }
   EXPECT_LT(best, 50);
   EXPECT_GT(RollsInSession(), 1000);
-  EXPECT_EQ(Table.HyperDriveOn, 0);
+  EXPECT_FALSE(Table.HyperDriveOn);
   EXPECT_TRUE(window->Bar()->RollButton()->isEnabled());
 }
 
@@ -359,13 +359,13 @@ TEST_F(WindowTest, ATableIsNotReplacedUnasked) {
   Seat(4, "Ann", 640);
   SaveGame("ann.tsg");
   Seat(5, "Bob", 640);
-  Table.TableDirty = -1;
+  Table.TableDirty = true;
   for (const bool saves : {false, true}) {
     std::vector<std::function<void(QDialog&)>> answers = {
         Text("ann.tsg"), Key(saves ? Qt::Key_Return : Qt::Key_Escape)};
     AnswerInTurn(answers, [&] { window->Entry("mnuOpen")->trigger(); });
     EXPECT_EQ(Table.PlayerName[5], "Bob") << saves;
-    EXPECT_EQ(Table.TableDirty == 0, saves);
+    EXPECT_EQ(!Table.TableDirty, saves);
   }
 }
 

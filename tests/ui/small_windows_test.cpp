@@ -116,7 +116,7 @@ TEST_F(SmallWindows, ClickStopsARunInsteadOfRolling) {
   };
   QTest::mouseClick(Part<QPushButton>("cmdHyperDrive"), Qt::LeftButton);
   EXPECT_EQ(RollsInSession(), 30);
-  EXPECT_EQ(Table.HyperDriveOn, 0);
+  EXPECT_FALSE(Table.HyperDriveOn);
   EXPECT_EQ(Part<QPushButton>("cmdHyperDrive")->text(), tessarel::Shown(HyperDriveCaption()));
   FrontEnd = {};
   QTest::mouseClick(Part<QPushButton>("cmdRandomRoll"), Qt::LeftButton);
@@ -228,9 +228,9 @@ TEST_F(SmallWindows, RateIsThatOfTheLastHalfSecond) {
   EXPECT_EQ(RollRate(), 1'000'000);
   const HyperDriveMeter meter;
   EXPECT_EQ(meter.Text(), "") << "nothing runs";
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   EXPECT_EQ(meter.Text(), "1,000,000 rolls/s");
-  Table.HyperDriveOn = 0;
+  Table.HyperDriveOn = false;
   EXPECT_EQ(advance(200, 0), 600'000);
   EXPECT_EQ(advance(600, 0), 0);
   EXPECT_EQ(RollRateText(0), "");

@@ -30,7 +30,7 @@ class WindowTest : public testing::Test {
  protected:
   void SetUp() override {
     StartUp(folder.Path());
-    Settings.DisableAllSound = -1;
+    Settings.DisableAllSound = true;
     Open();
   }
   void TearDown() override { window.reset(); }

@@ -64,7 +64,7 @@ void AdvantageCommand(const AdvantageOptions& options) {
   StartUp(".");
   if (!options.probability.empty()) ActivateProbability(options.probability);
   ApplyRules(options.settings, options.payoffs);
-  Advantage.IncludeZeroOutcomes = options.zeroOutcomes ? -1 : 0;
+  Advantage.IncludeZeroOutcomes = options.zeroOutcomes;
   WriteOut(options.json ? AdvantageJson() : AdvantageTable());
 }
 

@@ -77,7 +77,7 @@ void ShowOnConsole() {
   if (Console.tableMode) Console.messages.push_back({Message.MsgTitle, Message.MsgText});
   std::string notice = "[" + Message.MsgTitle + "] " + OnOneLine(Message.MsgText);
   // A script under the Hyper-Drive may ask at every roll.
-  const bool silent = Table.HyperDriveOn != 0 && IsPrompt(Message.MsgFlags);
+  const bool silent = Table.HyperDriveOn && IsPrompt(Message.MsgFlags);
   if (Console.holdsNotices)
     Console.heldNotices.push_back(std::move(notice));
   else if (!silent)
@@ -165,7 +165,7 @@ bool Interrupted() {
 }
 
 void StopScriptWhenInterrupted() {
-  if (Interrupted()) AutoBet.ScriptRunning = 0;
+  if (Interrupted()) AutoBet.ScriptRunning = false;
 }
 
 void LoadAnswers(const std::string& path) {

@@ -23,7 +23,7 @@ void ActivateProbability(const std::string& file) {
                                     "\" is not a true Tessarel Probability File, or it is from an "
                                     "older version or corrupted.");
   }
-  Probability.ProbabilityMatrixActive = -1;
+  Probability.ProbabilityMatrixActive = true;
 }
 
 }  // namespace tessarel::sim

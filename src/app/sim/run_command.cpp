@@ -143,17 +143,17 @@ void ShowProgress() {
 
 // Between two rolls of the Hyper-Drive, or within a long cycle of a script.
 void BetweenRolls() {
-  if (AutoBet.ScriptRunning != 0) return StopScriptWhenInterrupted();
+  if (AutoBet.ScriptRunning) return StopScriptWhenInterrupted();
   ShowProgress();
   if (Stuck() || Session.Over()) {
-    Table.HyperDriveOn = 0;
+    Table.HyperDriveOn = false;
   } else if (!DiceFileEnds() && !AutoStopIsDue()) {
     PlaceFixedBets();
   }
 }
 
 void PlayHyperDrive() {
-  Table.HyperDriveOn = -1;
+  Table.HyperDriveOn = true;
   if (DiceFileEnds()) {
     Table.LastStopReason = Table.StopReason;
   } else {
@@ -162,7 +162,7 @@ void PlayHyperDrive() {
     MakeRoll();
     FrontEnd.RunPendingEvents = StopScriptWhenInterrupted;
   }
-  Table.HyperDriveOn = 0;
+  Table.HyperDriveOn = false;
 }
 
 void PlayRollByRoll() {
@@ -221,7 +221,7 @@ int64_t StepsToDo() {
 // A new session that keeps what earlier ones left and goes on in the roll file. Its scripts are
 // initialised.
 void StartSession() {
-  StartNewGame({-1, -1, -1, ContinueRollFile}, true);
+  StartNewGame({true, true, true, ContinueRollFile}, true);
   if (Console.faults != 0) throw Failure(CannotBeDone, OnOneLine(Console.lastFault));
 }
 

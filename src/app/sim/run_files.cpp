@@ -132,11 +132,11 @@ void OpenEventsLog(const std::string& name) {
   EventsLog.EventLogName = PathOf(name);
   WithFile("events log", name, "cannot be continued", IndexEventsLog);
   SelectAllEvents(true);
-  EventsLog.LogOn = -1;
+  EventsLog.LogOn = true;
 }
 
 void UseSessionsLogs(const std::string& folder) {
-  SessionsLog.KeepLogs = folder.empty() ? 0 : -1;
+  SessionsLog.KeepLogs = !folder.empty();
   if (!folder.empty())
     Folders.SessionsLogFolder = fs::absolute(PathOf(folder)).lexically_normal().string() + "/";
 }
@@ -173,7 +173,7 @@ void LogLastSession() {
 
 std::vector<LoggedSession> SessionsLoggedBefore() {
   std::vector<LoggedSession> sessions;
-  if (SessionsLog.KeepLogs == 0 || RollsInSession() == 0) return sessions;
+  if (!SessionsLog.KeepLogs || RollsInSession() == 0) return sessions;
   ForEachPlayer([&sessions](int place) {
     const std::string& log = SessionsLogNameOf(place);
     WithFile("sessions log", log, "cannot be continued", [&] {

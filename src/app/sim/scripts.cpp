@@ -23,7 +23,7 @@ int PlaceOf(const ScriptArgument& script) {
     throw Failure(CannotBeDone,
                   "There is no player at " + where + " for the script \"" + script.file + "\".");
   }
-  if (Scripts.ScriptActive[place] != 0) {
+  if (Scripts.ScriptActive[place]) {
     throw Failure(CannotBeDone, "The player at " + where + " has a script already, so \"" +
                                     script.file + "\" cannot be his.");
   }
@@ -83,7 +83,7 @@ void ActivateSavedScripts() {
     SetScriptActive(place, true);
   });
   ForEachPlayer([](int place) {
-    if (Scripts.ScriptActive[place] != 0) RequireRunnable(place, Scripts.Places[place].ScriptFile);
+    if (Scripts.ScriptActive[place]) RequireRunnable(place, Scripts.Places[place].ScriptFile);
   });
 }
 

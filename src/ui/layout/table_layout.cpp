@@ -75,12 +75,8 @@ void AddBox(TableLayout& layout, int spot, const QRectF& box, std::span<const in
 }
 
 LayoutOptions OptionsInForce(bool propositions) {
-  return {Settings.UseBig68 != 0,
-          Settings.UseMidwayBet != 0,
-          Settings.UseSpecialPropBets != 0,
-          Settings.UseFireBet != 0,
-          propositions,
-          Settings.BarNumber};
+  return {Settings.UseBig68,   Settings.UseMidwayBet, Settings.UseSpecialPropBets,
+          Settings.UseFireBet, propositions,          Settings.BarNumber};
 }
 
 TableLayout MakeTableLayout(const LayoutOptions& options) {

@@ -279,7 +279,7 @@ int CheckPicturesVersion() {
 
 QString CheckLettering(Money value) {
   if (value < Money(1)) {
-    if (Settings.UseCentsSymbol != 0) return Shown(PlainText(value * Money(100))) + QChar(0xA2);
+    if (Settings.UseCentsSymbol) return Shown(PlainText(value * Money(100))) + QChar(0xA2);
     const QString text = Shown(PlainText(value)).mid(1);
     return text.size() == 2 ? text + '0' : text;
   }

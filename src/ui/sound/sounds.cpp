@@ -46,7 +46,7 @@ void FindDevicesQuietly() {
 }
 
 bool Silent() {
-  if (Settings.DisableAllSound != 0 || Table.HyperDriveOn != 0) return true;
+  if (Settings.DisableAllSound || Table.HyperDriveOn) return true;
   [[maybe_unused]] static const bool looked = (FindDevicesQuietly(), true);
   return QMediaDevices::defaultAudioOutput().isNull();
 }

@@ -85,7 +85,7 @@ QString CaptionOf(ButtonKind kind) {
 
 // The kinds of messages that the hide box of these flags hides.
 int32_t HiddenNotices(int32_t flags) {
-  const Notice autoBet = Table.HyperDriveOn != 0 ? NoticeAutoBetHyper : NoticeAutoBet;
+  const Notice autoBet = Table.HyperDriveOn ? NoticeAutoBetHyper : NoticeAutoBet;
   const std::pair<int32_t, Notice> rules[] = {{msg::HideNotice1, NoticeActionsNotAllowed},
                                               {msg::HideNotice2, NoticeLimits},
                                               {msg::HideNotice4, NoticeCharges},

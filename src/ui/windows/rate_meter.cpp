@@ -64,7 +64,7 @@ QSize HyperDriveMeter::sizeHint() const {
 }
 
 QString HyperDriveMeter::Text() const {
-  if (Table.HyperDriveOn == 0) return {};
+  if (!Table.HyperDriveOn) return {};
   const QString rate = RollRateText(RollRate());
   if (rate.isEmpty()) return {};
   return Shown(FillIn(RollsPerSecondText, {Typed(rate)}));

@@ -54,7 +54,7 @@ class RollConsole : public FloatingWindow {
  private:
   // What is looked at between two calls of Refresh.
   struct Seen {
-    int32_t Rolls = -1, AutoRollOn = 0, HyperDriveOn = 0, Throttle = 0;
+    int32_t Rolls = -1, AutoRollOn = false, HyperDriveOn = false, Throttle = 0;
     friend bool operator==(const Seen&, const Seen&) = default;
   };
 
