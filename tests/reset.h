@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <utility>
@@ -16,6 +17,10 @@
 #include "base/message.h"
 #include "base/temporary_folder.h"
 #include "play/reset.h"
+#include "state/books.h"
+#include "state/payoffs.h"
+#include "state/settings.h"
+#include "state/table.h"
 #include "texts/language.h"
 
 namespace tessarel {

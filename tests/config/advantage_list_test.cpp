@@ -2,8 +2,6 @@
 
 #include "config/advantage.h"
 #include "reset.h"
-#include "state/payoffs.h"
-#include "state/settings.h"
 
 namespace tessarel {
 namespace {

@@ -1,12 +1,7 @@
 // A table under its start-up rules, with players to seat and bets to put down.
 #pragma once
 
-#include <string>
-
 #include "reset.h"
-#include "state/payoffs.h"
-#include "state/settings.h"
-#include "state/table.h"
 
 namespace tessarel {
 

@@ -1,10 +1,8 @@
 #include "config/configuration.h"
 
-#include "base/fault.h"
 #include "config/configuration_fixture.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
-#include "texts/language.h"
 
 namespace tessarel {
 namespace {

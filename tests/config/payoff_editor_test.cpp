@@ -2,7 +2,6 @@
 
 #include <set>
 
-#include "base/fault.h"
 #include "config/configuration_fixture.h"
 
 namespace tessarel {
@@ -194,27 +193,27 @@ TEST_F(PayoffEditor, ClosingTestsNameTheRowAtFault) {
     std::optional<PayoffCell> Cell;
     // clang-format off
   } cases[] = {
-      {[] {Payoffs.Payoff[bet::Come4].PayNum = 0;}, "The payoff on Pass/Come 4 must be positive.",
+      {[] { Payoffs.Payoff[bet::Come4].PayNum = 0; }, "The payoff on Pass/Come 4 must be positive.",
        Row(19)},
-      {[] {Payoffs.Payoff[bet::Point7].PayNum = -1;}, "The payoff on Point 7 must be positive.",
+      {[] { Payoffs.Payoff[bet::Point7].PayNum = -1; }, "The payoff on Point 7 must be positive.",
        Row(80)},
-      {[] {Payoffs.SevenPointSevenPayoff[2].PayNum = 0;},
+      {[] { Payoffs.SevenPointSevenPayoff[2].PayNum = 0; },
        "The payoffs on 7 Point 7 must be positive.", Row(83)},
-      {[] {Payoffs.MidwayPayoff[3].PayNum = 0;}, "The payoffs on Midway must be positive.",
+      {[] { Payoffs.MidwayPayoff[3].PayNum = 0; }, "The payoffs on Midway must be positive.",
        Row(87)},
-      {[] {Payoffs.SharpShooterPayoff[2].PayNum = -2;},
+      {[] { Payoffs.SharpShooterPayoff[2].PayNum = -2; },
        "Any loss on the Sharp Shooter bet cannot exceed the amount wagered.", Row(92)},
-      {[] {PayEach(Payoffs.SharpShooterPayoff, -1);},
+      {[] { PayEach(Payoffs.SharpShooterPayoff, -1); },
        "At least one of the Sharp Shooter bet payoffs must be positive.", Row(91)},
-      {[] {Payoffs.RideTheLinePayoff[12].PayNum = Money::FromRaw(-10001);},
+      {[] { Payoffs.RideTheLinePayoff[12].PayNum = Money::FromRaw(-10001); },
        "Any loss on the Ride The Line bet cannot exceed the amount wagered.", Row(114)},
-      {[] {Settings.MinPlacardPropBet = 6;},
+      {[] { Settings.MinPlacardPropBet = 6; },
        "The max Fire bet cannot be less than the minimum prop bet.", std::nullopt},
-      {[] {Payoffs.FirePayoff[0].PayNum = -2;},
+      {[] { Payoffs.FirePayoff[0].PayNum = -2; },
        "Any loss on the Fire bet cannot exceed the amount wagered.", Row(116)},
-      {[] {Payoffs.FieldPayoff[21].PayNum = -2;},
+      {[] { Payoffs.FieldPayoff[21].PayNum = -2; },
        "Any loss on the Field bet cannot exceed the amount wagered.", FieldRow(21)},
-      {[] {PayEach(Payoffs.FieldPayoff, 0);},
+      {[] { PayEach(Payoffs.FieldPayoff, 0); },
        "At least one of the Field bet payoffs must be positive.", FieldRow(1)}};
   // clang-format on
   EXPECT_FALSE(TestPayoffs());

@@ -2,11 +2,9 @@
 
 #include <limits>
 #include <random>
-#include <vector>
 
 #include "dice/probability.h"
 #include "reset.h"
-#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -6,7 +6,6 @@
 #include "dice/popup_roll.h"
 #include "dice/roll_file.h"
 #include "reset.h"
-#include "state/table.h"
 
 namespace tessarel {
 namespace {

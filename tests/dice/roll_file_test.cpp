@@ -1,10 +1,7 @@
 #include "dice/roll_file.h"
 
-#include <filesystem>
-
 #include "base/file_io.h"
 #include "reset.h"
-#include "state/table.h"
 
 namespace tessarel {
 namespace {

@@ -1,13 +1,11 @@
 #include "files/file_dialog.h"
 
-#include <filesystem>
 #include <set>
 
 #include "base/file_io.h"
 #include "dice/roll_file.h"
 #include "log/events_log.h"
 #include "reset.h"
-#include "state/table.h"
 
 namespace tessarel {
 namespace {

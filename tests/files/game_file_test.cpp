@@ -1,13 +1,10 @@
 #include "files/game_file.h"
 
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <filesystem>
 #include <random>
 
 #include "autobet/script_files.h"
@@ -30,10 +27,7 @@
 #include "play/roll_driver.h"
 #include "play/session.h"
 #include "reset.h"
-#include "state/books.h"
 #include "state/books_check.h"
-#include "state/payoffs.h"
-#include "state/settings.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
 
@@ -242,8 +236,8 @@ TEST_F(GameFileTest, WindowsComeBackAsTheyWereSet) {
   RollFileEdit.txtDiceRollOutputFormat = "Total";
   const std::string saved = Saved("a.tsg");
   const RecordFile file = RecordFile::Load(Path("a.tsg"));
-  constexpr int Expected[][3] = {{11, 28, 7}, {426, 11, 6}, {426, 12, 5}, {426, 16, 1}};
-  for (const auto& [record, slot, word] : Expected)
+  constexpr int Words[][3] = {{11, 28, 7}, {426, 11, 6}, {426, 12, 5}, {426, 16, 1}};
+  for (const auto& [record, slot, word] : Words)
     EXPECT_EQ(file.At(record).Word(slot), word) << record << " " << slot;
   EXPECT_EQ(file.At(427).LongText(), "Total");
   Restart();
@@ -505,34 +499,6 @@ TEST_F(GameFileTest, StartsWithTheNamedGameElseTheAutomaticOne) {
   EXPECT_EQ(Table.PlayerCount, 0);
   ASSERT_TRUE(SaveDefaultGame());
   EXPECT_EQ(Read("default.tsg.unread"), damaged) << "leaving overwrites what was not opened";
-}
-
-// Killed while it saves, again and again: after another save has ended the next one is under way.
-TEST_F(GameFileTest, KilledItLeavesTheOldFileOrTheNewOne) {
-  SeatPlayer(1, "Ann", 1000);
-  const std::string first = Saved("first.tsg");
-  SeatPlayer(2, "Bob", 1000);
-  const std::string second = Saved("second.tsg");
-  SaveGame("a.tsg");
-  for (int kill = 0; kill < 25; ++kill) {
-    int saves[2];
-    ASSERT_EQ(pipe(saves), 0);
-    const pid_t child = fork();
-    for (bool again = child == 0; again;) {
-      OpenGame(Table.PlayerCount == 1 ? "second.tsg" : "first.tsg");
-      SaveGame("a.tsg");
-      again = write(saves[1], "x", 1) == 1;
-    }
-    char saved;
-    for (int k = 0; k <= kill % 5; ++k)
-      ASSERT_EQ(read(saves[0], &saved, 1), 1);
-    ::kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
-    close(saves[0]);
-    close(saves[1]);
-    const std::string left = Read("a.tsg");
-    EXPECT_TRUE(left == first || left == second);
-  }
 }
 
 TEST_F(GameFileTest, FullDiskLeavesTheOldGame) {

@@ -1,15 +1,11 @@
 #include "files/sessions_log.h"
 
-#include <filesystem>
-
 #include "base/record_file.h"
 #include "files/sessions_commands.h"
 #include "play/players.h"
 #include "play/rail.h"
 #include "play/session.h"
 #include "reset.h"
-#include "state/books.h"
-#include "state/table.h"
 #include "stats/selection.h"
 
 namespace tessarel {

@@ -1,11 +1,8 @@
 #include "stats/comps.h"
 
-#include "base/fault.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
 #include "reset.h"
-#include "state/books.h"
-#include "state/settings.h"
 
 namespace tessarel {
 namespace {

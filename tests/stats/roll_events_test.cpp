@@ -4,11 +4,9 @@
 #include <cctype>
 #include <set>
 
-#include "base/fault.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
 #include "reset.h"
-#include "state/books.h"
 
 namespace tessarel {
 namespace {

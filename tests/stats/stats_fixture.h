@@ -1,19 +1,12 @@
 // A table with a store of statistics that a test fills by hand or by playing.
 #pragma once
 
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "dice/generators.h"
 #include "engine/bets.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
 #include "play/session.h"
 #include "reset.h"
-#include "state/books.h"
-#include "state/settings.h"
-#include "state/table.h"
 
 namespace tessarel {
 

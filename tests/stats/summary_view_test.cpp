@@ -2,7 +2,6 @@
 
 #include "stats/stats_fixture.h"
 #include "stats/status_box.h"
-#include "texts/language.h"
 
 namespace tessarel {
 namespace {
