@@ -12,6 +12,7 @@
 #include <QTextDocument>
 #include <QWindow>
 #include <set>
+#include <utility>
 
 #include "base/help_topics.h"
 #include "state/settings.h"
@@ -150,6 +151,22 @@ TEST_F(HelpWindowTest, FindsOnThePageAroundItsEnds) {
     QTest::keyClick(find_, Qt::Key_Return);
   EXPECT_EQ(page_->textCursor().position(), first);
   find_->setText("no such text");
+  EXPECT_TRUE(page_->extraSelections().isEmpty());
+}
+
+TEST_F(HelpWindowTest, FindsTurkishCapitalsAndSigns) {
+  SetLanguage(Turkish);
+  ShowHelp(nullptr, 70);
+  for (const auto& [typed, onPage] : {std::pair("ipuçları", "İpuçları"),
+                                      {"İKİ UÇ", "iki uç"},
+                                      {"YAKINLIK", "Yakınlık"},
+                                      {"Ctrl++", "Ctrl++"},
+                                      {"(f11)", "(F11)"}}) {
+    find_->setText(typed);
+    ASSERT_FALSE(page_->extraSelections().isEmpty()) << typed;
+    EXPECT_EQ(page_->extraSelections().first().cursor.selectedText(), onPage);
+  }
+  find_->setText(".{4}");
   EXPECT_TRUE(page_->extraSelections().isEmpty());
 }
 

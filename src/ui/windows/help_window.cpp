@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
@@ -33,6 +34,15 @@ constexpr int PageMargin = 18, ListMargin = 8;
 // An address of its own keeps relative links among the pages.
 QUrl UrlOfFile(const QString& fileName) {
   return QUrl(QStringLiteral("help:/") + fileName);
+}
+
+// Finds the text in small letters and capitals alike. The dotted and the dotless i count as one
+// letter, because the Turkish pairs i-İ and ı-I differ from those of the other languages.
+QRegularExpression PatternOf(QString text) {
+  text.replace(QRegularExpression(QStringLiteral("[Iıİ]")), QStringLiteral("i"));
+  QString pattern = QRegularExpression::escape(text);
+  pattern.replace('i', QStringLiteral("[iIıİ]"));
+  return QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption);
 }
 
 // The page itself, with the history of what was read.
@@ -221,9 +231,10 @@ void HelpWindow::MarkTopic(const QString& fileName) {
 // Looks the page through for the text; `step` goes to another place, around the ends.
 void HelpWindow::Find(int step) {
   const QString text = find_->text().trimmed();
+  const QRegularExpression pattern = PatternOf(text);
   places_.clear();
   for (QTextCursor at(page_->document()); !text.isEmpty();) {
-    at = page_->document()->find(text, at);
+    at = page_->document()->find(pattern, at);
     if (at.isNull()) break;
     places_.push_back(at);
   }
