@@ -239,30 +239,28 @@ TEST_F(Sim, ResultHasItsKeysInOrderAndExactMoney) {
   const Json result = Result(std::string(Bets) +
                              "--set Denomination=0.5,1,5,25,100 --rolls 400 "
                              "--seed 77");
-  EXPECT_EQ(Keys(result).dump(),
-            R"(["version","rolls","sessions","hands","seconds","rng","seed","stop_reason",)"
-            R"("messages","table","players","roll_counts","hand_figures"])");
-  EXPECT_EQ(Keys(result["table"]).dump(),
-            R"(["Point","LastPoint","Shooter","LastShooter","Die1","Die2","DiceTotal",)"
-            R"("MarkedNumbers","FourRollCount","FirePointsMask","FirePoints",)"
-            R"("SharpShooterPoints","RideTheLinePasses"])");
-  EXPECT_EQ(Keys(result["hand_figures"]).dump(),
-            R"(["HandCount","RollTotal","MostRolls","MostComeoutRolls","MostPasses",)"
-            R"("MostMisses"])");
   ASSERT_EQ(result["players"].size(), 2u);
-  const Json& bob = result["players"][1];
-  EXPECT_EQ(Keys(bob).dump(),
-            R"(["place","name","Bankroll","BankrollBegin","BankrollHigh","BankrollLow",)"
-            R"("InvestedBankroll","MoneyOnTable","bets","checkstacks","results"])");
+  const Json &bob = result["players"][1], &field = bob["results"][1];
+  const std::pair<Json, const char*> keys[] = {
+      {result, R"(["version","rolls","sessions","hands","seconds","rng","seed","stop_reason",)"
+               R"("messages","table","players","roll_counts","hand_figures"])"},
+      {result["table"], R"(["Point","LastPoint","Shooter","LastShooter","Die1","Die2","DiceTotal",)"
+                        R"("MarkedNumbers","FourRollCount","FirePointsMask","FirePoints",)"
+                        R"("SharpShooterPoints","RideTheLinePasses"])"},
+      {result["hand_figures"], R"(["HandCount","RollTotal","MostRolls","MostComeoutRolls",)"
+                               R"("MostPasses","MostMisses"])"},
+      {bob, R"(["place","name","Bankroll","BankrollBegin","BankrollHigh","BankrollLow",)"
+            R"("InvestedBankroll","MoneyOnTable","bets","checkstacks","results"])"},
+      {result["players"][0]["bets"][0],
+       R"(["bet","name","amount","contract","working","vig","streak"])"},
+      {field, R"(["bet","name","tendered","won","lost"])"},
+      {field["won"], R"(["count","sum","high","low","last_roll","last"])"}};
+  for (const auto& [object, names] : keys)
+    EXPECT_EQ(Keys(object).dump(), names);
   EXPECT_EQ(bob["place"], 4);
-  EXPECT_EQ(Keys(result["players"][0]["bets"][0]).dump(),
-            R"(["bet","name","amount","contract","working","vig","streak"])");
   EXPECT_EQ(result["roll_counts"].size(), 91u);
   EXPECT_EQ(result["roll_counts"][0], 400);
 
-  const Json& field = bob["results"][1];
-  EXPECT_EQ(Keys(field).dump(), R"(["bet","name","tendered","won","lost"])");
-  EXPECT_EQ(Keys(field["won"]).dump(), R"(["count","sum","high","low","last_roll","last"])");
   EXPECT_EQ(field["name"], "Field");
   EXPECT_EQ(field["tendered"]["sum"].dump(), "1000");
   EXPECT_EQ(field["tendered"]["high"].dump(), "2.5");

@@ -25,7 +25,7 @@ void Store(PayoffRow& row, Money num, Money form, Money den) {
 TEST_F(PayoffEditor, CaptionsAndNamesOfTheRows) {
   const struct {
     PayoffCell Cell;
-    std::string Caption, Name;  // the name is the caption where it is left out
+    std::string Caption, Name = {};  // the name is the caption where it is left out
     // clang-format off
   } cases[] = {
       {Row(1), "Lay 4"}, {Row(9), "DP/DC 6"}, {Row(18), "DP/DC 10 Odds"}, {Row(22), "Pass/Come 8"},

@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <random>
 
 #include "autobet/script_files.h"
@@ -137,15 +136,11 @@ class RandomPlay {
   std::mt19937 random_;
 };
 
-// With TESSAREL_GAMES=10000 in the environment, that many games.
-int GamesToPlay() {
-  const char* asked = std::getenv("TESSAREL_GAMES");
-  return asked != nullptr ? std::atoi(asked) : 150;
-}
+constexpr int GamesToPlay = 150;
 
 TEST_F(GameFileTest, SavedGameGoesOnAsOneThatWasNeverSaved) {
   int midHand = 0, withBets = 0;
-  for (int game = 1; game <= GamesToPlay() && !HasFailure(); ++game) {
+  for (int game = 1; game <= GamesToPlay && !HasFailure(); ++game) {
     SCOPED_TRACE(game);
     const auto seed = static_cast<uint32_t>(game);
     Restart();
@@ -169,8 +164,8 @@ TEST_F(GameFileTest, SavedGameGoesOnAsOneThatWasNeverSaved) {
     RandomPlay(seed + 1).Play(60);
     EXPECT_TRUE(Saved("reloaded.tsg") == live);
   }
-  EXPECT_GT(midHand, GamesToPlay() / 3);
-  EXPECT_GT(withBets, GamesToPlay() / 2);
+  EXPECT_GT(midHand, GamesToPlay / 3);
+  EXPECT_GT(withBets, GamesToPlay / 2);
 }
 
 TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {

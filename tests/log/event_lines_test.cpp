@@ -164,7 +164,7 @@ TEST_F(EventLines, OnlyCallsOfAStandingBetAreLogged) {
       TakeSnapshots();
       SetBetWorking(2, bet::Place6, now);
       const bool told = amount != Money() && !line.empty();
-      EXPECT_EQ(Written(LogChangesSinceLastRoll), told ? Strings{"    Bets:", line} : Strings{})
+      EXPECT_EQ(Written(LogChangesSinceLastRoll), (told ? Strings{"    Bets:", line} : Strings{}))
           << before << " to " << now;
     }
   }
