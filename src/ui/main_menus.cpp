@@ -18,7 +18,7 @@
 #include "files/game_views.h"
 #include "play/auto_roll.h"
 #include "play/roll_pace.h"
-#include "play/session.h"
+#include "play/game_commands.h"
 #include "state/settings.h"
 #include "ui/main_texts.h"
 #include "ui/main_window.h"

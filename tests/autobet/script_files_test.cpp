@@ -12,7 +12,8 @@
 #include "base/message.h"
 #include "base/temporary_folder.h"
 #include "play/players.h"
-#include "play/session.h"
+#include "play/game_commands.h"
+#include "play/start_up.h"
 #include "state/table.h"
 
 namespace tessarel {

@@ -1,4 +1,7 @@
-#include "play/session.h"
+#include "play/new_session.h"
+#include "play/game_commands.h"
+#include "play/start_up.h"
+#include "play/leaving.h"
 
 #include <gtest/gtest.h>
 

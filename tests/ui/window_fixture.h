@@ -19,7 +19,7 @@
 #include "play/manual_roll.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/settings.h"
 #include "state/table.h"
 #include "ui/main_window.h"
