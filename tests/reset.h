@@ -49,6 +49,8 @@ class FreshTest : public ::testing::Test {
   static void Reset() {
     ReleaseClock();
     ResetAll();
+    DefaultPayoffs();
+    FigurePayoffUnits();
     SetLanguage(English);
     Folders = {};
     FrontEnd = {};

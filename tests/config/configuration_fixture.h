@@ -8,7 +8,6 @@ namespace tessarel {
 class ConfigurationTest : public FreshTest {
  protected:
   void SetUp() override {
-    DefaultPayoffs();
     for (int number = 1; number <= LastBet; ++number)
       Table.BetWorkingDefault[0][number] = OriginalHouseWorking(number);
   }

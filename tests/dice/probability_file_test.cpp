@@ -148,9 +148,9 @@ TEST_F(ProbabilityFileTest, UnsavedMatricesAreAskedAbout) {
     Probability.ProbabilityChanged = changed;
     Always = answer;
     EXPECT_EQ(AskToSaveOnExit(), onExit) << name;
-    EXPECT_EQ(Said(), changed && *name != '\0' ? Strings{question} : Strings{});
+    EXPECT_EQ(std::exchange(Shown, {}).size(), changed && *name != '\0' ? 1u : 0u);
     EXPECT_EQ(AskToSaveBeforeNew(), beforeNew) << name;
-    Shown.clear();
+    EXPECT_EQ(Said(), changed ? Strings{question} : Strings{});
   }
 }
 

@@ -2,9 +2,10 @@
 
 #include "base/record_file.h"
 #include "files/sessions_commands.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/rail.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "reset.h"
 #include "stats/selection.h"
 

@@ -3,9 +3,10 @@
 
 #include "dice/generators.h"
 #include "engine/bets.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "reset.h"
 
 namespace tessarel {
