@@ -79,8 +79,7 @@ void ClearGame() {
   ClosePopupRoll();
   for (int place = 1; place <= LastPlace; ++place)
     ClearPlace(place);
-  Table.StopReason.clear();
-  Table.LastStopReason.clear();
+  Table.Stop = Table.LastStop = StopCause::None;
   GameFile.ScriptWasActive = {};
   GameViews.Chips.clear();
 }

@@ -30,9 +30,10 @@ namespace tessarel {
 namespace {
 
 // A step that meets the disk: when it fails that is reported, and the session starts all the same.
+// Returns whether it went through.
 template <class Step>
-void Attempt(Step&& step) {
-  Trapped("NewSession", std::forward<Step>(step));
+bool Attempt(Step&& step) {
+  return Trapped("NewSession", std::forward<Step>(step));
 }
 
 void LoseAbandoned(int number) {
@@ -140,14 +141,16 @@ void StartNewSession(const SessionOptions& options) {
   Table.GraphIndex = 0;
   BankrollGraph.GraphWidth = 150;
   BankrollGraph.GraphScrolledBack = 0;
-  Table.StopReason.clear();
-  if (Settings.ClearEventsLogOnNew) Attempt(ClearEventsLog);
+  Table.Stop = StopCause::None;
+  bool logs = !Settings.ClearEventsLogOnNew || Attempt(ClearEventsLog);
   Table.LastShooter = Table.Shooter;
   Table.Point = Table.LastPoint = Table.PointBeforeLast = Table.LastDecidedPoint = 0;
   Attempt([&] { ApplyRollFileAction(options.rollFileAction); });
-  Attempt(LogNewSession);
+  logs = logs && Attempt(LogNewSession);
   if (Dice.ReseedEachSession) Attempt([] { SeedRNG(0); });
-  Attempt([] { LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : ""); });
+  if (logs)
+    Attempt(
+        [] { LogFirstHand(RollFile.RollFileMode == RollFilePlay ? RollFile.RollFileName : ""); });
   Scripts.ScriptActiveAfterRoll = Scripts.ScriptActive;  // the log tells these once
   Table.BankrollStopPlace = 0;
   FrontEnd.RefreshViews();

@@ -481,7 +481,7 @@ void BuyInCurrentPlayer() {
 void PassTheDice() {
   if (!MayChange()) return;
   Table.TableDirty = true;
-  PassDice(PlayerAsked);
+  GiveUpDice();
   FrontEnd.DrawTable();
 }
 

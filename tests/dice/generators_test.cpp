@@ -55,7 +55,9 @@ TEST_F(Generators, ShuffledGeneratorsOverflowAboveTheirLargestSeeds) {
     SCOPED_TRACE(generator);
     EXPECT_TRUE(SeedWith(generator, largest));
     EXPECT_EQ(Roll(6).substr(0, faces.size()), faces);
-    EXPECT_EQ(FaultOf([&] { SeedWith(generator, Money(largest) + 1); }),
+    EXPECT_EQ(FaultOf([&generator = generator, &largest = largest] {
+                SeedWith(generator, Money(largest) + 1);
+              }),
               NumberOf(FaultNumber::Overflow));
     EXPECT_EQ(Dice.LastSeed, largest + 1);
     EXPECT_EQ(Dice.CurrentSeed, largest + 1);

@@ -199,7 +199,7 @@ TEST_F(BalanceTest, FaultsLeaveTheMatrixAlone) {
                                          {{2, 6, NotANumber}, overflow},
                                          {{2, 6, -1e12}, overflow}};
   for (const auto& [edit, fault] : cases)
-    EXPECT_EQ(FaultOf([&] { BalanceMatrix(edit.column, edit.row, edit.value); }), fault);
+    EXPECT_EQ(FaultOf([&edit = edit] { BalanceMatrix(edit.column, edit.row, edit.value); }), fault);
   EXPECT_EQ(FaultOf([] { MakePercentageDice({1, 3}, {}); }), index);
   EXPECT_EQ(Probability.ProbabilityMatrix, before);
   EXPECT_FALSE(Probability.ProbabilityChanged);
@@ -231,16 +231,17 @@ TEST_F(BalanceTest, PercentageDiceTakeFromAnAxis) {
       EXPECT_EQ(ShareOf(face + 1, FirstDieRow), At(die1, face - 1)) << face;
       EXPECT_EQ(ShareOf(face + 1, SecondDieRow), At(die2, face - 1)) << face;
     }
-    ForEachShare([&](int column, int row) {
-      const int axis = row == FirstDieRow ? first.Axis : second.Axis;
-      const bool onAxis = column == 2 + axis || column == 7 - axis;
-      EXPECT_EQ(FlagOf(column, row), row > LastTotalRow && onAxis ? LockFlag : 0);
-      if (!IsPairCell(column, row)) return;
-      const Faces faces = FacesOfCell(column, row);
-      const double product =
-          static_cast<double>(At(die1, faces.die1 - 1)) * At(die2, faces.die2 - 1) / WholeShare;
-      EXPECT_NEAR(ShareOf(column, row), product, 0.5);
-    });
+    ForEachShare(
+        [&first = first, &second = second, &die1 = die1, &die2 = die2](int column, int row) {
+          const int axis = row == FirstDieRow ? first.Axis : second.Axis;
+          const bool onAxis = column == 2 + axis || column == 7 - axis;
+          EXPECT_EQ(FlagOf(column, row), row > LastTotalRow && onAxis ? LockFlag : 0);
+          if (!IsPairCell(column, row)) return;
+          const Faces faces = FacesOfCell(column, row);
+          const double product =
+              static_cast<double>(At(die1, faces.die1 - 1)) * At(die2, faces.die2 - 1) / WholeShare;
+          EXPECT_NEAR(ShareOf(column, row), product, 0.5);
+        });
   }
 }
 

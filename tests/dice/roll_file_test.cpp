@@ -1,6 +1,7 @@
 #include "dice/roll_file.h"
 
 #include "base/file_io.h"
+#include "engine/unattended.h"
 #include "reset.h"
 
 namespace tessarel {
@@ -55,7 +56,7 @@ TEST_F(RollFiles, PlaybackEndsAfterTheLastRoll) {
   Table.HyperDriveOn = true;
   EXPECT_EQ(PlayAll(), "11 12 66");
   EXPECT_TRUE(RollFile.EndReached);
-  EXPECT_EQ(Table.StopReason, EndReason);
+  EXPECT_EQ(StopText(Table.Stop), EndReason);
   EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
   EXPECT_EQ(RollFile.LastRoll, 3);
   EXPECT_EQ(RollFile.NextRoll, 4);
@@ -76,7 +77,7 @@ TEST_F(RollFiles, InvalidRollStopsAndSwitchesOff) {
       EXPECT_FALSE(RollFile.EndReached);
       EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
       EXPECT_EQ(RollFile.NextRoll, 2);
-      EXPECT_EQ(Table.StopReason, InvalidReason);
+      EXPECT_EQ(StopText(Table.Stop), InvalidReason);
       EXPECT_EQ(std::exchange(Shown, {}).size(), hyper ? 0u : 1u);
     }
   }
@@ -188,7 +189,7 @@ TEST_F(RollFiles, OpeningCreatesTheFileInTheProgramsFolder) {
   EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
   RewindForPlayback();
   EXPECT_EQ(PlayAll(), "");
-  EXPECT_EQ(Table.StopReason, EndReason);
+  EXPECT_EQ(StopText(Table.Stop), EndReason);
 }
 
 TEST_F(RollFiles, OpeningAnotherFileKeepsWhatWasRecorded) {

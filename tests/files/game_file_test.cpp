@@ -345,7 +345,7 @@ TEST_F(GameFileTest, UnitsOfHandledBetsAreMendedAndDollarsWhereNoneAreKept) {
     SCOPED_TRACE(kept);
     Table.HandleUnits[3].fill(5);
     SaveGame("a.tsg");
-    Patch("a.tsg", [&](RecordFile& file) {
+    Patch("a.tsg", [&Slots, kept = kept](RecordFile& file) {
       for (const int slot : Slots)
         file.At(FixedRecords + PlaceRecords).PutAmount(slot, kept);
     });
