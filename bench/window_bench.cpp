@@ -51,7 +51,7 @@ void RedrawTable(benchmark::State& state) {
   MainWindow window(Folder());
   window.Start();
   SeatEight();
-  SetOption(TableOption::DisplayPropBets, true);
+  GameViews.Table.DisplayPropBets = true;
   window.View()->resize(Screen);
   window.View()->DrawTable();
   QPixmap picture(Screen);

@@ -16,6 +16,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
+#include "files/file_dialog.h"
 #include "play/reset.h"
 #include "state/books.h"
 #include "state/payoffs.h"
@@ -55,8 +56,8 @@ class FreshTest : public ::testing::Test {
     Folders = {};
     FrontEnd = {};
     FrontEnd.ShowMessage = AnswerMessage;
-    FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
-      Shown.push_back({title, offered});
+    FrontEnd.AskSaveFile = [](FileAction action, const std::string& offered) {
+      Shown.push_back({std::string(FileActionTitle(action)), offered});
       return SaveName;
     };
     Shown.clear();

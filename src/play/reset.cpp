@@ -12,7 +12,6 @@
 #include "files/events_log_view.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
-#include "files/game_views.h"
 #include "files/hot_keys.h"
 #include "files/sessions_log.h"
 #include "log/events_log.h"
@@ -22,6 +21,7 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
@@ -52,7 +52,7 @@ void ResetAll() {
   Scripts = ScriptStoreState{};
   AutoBet = AutoBetState{};
   GameFile = GameFileState{};
-  GameViews = GameViewsState{};
+  GameViews = ViewState{};
   RollPace = RollPaceState{};
   Message = MessageState{};
 }

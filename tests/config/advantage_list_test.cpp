@@ -2,6 +2,7 @@
 
 #include "config/advantage.h"
 #include "reset.h"
+#include "texts/say.h"
 
 namespace tessarel {
 namespace {
@@ -26,7 +27,7 @@ TEST_F(AdvantageList, CaptionsOfTheBets) {
 
 TEST_F(AdvantageList, PercentagesWithTheSignForTheColour) {
   EXPECT_EQ(AdvantageNote(), "All figures shown in percentage");
-  EXPECT_EQ(AdvantageColumns()[1], "EV/Roll");
+  EXPECT_EQ(Wording(AdvantageColumns()[1]), "EV/Roll");
   const std::tuple<int, Figures, int> cases[] = {
       {bet::PassLine, {"-0.42", "54.42", "-1.41", "99.99", "-50.27"}, -1},
       {bet::Come4Odds, {"0.00", "70.71", "0.00", "141.42", "0.00"}, 0},
@@ -40,7 +41,7 @@ TEST_F(AdvantageList, PercentagesWithTheSignForTheColour) {
 TEST_F(AdvantageList, RollsDecisionsAndTimes) {
   Advantage.ShowMiscData = true;
   EXPECT_EQ(AdvantageNote(), "");
-  EXPECT_EQ(AdvantageColumns()[5], "Time/Dec");
+  EXPECT_EQ(Wording(AdvantageColumns()[5]), "Time/Dec");
   const std::tuple<int, Money, Figures> cases[] = {
       {bet::PassLine, 120, {"3.38", "0.30", "35.55", "0.59", "0:01:41.3"}},
       {bet::Place4, 1, {"4.00", "0.25", "0.25", "0.00", "4:00:00.0"}},

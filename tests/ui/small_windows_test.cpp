@@ -9,26 +9,25 @@
 #include <set>
 
 #include "base/clock.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
 #include "play/roll_fixture.h"
+#include "state/view_state.h"
 #include "texts/language.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"
+#include "ui/windows/dice_window.h"
 #include "ui/windows/rate_meter.h"
 #include "ui/windows/roll_console.h"
 #include "ui/windows/roll_pad.h"
-#include "ui/windows/small_window_texts.h"
+#include "ui/windows/status_panel.h"
 
 namespace tessarel {
 namespace {
 
-constexpr int ConsoleSlot = 20;
-
-QWidget* Console = nullptr;
+RollConsole* Console = nullptr;
 
 RollPad* Pad() {
-  return dynamic_cast<RollPad*>(Console->findChild<QWidget*>("RollPad"));
+  return Console->findChild<RollPad*>();
 }
 
 class SmallWindows : public RollTest {
@@ -47,7 +46,7 @@ class SmallWindows : public RollTest {
     RollTest::TearDown();
   }
   void Open() {
-    console_.reset(MakeRollConsole(nullptr));
+    console_ = std::make_unique<RollConsole>(nullptr);
     Console = console_.get();
     Console->show();
     QApplication::processEvents();
@@ -64,7 +63,7 @@ class SmallWindows : public RollTest {
     return Console->findChild<Kind*>(name);
   }
 
-  std::unique_ptr<QWidget> console_;
+  std::unique_ptr<RollConsole> console_;
 };
 
 TEST_F(SmallWindows, CellsOfEachDisplayRollTheirDice) {
@@ -131,13 +130,13 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
   SetButtonColor(RollKind::Seven, Qt::black);
   Console->setGeometry(40, 50, 500, 480);
   const QPoint place = Console->pos();
-  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 1);
+  EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowOpen);
   Part<QAction>("mnuHide")->trigger();
-  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 0);
+  EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowClosed);
   Console->show();
   Console->close();
-  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 0);
-  RestoreSmallWindow(Console);
+  EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowClosed);
+  Console->Restore();
   EXPECT_FALSE(Console->isVisible());
   Open();
   EXPECT_EQ(Pad()->Grid().Cells.size(), 36U);
@@ -150,18 +149,12 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
   EXPECT_EQ(Console->size(), QSize(500, 480));
 }
 
-TEST_F(SmallWindows, WordsThatCannotBeUsedLeaveTheConsoleUsable) {
-  for (const int32_t word : {-5, 0, 7, 64, 1'000'000}) {
-    GameViews.Display[13] = word;
-    GameViews.Display[39] = word < 0 ? word : 0x1FFFFFF;
-    GameViews.Windows[ConsoleSlot + 1] = 900'000;
-    GameViews.Windows[ConsoleSlot + 2] = -900'000;
-    GameViews.Windows[ConsoleSlot + 3] = GameViews.Windows[ConsoleSlot + 4] = 300;
-    Open();
-    EXPECT_EQ(Pad()->Grid().Cells.size(), 11U) << word;
-    EXPECT_EQ(ButtonColor(RollKind::Numbers), QColor(0xF1, 0xED, 0xE2));
-    EXPECT_LT(Console->x(), 10'000);
-  }
+TEST_F(SmallWindows, ConsoleOfAnotherScreenOpensWithinReach) {
+  GameViews.Windows.RollConsole = {WindowClosed, FarthestPixel, -FarthestPixel, 300, 300};
+  Open();
+  EXPECT_EQ(Pad()->Grid().Cells.size(), 11U);
+  EXPECT_EQ(ButtonColor(RollKind::Numbers), QColor(0xF1, 0xED, 0xE2));
+  EXPECT_LT(Console->x(), 10'000);
 }
 
 TEST_F(SmallWindows, ThrottleFollowsTheSettingBothWays) {
@@ -169,14 +162,14 @@ TEST_F(SmallWindows, ThrottleFollowsTheSettingBothWays) {
   slider->setValue(40);
   EXPECT_EQ(Settings.Throttle, 40);
   Settings.Throttle = 7;
-  RefreshSmallWindow(Console);
+  Console->Refresh();
   EXPECT_EQ(slider->value(), 7);
   EXPECT_EQ(Settings.Throttle, 7);
 }
 
 TEST_F(SmallWindows, DiceWindowCallsTheTotal) {
-  const std::unique_ptr<QWidget> window(MakeDiceWindow(nullptr));
-  EXPECT_EQ(window->accessibleDescription(), "No roll yet");
+  DiceWindow window(nullptr);
+  EXPECT_EQ(window.accessibleDescription(), "No roll yet");
   const struct {
     int die1, die2;
     const char* call;
@@ -185,21 +178,22 @@ TEST_F(SmallWindows, DiceWindowCallsTheTotal) {
                {5, 5, "Ten the hard way"},   {6, 5, "Eleven"},      {1, 3, "Four"}};
   for (const auto& each : cases) {
     Throw(each.die1, each.die2);
-    RefreshSmallWindow(window.get());
-    EXPECT_EQ(window->accessibleDescription(), each.call);
+    window.Refresh();
+    EXPECT_EQ(window.accessibleDescription(), each.call);
   }
 }
 
 TEST_F(SmallWindows, StatusBoxGrowsWithItsSizeAndStaysInItsParent) {
   QWidget table;
   table.resize(1200, 800);
-  QWidget* box = MakeStatusBox(&table);
+  auto* box = new StatusPanel(&table);
   EXPECT_GT(box->width(), box->height()) << "a line for an empty table";
   for (int place = 1; place <= LastPlace; ++place)
     Seat(place);
   QSize last;
-  for (GameViews.StatusBoxSize = 1; GameViews.StatusBoxSize <= 3; ++GameViews.StatusBoxSize) {
-    RefreshSmallWindow(box);
+  for (GameViews.Table.StatusBoxSize = 1; GameViews.Table.StatusBoxSize <= 3;
+       ++GameViews.Table.StatusBoxSize) {
+    box->Refresh();
     EXPECT_GT(box->width(), last.width());
     EXPECT_GT(box->height(), last.height());
     last = box->size();
@@ -215,27 +209,30 @@ TEST_F(SmallWindows, StatusBoxGrowsWithItsSizeAndStaysInItsParent) {
 
 TEST_F(SmallWindows, RateIsThatOfTheLastHalfSecond) {
   HoldClock({2026, 11, 22});
-  const auto advance = [](int64_t milliseconds, int32_t rolls) {
+  RollRate rate;
+  HyperDriveMeter meter;
+  const auto advance = [&](int64_t milliseconds, int32_t rolls) {
     AdvanceClock(milliseconds);
     Stats.RollCount[CurrentSession][0] += rolls;
-    return RollRate();
+    Table.HyperDriveOn = true;
+    const double shown = rate.PerSecond();
+    const QString text = shown > 0 ? RollRateText(shown) + " rolls/s" : QString();
+    EXPECT_EQ(meter.Text(), text);
+    Table.HyperDriveOn = false;
+    EXPECT_EQ(meter.Text(), "") << "nothing runs";
+    return shown;
   };
   advance(5000, 0);
   EXPECT_EQ(advance(50, 100), 0) << "too short to tell";
   EXPECT_EQ(advance(50, 100), 2000);
   for (int k = 0; k < 20; ++k)
     advance(100, 100'000);
-  EXPECT_EQ(RollRate(), 1'000'000);
-  const HyperDriveMeter meter;
-  EXPECT_EQ(meter.Text(), "") << "nothing runs";
-  Table.HyperDriveOn = true;
-  EXPECT_EQ(meter.Text(), "1,000,000 rolls/s");
-  Table.HyperDriveOn = false;
+  EXPECT_EQ(rate.PerSecond(), 1'000'000);
+  EXPECT_EQ(RollRateText(1'000'000), "1,000,000");
   EXPECT_EQ(advance(200, 0), 600'000);
   EXPECT_EQ(advance(600, 0), 0);
-  EXPECT_EQ(RollRateText(0), "");
   Stats = {};
-  EXPECT_EQ(RollRate(), 0) << "a new session counts from 0";
+  EXPECT_EQ(rate.PerSecond(), 0) << "a new session counts from 0";
 }
 
 // Shortcut letters within a menu; a caption has one.
@@ -255,7 +252,7 @@ TEST_F(SmallWindows, NoTextIsCutInAnyLanguage) {
   for (int language = 0; language < LanguageCount; ++language) {
     SetLanguage(language);
     for (int display = BasicNumbers; display <= SingleDice; ++display) {
-      RefreshSmallWindow(Console);
+      Console->Refresh();
       ShowDisplay(static_cast<RollPadDisplay>(display));
       QApplication::processEvents();
       auto* hint = Part<QLabel>("lblHint");

@@ -15,14 +15,15 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "files/game_views.h"
 #include "play/manual_roll.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
 #include "play/start_up.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "ui/main_window.h"
+#include "ui/trapped_application.h"
 
 namespace tessarel {
 
@@ -37,6 +38,8 @@ class WindowTest : public testing::Test {
 
   void Open() {
     window = std::make_unique<MainWindow>(folder.Path());
+    QObject::connect(static_cast<TrappedApplication*>(qApp), &TrappedApplication::FaultReported,
+                     window.get(), &MainWindow::Recover);
     window->Start();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));

@@ -4,9 +4,12 @@
 
 #include <QWidget>
 
+#include "state/view_state.h"
+
 namespace tessarel {
 
 class SmallWindow : public QWidget {
+  Q_OBJECT
  public:
   using QWidget::QWidget;
   // Shows the language, figures and settings now in force.
@@ -14,14 +17,14 @@ class SmallWindow : public QWidget {
 };
 
 // A window that stays above its parent's. Shown, it stands where it was left, if that place is on a
-// screen; moved, resized, shown or hidden, it writes its words.
+// screen; moved, resized, shown or hidden, it writes that place.
 class FloatingWindow : public SmallWindow {
+  Q_OBJECT
  public:
-  // `slot` is the first of its five words: state, left, top, width, height.
-  FloatingWindow(QWidget* parent, int slot);
+  FloatingWindow(QWidget* parent, WindowPlace WindowPlaces::*place);
 
   void setVisible(bool visible) override;
-  // Shows or hides it as the words say.
+  // Shows or hides it as the game keeps it.
   void Restore();
 
  protected:
@@ -32,7 +35,9 @@ class FloatingWindow : public SmallWindow {
   void TakePlace();
   void KeepPlace() const;
 
-  int slot_;
+  WindowPlace& Kept() const { return GameViews.Windows.*kept_; }
+
+  WindowPlace WindowPlaces::*kept_;
 };
 
 }  // namespace tessarel
