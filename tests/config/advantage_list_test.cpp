@@ -2,6 +2,7 @@
 
 #include "config/advantage.h"
 #include "reset.h"
+#include "texts/say.h"
 
 namespace tessarel {
 namespace {

@@ -27,6 +27,7 @@
 #include "play/start_up.h"
 #include "reset.h"
 #include "state/books_check.h"
+#include "state/view_state.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
 
