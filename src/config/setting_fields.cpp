@@ -230,10 +230,6 @@ struct KeyedValue {
   Money value;
 };
 
-std::string Quoted(std::string_view text) {
-  return std::string(1, '"').append(text) + '"';
-}
-
 // What the field takes, to follow "must be".
 std::string Allowed(const SettingField& field) {
   const auto [low, high, step] = field.Range;

@@ -3,10 +3,11 @@
 #include <algorithm>
 
 #include "base/number_format.h"
-#include "engine/bet_handling.h"
+#include "engine/payouts.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/vig.h"
 #include "texts/bet_texts.h"
 #include "texts/language.h"
 
@@ -48,8 +49,8 @@ Money PaidAt(Money amount, const PayoffRow& row) {
   return Money::FromDouble(MulDiv(amount, row.PayNum, row.PayDen));
 }
 
-bool Rounded() {
-  return Table.NetWin != Table.GrossWin;
+bool Rounded(const Payout& payout) {
+  return payout.net != payout.gross;
 }
 
 void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow& row) {
@@ -62,37 +63,42 @@ void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow&
       {FillIn(BetTexts.LessPartOfBet, {std::to_string(parts - 1), whole}), Dollars(amount - part)});
 }
 
-void AddVigRow(SettlePrompt& prompt, Money gross) {
+void AddVigRow(SettlePrompt& prompt, Money vig) {
+  if (!CarriesVig(prompt.number)) return;
   const bool lay = InFamily(prompt.number, LayFamily);
-  if (!lay && !InFamily(prompt.number, BuyFamily)) return;
   const Money percent = (lay ? Settings.LayVigPct : Settings.BuyVigPct) * 100;
-  prompt.rows.push_back(
-      {FillIn(BetTexts.VigPercent, {FormatMoney(percent)}), Dollars(gross - Table.GrossWin)});
+  prompt.rows.push_back({FillIn(BetTexts.VigPercent, {FormatMoney(percent)}), Dollars(vig)});
 }
 
-void AddWinRows(SettlePrompt& prompt, Money amount) {
+void AddWinRows(SettlePrompt& prompt, const Decision& decision) {
+  const Money amount = decision.amount;
   const std::string count = CountLine(prompt.number);
   if (!count.empty()) prompt.rows.push_back({count, ""});
-  const PayoffRow& row = Payoffs.Payoff[0];
+  const PayoffRow row = DecidingRow(decision.number, decision.result);
   const int parts = PartsOf(prompt.number);
   if (parts > 1) {
     AddPartRows(prompt, amount, parts, row);
   } else {
     const Money gross = PaidAt(amount, row);
     prompt.rows.push_back({std::string(GetText(49)) + RatioText(row) + ":", Dollars(gross)});
-    AddVigRow(prompt, gross);
+    AddVigRow(prompt, gross - decision.payout.gross);
   }
-  prompt.rows.push_back({LocalizedText(Rounded() ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff),
-                         Dollars(Table.NetWin)});
+  prompt.rows.push_back(
+      {LocalizedText(Rounded(decision.payout) ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff),
+       Dollars(decision.payout.net)});
 }
 
-void AddLossRows(SettlePrompt& prompt, Money amount) {
+void AddLossRows(SettlePrompt& prompt, const Decision& decision) {
+  const Payout& payout = decision.payout;
   prompt.rows.push_back(
-      {FillIn(BetTexts.LossAt, {RatioText(Payoffs.Payoff[0])}), Dollars(-Table.GrossWin)});
-  prompt.rows.push_back({LocalizedText(Rounded() ? BetTexts.NetLossRounded : BetTexts.NetLoss),
-                         Dollars(-Table.NetWin)});
+      {FillIn(BetTexts.LossAt, {RatioText(DecidingRow(decision.number, decision.result))}),
+       Dollars(-payout.gross)});
+  prompt.rows.push_back(
+      {LocalizedText(Rounded(payout) ? BetTexts.NetLossRounded : BetTexts.NetLoss),
+       Dollars(-payout.net)});
   if (PartsOf(prompt.number) > 1) {
-    prompt.rows.push_back({LocalizedText(BetTexts.Remainder), Dollars(amount + Table.NetWin)});
+    prompt.rows.push_back(
+        {LocalizedText(BetTexts.Remainder), Dollars(decision.amount + payout.net)});
   }
 }
 
@@ -102,10 +108,11 @@ void SetButtons(SettlePrompt& prompt) {
       prompt.buttons[k] = GetText(50 + static_cast<int>(k));
     }
   } else {
-    prompt.buttons = {LocalizedText(BetTexts.NoBet), LocalizedText(BetTexts.SameBet),
-                      LocalizedText(BetTexts.BetRemainder),
-                      FillIn(BetTexts.UnitToBet, {FormatMoney(Table.ChipUnit)}),
-                      LocalizedText(BetTexts.DoubleBet)};
+    prompt.buttons = {
+        LocalizedText(BetTexts.NoBet), LocalizedText(BetTexts.SameBet),
+        LocalizedText(BetTexts.BetRemainder),
+        FillIn(BetTexts.UnitToBet, {FormatMoney(PressingUnit(prompt.place, prompt.number))}),
+        LocalizedText(BetTexts.DoubleBet)};
   }
 }
 
@@ -122,23 +129,23 @@ std::string UnitsText(Money units) {
   return FillIn(BetTexts.Units, {FormatMoney(CheckOfUnits(units))});
 }
 
-SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
+SettlePrompt MakeSettlePrompt(const Decision& decision, bool offersPress) {
+  const int place = decision.place;
   SettlePrompt prompt;
   prompt.place = place;
-  prompt.number = Table.CurrentBet;
-  prompt.outcome = outcome;
+  prompt.number = decision.number;
+  prompt.outcome = decision.outcome;
   prompt.offersPress = offersPress;
-  const Money amount = Bet(place, prompt.number);
   const std::string& name = Table.PlayerName[place];
-  prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(amount)});
-  switch (outcome) {
+  prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(decision.amount)});
+  switch (decision.outcome) {
     case Outcome::Won:
       prompt.title = {name, std::string(GetText(35))};
-      AddWinRows(prompt, amount);
+      AddWinRows(prompt, decision);
       break;
     case Outcome::Lost:
       prompt.title = {std::string(GetText(36)), name};
-      AddLossRows(prompt, amount);
+      AddLossRows(prompt, decision);
       break;
     case Outcome::Idle:
       prompt.title = {name, ""};

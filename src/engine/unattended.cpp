@@ -8,7 +8,7 @@
 namespace tessarel {
 
 void StopUnattended() {
-  if (!Table.AutoRollOn && !Table.HyperDriveOn) return;
+  if (!RunIsOn()) return;
   Table.AutoRollOn = Table.HyperDriveOn = false;
   if (!Table.StopReason.empty()) {
     ShowMessage(Table.StopReason, LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert,

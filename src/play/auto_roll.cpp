@@ -31,12 +31,8 @@ constexpr SixTexts Interrupted = {
     "Automatisches Wetten abgebrochen.", "Mises automatiques interrompues.",
     "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
 
-bool Runs() {
-  return Table.AutoRollOn || Table.HyperDriveOn;
-}
-
 void Start(UnattendedMode mode) {
-  if (Runs() || Table.RollInProgress) return;
+  if (RunIsOn() || Table.RollInProgress) return;
   Table.AutoRollOn = true;
   Table.HyperDriveOn = mode == UnattendedMode::HyperDrive;
   FrontEnd.DrawStatus();
@@ -54,7 +50,7 @@ std::optional<Money> AskForNumber(std::string_view question, std::string_view ti
 }  // namespace
 
 void ToggleAutoRoll(UnattendedMode mode) {
-  Runs() ? StopAutoRoll() : Start(mode);
+  RunIsOn() ? StopAutoRoll() : Start(mode);
 }
 
 void StartAutoRoll() {
@@ -67,6 +63,15 @@ void StartHyperDrive() {
 
 void StopAutoRoll() {
   StopUnattended();
+}
+
+bool AskToStopRun() {
+  if (!RunIsOn()) return true;
+  const bool hyper = Table.HyperDriveOn;
+  const std::string title(GetText(hyper ? 114 : 117)), question(GetText(hyper ? 118 : 119));
+  if (ShowMessage(question, title, msg::AskYesDefault, help::AutoRoll) != AnswerYes) return false;
+  StopUnattended();
+  return true;
 }
 
 std::string_view HyperDriveCaption() {
@@ -82,7 +87,7 @@ void AskSetAutoStop() {
   const auto rolls = AskForNumber(Localized(RollTexts.AskAutoStop),
                                   Localized(RollTexts.AutoStopTitle), Settings.AutoStopRolls);
   if (!rolls) return;
-  Settings.AutoStopRolls = Money::FromWhole(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
+  Settings.AutoStopRolls = static_cast<int32_t>(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
 }
 
 void AskSetTimeDelay() {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/money.h"
+#include "engine/bet_request.h"
 
 namespace tessarel {
 
@@ -26,7 +27,7 @@ std::optional<Money> AskBankroll(const std::string& question,
 void ShowPassedDiceNote();
 
 // Hands the dice to the next player who wants them and may have them.
-void PassDice(PassReason reason);
+void PassDice(PassReason reason, Telling telling = Telling::Aloud);
 
 // The bankroll of the place is beyond its limit: says so and bars further rolls of the session,
 // even if the player leaves.

@@ -21,7 +21,6 @@
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "dice/roll_file_edit.h"
-#include "engine/bet_handling.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
 #include "engine/seats.h"
@@ -62,23 +61,23 @@ void Attempt(Step&& step) {
 }
 
 void LoseAbandoned(int number) {
-  for (int visit = 1; visit <= LastPlace; ++visit)
-    Attempt([=] { ResolveBet(visit, Lose, number); });
+  for (int visit = 1; visit <= LastPlace; ++visit) {
+    Attempt([=] {
+      if (const auto lost = DecideBet(visit, Lose, number)) TakeDownBet(lost->place, lost->number);
+    });
+  }
 }
 
 // The bets that cannot be taken back are lost with the session; nobody is asked what becomes of
 // them.
 void LoseAbandonedBets() {
   if (Settings.ReturnAbandonedBets) return;
-  const auto modes = std::exchange(Table.HandleLosingBets, {});
-  Table.HandleLosingBets.fill(LossTakeDown);
   if (Table.Point != 0) {
     LoseAbandoned(bet::PassLine);
     LoseAbandoned(bet::SevenPoint7);
   }
   for (int number = bet::Come4; number <= bet::Come10; ++number)
     LoseAbandoned(number);
-  Table.HandleLosingBets = modes;
 }
 
 // Every player's session goes into his log, unless the logs go with it.
@@ -235,16 +234,6 @@ std::string Text(int id) {
   return std::string(GetText(id));
 }
 
-bool AskToStopUnattended() {
-  const bool hyper = Table.HyperDriveOn;
-  if (!hyper && !Table.AutoRollOn) return true;
-  const int title = hyper ? 114 : 117, question = hyper ? 118 : 119;
-  if (ShowMessage(Text(question), Text(title), msg::AskYesDefault, help::AutoRoll) != AnswerYes)
-    return false;
-  StopUnattended();
-  return true;
-}
-
 bool AskToStopScripts() {
   if (!AutoBet.ScriptRunning) return true;
   if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
@@ -323,7 +312,7 @@ bool KeepTable() {
 
 void SetUpNewTable(const std::string& appFolder) {
   ResetModules();
-  ScriptHost = {StartSessionOfScript, [] { PassDice(PlayerAsked); }};
+  ScriptHost = {StartSessionOfScript, [] { PassDice(PlayerAsked, Telling::Silent); }};
   SetAppFolder(appFolder);
   SetLanguage(English);
   DefaultPayoffs();
@@ -386,7 +375,7 @@ void OpenDefaultGame(std::string_view commandLine) {
 }
 
 bool AskToLeave() {
-  return AskToStopUnattended() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
+  return AskToStopRun() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
 }
 
 bool AskToReplaceGame() {

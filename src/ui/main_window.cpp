@@ -327,15 +327,7 @@ void MainWindow::ShowHint() {
 
 // The right button rolls; during a run it asks to stop.
 void MainWindow::RightClick() {
-  if (Table.AutoRollOn || Table.HyperDriveOn) {
-    const bool hyper = Table.HyperDriveOn;
-    const int32_t answer =
-        ShowMessage(std::string(GetText(hyper ? 118 : 119)),
-                    std::string(GetText(hyper ? 114 : 117)), msg::AskYesDefault, help::AutoRoll);
-    if (answer == AnswerYes) StopAutoRoll();
-  } else {
-    RollTheDice();
-  }
+  RunIsOn() ? void(AskToStopRun()) : RollTheDice();
   RefreshAll();
 }
 
@@ -348,7 +340,7 @@ void MainWindow::ShowPlayerMenu(int, QPoint at) {
 }
 
 void MainWindow::ToggleRun(bool hyperDrive) {
-  if (Table.AutoRollOn || Table.HyperDriveOn) {
+  if (RunIsOn()) {
     StopAutoRoll();
   } else if (TableIsIdle() && ConfirmScriptActive()) {
     batch_ = untilLook_ = 1;

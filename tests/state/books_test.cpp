@@ -10,6 +10,7 @@
 #include "play/players.h"
 #include "play/roll_fixture.h"
 #include "state/books_check.h"
+#include "state/vig.h"
 
 namespace tessarel {
 namespace {
@@ -101,7 +102,7 @@ BetMeasures Remeasure(const std::vector<std::pair<Money, int>>& entries) {
     m.LastRoll = roll;
     m.Last = amount;
   }
-  m.Count = static_cast<int>(entries.size());
+  m.Count = std::ssize(entries);
   if (!entries.empty()) {
     m.Low = std::min_element(entries.begin(), entries.end(), [](auto& a, auto& b) {
               return a.first < b.first;
@@ -112,7 +113,7 @@ BetMeasures Remeasure(const std::vector<std::pair<Money, int>>& entries) {
 
 bool operator==(const BetMeasures& a, const BetMeasures& b) {
   const auto fields = [](const BetMeasures& m) {
-    return std::array{m.Count, m.Sum, m.High, m.Low, m.LastRoll, m.Last};
+    return std::tuple{m.Count, m.Sum, m.High, m.Low, m.LastRoll, m.Last};
   };
   return fields(a) == fields(b);
 }
@@ -234,13 +235,9 @@ class LongGame : public RollTest {
     const int number = Plays[(roll * 7 + place) % 10];
     const Money amount = 10 * (1 + (roll * 3 + place) % 8);
     PutDown(place, number, amount);
-    const bool lay = number < bet::DontCome4;
-    if (!lay && !InFamily(number, BuyFamily)) return;
-    const Money vig = lay ? FigureLayVig(number, amount) : FigureBuyVig(number, amount);
-    At(At(lay ? Table.LayVig : Table.BuyVig, place), (number - 1) % 6) = vig;
-    if ((lay ? Settings.LayVigAllBets : Settings.BuyVigAllBets) != 0) {
-      Table.MoneyOnTable[place] += vig;
-    }
+    if (!CarriesVig(number)) return;
+    StoredVig(place, number) = FigureVig(number, amount);
+    Table.MoneyOnTable[place] += VigUpFront(place, number);
   }
 
   void PlayOne() {
@@ -363,7 +360,7 @@ TEST_F(Store, ClearingAPlaceLeavesTheOthers) {
   Throw({{2, 2}, {3, 4}, {1, 1}});
   ClearPlayerStats(1);
   for (int scope = 0; scope < SlotCount; scope += SlotsInScope) {
-    EXPECT_EQ(Stats.Bets[1 + scope][bet::Field].Tendered.Count, Money());
+    EXPECT_EQ(Stats.Bets[1 + scope][bet::Field].Tendered.Count, 0);
     EXPECT_EQ(Stats.RollCount[1 + scope][0], 0);
     EXPECT_EQ(Stats.Hands[1 + scope].RollTotal, 0);
   }
@@ -378,9 +375,9 @@ TEST_F(Store, ClearingAllSessionsKeepsTheSession) {
   Throw(1, 1);
   ClearAllSessions();
   EXPECT_EQ(Stats.RollCount[AllSessions][0], 0);
-  EXPECT_EQ(Stats.Bets[1 + AllSessions][bet::Field].Won.Count, Money());
+  EXPECT_EQ(Stats.Bets[1 + AllSessions][bet::Field].Won.Count, 0);
   EXPECT_EQ(RollsInSession(), 1);
-  EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Field].Won.Count, Money(1));
+  EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Field].Won.Count, 1);
 }
 
 TEST_F(Store, AFullFigureIsReportedAndTheRollGoesOn) {

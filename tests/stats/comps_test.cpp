@@ -33,7 +33,7 @@ class Comps : public ::testing::Test {
     Probability = {};
     DefaultPayoffs();
   }
-  static void Enter(int number, Money count, Money sum) {
+  static void Enter(int number, int64_t count, Money sum) {
     BetMeasures& wagered = Stats.Bets[Slot][number].Tendered;
     wagered.Count = count;
     wagered.Sum = sum;
@@ -52,7 +52,7 @@ TEST_F(Comps, AreFiguredFromTheBaseOfTheConfiguration) {
     Settings.CompBase = c.Base;
     const CompFigures figures = FigureComps(Slot);
     EXPECT_DOUBLE_EQ(figures.Comps, c.Expected);
-    EXPECT_EQ(figures.Decisions, Money(10));
+    EXPECT_EQ(figures.Decisions, 10);
     EXPECT_EQ(figures.Action, Money(160));
     EXPECT_EQ(figures.AverageAction, Money(8));
     EXPECT_DOUBLE_EQ(figures.TheoreticalLoss, Loss);

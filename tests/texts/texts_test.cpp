@@ -12,6 +12,7 @@
 
 #include "base/single_byte_text.h"
 #include "config/configuration.h"
+#include "engine/payouts.h"
 #include "engine/rules_fixture.h"
 #include "engine/settle_prompt.h"
 #include "files/file_dialog.h"
@@ -204,12 +205,9 @@ TEST_F(TextsAtTheTable, AShooterWithoutALineBetIsToldSo) {
 
 TEST_F(TextsAtTheTable, TheSettlePromptSpeaksTheLanguageInForce) {
   SetLanguage(Turkish);
-  Table.CurrentBet = bet::Buy4;
   Settings.BuyVigPct = Money::FromDouble(0.05);
   PutDown(Ann, bet::Buy4, 20);
-  Payoffs.Payoff[0].PayNum = 2;
-  Table.GrossWin = Table.NetWin = 39;
-  const SettlePrompt prompt = MakeSettlePrompt(Ann, Outcome::Won, true);
+  const SettlePrompt prompt = MakeSettlePrompt({Ann, bet::Buy4, Win, 20, {39, 39}}, true);
   std::vector<std::string> rows;
   for (const auto& [caption, figure] : prompt.rows)
     rows.push_back(caption + "|" + figure);

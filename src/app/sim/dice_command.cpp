@@ -67,7 +67,7 @@ void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
                                     " takes whole numbers from 1 to " +
                                     std::to_string(SeedLimit(number)) + ".");
   }
-  Dice.SeedRequest = seed ? Money::FromWhole(*seed) : Money();
+  Dice.SeedRequest = seed.value_or(0);
   try {
     SeedRNG(-1);
   } catch (const Fault& fault) {

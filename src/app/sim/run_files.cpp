@@ -10,6 +10,7 @@
 #include "base/fault.h"
 #include "base/file_io.h"
 #include "base/folders.h"
+#include "base/single_byte_text.h"
 #include "dice/roll_file.h"
 #include "files/sessions_log.h"
 #include "log/events_log.h"
@@ -28,8 +29,8 @@ struct RunFile {
   bool written;
 };
 
-std::string Quoted(const char* what, const std::string& name) {
-  return std::string("The ") + what + " \"" + name + "\"";
+std::string Naming(const std::string& what, const std::string& name) {
+  return "The " + what + " " + Quoted(name);
 }
 
 // The file behind links, in one form for each file.
@@ -41,7 +42,7 @@ fs::path Resolved(const std::string& name) {
 
 void RefuseUnwritable(const RunFile& file) {
   const auto refuse = [&file](const std::string& why) {
-    throw Failure(CannotBeDone, Quoted(file.what, *file.name) + " cannot be written: " + why);
+    throw Failure(CannotBeDone, Naming(file.what, *file.name) + " cannot be written: " + why);
   };
   const fs::path path = Resolved(*file.name);
   std::error_code error;
@@ -82,7 +83,7 @@ void RefuseDoubleUse(const RunFile& file, const std::vector<RunFile>& files) {
   for (const RunFile& other : files) {
     if (other.name == file.name || other.name->empty() || Resolved(*other.name) != path) continue;
     throw Failure(CannotBeDone,
-                  Quoted(file.what, *file.name) + " cannot be the " + other.what + " as well.");
+                  Naming(file.what, *file.name) + " cannot be the " + other.what + " as well.");
   }
 }
 
@@ -100,7 +101,7 @@ void WithFile(const std::string& what,
     work();
   } catch (const Fault& fault) {
     throw Failure(CannotBeDone,
-                  Quoted(what.c_str(), name) + " " + trouble + ": " + fault.Description + ".");
+                  Naming(what, name) + " " + trouble + ": " + fault.Description + ".");
   }
 }
 
@@ -120,7 +121,7 @@ void PlayFrom(const std::string& name) {
   const std::string path = PathOf(name);
   if (!FileExists(path)) {
     const bool there = fs::exists(path);
-    throw Failure(CannotBeDone, Quoted("dice roll file", name) +
+    throw Failure(CannotBeDone, Naming("dice roll file", name) +
                                     (there ? " is not an ordinary file." : " does not exist."));
   }
   WithFile("dice roll file", name, "cannot be read", [&name] { OpenRollFile(name); });
@@ -158,7 +159,7 @@ void CheckSessionsLogs(const RunOptions& options) {
     RefuseDoubleUse(log, files);
     if (FileExists(*log.name) && !IsSessionsLog(*log.name)) {
       throw Failure(CannotBeDone,
-                    Quoted(log.what, *log.name) + " is not a true Tessarel Sessions Log.");
+                    Naming(log.what, *log.name) + " is not a true Tessarel Sessions Log.");
     }
     files.push_back(log);
   });
@@ -216,7 +217,7 @@ bool Recording::Lost() const {
 void Recording::Finish() {
   if (part_.empty()) return;
   if (Lost()) {
-    throw Failure(CannotBeDone, Quoted("recording", name_) + " cannot be written to its end.");
+    throw Failure(CannotBeDone, Naming("recording", name_) + " cannot be written to its end.");
   }
   WithFile("recording", name_, "cannot be written", [] { CloseRollFile(); });
 }
@@ -224,7 +225,7 @@ void Recording::Finish() {
 void Recording::Keep() {
   if (part_.empty()) return;
   if (std::rename(part_.c_str(), target_.c_str()) != 0) {
-    throw Failure(CannotBeDone, Quoted("recording", name_) + " cannot be put in its place.");
+    throw Failure(CannotBeDone, Naming("recording", name_) + " cannot be put in its place.");
   }
   part_.clear();
 }

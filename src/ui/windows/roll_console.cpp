@@ -292,7 +292,7 @@ void RollConsole::RefreshFigures() {
   hsbThrottle_->setValue(Settings.Throttle);
   throttleValue_->setText(QString::number(hsbThrottle_->value()));
   lblRollCounter_->setText(Shown(FillIn(RollCountText, {CountText(int64_t{RollsInSession()})})));
-  const int64_t stop = Settings.AutoStopRolls.Floor();
+  const int64_t stop = Settings.AutoStopRolls;
   const std::string every = stop > 0 ? CountText(stop) : std::string(Localized(NoAutoStop));
   mnuSetAutoStop_->setText(Shown(FillIn(AutoStopCaption, {every})));
   mnuSetAutoRollTimeDelay_->setText(
