@@ -11,7 +11,7 @@
 #include "files/game_file.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 
 namespace tessarel {
 namespace {

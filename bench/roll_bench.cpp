@@ -11,7 +11,7 @@
 #include "engine/seats.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/settings.h"
 #include "state/table.h"

@@ -9,7 +9,7 @@
 #include "files/sessions_commands.h"
 #include "files/sessions_log.h"
 #include "play/players.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/table.h"
 

@@ -7,7 +7,7 @@
 
 #include "dice/generators.h"
 #include "play/players.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/table.h"
 

@@ -10,7 +10,7 @@
 #include "engine/bets.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/settings.h"
 #include "ui/main_window.h"
@@ -50,7 +50,7 @@ void RedrawTable(benchmark::State& state) {
   MainWindow window(Folder());
   window.Start();
   SeatEight();
-  SetOption(TableOption::DisplayPropBets, true);
+  GameViews.Table.DisplayPropBets = true;
   window.View()->resize(Screen);
   window.View()->DrawTable();
   QPixmap picture(Screen);

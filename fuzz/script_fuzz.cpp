@@ -14,7 +14,7 @@
 #include "fuzz_helpers.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"

@@ -17,7 +17,6 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/roll_texts.h"
 
 namespace tessarel {
 
@@ -53,21 +52,21 @@ bool HasValue(const ScriptCommand& command, int32_t error = NoValue) {
 // A stop that the script has asked for in this cycle outlives the session.
 void StartSession(const ScriptCommand& command) {
   if (!HasRight(Scripts.AllowReset, 853)) return;
-  const bool stops = Table.StopReason == Localized(RollTexts.StoppedByCommand);
+  const bool stops = Table.Stop == StopCause::ScriptCommand;
   const int32_t form = command.action;
   ScriptHost.StartSession(form == PreserveStacks || form == PreserveBoth,
                           form == PreserveRollFile || form == PreserveBoth);
-  if (stops) Table.StopReason = Localized(RollTexts.StoppedByCommand);
+  if (stops) Table.Stop = StopCause::ScriptCommand;
   AutoBet.TableWasReset = AutoBet.NewSessionBegins = true;
   AutoBet.Initializing = false;
 }
 
 // In a roll the cycle goes on, and the roll driver ends the run behind it.
 void StopRolling(const ScriptCommand&) {
-  Table.StopReason = Localized(RollTexts.StoppedByCommand);
+  Table.Stop = StopCause::ScriptCommand;
   if (Table.RollInProgress) return;
   StopUnattended();
-  Table.StopReason.clear();
+  Table.Stop = StopCause::None;
 }
 
 void TurnStepsOn(const ScriptCommand&) {

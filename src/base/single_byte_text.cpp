@@ -85,11 +85,20 @@ std::string_view Trimmed(std::string_view text, std::string_view padding) {
 
 }  // namespace
 
+void AppendSingleByte(std::string& bytes, std::string_view utf8) {
+  const auto isPlain = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::ranges::all_of(utf8, isPlain)) {
+    bytes += utf8;
+    return;
+  }
+  while (!utf8.empty())
+    bytes += ByteOf(TakeCharacter(utf8));
+}
+
 std::string ToSingleByte(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
-  while (!utf8.empty())
-    bytes += ByteOf(TakeCharacter(utf8));
+  AppendSingleByte(bytes, utf8);
   return bytes;
 }
 

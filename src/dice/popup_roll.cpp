@@ -84,14 +84,15 @@ std::optional<Faces> TakePopupRoll() {
   } catch (const Fault& fault) {
     // A file that stays would give its dice again and again, or none at each of a run's rolls.
     ReportFault(fault, "TakePopupRoll");
-    Table.StopReason = fault.Description;
+    Table.Stop = StopCause::PopupRollFault;
+    Table.StopFault = fault.Description;
     return std::nullopt;
   }
   if (!Table.HyperDriveOn) {
     ShowMessage(LocalizedText(DiceTexts.InvalidRollInPopup), LocalizedText(DiceTexts.RollFileError),
                 msg::OkAlert);
   }
-  Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
+  Table.Stop = StopCause::InvalidRoll;
   return std::nullopt;
 }
 

@@ -31,8 +31,8 @@ void ClosePopupRoll();
 bool WaitForPopupRoll();
 
 // Takes two dice and deletes the file. Empty, with the file left alone, when it holds fewer or
-// cannot be read or deleted; StopReason then says why, and it has been reported (too few dice: not
-// under the Hyper-Drive).
+// cannot be read or deleted; the cause of the stop then says why, and it has been reported (too few
+// dice: not under the Hyper-Drive).
 std::optional<Faces> TakePopupRoll();
 
 }  // namespace tessarel

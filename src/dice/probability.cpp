@@ -66,7 +66,7 @@ void RequireReachable(int64_t sum) {
     highest = std::max(highest, sum);
   });
   if (highest >= 1 || sum > start) return;
-  Table.StopReason = Localized(DiceTexts.NothingToDraw);
+  Table.Stop = StopCause::NothingToDraw;
   throw Fault(FaultNumber::InvalidCall, std::string(NothingToDraw));
 }
 

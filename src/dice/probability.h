@@ -120,7 +120,7 @@ int32_t ShareOf(int column, int row);
 
 // The pair that the number n, 1 to 100,001, falls on when the shares are laid end to end. When they
 // sum to less than n, the scan is repeated with numbers from outside the dice on top of the sum so
-// far. Fault, with StopReason set, when no number can ever be reached.
+// far. Fault, with the cause of the stop set, when no number can ever be reached.
 Faces DrawCell(int32_t n);
 
 // Makes the dice true and the matrix untitled; asks nothing.

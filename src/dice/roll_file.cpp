@@ -135,7 +135,7 @@ void StopAtInvalidRoll() {
     ShowMessage(LocalizedText(DiceTexts.InvalidRollInFile), LocalizedText(DiceTexts.RollFileError),
                 msg::OkAlert);
   }
-  Table.StopReason = Localized(DiceTexts.StoppedByInvalidRoll);
+  Table.Stop = StopCause::InvalidRoll;
 }
 
 }  // namespace
@@ -191,7 +191,7 @@ bool PlaysNextRoll() {
 std::optional<Faces> PlayBackRoll() {
   RollFile.EndReached = !HoldNextRoll();
   if (RollFile.EndReached) {
-    Table.StopReason = Localized(DiceTexts.StoppedByEndOfFile);
+    Table.Stop = StopCause::EndOfRollFile;
     return std::nullopt;
   }
   const Faces faces = HeldRoll();

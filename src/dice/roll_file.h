@@ -69,7 +69,7 @@ void RewindForPlayback();
 // Whether PlayBackRoll would yield a roll now. Nothing is said and the recorder stays as it is.
 bool PlaysNextRoll();
 
-// Takes the next roll of the file. Empty at the end of the file and at an invalid byte; StopReason
+// Takes the next roll of the file. Empty at the end of the file and at an invalid byte; Table.Stop
 // then says which, and an invalid byte has been reported (not under the Hyper-Drive) and has
 // switched the recorder off.
 std::optional<Faces> PlayBackRoll();

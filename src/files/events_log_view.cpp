@@ -28,12 +28,14 @@ constexpr int EventsLogText = 163;
 constexpr std::string_view PrintHeading = "Tessarel Events Log";
 
 void UseLog(const std::string& path) {
+  CloseEventsLog();
   EventsLog.EventLogName = IsSameFile(path, DefaultEventLogName()) ? "" : path;
   EventsLogView = {};
 }
 
 // A log that was never written to is an empty one.
 void CopyLog(const std::string& from, const std::string& to) {
+  FlushEventsLog();
   WriteFileAtomically(to, [&from](const ByteSink& sink) {
     if (!FileExists(from)) return;
     ReadFileInBlocks(from, [&sink](std::string_view bytes) {

@@ -53,4 +53,7 @@ void TakeUpFiles(const FilesInUse& files);
 // what is derived from it. A sound game stays as it is.
 void MendLoadedGame();
 
+// The part of that for the windows: every member of GameViews.
+void MendViews();
+
 }  // namespace tessarel

@@ -14,8 +14,8 @@
 #include "dice/roll_file.h"
 #include "engine/seats.h"
 #include "files/game_blocks.h"
-#include "files/game_views.h"
 #include "state/scripts.h"
+#include "state/view_state.h"
 #include "texts/file_texts.h"
 #include "texts/language.h"
 
@@ -79,8 +79,7 @@ void ClearGame() {
   ClosePopupRoll();
   for (int place = 1; place <= LastPlace; ++place)
     ClearPlace(place);
-  Table.StopReason.clear();
-  Table.LastStopReason.clear();
+  Table.Stop = Table.LastStop = StopCause::None;
   GameFile.ScriptWasActive = {};
   GameViews.Chips.clear();
 }

@@ -13,12 +13,12 @@
 #include "engine/seats.h"
 #include "engine/special_bets.h"
 #include "files/game_blocks.h"
-#include "files/game_views.h"
 #include "state/books.h"
 #include "state/payoffs.h"
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "stats/bankroll_graph.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
@@ -299,7 +299,6 @@ void MendSelections() {
         &ViewSelections.RollTotalsPlayer}) {
     *selection &= Places;
   }
-  if (GameViews.StatusBoxSize < 1 || GameViews.StatusBoxSize > 3) GameViews.StatusBoxSize = 2;
   for (int32_t* place : {&ViewSelections.CSPlayer, &ViewSelections.SessionsPlayer}) {
     if (*place < 0 || *place > LastPlace) *place = 0;
   }
@@ -328,6 +327,7 @@ void MendLoadedGame() {
   MendBankrollStop();
   MendGraph();
   MendSelections();
+  MendViews();
   Scripts.ProgramReady = false;
 }
 

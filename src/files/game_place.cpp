@@ -1,5 +1,7 @@
 // The block of a place in a game file: its player with name, files and options, the bets with all
 // that is kept for them, check stacks, the bankroll's course and the statistics of bets.
+#include <array>
+
 #include "engine/bet_handling.h"
 #include "files/game_blocks.h"
 #include "state/books.h"
@@ -14,34 +16,22 @@ namespace {
 constexpr int LastCountedBet = 100;
 constexpr int LastContract = 99;
 
-// Returns false for a block of a place that does not exist.
-bool PlaceNumberRecord(GameRecords& records, FilesInUse& files, int32_t& place) {
-  records.Next();
-  records.Amount(0, place);
-  if (place < 1 || place > LastPlace) return false;
-  Money atmNet = records.Reading()
-                     ? Money()
-                     : Table.InvestedBankroll[place] - Table.BankrollBegin[place + CurrentSession];
-  const MoneyField fields[] = {
-      {1, &atmNet},
-      {2, &At(files.ScriptActive, place)},
+// The lists of fields of a place. They are checked for the first one.
+
+constexpr int PlaceSlot = 0, AtmNetSlot = 1, ScriptActiveSlot = 2;
+constexpr auto PlaceFields(int place) {
+  return std::to_array<MoneyField>({
       {3, &Scripts.ScriptActiveAfterRoll[place]},
       {6, &Table.VisibleStack[place][1], 4},
-  };
-  records.MoneysHere(fields);
-  return true;
+  });
 }
+static_assert(TakeEachSlotOnce(PlaceFields(1),
+                               {.Single = {PlaceSlot, AtmNetSlot, ScriptActiveSlot},
+                                .Unused = {4, 5}}));
 
-void NameRecords(GameRecords& records, FilesInUse& files, int place) {
-  HeldFile& script = At(files.Script, place);
-  records.Text(Table.PlayerName[place]);
-  records.TextAndDate(script.Name, script.Date);
-  records.Text(At(files.ScriptOutput, place));
-  records.Text(At(files.SessionsLog, place));
-}
-
-void PlayerRecord(GameRecords& records, int place) {
-  const MoneyField fields[] = {
+constexpr int AdjustsSlot = 6;
+constexpr auto PlayerFields(int place) {
+  return std::to_array<MoneyField>({
       {0, &Table.AllowNegBankroll[place]},
       {1, &Table.BankrollInitType[place]},
       {2, &Table.BankrollInitAmount[place]},
@@ -58,11 +48,58 @@ void PlayerRecord(GameRecords& records, int place) {
       {14, &Table.PlaceBias[place]},
       {15, &Table.DoBias[place]},
       {16, &Table.DontBias[place]},
-  };
-  records.Moneys(fields);
+  });
+}
+static_assert(TakeEachSlotOnce(PlayerFields(1), {.Single = {AdjustsSlot}}));
+
+constexpr auto VigFields(int place) {
+  return std::to_array<MoneyField>({
+      {1, Table.LayVig[place].data(), FamilySize},
+      {7, Table.BuyVig[place].data(), FamilySize},
+  });
+}
+static_assert(TakeEachSlotOnce(VigFields(1)));
+
+constexpr auto HandlingFields(int place) {
+  auto& operators = Table.HandleOperator[place];
+  return std::to_array<MoneyField>({
+      {0, &operators[PromptWinModify]},
+      {1, &operators[PromptLossModify]},
+      {2, &operators[AutoWinModify]},
+      {3, &operators[AutoLossModify]},
+      {4, &Table.HandleAmount[place][PromptWinModify], 8},
+      {12, &Table.HandleUnits[place][PromptWinModify], 8},
+  });
+}
+static_assert(TakeEachSlotOnce(HandlingFields(1)));
+
+// Returns false for a block of a place that does not exist.
+bool PlaceNumberRecord(GameRecords& records, FilesInUse& files, int32_t& place) {
+  records.Next();
+  records.Amount(PlaceSlot, place);
+  if (place < 1 || place > LastPlace) return false;
+  Money atmNet = records.Reading()
+                     ? Money()
+                     : Table.InvestedBankroll[place] - Table.BankrollBegin[place + CurrentSession];
+  records.Amount(AtmNetSlot, atmNet);
+  records.Amount(ScriptActiveSlot, At(files.ScriptActive, place));
+  records.MoneysHere(PlaceFields(place));
+  return true;
+}
+
+void NameRecords(GameRecords& records, FilesInUse& files, int place) {
+  HeldFile& script = At(files.Script, place);
+  records.Text(Table.PlayerName[place]);
+  records.TextAndDate(script.Name, script.Date);
+  records.Text(At(files.ScriptOutput, place));
+  records.Text(At(files.SessionsLog, place));
+}
+
+void PlayerRecord(GameRecords& records, int place) {
+  records.Moneys(PlayerFields(place));
   // The one flag that is on above zero.
   int32_t adjusts = Table.AutoAdjustBetAmounts[place] ? 1 : 0;
-  records.Amount(6, adjusts);
+  records.Amount(AdjustsSlot, adjusts);
   Table.AutoAdjustBetAmounts[place] = adjusts > 0;
 }
 
@@ -72,14 +109,6 @@ void AmountRecords(GameRecords& records, PerNumber<Money>& amounts, Money& first
   run.Amount(first);
   for (int number = 1; number <= LastNumber; ++number)
     run.Amount(At(amounts, number));
-}
-
-void VigRecord(GameRecords& records, int place) {
-  const MoneyField fields[] = {
-      {1, Table.LayVig[place].data(), FamilySize},
-      {7, Table.BuyVig[place].data(), FamilySize},
-  };
-  records.Moneys(fields);
 }
 
 void StreakRecords(GameRecords& records, int place) {
@@ -106,7 +135,7 @@ void BetRecords(GameRecords& records, int place) {
   SlotRun contracts(records, Record::Moneys);
   for (int number = 1; number <= LastContract; ++number)
     contracts.Amount(Table.BetContract[place][number]);
-  VigRecord(records, place);
+  records.Moneys(VigFields(place));
   StreakRecords(records, place);
   WorkingRecords(records, place);
 }
@@ -142,8 +171,7 @@ void ComeRecords(GameRecords& records, int place) {
     for (Money& amount : Stats.ComeTravel[slot])
       travel.Amount(amount);
   }
-  const MoneyField fields[] = {{1, Table.ComeOriginal[place].data(), FamilySize}};
-  records.Moneys(fields);
+  records.Moneys(std::array{MoneyField{1, Table.ComeOriginal[place].data(), FamilySize}});
 }
 
 // By slot, so every place has the whole of them: the last one read stands.
@@ -154,19 +182,6 @@ void BankrollRecords(GameRecords& records) {
     for (Money& bankroll : *bankrolls)
       run.Amount(bankroll);
   }
-}
-
-void HandlingRecord(GameRecords& records, int place) {
-  auto& operators = Table.HandleOperator[place];
-  const MoneyField fields[] = {
-      {0, &operators[PromptWinModify]},
-      {1, &operators[PromptLossModify]},
-      {2, &operators[AutoWinModify]},
-      {3, &operators[AutoLossModify]},
-      {4, &Table.HandleAmount[place][PromptWinModify], 8},
-      {12, &Table.HandleUnits[place][PromptWinModify], 8},
-  };
-  records.Moneys(fields);
 }
 
 // Returns false for a block of a place that does not exist.
@@ -181,7 +196,7 @@ bool PlaceBlock(GameRecords& records, FilesInUse& files, int32_t place) {
     MeasureRecords(records, place, kind);
   ComeRecords(records, place);
   BankrollRecords(records);
-  HandlingRecord(records, place);
+  records.Moneys(HandlingFields(place));
   return true;
 }
 

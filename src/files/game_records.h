@@ -3,7 +3,10 @@
 // file (files/game_blocks.h) are made of these.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -23,6 +26,53 @@ struct SlotField {
 };
 using WordField = SlotField<int32_t, uint32_t, bool>;  // a bool is 0 or -1
 using MoneyField = SlotField<Money, int32_t, bool>;    // whole numbers and flags as amounts
+
+// All of an array, in neighbouring slots.
+template <class Values>
+constexpr WordField WordRow(int firstSlot, Values& values) {
+  return {firstSlot, values.data(), static_cast<int>(values.size())};
+}
+
+// The lists of parts of a record as one.
+template <size_t... Sizes>
+constexpr auto Joined(const std::array<WordField, Sizes>&... lists) {
+  std::array<WordField, (Sizes + ...)> all{};
+  auto* next = all.data();
+  ((next = std::ranges::copy(lists, next).out), ...);
+  return all;
+}
+
+// Slots of a record that are not in its list of fields: those that are written one by one, and
+// those that have no use.
+struct SlotsApart {
+  std::initializer_list<int> Single = {}, Unused = {};
+};
+
+// Whether the fields of a record and the slots apart take every slot between the first and the last
+// of them once, all of them within the record.
+template <class Field, size_t Fields>
+consteval bool TakeEachSlotOnce(const std::array<Field, Fields>& fields,
+                                const SlotsApart& apart = {}) {
+  constexpr int Slots = std::is_same_v<Field, WordField> ? Record::Words : Record::Moneys;
+  std::array<int, Slots> taken{};
+  bool within = true;
+  const auto take = [&](int slot) {
+    within = within && slot >= 0 && slot < Slots;
+    if (within) ++taken[static_cast<size_t>(slot)];
+  };
+  for (const Field& field : fields) {
+    for (int k = 0; k < field.Count; ++k)
+      take(field.Slot + k);
+  }
+  for (const int slot : apart.Single)
+    take(slot);
+  for (const int slot : apart.Unused)
+    take(slot);
+  const auto first = std::ranges::find_if(taken, [](int times) { return times != 0; });
+  const auto behind = std::find(first, taken.end(), 0);
+  return within && std::all_of(first, behind, [](int times) { return times == 1; }) &&
+         std::all_of(behind, taken.end(), [](int times) { return times == 0; });
+}
 
 class GameRecords {
  public:

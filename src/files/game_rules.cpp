@@ -1,19 +1,20 @@
 // The records of the house rules in a game file: limits and vigorish, comps, payoffs, colours and
 // the working standard.
+#include <array>
 #include <span>
 
 #include "config/advantage.h"
 #include "files/game_blocks.h"
-#include "files/game_views.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 
 namespace tessarel {
 
 namespace {
 
 // clang-format off
-constexpr MoneyField TableRuleFields[] = {
+constexpr auto TableRuleFields = std::to_array<MoneyField>({
     {0, &Settings.MinPlacardBet},
     {1, &Settings.MinPlacardPropBet},
     {2, &Settings.MaxPlacardBet},
@@ -38,23 +39,26 @@ constexpr MoneyField TableRuleFields[] = {
     {21, &Settings.UseFireBet},
     {22, &Settings.MaxFireBet},
     {23, &Settings.ReturnAbandonedBets},
-};
+});
+static_assert(TakeEachSlotOnce(TableRuleFields));
 
-constexpr MoneyField CompFields[] = {
+constexpr auto CompFields = std::to_array<MoneyField>({
     {0, &Settings.CompBase},
     {1, &Settings.CompsUseTrueProbs},
     {2, &Settings.CompRate},
     {3, &Advantage.IncludeZeroOutcomes},
     {4, &Advantage.ShowMiscData},
-    {5, &GameViews.Comps[5], 2},  // where the advantage and the payoff list are scrolled to
+    {5, &GameViews.AdvantageFirstRow},
+    {6, &GameViews.PayoffFirstRow},
     {7, &Settings.Denomination[1], 5},
-};
+});
+static_assert(TakeEachSlotOnce(CompFields));
 
-constexpr WordField ColourFields[] = {
-    {0, Settings.TableColor.data(), static_cast<int>(Settings.TableColor.size())}};
-constexpr WordField TextureFields[] = {
-    {0, Settings.TableTexture.data(), static_cast<int>(Settings.TableTexture.size())},
-    {5, &Settings.Spotlight}};
+constexpr auto ColourFields = std::to_array({WordRow(0, Settings.TableColor)});
+static_assert(TakeEachSlotOnce(ColourFields));
+constexpr auto TextureFields = std::to_array({
+    WordRow(0, Settings.TableTexture), WordField{5, &Settings.Spotlight}});
+static_assert(TakeEachSlotOnce(TextureFields));
 // clang-format on
 
 void CompBetRecords(GameRecords& records) {

@@ -26,11 +26,6 @@ constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114, StartAutoRo
 
 constexpr Money LongestDelay = 300;  // seconds
 
-constexpr SixTexts Interrupted = {
-    "Auto-betting interrupted.",         "Apuestas automáticas interrumpidas.",
-    "Automatisches Wetten abgebrochen.", "Mises automatiques interrompues.",
-    "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
-
 void Start(UnattendedMode mode) {
   if (RunIsOn() || Table.RollInProgress) return;
   Table.AutoRollOn = true;
@@ -111,7 +106,7 @@ bool ConfirmScriptActive() {
 void InterruptAutoBetting() {
   AutoBet.ScriptRunning = false;
   AutoBet.AutoBetMessageStop = true;
-  if (Table.HyperDriveOn) Table.StopReason = Localized(Interrupted);
+  if (Table.HyperDriveOn) Table.Stop = StopCause::ScriptInterrupted;
   StopUnattended();
 }
 

@@ -16,7 +16,7 @@ void ToggleAutoRoll(UnattendedMode mode = UnattendedMode::HyperDrive);
 void StartAutoRoll();
 void StartHyperDrive();
 
-// Stops either; StopReason, if there is one, is shown.
+// Stops either; the cause, if there is one, is told.
 void StopAutoRoll();
 
 // Asks whether the run that is on is to be stopped. Returns whether none goes on.

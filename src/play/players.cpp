@@ -156,24 +156,24 @@ void PassDice(PassReason reason, Telling telling) {
   if (RollsInHand() == 0) Table.LastShooter = next;
 }
 
-void BankrollLimitStop(int place) {
+std::string BankrollLimitText(int place) {
   const std::string reset = LocalizedText(RollTexts.ResetTable);
+  if (!IsTaken(Table, place)) return reset;
+  const SixTexts& text = BankrollOf(place) <= Money() ? RailTexts.BelowLimit : RailTexts.AboveLimit;
+  return FillIn(text, {NameOf(place), LimitText}) + "\r\r" + reset;
+}
+
+void BankrollLimitStop(int place) {
   const bool gone = !IsTaken(Table, place);
-  const bool negative = BankrollOf(place) <= Money();
-  const auto withReset = [&reset](const std::string& text) { return text + "\r\r" + reset; };
+  const bool won = !gone && BankrollOf(place) > Money();
   if (Table.HyperDriveOn) {
-    const SixTexts& text = negative ? RailTexts.StoppedBelowLimit : RailTexts.StoppedAboveLimit;
-    Table.StopReason = gone ? reset : withReset(FillIn(text, {LimitText}));
-  } else if (gone) {
-    ShowMessage(reset, "", msg::OkAlert, help::NewSession);
-  } else if (negative) {
-    ShowMessage(withReset(FillIn(RailTexts.BelowLimit, {NameOf(place), LimitText})), "",
-                msg::OkAlert, help::NewSession);
+    Table.Stop = gone  ? StopCause::BankrollLimitOfGonePlayer
+                 : won ? StopCause::AboveBankrollLimit
+                       : StopCause::BelowBankrollLimit;
   } else {
     const bool first = Table.BankrollStopPlace == 0;
-    if (first && !Settings.DisableAllSound) FrontEnd.PlaySound(Sound::LimitBroken);
-    ShowMessage(withReset(FillIn(RailTexts.AboveLimit, {NameOf(place), LimitText})), "", msg::Ok,
-                help::NewSession);
+    if (won && first && !Settings.DisableAllSound) FrontEnd.PlaySound(Sound::LimitBroken);
+    ShowMessage(BankrollLimitText(place), "", won ? msg::Ok : msg::OkAlert, help::NewSession);
   }
   StopUnattended();
   Table.BankrollStopPlace = place;

@@ -29,6 +29,9 @@ void ShowPassedDiceNote();
 // Hands the dice to the next player who wants them and may have them.
 void PassDice(PassReason reason, Telling telling = Telling::Aloud);
 
+// What is said when the bankroll of a place is beyond its limit, or was when its player left.
+std::string BankrollLimitText(int place);
+
 // The bankroll of the place is beyond its limit: says so and bars further rolls of the session,
 // even if the player leaves.
 void BankrollLimitStop(int place);

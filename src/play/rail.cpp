@@ -15,6 +15,7 @@
 #include "files/sessions_commands.h"
 #include "files/sessions_log.h"
 #include "log/event_lines.h"
+#include "play/gateway.h"
 #include "play/players.h"
 #include "state/books.h"
 #include "state/place_fields.h"
@@ -140,10 +141,11 @@ bool AddPlayer(int place) {
   if (name.empty()) return false;
   const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
   if (!buyIn) return false;
-  SeatPlayer(place, name, *buyIn);
-  Table.TableDirty = true;
-  FrontEnd.DrawTable();
-  return true;
+  return RunCommand("AddPlayer", [&] {
+    SeatPlayer(place, name, *buyIn);
+    Table.TableDirty = true;
+    FrontEnd.DrawTable();
+  });
 }
 
 bool RenamePlayer(int place) {
@@ -151,9 +153,12 @@ bool RenamePlayer(int place) {
   const std::string before = Table.PlayerName[place];
   const std::string name = AskName(Text(13) + before, Text(14), place);
   if (name.empty()) return false;
-  SetPlayerName(place, name);
-  Table.TableDirty = true;
-  LogPlayerRenamed(before, name);
+  const bool renamed = RunCommand("RenamePlayer", [&] {
+    SetPlayerName(place, name);
+    Table.TableDirty = true;
+    LogPlayerRenamed(before, name);
+  });
+  if (!renamed) return false;
   OfferToRenameSessionsLog(place);
   FrontEnd.DrawTable();
   return true;
@@ -163,40 +168,46 @@ bool DeletePlayer(int place, bool ask) {
   if (!IsTaken(Table, place)) return false;
   const std::vector<AbandonedBet> abandoned = AbandonedBets(place);
   if (ask && !ConfirmRemoval(place, abandoned)) return false;
-  LoseAbandoned(place, abandoned);
-  Table.TableDirty = true;
-  LogCashOut(place, Total(abandoned));
-  Trapped("DeletePlayer", [place] { WriteSession(place); });
-  ClearPlace(place);
-  FollowInViews(place, 0);
-  Follow(Table.LastShooter, place, 0);
-  Follow(Table.PreviousShooter, place, 0);
-  if (Table.Shooter == place) PassDice(PlayerLeft);
-  FrontEnd.DrawTable();
-  return true;
+  return RunCommand("DeletePlayer", [&] {
+    LoseAbandoned(place, abandoned);
+    Table.TableDirty = true;
+    LogCashOut(place, Total(abandoned));
+    Trapped("DeletePlayer", [place] { WriteSession(place); });
+    ClearPlace(place);
+    FollowInViews(place, 0);
+    Follow(Table.LastShooter, place, 0);
+    Follow(Table.PreviousShooter, place, 0);
+    if (Table.Shooter == place) PassDice(PlayerLeft);
+    FrontEnd.DrawTable();
+  });
+}
+
+bool GiveUpDice() {
+  return RunCommand("PassDice", [] { PassDice(PlayerAsked); });
 }
 
 bool MovePlayer(int from, int to) {
   if (!IsTaken(Table, from) || IsTaken(Table, to) || to < 1 || to > LastPlace) return false;
-  ForEachPlaceField([&](auto& array) { std::swap(At(array, from), At(array, to)); });
-  ForEachSlotField([&](auto& array) {
-    for (int scope = 0; scope < SlotCount; scope += SlotsInScope) {
-      std::swap(At(array, from + scope), At(array, to + scope));
+  return RunCommand("MovePlayer", [&] {
+    ForEachPlaceField([&](auto& array) { std::swap(At(array, from), At(array, to)); });
+    ForEachSlotField([&](auto& array) {
+      for (int scope = 0; scope < SlotCount; scope += SlotsInScope) {
+        std::swap(At(array, from + scope), At(array, to + scope));
+      }
+    });
+    for (auto& bankrolls : Table.GraphBankroll)
+      std::swap(At(bankrolls, from), At(bankrolls, to));
+    for (int32_t* place :
+         {&Table.Shooter, &Table.LastShooter, &Table.PreviousShooter, &Table.BankrollStopPlace}) {
+      Follow(*place, from, to);
     }
+    FollowInViews(from, to);
+    Scripts.ProgramReady = false;
+    Table.TableDirty = true;
+    RebuildDerived();
+    LogPlayerMoved(to);
+    FrontEnd.DrawTable();
   });
-  for (auto& bankrolls : Table.GraphBankroll)
-    std::swap(At(bankrolls, from), At(bankrolls, to));
-  for (int32_t* place :
-       {&Table.Shooter, &Table.LastShooter, &Table.PreviousShooter, &Table.BankrollStopPlace}) {
-    Follow(*place, from, to);
-  }
-  FollowInViews(from, to);
-  Scripts.ProgramReady = false;
-  Table.TableDirty = true;
-  RebuildDerived();
-  LogPlayerMoved(to);
-  FrontEnd.DrawTable();
-  return true;
 }
 
 }  // namespace tessarel

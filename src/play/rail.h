@@ -1,5 +1,5 @@
 // Who stands at the rail: joining, renaming, leaving and moving, with the questions put to the
-// user.
+// user. Each is a command of the gateway: after a fault it has not happened.
 #pragma once
 
 #include <optional>
@@ -23,6 +23,9 @@ bool RenamePlayer(int place);
 // Removes a player, if `ask` after a question that names the bets he has to abandon. His bets come
 // off; abandoned ones count as lost. The dice pass if they were his. Returns whether he left.
 bool DeletePlayer(int place, bool ask);
+
+// The shooter hands the dice on because he wants to. False after a fault.
+bool GiveUpDice();
 
 // Moves a player with all that is kept for him to an open place. Returns false, with nothing
 // changed, when there is no player at `from` or `to` is not open.

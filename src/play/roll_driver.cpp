@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "autobet/interpreter.h"
+#include "base/clock.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
@@ -36,9 +37,9 @@ namespace tessarel {
 namespace {
 
 // A roll that cannot be made: the message outside the Hyper-Drive, and the reason that a run ends.
-bool Refuse(std::string text, std::string title, std::string reason) {
+bool Refuse(std::string text, std::string title, StopCause cause) {
   if (!Table.HyperDriveOn) ShowMessage(std::move(text), std::move(title), msg::OkAlert, help::Dice);
-  Table.StopReason = std::move(reason);
+  Table.Stop = cause;
   return false;
 }
 
@@ -57,27 +58,25 @@ bool RefuseWithoutLineBet() {
                            : Table.Point != 0     ? RollTexts.LineBetDuringPoint
                                                   : RollTexts.LineBetOrPass;
   return Refuse(BetDemand(demand), LocalizedText(RollTexts.LineBetRequired),
-                LocalizedText(RollTexts.ShooterWithoutLineBet));
+                StopCause::ShooterWithoutLineBet);
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
-    return Refuse(std::string(GetText(110)), std::string(GetText(111)),
-                  LocalizedText(RollTexts.NobodyToBet));
+    return Refuse(std::string(GetText(110)), std::string(GetText(111)), StopCause::NobodyToBet);
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
   return Refuse(BetDemand(RollTexts.AnyBetOrPass), LocalizedText(RollTexts.AnyBetRequired),
-                LocalizedText(RollTexts.ShooterWithoutBet));
+                StopCause::ShooterWithoutBet);
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  const std::string reset = "\r\r" + LocalizedText(RollTexts.ResetTable);
-  return Refuse(LocalizedText(RollTexts.MaximumRolls) + reset,
-                LocalizedText(RollTexts.MaximumRollsTitle),
-                LocalizedText(RollTexts.StoppedByMaximumRolls) + reset);
+  return Refuse(
+      LocalizedText(RollTexts.MaximumRolls) + "\r\r" + LocalizedText(RollTexts.ResetTable),
+      LocalizedText(RollTexts.MaximumRollsTitle), StopCause::MaximumRolls);
 }
 
 void FigureAvailableBankrolls() {
@@ -120,7 +119,7 @@ DiceSource TakeDice(std::optional<Faces>& chosen, Faces& faces) {
   }
   faces = MakeDice(RollsInSession());
   if (faces.die1 == 0) {
-    Table.StopReason = Localized(RollTexts.NoGenerator);
+    Table.Stop = StopCause::NoGenerator;
     return DiceSource::None;
   }
   const bool cubes = faces.die1 <= 6 && faces.die2 <= 6;
@@ -277,7 +276,7 @@ bool StoppedByBankroll() {
 }
 
 void StopAtCount() {
-  if (AutoStopIsDue()) Table.StopReason = Localized(RollTexts.StoppedByAutoStop);
+  if (AutoStopIsDue()) Table.Stop = StopCause::AutoStop;
 }
 
 void CheckEverything() {
@@ -317,7 +316,7 @@ void PlayRoll(Faces faces, DiceSource source) {
 // One roll, from its refusals to its last snapshot. Returns false when no roll can be made.
 bool OneRoll(std::optional<Faces>& chosen) {
   Table.TableDirty = true;
-  Table.StopReason.clear();
+  Table.Stop = StopCause::None;
   Table.RollInProgress = true;
   if (!RequiredBetStands() || !BelowMaximumRolls()) return false;
   if (!PopupRollIsThere(chosen)) return false;
@@ -338,14 +337,25 @@ bool ScriptsCanRun() {
   return Scripts.ProgramReady;
 }
 
+// Once a second what a run has logged goes to the disk.
+void KeepLogUpToDate() {
+  if (!EventsLog.LogOn) return;
+  constexpr int64_t Second = 1000;
+  const int64_t now = TickMilliseconds();
+  if (now - RollPace.LogStamp < Second) return;
+  RollPace.LogStamp = now;
+  Trapped("MakeRoll", FlushEventsLog);
+}
+
 // Between two rolls of the Hyper-Drive. Returns whether it goes on. The events may have changed the
 // scripts.
 bool GoOnRolling() {
   if (!Table.HyperDriveOn) return false;
   FrontEnd.RunPendingEvents();
+  KeepLogUpToDate();
   StopAtCount();
   if (Table.HyperDriveOn && !ScriptsCanRun()) StopUnattended();
-  if (!Table.HyperDriveOn || !Table.StopReason.empty()) return false;
+  if (!Table.HyperDriveOn || Table.Stop != StopCause::None) return false;
   if (Settings.Throttle > 0) ThrottleRoll();
   return true;
 }
@@ -362,8 +372,9 @@ bool RollUntilStopped(std::optional<Faces>& chosen) {
 
 // Between two rolls of Auto-Roll: the table stands as it is until the next one may begin.
 void PauseAutoRoll() {
-  if (!Table.AutoRollOn || Table.HyperDriveOn || !Table.StopReason.empty()) return;
+  if (!Table.AutoRollOn || Table.HyperDriveOn || Table.Stop != StopCause::None) return;
   FrontEnd.DrawStatus();
+  Trapped("MakeRoll", FlushEventsLog);
   if (AutoStopIsDue()) {
     StopUnattended();
     ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
@@ -382,18 +393,19 @@ void CallComeOut() {
 // The end of play asks what becomes of the roll file: the end of a person's run, and that of the
 // file itself. A Hyper-Drive that no one at the table has started asks nobody.
 void EndPlay(bool ranUnattended) {
-  const bool fileEnded = !Table.StopReason.empty() && RollFile.EndReached;
+  const bool fileEnded = Table.Stop != StopCause::None && RollFile.EndReached;
   const bool asksNobody = Table.HyperDriveOn && !Table.AutoRollOn;
-  if (!Table.StopReason.empty()) StopUnattended();
+  if (Table.Stop != StopCause::None) StopUnattended();
   const bool runEnded = ranUnattended && !Table.AutoRollOn;
   if (!asksNobody && (fileEnded || runEnded)) Trapped("StopRollFile", StopRollFile);
 }
 
 void EndRolling(bool ranUnattended, bool rolled) {
-  Table.LastStopReason = Table.StopReason;
+  Table.LastStop = Table.Stop;
   EndPlay(ranUnattended);
-  Table.StopReason.clear();
+  Table.Stop = StopCause::None;
   if (rolled) CallComeOut();
+  Trapped("MakeRoll", CloseEventsLog);
   Table.RollInProgress = false;
   FrontEnd.DrawStatus();
 }

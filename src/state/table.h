@@ -45,6 +45,26 @@ inline constexpr int FirstHandlingSlot = 5, LastHandlingSlot = 12;
 template <class T>
 using PerHandlingSlot = Indexed<T, LastHandlingSlot + 1>;  // 5 to 12
 
+// Why rolling ends before its time. What is said of each is StopText of engine/unattended.h.
+enum class StopCause {
+  None,
+  NobodyToBet,
+  ShooterWithoutLineBet,
+  ShooterWithoutBet,
+  MaximumRolls,
+  NoGenerator,
+  AutoStop,
+  BelowBankrollLimit,
+  AboveBankrollLimit,
+  BankrollLimitOfGonePlayer,
+  ScriptCommand,
+  ScriptInterrupted,
+  InvalidRoll,
+  EndOfRollFile,
+  NothingToDraw,
+  PopupRollFault,
+};
+
 struct TableState {
   // Bets, per place and number.
   PerPlace<PerNumber<Money>> BetAmount{};           // on the bet now; 0: there is no bet
@@ -96,10 +116,11 @@ struct TableState {
   bool RollInProgress = false;
   bool TableDirty = false;
   bool BetChangedThisRoll = false;
-  bool HyperDriveOn = false;   // rolls are made without being shown
-  bool AutoRollOn = false;     // a run that a person has started, of either kind
-  std::string StopReason;      // why an unattended run stops
-  std::string LastStopReason;  // why the last call of the roll driver ended; empty: it just did
+  bool HyperDriveOn = false;             // rolls are made without being shown
+  bool AutoRollOn = false;               // a run that a person has started, of either kind
+  StopCause Stop = StopCause::None;      // why an unattended run stops
+  StopCause LastStop = StopCause::None;  // why the last call of the roll driver ended
+  std::string StopFault;                 // with PopupRollFault: what went wrong
 
   // The bankrolls after each roll, a ring from 1 to GraphLength.
   int32_t GraphIndex = 0;

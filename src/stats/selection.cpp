@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "state/view_state.h"
 #include "texts/language.h"
 
 namespace tessarel {
@@ -81,7 +82,9 @@ void FollowInViews(int from, int to) {
         &ViewSelections.RollTotalsPlayer}) {
     if ((*selection & before) != 0) *selection = (*selection & ~before) | after;
   }
-  for (int32_t* place : {&ViewSelections.CSPlayer, &ViewSelections.SessionsPlayer}) {
+  ChosenPlaces& chosen = GameViews.Players;
+  for (int32_t* place : {&ViewSelections.CSPlayer, &ViewSelections.SessionsPlayer, &chosen.AutoPlay,
+                         &chosen.Configuration, &chosen.BankrollGraph, &chosen.Scripts}) {
     if (*place == from) *place = to;
   }
 }

@@ -133,6 +133,10 @@ struct RollTextTable {
       "Arrêté par l'arrêt automatique",
       "Otomatik durdurma ile durduruldu",
       "Fermato dall'arresto automatico"};
+  SixTexts AutoBettingInterrupted = {
+    "Auto-betting interrupted.",         "Apuestas automáticas interrumpidas.",
+    "Automatisches Wetten abgebrochen.", "Mises automatiques interrompues.",
+    "Otomatik bahis kesildi.",           "Puntate automatiche interrotte."};
   SixTexts StoppedByCommand = {
       "Stopped by Auto-Bet command.",
       "Detenido por una orden de apuesta automática.",

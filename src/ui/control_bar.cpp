@@ -17,6 +17,7 @@
 #include "state/books.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "texts/dice_texts.h"
 #include "ui/check_drag.h"
 #include "ui/control_bar_texts.h"
@@ -258,7 +259,7 @@ void ControlBar::Refresh() {
   hyperDrive_->setEnabled(!autoRoll);
   autoRoll_->setText(InTwoLines(AutoRollCaption()));
   hyperDrive_->setText(hyper ? DrivingCaption(RollsASecond()) : InTwoLines(HyperDriveCaption()));
-  enterBet_->setVisible(IsOn(TableOption::KeyInBetAmounts) || !TablePlay.EnteredAmount.empty());
+  enterBet_->setVisible(GameViews.Table.KeyInBetAmounts || !TablePlay.EnteredAmount.empty());
   enterBet_->setText(TablePlay.EnteredAmount.empty() ? QString()
                                                      : "$" + Shown(TablePlay.EnteredAmount));
   checks_->update();

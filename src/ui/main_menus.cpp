@@ -15,11 +15,11 @@
 #include "config/configuration.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
+#include "play/game_commands.h"
 #include "play/roll_pace.h"
-#include "play/session.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 #include "ui/main_texts.h"
 #include "ui/main_window.h"
 #include "ui/sound/sounds.h"
@@ -59,8 +59,8 @@ void FullOdds(void (*bet)(int)) {
   FrontEnd.DrawTable();
 }
 
-void ToggleOption(TableOption option) {
-  SetOption(option, !IsOn(option));
+void ToggleOption(bool TableOptions::*option) {
+  GameViews.Table.*option = !(GameViews.Table.*option);
   FrontEnd.DrawTable();
 }
 
@@ -222,9 +222,9 @@ void MainMenus::Bets() {
       "mnuKeyInBetAmounts", texts::BetsKeyIn, "F9",
       [] {
         TablePlay.EnteredAmount.clear();
-        ToggleOption(TableOption::KeyInBetAmounts);
+        ToggleOption(&TableOptions::KeyInBetAmounts);
       },
-      {}, [] { return IsOn(TableOption::KeyInBetAmounts); });
+      {}, [] { return GameViews.Table.KeyInBetAmounts; });
 }
 
 void MainMenus::Dice() {
@@ -289,21 +289,23 @@ void MainMenus::Colours() {
 void MainMenus::View() {
   Menu(texts::MenuView);
   const auto option = [this](const char* name, const SixTexts& caption, const char* keys,
-                             TableOption which) {
+                             bool TableOptions::*which) {
     Add(
-        name, caption, keys, [which] { ToggleOption(which); }, {}, [which] { return IsOn(which); });
+        name, caption, keys, [which] { ToggleOption(which); }, {},
+        [which] { return GameViews.Table.*which; });
   };
-  option("mnuDisplayPropBets", texts::ViewPropositions, "\tC", TableOption::DisplayPropBets);
-  option("mnuDisplayBetAmounts", texts::ViewAmounts, "F11", TableOption::DisplayBetAmounts);
-  option("mnuFlashBets", texts::ViewFlash, "\tSpace", TableOption::FlashBets);
+  option("mnuDisplayPropBets", texts::ViewPropositions, "\tC", &TableOptions::DisplayPropBets);
+  option("mnuDisplayBetAmounts", texts::ViewAmounts, "F11", &TableOptions::DisplayBetAmounts);
+  option("mnuFlashBets", texts::ViewFlash, "\tSpace", &TableOptions::FlashBets);
   Line();
-  option("mnuStatusView", texts::ViewStatus, "", TableOption::StatusBox);
+  option("mnuStatusView", texts::ViewStatus, "", &TableOptions::StatusBox);
   Choices(
       texts::ViewStatusSize,
       {{"mnuStatusboxSize1", &texts::SizeSmall, 1},
        {"mnuStatusboxSize2", &texts::SizeMedium, 2},
        {"mnuStatusboxSize3", &texts::SizeLarge, 3}},
-      [] { return GameViews.StatusBoxSize; }, [](int32_t size) { GameViews.StatusBoxSize = size; });
+      [] { return GameViews.Table.StatusBoxSize; },
+      [](int32_t size) { GameViews.Table.StatusBoxSize = size; });
   Line();
   Colours();
   Line();
@@ -412,8 +414,8 @@ void MainMenus::Window() {
       [&w = window] { w.ShowSmall(SmallWindowKind::Tray, !w.IsSmallShown(SmallWindowKind::Tray)); },
       {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Tray); });
   Add(
-      "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(TableOption::StatusBox); }, {},
-      [] { return IsOn(TableOption::StatusBox); });
+      "mnuWindowStatus", texts::ViewStatus, "", [] { ToggleOption(&TableOptions::StatusBox); }, {},
+      [] { return GameViews.Table.StatusBox; });
 }
 
 void MainMenus::Help() {

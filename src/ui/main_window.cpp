@@ -16,12 +16,13 @@
 #include "base/message.h"
 #include "files/file_dialog.h"
 #include "files/game_file.h"
-#include "files/game_views.h"
 #include "files/hot_keys.h"
 #include "play/auto_roll.h"
+#include "play/game_commands.h"
+#include "play/leaving.h"
 #include "play/players.h"
-#include "play/session.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 #include "ui/main_texts.h"
 #include "ui/sound/sounds.h"
 #include "ui/table_presets.h"
@@ -41,22 +42,6 @@ constexpr qint64 PumpEveryNs = 16'000'000, FiguresEveryMs = 120;
 
 // The window of the program, for the core's callbacks.
 MainWindow* Main = nullptr;
-
-enum MainState : int32_t { StateNormal = 0, StateMinimised = 1, StateMaximised = 2 };
-
-// The words of this window in GameViews.Windows: its state, left, top, width and height.
-QRect StoredPlace() {
-  const auto& words = GameViews.Windows;
-  return {words[1], words[2], words[3], words[4]};
-}
-
-void StorePlace(MainState state, const QRect& place) {
-  GameViews.Windows[0] = state;
-  GameViews.Windows[1] = place.left();
-  GameViews.Windows[2] = place.top();
-  GameViews.Windows[3] = place.width();
-  GameViews.Windows[4] = place.height();
-}
 
 // Whether enough of a stored place is on a screen of today to take hold of the window.
 bool IsOnScreen(const QRect& place) {
@@ -264,22 +249,24 @@ void MainWindow::OfferUnfinishedTable() {
 }
 
 void MainWindow::TakePlace() {
-  const QRect place = StoredPlace();
+  const WindowPlace& kept = GameViews.Windows.Main;
+  const QRect place(kept.Left, kept.Top, kept.Width, kept.Height);
   if (IsOnScreen(place) && place.width() >= LeastWidth / 2) {
     setGeometry(place);
   } else {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     resize(std::min(1500, screen.width() * 9 / 10), std::min(860, screen.height() * 9 / 10));
   }
-  if (GameViews.Windows[0] == StateMaximised) setWindowState(Qt::WindowMaximized);
+  if (kept.State == MainMaximised) setWindowState(Qt::WindowMaximized);
 }
 
 void MainWindow::KeepPlace() {
   const bool plain = !isMaximized() && !isMinimized();
-  StorePlace(isMaximized()   ? StateMaximised
-             : isMinimized() ? StateMinimised
-                             : StateNormal,
-             plain ? geometry() : normalGeometry());
+  const QRect place = plain ? geometry() : normalGeometry();
+  const MainWindowState state = isMaximized()   ? MainMaximised
+                                : isMinimized() ? MainMinimised
+                                                : MainNormal;
+  GameViews.Windows.Main = {state, place.left(), place.top(), place.width(), place.height()};
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -418,7 +405,7 @@ void MainWindow::ShowDiceWindowIfUsed() {
 }
 
 void MainWindow::ShowSmallWindows() {
-  ShowSmall(SmallWindowKind::Status, IsOn(TableOption::StatusBox));
+  ShowSmall(SmallWindowKind::Status, GameViews.Table.StatusBox);
   for (QWidget* window : {console_, diceWindow_, statusBox_}) {
     if (window->isVisible()) RefreshSmallWindow(window);
   }
@@ -528,7 +515,7 @@ bool MainWindow::HandleTableKey(int key) {
 
 // Digits make up an amount when amounts are keyed in; else 1 to 5 choose a check.
 bool MainWindow::HandleDigit(int key) {
-  if (IsOn(TableOption::KeyInBetAmounts)) {
+  if (GameViews.Table.KeyInBetAmounts) {
     const bool point = key == Qt::Key_Period || key == Qt::Key_Comma;
     const bool taken = key < 128 && KeyAmount(point ? '.' : static_cast<char>(key));
     return taken;

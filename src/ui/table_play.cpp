@@ -12,13 +12,13 @@
 #include "engine/bet_notices.h"
 #include "engine/bet_plan.h"
 #include "engine/bets.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
 #include "play/players.h"
 #include "play/rail.h"
 #include "play/roll_driver.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 #include "state/vig.h"
 #include "texts/language.h"
 #include "ui/layout/table_layout.h"
@@ -29,21 +29,6 @@ namespace tessarel {
 TablePlayState TablePlay;
 
 namespace {
-
-// Where a game keeps the choices of its window.
-constexpr int SelectedPlaceWord = 1, ChosenCheckInt = 1;
-constexpr int PropositionsWord = 5, StatusBoxWord = 6;
-
-int32_t& WordOf(TableOption option) {
-  switch (option) {
-    case TableOption::DisplayPropBets:
-      return GameViews.Display[PropositionsWord];
-    case TableOption::StatusBox:
-      return GameViews.Display[StatusBoxWord];
-    default:
-      return GameViews.Display[static_cast<int>(option)];
-  }
-}
 
 std::string Text(int id) {
   return std::string(GetText(id));
@@ -261,16 +246,8 @@ std::string FullTip(int place, int number) {
 
 // --- Choices -----------------------------------------------------------------------------------
 
-bool IsOn(TableOption option) {
-  return WordOf(option) != 0;
-}
-
-void SetOption(TableOption option, bool on) {
-  WordOf(option) = on ? -1 : 0;
-}
-
 int CurrentPlace() {
-  int32_t& place = GameViews.Table[SelectedPlaceWord];
+  int32_t& place = GameViews.Players.Table;
   if (place >= 1 && place <= LastPlace && IsTaken(Table, place)) return place;
   place = Table.TakenPlaces == 0 ? 0 : std::countr_zero(Table.TakenPlaces);
   return place;
@@ -278,17 +255,17 @@ int CurrentPlace() {
 
 void SelectPlace(int place) {
   if (place < 1 || place > LastPlace || !IsTaken(Table, place)) return;
-  GameViews.Table[SelectedPlaceWord] = place;
+  GameViews.Players.Table = place;
   FrontEnd.DrawTable();
 }
 
 int ChosenCheck() {
-  const int32_t chosen = GameViews.General[ChosenCheckInt];
-  return chosen >= 1 && chosen <= 5 ? chosen : 2;
+  constexpr int AtTheStart = 2;
+  return GameViews.Table.ChosenCheck == 0 ? AtTheStart : GameViews.Table.ChosenCheck;
 }
 
 void ChooseCheck(int denomination) {
-  GameViews.General[ChosenCheckInt] = std::clamp(denomination, 1, 5);
+  GameViews.Table.ChosenCheck = std::clamp(denomination, 1, 5);
   FrontEnd.DrawStatus();
 }
 
@@ -323,7 +300,7 @@ void ClickSpot(int spot, ClickKind kind) {
   if (TablePlay.TableAction > ActionMovePlayer) return FinishMove(spot);
   if (IsRailSpot(spot)) return ClickRail(PlaceOfSpot(spot));
   if (spot == PropositionSwitch) {
-    SetOption(TableOption::DisplayPropBets, !IsOn(TableOption::DisplayPropBets));
+    GameViews.Table.DisplayPropBets = !GameViews.Table.DisplayPropBets;
     return FrontEnd.DrawTable();
   }
   if (TablePlay.TableAction != ActionNormal) {
@@ -424,7 +401,7 @@ void BuyInCurrentPlayer() {
 void PassTheDice() {
   if (!MayChange()) return;
   Table.TableDirty = true;
-  PassDice(PlayerAsked);
+  GiveUpDice();
   FrontEnd.DrawTable();
 }
 
@@ -467,8 +444,8 @@ ClickOutlook OutlookOfSpot(int spot) {
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
   if (spot == PropositionSwitch) {
-    return {std::string(Localized(IsOn(TableOption::DisplayPropBets) ? texts::HidePropositions
-                                                                     : texts::ShowPropositions)),
+    return {std::string(Localized(GameViews.Table.DisplayPropBets ? texts::HidePropositions
+                                                                  : texts::ShowPropositions)),
             true};
   }
   const int number = NumberOfSpot(spot);

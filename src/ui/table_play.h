@@ -30,17 +30,6 @@ struct TablePlayState {
 
 extern TablePlayState TablePlay;
 
-// The options of the table that a game keeps for its window.
-enum class TableOption {
-  DisplayBetAmounts,
-  KeyInBetAmounts,
-  FlashBets,
-  DisplayPropBets,
-  StatusBox
-};
-bool IsOn(TableOption option);
-void SetOption(TableOption option, bool on);
-
 // The player for whom the mouse bets, 0 when nobody is there.
 int CurrentPlace();
 void SelectPlace(int place);

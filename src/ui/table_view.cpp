@@ -11,7 +11,6 @@
 #include <cmath>
 
 #include "base/front_end.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
 #include "state/settings.h"
 #include "ui/check_drag.h"
@@ -25,9 +24,6 @@ namespace {
 
 constexpr int RingTickMs = 125, TicksOfFlash = 4;
 constexpr int SettleSizeMs = 90, TipDelayMs = 450;
-
-// Words of GameViews.Table.
-constexpr int RotationWord = 15, ZoomWord = 18, WordsOfView = 4;
 
 std::vector<int64_t> PayoffsInForce() {
   std::vector<int64_t> figures;
@@ -64,7 +60,7 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
   ring_.setInterval(RingTickMs);
   connect(&ring_, &QTimer::timeout, this, [this] {
     if (++ringTicks_ % TicksOfFlash != 0) return;
-    const bool on = IsOn(TableOption::FlashBets) && !flash_;
+    const bool on = GameViews.Table.FlashBets && !flash_;
     if (std::exchange(flash_, on) != on) update();
   });
   ring_.start();
@@ -87,7 +83,7 @@ TableView::TableView(QWidget* parent) : QWidget(parent) {
 
 TableView::PictureKey TableView::KeyInForce() const {
   PictureKey key;
-  key.options = OptionsInForce(IsOn(TableOption::DisplayPropBets));
+  key.options = OptionsInForce(GameViews.Table.DisplayPropBets);
   key.colours = Settings.TableColor;
   key.textures = Settings.TableTexture;
   key.payoffs = PayoffsInForce();
@@ -197,19 +193,17 @@ void TableView::DrawTable() {
 
 // --- How the table is seen ---------------------------------------------------------------------
 
-// A game that never set the zoom has 0 there.
 int TableView::ZoomPercent() const {
-  const int32_t zoom = GameViews.Table[ZoomWord];
-  return zoom == 0 ? 100 : std::clamp(zoom, LeastZoom, MostZoom);
+  return GameViews.Pose.Zoom == 0 ? 100 : GameViews.Pose.Zoom;
 }
 
 int TableView::Degrees() const {
-  return (GameViews.Table[RotationWord] % 360 + 360) % 360;
+  return GameViews.Pose.Rotation;
 }
 
 void TableView::SetView(int zoomPercent, int degrees) {
-  GameViews.Table[ZoomWord] = std::clamp(zoomPercent, LeastZoom, MostZoom);
-  GameViews.Table[RotationWord] = (degrees % 360 + 360) % 360;
+  GameViews.Pose.Zoom = std::clamp(zoomPercent, LeastZoom, MostZoom);
+  GameViews.Pose.Rotation = (degrees % 360 + 360) % 360;
   if (ZoomPercent() <= 100) shift_ = {};
   DrawTable();
 }
@@ -228,17 +222,15 @@ void TableView::ResetView() {
 }
 
 void TableView::SaveView(int view) {
-  const int first = view * WordsOfView;
-  for (int k = 0; k < WordsOfView; ++k)
-    GameViews.SavedViews[first + k] = GameViews.Table[RotationWord + k];
-  GameViews.SavedViews[first + WordsOfView - 1] = ZoomPercent();
+  TablePose& saved = At(GameViews.SavedPoses, view);
+  saved = GameViews.Pose;
+  saved.Zoom = ZoomPercent();
 }
 
 void TableView::RestoreView(int view) {
-  const int first = view * WordsOfView;
-  if (GameViews.SavedViews[first + WordsOfView - 1] == 0) return;
-  for (int k = 0; k < WordsOfView; ++k)
-    GameViews.Table[RotationWord + k] = GameViews.SavedViews[first + k];
+  const TablePose& saved = At(GameViews.SavedPoses, view);
+  if (saved.Zoom == 0) return;
+  GameViews.Pose = saved;
   shift_ = {};
   DrawTable();
 }

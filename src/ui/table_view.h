@@ -14,6 +14,7 @@
 
 #include "state/payoffs.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "ui/layout/table_layout.h"
 #include "ui/paint/check_paint.h"
 #include "ui/table_play.h"
@@ -33,8 +34,8 @@ class TableView : public QWidget {
   void AnimateDice();  // returns when the dice lie, or at a click
   void ShowerChecks();
 
-  // How the table is seen. Kept in GameViews.
-  static constexpr int LeastZoom = 50, MostZoom = 400;  // percent
+  // How the table is seen. Kept in GameViews.Pose.
+  static constexpr int LeastZoom = LeastTableZoom, MostZoom = MostTableZoom;  // percent
   int ZoomPercent() const;
   int Degrees() const;  // 0 to 359
   void SetView(int zoomPercent, int degrees);

@@ -12,6 +12,7 @@
 #include "base/front_end.h"
 #include "engine/bet_limits.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 #include "ui/paint/lettering.h"
 #include "ui/paint/rail_paint.h"
 #include "ui/paint/table_paint.h"
@@ -82,7 +83,7 @@ PileLook TableView::LookOf(int place, int number) const {
   look.place = place;
   look.current = place == CurrentPlace();
   look.flash = look.current && flash_;
-  look.showAmount = IsOn(TableOption::DisplayBetAmounts);
+  look.showAmount = GameViews.Table.DisplayBetAmounts;
   if (!IsBet(number)) return look;
   const int32_t working = Table.BetWorking[place][number];
   if (working == CalledOn) {

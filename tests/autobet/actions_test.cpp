@@ -1,5 +1,6 @@
 #include "autobet/actions.h"
 #include "autobet/script_host.h"
+#include "engine/unattended.h"
 #include "play/players.h"
 
 #include <gtest/gtest.h>
@@ -165,7 +166,7 @@ TEST_F(Actions, StartSessionsThatKeepWhatIsAsked) {
   static std::string started;
   ScriptHost.StartSession = [](bool stacks, bool rolls) {
     started += (stacks ? "S" : "s") + std::string(rolls ? "R" : "r");
-    Table.StopReason.clear();
+    Table.Stop = StopCause::None;
   };
   Allow();
   started.clear();
@@ -178,7 +179,7 @@ TEST_F(Actions, StartSessionsThatKeepWhatIsAsked) {
     EXPECT_TRUE(AutoBet.NewSessionBegins);
   }
   EXPECT_EQ(started, "srSrsRSR");
-  EXPECT_EQ(Table.StopReason, "Stopped by Auto-Bet command.");
+  EXPECT_EQ(StopText(Table.Stop), "Stopped by Auto-Bet command.");
 }
 
 TEST_F(Actions, StopARunAtOnceOnlyBetweenRolls) {
@@ -188,7 +189,7 @@ TEST_F(Actions, StopARunAtOnceOnlyBetweenRolls) {
   Table.RollInProgress = false;
   Run(115);
   EXPECT_FALSE(Table.AutoRollOn);
-  EXPECT_EQ(Table.StopReason, "");
+  EXPECT_EQ(StopText(Table.Stop), "");
   EXPECT_EQ(Said(), "Stopped by Auto-Bet command.");
 }
 

@@ -9,7 +9,7 @@
 #include "base/temporary_folder.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/scripts.h"
 #include "state/settings.h"

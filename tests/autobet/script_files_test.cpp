@@ -11,8 +11,9 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
+#include "play/game_commands.h"
 #include "play/players.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/table.h"
 
 namespace tessarel {

@@ -41,7 +41,7 @@
 #include "dice/roll_file.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/scripts.h"
 #include "state/settings.h"

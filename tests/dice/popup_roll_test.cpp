@@ -1,4 +1,5 @@
 #include "dice/popup_roll.h"
+#include "engine/unattended.h"
 
 #include <fstream>
 
@@ -58,7 +59,7 @@ TEST_F(PopupRolls, TooFewDiceStopAndStay) {
   for (const char* text : {"6", "", "789"}) {
     Drop(text);
     MakeRoll();
-    EXPECT_EQ(Table.LastStopReason, "Stopped due to Dice Roll File value out of limits.");
+    EXPECT_EQ(StopText(Table.LastStop), "Stopped due to Dice Roll File value out of limits.");
     EXPECT_EQ(RollsInSession(), 0);
     EXPECT_TRUE(FileExists(Dropped));
   }

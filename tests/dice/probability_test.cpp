@@ -1,4 +1,5 @@
 #include "dice/probability.h"
+#include "engine/unattended.h"
 
 #include <gtest/gtest.h>
 
@@ -95,7 +96,8 @@ TEST_F(ProbabilityMatrixTest, CellsStandForTheirFaces) {
   const std::pair<int, int> unused[] = {{0, 1}, {1, 0},  {1, 12}, {3, 1},  {2, 12 + 2},
                                         {7, 7}, {3, 11}, {8, 12}, {1, 13}, {-1, 6}};
   for (const auto& [column, row] : unused) {
-    EXPECT_EQ(FaultOf([&] { ShareOf(column, row); }), NumberOf(FaultNumber::IndexOutOfRange))
+    EXPECT_EQ(FaultOf([&column = column, &row = row] { ShareOf(column, row); }),
+              NumberOf(FaultNumber::IndexOutOfRange))
         << column << ' ' << row;
   }
 }
@@ -175,9 +177,9 @@ TEST_F(ProbabilityMatrixTest, DrawEndsWhenNothingCanBeReached) {
       {}, {{{1, 1}, -1}}, {{{1, 1}, 5}, {{1, 2}, -10}}, {{{1, 1}, -5}, {{6, 1}, 5}}};
   for (const auto& shares : cases) {
     OnlyShares(shares);
-    Table.StopReason.clear();
+    Table.Stop = StopCause::None;
     EXPECT_EQ(FaultOf([] { DrawCell(50); }), NumberOf(FaultNumber::InvalidCall));
-    EXPECT_EQ(Table.StopReason, "No dice can be drawn from the probability matrix.");
+    EXPECT_EQ(StopText(Table.Stop), "No dice can be drawn from the probability matrix.");
   }
   OnlyShares({{{1, 1}, 5}, {{1, 2}, -10}});
   EXPECT_EQ(Drawn(DrawCell(5)), Pair(1, 1));
@@ -302,7 +304,7 @@ TEST_F(ProbabilityMatrixTest, EmptyMatrixEndsTheHyperDrive) {
   Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(RollsInSession(), 0);
-  EXPECT_EQ(Table.LastStopReason, "No dice can be drawn from the probability matrix.");
+  EXPECT_EQ(StopText(Table.LastStop), "No dice can be drawn from the probability matrix.");
 }
 
 // --- Shown and typed ---------------------------------------------------------------------------

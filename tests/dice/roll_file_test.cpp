@@ -1,4 +1,5 @@
 #include "dice/roll_file.h"
+#include "engine/unattended.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +27,7 @@ class RollFiles : public ::testing::Test {
   void SetUp() override {
     SetAppFolder(folder_.Path());
     RollFile = {};
-    Table.StopReason.clear();
+    Table.Stop = StopCause::None;
     Table.AutoRollOn = Table.HyperDriveOn = false;
     MessagesShown = 0;
     FrontEnd = {};
@@ -36,7 +37,7 @@ class RollFiles : public ::testing::Test {
     RollFile = {};
     FrontEnd = {};
     Folders = {};
-    Table.StopReason.clear();
+    Table.Stop = StopCause::None;
     Table.AutoRollOn = Table.HyperDriveOn = false;
   }
 
@@ -104,7 +105,7 @@ TEST_F(RollFiles, PlaybackEndsBehindTheLastRoll) {
   Table.HyperDriveOn = 1;
   EXPECT_EQ(PlayAll(), "11 12 66");
   EXPECT_TRUE(RollFile.EndReached);
-  EXPECT_EQ(Table.StopReason, EndReason);
+  EXPECT_EQ(StopText(Table.Stop), EndReason);
   EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
   EXPECT_EQ(RollFile.LastRoll, 3);
   EXPECT_EQ(RollFile.NextRoll, 4);
@@ -132,7 +133,7 @@ TEST_F(RollFiles, InvalidRollStopsAndSwitchesOff) {
       EXPECT_FALSE(RollFile.EndReached);
       EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
       EXPECT_EQ(RollFile.NextRoll, 2);
-      EXPECT_EQ(Table.StopReason, InvalidReason);
+      EXPECT_EQ(StopText(Table.Stop), InvalidReason);
       EXPECT_EQ(MessagesShown, hyper == 0 ? 1 : 0);
     }
   }
@@ -248,7 +249,7 @@ TEST_F(RollFiles, OpeningCreatesTheFileInTheProgramsFolder) {
   EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
   RewindForPlayback();
   EXPECT_EQ(PlayAll(), "");
-  EXPECT_EQ(Table.StopReason, EndReason);
+  EXPECT_EQ(StopText(Table.Stop), EndReason);
 }
 
 TEST_F(RollFiles, OpeningAnotherFileKeepsWhatWasRecorded) {

@@ -12,7 +12,7 @@
 #include "base/temporary_folder.h"
 #include "dice/roll_file.h"
 #include "log/events_log.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/table.h"
 
 namespace tessarel {

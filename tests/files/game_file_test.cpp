@@ -32,16 +32,17 @@
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
 #include "files/file_dialog.h"
-#include "files/game_views.h"
 #include "log/events_log.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/rail.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/books_check.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
+#include "state/view_state.h"
 #include "stats/selection.h"
 #include "stats/session_statistics.h"
 
@@ -217,7 +218,7 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   for (int slot = FirstHandlingSlot; slot <= LastHandlingSlot; ++slot)
     Table.HandleUnits[3][slot] = (slot + 1) % 7;
   GameViews.Chips.assign(26, {1, 2, 3, 4, -5});
-  GameViews.Windows[4] = 640;
+  GameViews.Windows.Main.Height = 640;
   FileDialog.LastFolder[1] = "/systems/";
   SaveGame("a.tsg");
   const RecordFile file = RecordFile::Load(Path("a.tsg"));

@@ -9,7 +9,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/scripts.h"
 
 namespace tessarel {

@@ -11,9 +11,11 @@
 #include "base/front_end.h"
 #include "dice/generators.h"
 #include "engine/bets.h"
+#include "engine/unattended.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/settings.h"
 #include "state/table.h"
@@ -133,7 +135,7 @@ TEST_F(HouseEdges, OfALongRunAreTheExactOnes) {
   FrontEnd.RunPendingEvents = BringBetsToTheirAmounts;
   BringBetsToTheirAmounts();
   MakeRoll();
-  ASSERT_EQ(RollsInSession(), RollsAsked()) << Table.LastStopReason;
+  ASSERT_EQ(RollsInSession(), RollsAsked()) << StopText(Table.LastStop);
 
   for (const EdgeCase& row : EdgeCases) {
     const BetRecord& record = Stats.Bets[row.place + CurrentSession][row.bet];

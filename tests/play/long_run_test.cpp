@@ -2,6 +2,8 @@
 // in step with the money and with each other.
 #include <cstdlib>
 
+#include "engine/unattended.h"
+#include "play/new_session.h"
 #include "state/books_check.h"
 #include "stats/stats_fixture.h"
 
@@ -130,7 +132,7 @@ TEST_F(LongRun, TheFiguresKeepStepWithTheMoneyAndWithEachOther) {
     SCOPED_TRACE("session " + std::to_string(session));
     NewSession({.keepSessions = true});
     Play(rolls, wagers, session);
-    EXPECT_EQ(RollsInSession(), rolls) << Table.LastStopReason;
+    EXPECT_EQ(RollsInSession(), rolls) << StopText(Table.LastStop);
     EXPECT_EQ(CheckBooks(), "");
     ExpectTheNetIsTheBankrolls(CurrentSession);
   }

@@ -1,4 +1,5 @@
 #include "play/players.h"
+#include "engine/unattended.h"
 
 #include "base/folders.h"
 #include "engine/rules_fixture.h"
@@ -197,7 +198,7 @@ TEST_F(Players, BankrollBeyondItsLimitStopsTheSession) {
     EXPECT_EQ(Table.BankrollStopPlace, Ann);
     Table.HyperDriveOn = true;
     BankrollLimitStop(Ann);
-    EXPECT_EQ(Table.StopReason, test.Reason);
+    EXPECT_EQ(StopText(Table.Stop), test.Reason);
     EXPECT_FALSE(Table.HyperDriveOn);
     EXPECT_EQ(Said(), test.Reason);
     Table.BankrollStopPlace = 0;

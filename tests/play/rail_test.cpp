@@ -3,20 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <filesystem>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "base/folders.h"
 #include "base/front_end.h"
 #include "base/message.h"
+#include "base/temporary_folder.h"
 #include "config/configuration.h"
 #include "engine/atm.h"
 #include "engine/bets.h"
 #include "engine/check_stacks.h"
 #include "files/sessions_log.h"
+#include "log/events_log.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/books_check.h"
 #include "state/scripts.h"
@@ -309,6 +314,40 @@ TEST_F(Rail, StacksSplitIntoChecksAndKeepFourApart) {
   const std::vector<StackRow> rows = StackRows(1, false);
   ASSERT_EQ(rows.size(), 2u);
   EXPECT_EQ(rows[0].value + rows[1].value + rows[1].name, "50goal");
+}
+
+TEST_F(Rail, ACommandThatMeetsAFaultSaysSoOnceAndHasNotHappened) {
+  const TemporaryFolder folder;
+  SeatPlayer(1, "Ann", 100);
+  SeatPlayer(5, "Bob", 200);
+  SetAppFolder(folder.Path());
+  EventsLog.LogOn = true;
+  // No index can be written where a folder stands.
+  std::filesystem::create_directories(folder.Path() + "/Events Log.ref/full");
+  const struct {
+    const char* name;
+    bool (*run)();
+    std::deque<std::string> answers;
+  } commands[] = {
+      {"AddPlayer", [] { return AddPlayer(3); }, {"yes", "Eve", "500"}},
+      {"RenamePlayer", [] { return RenamePlayer(1); }, {"Zoe"}},
+      {"DeletePlayer", [] { return DeletePlayer(5, true); }, {"yes"}},
+      {"MovePlayer", [] { return MovePlayer(1, 2); }, {}},
+      {"PassDice", [] { return GiveUpDice(); }, {}},
+  };
+  const TableState before = Table;
+  for (const auto& command : commands) {
+    Talk = {command.answers, {}};
+    EXPECT_FALSE(command.run()) << command.name;
+    ASSERT_EQ(Talk.shown.size(), command.answers.size() + 1) << command.name;
+    EXPECT_NE(Talk.shown.back().find(std::string("occurred at: ") + command.name),
+              std::string::npos)
+        << Talk.shown.back();
+    EXPECT_EQ(CheckTable(), "");
+    EXPECT_EQ(Table.PlayerName, before.PlayerName);
+    EXPECT_EQ(Table.Bankroll, before.Bankroll);
+    EXPECT_EQ(Table.Shooter, before.Shooter);
+  }
 }
 
 }  // namespace

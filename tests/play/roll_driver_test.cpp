@@ -1,4 +1,5 @@
 #include "play/roll_driver.h"
+#include "engine/unattended.h"
 
 #include <filesystem>
 #include <fstream>
@@ -142,7 +143,7 @@ TEST_F(RollDriver, AutoRollGoesOnUntilSomethingStopsIt) {
   Throw(1, 2);
   EXPECT_EQ(RollsInSession(), 3);
   EXPECT_FALSE(Table.AutoRollOn);
-  EXPECT_EQ(Table.LastStopReason, "Shooter has no bet.");
+  EXPECT_EQ(StopText(Table.LastStop), "Shooter has no bet.");
 }
 
 TEST_F(RollDriver, BankrollStopsTheGamePastItsLimitOnly) {
@@ -176,12 +177,12 @@ TEST_F(RollDriver, HyperDriveStopsAtTheBankrollLimitWithItsReason) {
     Seat(1, Money(sign) * (Money(9'999'999) + Money::FromRaw(1)));
     Table.HyperDriveOn = true;
     Throw(1, 2);
-    EXPECT_EQ(Table.LastStopReason,
+    EXPECT_EQ(StopText(Table.LastStop),
               (sign > 0 ? "Stopped by breaking the max bankroll limit of $9,999,999"
                         : "Stopped by exceeding the negative bankroll limit of -$9,999,999") +
                   NewGame);
     EXPECT_FALSE(Table.HyperDriveOn);
-    EXPECT_EQ(Table.StopReason, "");
+    EXPECT_EQ(StopText(Table.Stop), "");
   }
 }
 
@@ -227,9 +228,9 @@ TEST_F(RollDriver, RequiredBetIsAskedForInTheWordsOfTheHouse) {
       const bool refused = !each.reason.empty();
       EXPECT_EQ(RollsInSession(), refused ? 0 : 1);
       EXPECT_FALSE(Table.RollInProgress);
-      EXPECT_EQ(Table.LastStopReason, refused      ? each.reason
-                                      : hyper != 0 ? "Stopped by Auto-Stop."
-                                                   : "");
+      EXPECT_EQ(StopText(Table.LastStop), refused      ? each.reason
+                                          : hyper != 0 ? "Stopped by Auto-Stop."
+                                                       : "");
       if (hyper != 0) {
         EXPECT_FALSE(Table.HyperDriveOn);
       } else if (refused) {
@@ -253,7 +254,7 @@ TEST_F(RollDriver, TwoThousandMillionRollsAreTheEndOfASession) {
       Shown,
       Shows({{"Reached Maximum Roll Limit",
               "Sorry ... the maximum limit of 2,000,000,000 rolls has been reached." + NewGame}}));
-  EXPECT_EQ(Table.LastStopReason,
+  EXPECT_EQ(StopText(Table.LastStop),
             "Stopped due to reaching the maximum limit of 2,000,000,000 rolls." + NewGame);
 }
 
@@ -365,7 +366,7 @@ TEST_F(RollDriver, HyperDriveSurvivesAFaceOfSeven) {
   Table.HyperDriveOn = true;
   MakeRoll();
   EXPECT_EQ(RollsInSession(), 50);
-  EXPECT_EQ(Table.LastStopReason, "Stopped by Auto-Stop.");
+  EXPECT_EQ(StopText(Table.LastStop), "Stopped by Auto-Stop.");
 }
 
 TEST_F(RollDriver, GeneratorZeroHasNoDice) {
@@ -374,7 +375,7 @@ TEST_F(RollDriver, GeneratorZeroHasNoDice) {
   Table.HyperDriveOn = true;
   const TableState before = Table;
   MakeRoll();
-  EXPECT_EQ(Table.LastStopReason, "No dice: random number generator #0 is selected.");
+  EXPECT_EQ(StopText(Table.LastStop), "No dice: random number generator #0 is selected.");
   EXPECT_EQ(RollsInSession(), 0);
   ExpectSameGame(Table, before);
 }
@@ -403,7 +404,7 @@ TEST_F(RollDriver, EndOfTheRollFileLeavesTheGameAsItStands) {
   Table.HyperDriveOn = true;
   Settings.AutoStopRolls = 3;
   MakeRoll();
-  EXPECT_EQ(Table.LastStopReason, "Stopped by Auto-Stop.");
+  EXPECT_EQ(StopText(Table.LastStop), "Stopped by Auto-Stop.");
   EXPECT_EQ(RollsInSession(), 3);
   EXPECT_EQ(Table.Point, 4);
   EXPECT_EQ(Won(1), Money(10 + 10 - 10));
@@ -413,7 +414,7 @@ TEST_F(RollDriver, EndOfTheRollFileLeavesTheGameAsItStands) {
   const auto counts = Stats.RollCount;
   Table.HyperDriveOn = true;
   MakeRoll();
-  EXPECT_EQ(Table.LastStopReason, "Stopped due to end of Dice Roll File reached.");
+  EXPECT_EQ(StopText(Table.LastStop), "Stopped due to end of Dice Roll File reached.");
   ExpectSameGame(Table, before);
   EXPECT_EQ(Stats.RollCount, counts);
   Throw(5, 6);

@@ -1,4 +1,8 @@
-#include "play/session.h"
+#include "engine/unattended.h"
+#include "play/game_commands.h"
+#include "play/leaving.h"
+#include "play/new_session.h"
+#include "play/start_up.h"
 
 #include <gtest/gtest.h>
 
@@ -125,7 +129,7 @@ TEST_F(Session, ClearsTheTable) {
   Table.MarkedNumbers = Table.FourRollCount = Table.FirePoints = Table.FirePointsMask = 3;
   Table.SharpShooterPoints = Table.RideTheLinePasses = 2;
   Table.BankrollStopPlace = 3;
-  Table.StopReason = "enough";
+  Table.Stop = StopCause::AutoStop;
   NewSession({});
   for (int number = 1; number <= LastBet; ++number) {
     EXPECT_EQ(Bet(3, number), Money());
@@ -139,7 +143,7 @@ TEST_F(Session, ClearsTheTable) {
   EXPECT_EQ(Table.SharpShooterPoints + Table.RideTheLinePasses, 0);
   EXPECT_EQ(Table.BankrollStopPlace, 0);
   EXPECT_EQ(Table.GraphIndex, 0);
-  EXPECT_EQ(Table.StopReason, "");
+  EXPECT_EQ(StopText(Table.Stop), "");
   EXPECT_EQ(Table.Shooter, 3);
   EXPECT_EQ(RollsInHand() + RollsInSession(), 0);
   EXPECT_EQ(Stats.RollCount[LastSession][0], 2);

@@ -1,6 +1,7 @@
 #include <cstdint>
 
 #include "engine/bets.h"
+#include "engine/unattended.h"
 #include "play/roll_fixture.h"
 #include "state/books_check.h"
 
@@ -81,7 +82,7 @@ TEST_F(SignatureTest, MillionRollsOfAMixedTable) {
     Settings.AutoStopRolls = station.rolls;
     Table.HyperDriveOn = true;
     MakeRoll();
-    EXPECT_EQ(Table.LastStopReason, "Stopped by Auto-Stop.");
+    EXPECT_EQ(StopText(Table.LastStop), "Stopped by Auto-Stop.");
     EXPECT_EQ(RollsInSession(), station.rolls);
     EXPECT_EQ(Signature(), station.signature);
     EXPECT_EQ(CheckBooks(), "");

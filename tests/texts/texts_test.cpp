@@ -15,6 +15,7 @@
 #include "engine/payouts.h"
 #include "engine/rules_fixture.h"
 #include "engine/settle_prompt.h"
+#include "engine/unattended.h"
 #include "files/file_dialog.h"
 #include "play/roll_driver.h"
 #include "state/settings.h"
@@ -200,7 +201,7 @@ TEST_F(TextsAtTheTable, AShooterWithoutALineBetIsToldSo) {
       "Line-Wette erforderlich: Zum Würfeln ist eine Line-Wette erforderlich.\r\rAnn muss eine "
       "Pass Line-Wette oder eine Don't Pass-Wette setzen.\r\rHinweis: Diese Pflicht lässt sich "
       "auf der Registerkarte 'Wetten' der Konfiguration ändern.");
-  EXPECT_EQ(Table.LastStopReason, "Der Werfer hat keine Line-Wette.");
+  EXPECT_EQ(StopText(Table.LastStop), "Der Werfer hat keine Line-Wette.");
 }
 
 TEST_F(TextsAtTheTable, TheSettlePromptSpeaksTheLanguageInForce) {

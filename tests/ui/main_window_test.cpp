@@ -264,7 +264,7 @@ TEST_F(WindowTest, ARefusedClickSaysWhy) {
       {bet::Field, [] { Settings.MaxPlacardBet = 2; }, "The maximum Field bet is $2"},
       {bet::Field, [] { SetBankroll(4, 3); }, "You don't have enough bankroll remaining"},
   };
-  SetOption(TableOption::DisplayPropBets, true);
+  GameViews.Table.DisplayPropBets = true;
   const auto table = std::make_unique<TableState>(Table);
   const auto stats = std::make_unique<StatsState>(Stats);
   const SettingsState settings = Settings;

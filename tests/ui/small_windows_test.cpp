@@ -9,9 +9,9 @@
 #include <set>
 
 #include "base/clock.h"
-#include "files/game_views.h"
 #include "play/auto_roll.h"
 #include "play/roll_fixture.h"
+#include "state/view_state.h"
 #include "texts/language.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"
@@ -22,8 +22,6 @@
 
 namespace tessarel {
 namespace {
-
-constexpr int ConsoleSlot = 20;
 
 QWidget* Console = nullptr;
 
@@ -131,12 +129,12 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
   SetButtonColor(RollKind::Seven, Qt::black);
   Console->setGeometry(40, 50, 500, 480);
   const QPoint place = Console->pos();
-  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 1);
+  EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowOpen);
   Part<QAction>("mnuHide")->trigger();
-  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 0);
+  EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowClosed);
   Console->show();
   Console->close();
-  EXPECT_EQ(GameViews.Windows[ConsoleSlot], 0);
+  EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowClosed);
   RestoreSmallWindow(Console);
   EXPECT_FALSE(Console->isVisible());
   Open();
@@ -150,18 +148,12 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
   EXPECT_EQ(Console->size(), QSize(500, 480));
 }
 
-TEST_F(SmallWindows, WordsThatCannotBeUsedLeaveTheConsoleUsable) {
-  for (const int32_t word : {-5, 0, 7, 64, 1'000'000}) {
-    GameViews.Display[13] = word;
-    GameViews.Display[39] = word < 0 ? word : 0x1FFFFFF;
-    GameViews.Windows[ConsoleSlot + 1] = 900'000;
-    GameViews.Windows[ConsoleSlot + 2] = -900'000;
-    GameViews.Windows[ConsoleSlot + 3] = GameViews.Windows[ConsoleSlot + 4] = 300;
-    Open();
-    EXPECT_EQ(Pad()->Grid().Cells.size(), 11U) << word;
-    EXPECT_EQ(ButtonColor(RollKind::Numbers), QColor(0xF1, 0xED, 0xE2));
-    EXPECT_LT(Console->x(), 10'000);
-  }
+TEST_F(SmallWindows, ConsoleOfAnotherScreenOpensWithinReach) {
+  GameViews.Windows.RollConsole = {WindowClosed, FarthestPixel, -FarthestPixel, 300, 300};
+  Open();
+  EXPECT_EQ(Pad()->Grid().Cells.size(), 11U);
+  EXPECT_EQ(ButtonColor(RollKind::Numbers), QColor(0xF1, 0xED, 0xE2));
+  EXPECT_LT(Console->x(), 10'000);
 }
 
 TEST_F(SmallWindows, ThrottleFollowsTheSettingBothWays) {
@@ -198,7 +190,8 @@ TEST_F(SmallWindows, StatusBoxGrowsWithItsSizeAndStaysInItsParent) {
   for (int place = 1; place <= LastPlace; ++place)
     Seat(place);
   QSize last;
-  for (GameViews.StatusBoxSize = 1; GameViews.StatusBoxSize <= 3; ++GameViews.StatusBoxSize) {
+  for (GameViews.Table.StatusBoxSize = 1; GameViews.Table.StatusBoxSize <= 3;
+       ++GameViews.Table.StatusBoxSize) {
     RefreshSmallWindow(box);
     EXPECT_GT(box->width(), last.width());
     EXPECT_GT(box->height(), last.height());

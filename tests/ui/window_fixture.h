@@ -15,13 +15,13 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "files/game_views.h"
 #include "play/manual_roll.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "ui/main_window.h"
 
 namespace tessarel {

@@ -9,7 +9,7 @@
 #include "base/front_end.h"
 #include "files/hot_keys.h"
 #include "play/roll_pace.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "ui/main_window.h"
 #include "ui/palette.h"
 #include "ui/program_folders.h"

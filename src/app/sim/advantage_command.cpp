@@ -8,7 +8,7 @@
 #include "app/sim/probability_option.h"
 #include "base/number_format.h"
 #include "config/advantage.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/bet_numbers.h"
 #include "state/table.h"
 

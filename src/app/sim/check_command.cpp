@@ -14,7 +14,7 @@
 #include "autobet/player_name.h"
 #include "base/message.h"
 #include "base/single_byte_text.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/scripts.h"
 #include "state/table.h"
 

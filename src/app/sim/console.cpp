@@ -155,9 +155,10 @@ void OpenConsole() {
   FrontEnd.RunPendingEvents = StopScriptWhenInterrupted;
   struct sigaction action = {};
   action.sa_handler = [](int) { StopAsked = 1; };
-  // A second Ctrl-C ends the program, and the first one cuts no write short.
+  // A second one ends the program, and the first one cuts no write short.
   action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
-  sigaction(SIGINT, &action, nullptr);
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    sigaction(signal, &action, nullptr);
 }
 
 bool Interrupted() {

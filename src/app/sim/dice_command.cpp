@@ -7,7 +7,7 @@
 #include "app/sim/probability_option.h"
 #include "base/trap.h"
 #include "dice/generators.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/table.h"
 #include "texts/language.h"
 

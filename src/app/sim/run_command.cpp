@@ -26,9 +26,13 @@
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
+#include "engine/unattended.h"
+#include "play/game_commands.h"
+#include "play/leaving.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/books.h"
 #include "state/table.h"
 #include "texts/language.h"
@@ -153,7 +157,7 @@ void BetweenRolls() {
 void PlayHyperDrive() {
   Table.HyperDriveOn = true;
   if (DiceFileEnds()) {
-    Table.LastStopReason = Table.StopReason;
+    Table.LastStop = Table.Stop;
   } else {
     PlaceFixedBets();
     FrontEnd.RunPendingEvents = BetweenRolls;
@@ -166,20 +170,21 @@ void PlayHyperDrive() {
 void PlayRollByRoll() {
   while (!Session.Over()) {
     if (DiceFileEnds()) {
-      Table.LastStopReason = Table.StopReason;
+      Table.LastStop = Table.Stop;
       return;
     }
     PlaceFixedBets();
     MakeRoll();
     ShowProgress();
-    if (Stuck() || !Table.LastStopReason.empty() || Table.BankrollStopPlace != 0) return;
+    if (Stuck() || Table.LastStop != StopCause::None || Table.BankrollStopPlace != 0) return;
   }
 }
 
-// What ended the run before its counts. At a bankroll's limit a roll by hand only leaves a message.
+// What ended the run before its counts; a roll by hand at a bankroll's limit has only said so.
 std::string StopReason() {
-  if (Table.LastStopReason.empty() && Table.BankrollStopPlace != 0) return Message.MsgText;
-  return Table.LastStopReason;
+  if (Table.LastStop == StopCause::None && Interrupted()) return "interrupted";
+  const bool limit = Table.LastStop == StopCause::None && Table.BankrollStopPlace != 0;
+  return limit ? BankrollLimitText(Table.BankrollStopPlace) : StopText(Table.LastStop);
 }
 
 void FailWhenStuck() {
@@ -229,7 +234,7 @@ void PlaySession(const RunOptions& options) {
   Session.handsEarlier = -static_cast<int64_t>(Stats.Hands[CurrentSession].HandCount);
   Session.rollsBefore = Session.failures = 0;
   Session.faultsBefore = Console.faults;
-  Table.LastStopReason.clear();
+  Table.LastStop = StopCause::None;
   if (!Session.Over()) options.mode == Mode::Hyper ? PlayHyperDrive() : PlayRollByRoll();
   FailWhenStuck();
 }

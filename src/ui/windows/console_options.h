@@ -1,25 +1,17 @@
-// The options of the roll console as a game file keeps them: the display, what else the panel
-// shows, and the colours of its buttons by kind of roll.
+// What the roll console shows: its display, and the colours of its buttons by kind of roll.
 #pragma once
 
 #include <QColor>
 
 #include "play/manual_roll.h"
+#include "state/view_state.h"
 
 namespace tessarel {
 
-struct ConsoleOptions {
-  RollPadDisplay Display = BasicNumbers;
-  bool RollCounter = true, HyperDriveButton = true, RandomButton = true;
-};
+RollPadDisplay DisplayInForce();
 
-// A word that cannot be used counts as the start-up options.
-ConsoleOptions ReadConsoleOptions();
-void StoreConsoleOptions(const ConsoleOptions& options);
-
-// The kinds of roll that have a colour of their own, in the order of their words.
+// The kinds of roll that have a colour of their own, in the order of ButtonColor.
 enum class RollKind : int { Numbers, Seven, Craps, Eleven, HardWays, SingleDice };
-inline constexpr int RollKinds = 6;
 
 RollKind KindOf(const RollPadCell& cell);
 

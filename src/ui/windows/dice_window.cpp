@@ -14,8 +14,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr int PlaceSlot = 25;
-
 QColor FeltColor() {
   const int32_t felt = Settings.TableColor[0];
   return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
@@ -41,7 +39,7 @@ QString NoteOnTotal() {
 
 class DiceWindow : public FloatingWindow {
  public:
-  explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+  explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::Dice) {
     setObjectName("frmDice");
     Refresh();
   }

@@ -10,7 +10,7 @@
 
 #include "engine/settle_prompt.h"
 #include "files/file_dialog.h"
-#include "play/session.h"
+#include "play/new_session.h"
 
 namespace tessarel {
 

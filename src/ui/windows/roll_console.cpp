@@ -33,7 +33,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr int PlaceSlot = 20;
 constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
 // Numbers of the general text table.
@@ -62,8 +61,8 @@ class RollConsole : public FloatingWindow {
   void AddColorMenu();
   void AddRollMenu();
   void LayOut();
-  QAction* AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option);
-  void Change(const std::function<void(ConsoleOptions&)>& change);
+  QAction* AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides);
+  void ShowChange();
   void PickColor(RollKind kind);
   template <class Action>
   void Run(Action action);
@@ -87,7 +86,7 @@ class RollConsole : public FloatingWindow {
   Seen seen_;
 };
 
-RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, PlaceSlot) {
+RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::RollConsole) {
   setObjectName("frmRYON");
   bar_ = new QMenuBar(this);
   pad_ = new RollPad(this);
@@ -137,15 +136,16 @@ void RollConsole::AddDisplayMenu() {
     action->setCheckable(true);
     displays->addAction(action);
     connect(action, &QAction::triggered, this, [this, k] {
-      Change(
-          [k](ConsoleOptions& options) { options.Display = static_cast<RollPadDisplay>(k + 1); });
+      GameViews.RollConsole.Display = k + 1;
+      ShowChange();
     });
   }
   displayMenu_->addSeparator();
-  mnuRollCounter_ = AddSwitch(displayMenu_, "mnuRollCounter", &ConsoleOptions::RollCounter);
+  mnuRollCounter_ = AddSwitch(displayMenu_, "mnuRollCounter", &RollConsoleOptions::HideRollCounter);
   mnuHyperDriveButton_ =
-      AddSwitch(displayMenu_, "mnuHyperDriveButton", &ConsoleOptions::HyperDriveButton);
-  mnuRandomButton_ = AddSwitch(displayMenu_, "mnuRandomButton", &ConsoleOptions::RandomButton);
+      AddSwitch(displayMenu_, "mnuHyperDriveButton", &RollConsoleOptions::HideHyperDriveButton);
+  mnuRandomButton_ =
+      AddSwitch(displayMenu_, "mnuRandomButton", &RollConsoleOptions::HideRandomButton);
   displayMenu_->addSeparator();
   AddColorMenu();
   displayMenu_->addSeparator();
@@ -182,12 +182,13 @@ void RollConsole::AddRollMenu() {
   connect(mnuSetAutoRollTimeDelay_, &QAction::triggered, this, [this] { Run(AskSetTimeDelay); });
 }
 
-QAction* RollConsole::AddSwitch(QMenu* menu, const char* name, bool ConsoleOptions::*option) {
+QAction* RollConsole::AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides) {
   QAction* action = menu->addAction(QString());
   action->setObjectName(name);
   action->setCheckable(true);
-  connect(action, &QAction::triggered, this, [this, option](bool on) {
-    Change([option, on](ConsoleOptions& options) { options.*option = on; });
+  connect(action, &QAction::triggered, this, [this, hides](bool on) {
+    GameViews.RollConsole.*hides = !on;
+    ShowChange();
   });
   return action;
 }
@@ -219,10 +220,7 @@ void RollConsole::LayOut() {
   all->addLayout(figures);
 }
 
-void RollConsole::Change(const std::function<void(ConsoleOptions&)>& change) {
-  ConsoleOptions options = ReadConsoleOptions();
-  change(options);
-  StoreConsoleOptions(options);
+void RollConsole::ShowChange() {
   Refresh();
   FitToDisplay();
 }
@@ -301,17 +299,17 @@ void RollConsole::RefreshFigures() {
 }
 
 void RollConsole::Refresh() {
-  const ConsoleOptions options = ReadConsoleOptions();
+  const RollConsoleOptions& options = GameViews.RollConsole;
   RefreshCaptions();
   RefreshColorIcons();
-  At(mnuRYONDisplay_, options.Display - 1)->setChecked(true);
-  mnuRollCounter_->setChecked(options.RollCounter);
-  mnuHyperDriveButton_->setChecked(options.HyperDriveButton);
-  mnuRandomButton_->setChecked(options.RandomButton);
-  lblRollCounter_->setVisible(options.RollCounter);
-  cmdHyperDrive_->setVisible(options.HyperDriveButton);
-  cmdRandomRoll_->setVisible(options.RandomButton);
-  pad_->SetDisplay(options.Display);
+  At(mnuRYONDisplay_, DisplayInForce() - 1)->setChecked(true);
+  mnuRollCounter_->setChecked(!options.HideRollCounter);
+  mnuHyperDriveButton_->setChecked(!options.HideHyperDriveButton);
+  mnuRandomButton_->setChecked(!options.HideRandomButton);
+  lblRollCounter_->setVisible(!options.HideRollCounter);
+  cmdHyperDrive_->setVisible(!options.HideHyperDriveButton);
+  cmdRandomRoll_->setVisible(!options.HideRandomButton);
+  pad_->SetDisplay(DisplayInForce());
   RefreshFigures();
   // The button keeps its width when its caption changes.
   const QString caption = cmdHyperDrive_->text();

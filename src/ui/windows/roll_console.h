@@ -21,8 +21,8 @@ QWidget* MakeDiceWindow(QWidget* parent);
 void ShowThrow(QWidget* diceWindow, double phase);
 
 // The box with every player's bankroll, rail, bets and win or loss, in three sizes
-// (GameViews.StatusBoxSize). It lies within its parent and can be dragged there; the right button
-// and the wheel go to the parent.
+// (GameViews.Table.StatusBoxSize). It lies within its parent and can be dragged there; the right
+// button and the wheel go to the parent.
 QWidget* MakeStatusBox(QWidget* parent);
 
 // Bring each of them up to date: new language, new figures, a changed dice picture.

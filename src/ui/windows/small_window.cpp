@@ -3,19 +3,12 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include "files/game_views.h"
 #include "state/table.h"
 #include "ui/windows/roll_console.h"
 
 namespace tessarel {
 
 namespace {
-
-enum PlaceWord : int { State, Left, Top, Width, Height };
-
-int32_t& WordAt(int slot, PlaceWord word) {
-  return GameViews.Windows[slot + word];
-}
 
 // Whether enough of a window's upper edge is on a screen to take hold of it.
 bool IsWithinReach(const QRect& place) {
@@ -30,19 +23,19 @@ bool IsWithinReach(const QRect& place) {
 
 }  // namespace
 
-FloatingWindow::FloatingWindow(QWidget* parent, int slot)
-    : SmallWindow(parent, Qt::Tool), slot_(slot) {}
+FloatingWindow::FloatingWindow(QWidget* parent, WindowPlace WindowPlaces::*place)
+    : SmallWindow(parent, Qt::Tool), kept_(place) {}
 
 void FloatingWindow::setVisible(bool visible) {
   const bool shows = visible && !isVisible(), hides = !visible && isVisible();
   if (shows) TakePlace();
   QWidget::setVisible(visible);
-  if (shows) WordAt(slot_, State) = parentWidget() != nullptr ? -1 : 1;
-  if (hides) WordAt(slot_, State) = 0;
+  if (shows) Kept().State = parentWidget() != nullptr ? WindowOwned : WindowOpen;
+  if (hides) Kept().State = WindowClosed;
 }
 
 void FloatingWindow::Restore() {
-  const bool open = WordAt(slot_, State) != 0;
+  const bool open = Kept().State != WindowClosed;
   if (open && isVisible()) TakePlace();
   if (open != isVisible()) setVisible(open);
   Refresh();
@@ -57,8 +50,7 @@ void FloatingWindow::resizeEvent(QResizeEvent*) {
 }
 
 void FloatingWindow::TakePlace() {
-  const QRect kept(WordAt(slot_, Left), WordAt(slot_, Top), WordAt(slot_, Width),
-                   WordAt(slot_, Height));
+  const QRect kept(Kept().Left, Kept().Top, Kept().Width, Kept().Height);
   if (kept.width() <= 0 || kept.height() <= 0 || !IsWithinReach(kept)) return;
   const QSize most = screen()->availableSize();
   resize(kept.size().boundedTo(most).expandedTo(minimumSizeHint()));
@@ -67,10 +59,7 @@ void FloatingWindow::TakePlace() {
 
 void FloatingWindow::KeepPlace() const {
   if (!isVisible() || isMinimized()) return;
-  WordAt(slot_, Left) = x();
-  WordAt(slot_, Top) = y();
-  WordAt(slot_, Width) = width();
-  WordAt(slot_, Height) = height();
+  Kept() = {Kept().State, x(), y(), width(), height()};
 }
 
 void RefreshSmallWindow(QWidget* window) {

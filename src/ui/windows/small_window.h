@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include "state/view_state.h"
+
 namespace tessarel {
 
 class SmallWindow : public QWidget {
@@ -14,14 +16,13 @@ class SmallWindow : public QWidget {
 };
 
 // A window that stays above its parent's. Shown, it stands where it was left, if that place is on a
-// screen; moved, resized, shown or hidden, it writes its words.
+// screen; moved, resized, shown or hidden, it writes that place.
 class FloatingWindow : public SmallWindow {
  public:
-  // `slot` is the first of its five words: state, left, top, width, height.
-  FloatingWindow(QWidget* parent, int slot);
+  FloatingWindow(QWidget* parent, WindowPlace WindowPlaces::*place);
 
   void setVisible(bool visible) override;
-  // Shows or hides it as the words say.
+  // Shows or hides it as the game keeps it.
   void Restore();
 
  protected:
@@ -32,7 +33,9 @@ class FloatingWindow : public SmallWindow {
   void TakePlace();
   void KeepPlace() const;
 
-  int slot_;
+  WindowPlace& Kept() const { return GameViews.Windows.*kept_; }
+
+  WindowPlace WindowPlaces::*kept_;
 };
 
 }  // namespace tessarel

@@ -5,8 +5,8 @@
 #include <array>
 #include <vector>
 
-#include "files/game_views.h"
 #include "state/table.h"
+#include "state/view_state.h"
 #include "stats/status_box.h"
 #include "texts/language.h"
 #include "ui/paint/check_paint.h"
@@ -75,7 +75,7 @@ StatusPanel::StatusPanel(QWidget* parent) : SmallWindow(parent) {
 
 QFont StatusPanel::BlockFont(bool bold) const {
   QFont shown = font();
-  shown.setPointSize(At(PointSizes, std::clamp(GameViews.StatusBoxSize, 1, 3) - 1));
+  shown.setPointSize(At(PointSizes, GameViews.Table.StatusBoxSize - 1));
   shown.setBold(bold);
   return shown;
 }

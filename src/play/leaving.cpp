@@ -1,0 +1,59 @@
+#include "play/leaving.h"
+
+#include <string>
+
+#include "autobet/values.h"
+#include "base/message.h"
+#include "base/trap.h"
+#include "dice/roll_file.h"
+#include "dice/roll_file_edit.h"
+#include "files/game_file.h"
+#include "files/hot_keys.h"
+#include "play/auto_roll.h"
+#include "play/game_commands.h"
+#include "texts/file_texts.h"
+#include "texts/language.h"
+
+namespace tessarel {
+
+namespace {
+
+std::string Text(int id) {
+  return std::string(GetText(id));
+}
+
+bool AskToStopScripts() {
+  if (!AutoBet.ScriptRunning) return true;
+  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
+    return false;
+  InterruptAutoBetting();
+  return true;
+}
+
+// A table that finds no room on the disk is given up only by somebody who says so.
+bool KeepTable() {
+  return SaveDefaultGame() ||
+         ShowMessage(LocalizedText(FileTexts.LeaveUnsaved), std::string(GameFile.WindowTitle),
+                     msg::AskNoDefault, help::Saving) == AnswerYes;
+}
+
+}  // namespace
+
+bool AskToLeave() {
+  return AskToStopRun() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
+}
+
+bool Leave() {
+  if (!AskToLeave() || !KeepTable()) return false;
+  WriteHotKeys();
+  ShutDown();
+  Trapped("Leave", DeleteRollClipboard);
+  return true;
+}
+
+void ShutDown() {
+  Trapped("ShutDown", CloseRollFile);
+  if (RollFileEdit.ClipboardInUse) Trapped("ShutDown", DeleteRollClipboard);
+}
+
+}  // namespace tessarel

@@ -1,0 +1,7 @@
+#include "state/view_state.h"
+
+namespace tessarel {
+
+ViewState GameViews;
+
+}  // namespace tessarel
