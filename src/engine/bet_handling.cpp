@@ -13,8 +13,7 @@
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/bet_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -39,11 +38,11 @@ void TellHowItStands(const Decision& decision, Title&& title) {
   const Money amount = Bet(decision.place, decision.number);
   if (!NoticeShows(NoticeCharges) || amount == Money()) return;
   const Money change = amount - AmountBefore(decision);
-  const SixTexts& text = change == Money()  ? BetTexts.BetUnchanged
-                         : change > Money() ? BetTexts.BetIncreased
-                                            : BetTexts.BetDecreased;
-  Message.MsgText = FillIn(
-      text, {Table.PlayerName[decision.place], BetName[decision.number], FormatMoney(Abs(change))});
+  const Text text = change == Money()  ? Text::BetUnchanged
+                    : change > Money() ? Text::BetIncreased
+                                       : Text::BetDecreased;
+  Message.MsgText = SayChosen(text, Table.PlayerName[decision.place], BetName[decision.number],
+                              FormatMoney(Abs(change)));
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
@@ -102,17 +101,17 @@ std::string FigureText(const HandlingRow& row) {
 
 void SameBet(const Decision& decision) {
   ChangeBy(decision, Money());
-  TellHowItStands(decision, [] { return Plain(GetText(51)); });
+  TellHowItStands(decision, [] { return Plain(Wording(Text::SameBetButton)); });
 }
 
 void PressUnit(const Decision& decision) {
   ChangeBy(decision, PressingUnit(decision.place, decision.number));
-  TellHowItStands(decision, [] { return Plain(GetText(52)); });
+  TellHowItStands(decision, [] { return Plain(Wording(Text::PressUnitButton)); });
 }
 
 void PressDouble(const Decision& decision) {
   ChangeBy(decision, Bet(decision.place, decision.number));
-  TellHowItStands(decision, [] { return Plain(GetText(53)); });
+  TellHowItStands(decision, [] { return Plain(Wording(Text::PressDoubleButton)); });
 }
 
 void Parlay(const Decision& decision) {
@@ -121,21 +120,21 @@ void Parlay(const Decision& decision) {
   } else {
     ChangeBy(decision, decision.payout.net, true);
   }
-  TellHowItStands(decision, [] { return std::string("Parlay"); });
+  TellHowItStands(decision, [] { return Plain(Wording(Text::ParlayButton)); });
 }
 
 void BetRemainder(const Decision& decision) {
   PutBack(decision, AmountBefore(decision) + decision.payout.net);
-  TellHowItStands(decision, [] { return std::string(GetText(47)); });
+  TellHowItStands(decision, [] { return Say(Text::BetRemainderTitle); });
 }
 
 void ModifyBet(const Decision& decision, int slot) {
   const HandlingRow row = RowOfSlot(decision.place, slot);
   ChangeBy(decision, ModifiedChange(row, decision));
   TellHowItStands(decision, [&row] {
-    constexpr std::array Titles = {&BetTexts.SameBetPlus, &BetTexts.SameBetMinus,
-                                   &BetTexts.SameBetTimes, &BetTexts.SameBetDividedBy};
-    return FillIn(*At(Titles, row.operation & 3), {FigureText(row)});
+    constexpr std::array Titles = {Text::SameBetPlus, Text::SameBetMinus, Text::SameBetTimes,
+                                   Text::SameBetDividedBy};
+    return SayChosen(At(Titles, row.operation & 3), FigureText(row));
   });
 }
 
@@ -150,9 +149,8 @@ void SetBetUnits(const Decision& decision, int slot) {
   }
   PutBack(decision, row.amount * unit);
   TellHowItStands(decision, [&row] {
-    const std::string bet(GetText(45));
-    if (row.units <= Money(1)) return bet + " " + FigureText(row);
-    return bet + " " + FormatMoney(row.amount) + " " + std::string(GetText(46));
+    if (row.units <= Money(1)) return Say(Text::SetBetTitle, FigureText(row));
+    return Say(Text::SetBetUnitsTitle, FormatMoney(row.amount));
   });
 }
 

@@ -7,8 +7,7 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "state/vig.h"
-#include "texts/bet_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -16,29 +15,28 @@ namespace {
 
 std::string BetTitle(int number) {
   if (IsStack(number)) return "CheckStack #" + std::to_string(number - FirstStack);
-  return FillIn(BetTexts.BetTitle, {BetName[number]});
+  return Say(Text::BetTitle, BetName[number]);
 }
 
 std::string LimitText(const LimitMet& limit, int number) {
   const std::string amount = FormatMoney(limit.amount);
-  const auto named = [&](const SixTexts& text) { return FillIn(text, {BetName[number], amount}); };
   switch (limit.kind) {
     case LimitKind::Minimum:
-      return named(BetTexts.MinimumBet);
+      return Say(Text::MinimumBet, BetName[number], amount);
     case LimitKind::Maximum:
-      return named(BetTexts.MaximumBet);
+      return Say(Text::MaximumBet, BetName[number], amount);
     case LimitKind::ContractAboveMaximum:
-      return named(BetTexts.ContractAboveMaximum);
+      return Say(Text::ContractAboveMaximum, BetName[number], amount);
     case LimitKind::AdjustMaximum:
-      return FillIn(BetTexts.UnableToAdjustMaximum, {amount});
+      return Say(Text::UnableToAdjustMaximum, amount);
     case LimitKind::AdjustMinimum:
-      return FillIn(BetTexts.UnableToAdjustMinimum, {amount});
+      return Say(Text::UnableToAdjustMinimum, amount);
     case LimitKind::Bankroll:
-      return LocalizedText(BetTexts.NotEnoughBankroll);
+      return Say(Text::NotEnoughBankroll);
     case LimitKind::StackMinimum:
-      return FillIn(BetTexts.StackMinimum, {amount});
+      return Say(Text::StackMinimum, amount);
     case LimitKind::StackMaximum:
-      return FillIn(BetTexts.StackMaximum, {amount});
+      return Say(Text::StackMaximum, amount);
   }
   return "";
 }
@@ -60,10 +58,10 @@ bool TellsStanding(const Plan& plan) {
 
 std::string StandingText(const Plan& plan) {
   const bool stays = plan.change == Money();
-  const SixTexts& text = IsStack(plan.request.number)
-                             ? (stays ? BetTexts.AlreadyStacked : BetTexts.BeingStacked)
-                             : (stays ? BetTexts.AlreadyBet : BetTexts.BeingBet);
-  return FillIn(text, {FormatMoney(plan.After())});
+  const Text text = IsStack(plan.request.number)
+                        ? (stays ? Text::AlreadyStacked : Text::BeingStacked)
+                        : (stays ? Text::AlreadyBet : Text::BeingBet);
+  return SayChosen(text, FormatMoney(plan.After()));
 }
 
 }  // namespace
@@ -94,12 +92,12 @@ void TellVig(int number, Money vig, Money change) {
   if (!NoticeShows(NoticeCharges)) return;
   std::string text;
   if (vig == Money()) {
-    text = FillIn(BetTexts.VigReturned, {FormatMoney(-change)});
+    text = Say(Text::VigReturned, FormatMoney(-change));
   } else {
     const bool upFront = ChargesVigUpFront(number);
-    text = FillIn(upFront ? BetTexts.VigCharged : BetTexts.VigIfWon, {FormatMoney(vig)});
-    text += "\r" + FillIn(change > Money() ? BetTexts.VigIncreased : BetTexts.VigDecreased,
-                          {FormatMoney(Abs(change))});
+    text = SayChosen(upFront ? Text::VigCharged : Text::VigIfWon, FormatMoney(vig));
+    text += "\r" + SayChosen(change > Money() ? Text::VigIncreased : Text::VigDecreased,
+                             FormatMoney(Abs(change)));
   }
   ShowMessage(std::move(text), BetTitle(number), msg::Ok | msg::PictureAlert | msg::HideNotice4,
               help::OddsVigAndCalls);
@@ -107,7 +105,7 @@ void TellVig(int number, Money vig, Money change) {
 
 void TellNotAllowed(std::string text) {
   if (!NoticeShows(NoticeActionsNotAllowed)) return;
-  ShowMessage(std::move(text), std::string(GetText(58)), msg::OkAlert | msg::HideNotice1,
+  ShowMessage(std::move(text), Say(Text::ActionNotAllowed), msg::OkAlert | msg::HideNotice1,
               help::OddsVigAndCalls);
 }
 

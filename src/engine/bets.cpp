@@ -9,7 +9,7 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "state/vig.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -164,7 +164,7 @@ void BuyPlaceBet(int place, int number, Telling telling) {
   const Money amount = Bet(place, number);
   if (InFamily(number, BuyFamily) || amount == Money()) return;
   if (!InFamily(number, PlaceFamily)) {
-    if (telling == Telling::Aloud) TellNotAllowed(std::string(GetText(57)));
+    if (telling == Telling::Aloud) TellNotAllowed(Say(Text::OnlyPlaceBetsBought));
     return;
   }
   const int32_t working = Table.BetWorking[place][number];
@@ -178,7 +178,7 @@ void BuyPlaceBet(int place, int number, Telling telling) {
 void CallBet(int place, int number, CallState state, Telling telling) {
   if (!IsBet(number)) return;
   if (!CanBeCalled(number)) {
-    if (telling == Telling::Aloud) TellNotAllowed(FillIn(GetText(59), BetName[number]));
+    if (telling == Telling::Aloud) TellNotAllowed(Say(Text::BetNotCallable, BetName[number]));
     return;
   }
   const int32_t opposite = state == CallOn ? CalledOff : CalledOn;

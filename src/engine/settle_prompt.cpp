@@ -8,8 +8,7 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "state/vig.h"
-#include "texts/bet_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -19,19 +18,19 @@ std::string Dollars(Money amount) {
   return "$" + FormatMoney(amount);
 }
 
-std::string Counted(int32_t count, const SixTexts& one, const SixTexts& many) {
-  return FillIn(count == 1 ? one : many, {std::to_string(count)});
+std::string Counted(int32_t count, CheckedText<1> one, CheckedText<1> many) {
+  return Say(count == 1 ? one : many, count);
 }
 
 // What of a hand a bet was paid for; empty for the bets that no count decides.
 std::string CountLine(int number) {
   switch (number) {
     case bet::SharpShooter:
-      return Counted(Table.SharpShooterPoints, BetTexts.PointWon, BetTexts.PointsWon);
+      return Counted(Table.SharpShooterPoints, Text::PointWon, Text::PointsWon);
     case bet::RideTheLine:
-      return Counted(Table.RideTheLinePasses, BetTexts.PassMade, BetTexts.PassesMade);
+      return Counted(Table.RideTheLinePasses, Text::PassMade, Text::PassesMade);
     case bet::Fire:
-      return Counted(Table.FirePoints, BetTexts.PointMade, BetTexts.PointsMade);
+      return Counted(Table.FirePoints, Text::PointMade, Text::PointsMade);
     default:
       return "";
   }
@@ -41,8 +40,8 @@ std::string CountLine(int number) {
 std::string RatioText(const PayoffRow& row) {
   const bool isFor = row.PayForm == Money(FormFor);
   const Money num = Abs(row.PayNum);
-  return FillIn(isFor ? BetTexts.PaysFor : BetTexts.PaysTo,
-                {FormatMoney(isFor ? num + row.PayDen : num), FormatMoney(row.PayDen)});
+  return SayChosen(isFor ? Text::PaysFor : Text::PaysTo,
+                   FormatMoney(isFor ? num + row.PayDen : num), FormatMoney(row.PayDen));
 }
 
 Money PaidAt(Money amount, const PayoffRow& row) {
@@ -56,18 +55,16 @@ bool Rounded(const Payout& payout) {
 void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow& row) {
   const std::string whole = std::to_string(parts);
   const Money part = Money::FromDouble(amount.ToDouble() / parts);
-  prompt.rows.push_back({FillIn(BetTexts.PartOfBet, {whole}), Dollars(part)});
-  prompt.rows.push_back(
-      {std::string(GetText(49)) + RatioText(row) + ":", Dollars(PaidAt(part, row))});
-  prompt.rows.push_back(
-      {FillIn(BetTexts.LessPartOfBet, {std::to_string(parts - 1), whole}), Dollars(amount - part)});
+  prompt.rows.push_back({Say(Text::PartOfBet, whole), Dollars(part)});
+  prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(PaidAt(part, row))});
+  prompt.rows.push_back({Say(Text::LessPartOfBet, parts - 1, whole), Dollars(amount - part)});
 }
 
 void AddVigRow(SettlePrompt& prompt, Money vig) {
   if (!CarriesVig(prompt.number)) return;
   const bool lay = InFamily(prompt.number, LayFamily);
   const Money percent = (lay ? Settings.LayVigPct : Settings.BuyVigPct) * 100;
-  prompt.rows.push_back({FillIn(BetTexts.VigPercent, {FormatMoney(percent)}), Dollars(vig)});
+  prompt.rows.push_back({Say(Text::VigPercent, FormatMoney(percent)), Dollars(vig)});
 }
 
 void AddWinRows(SettlePrompt& prompt, const Decision& decision) {
@@ -80,39 +77,36 @@ void AddWinRows(SettlePrompt& prompt, const Decision& decision) {
     AddPartRows(prompt, amount, parts, row);
   } else {
     const Money gross = PaidAt(amount, row);
-    prompt.rows.push_back({std::string(GetText(49)) + RatioText(row) + ":", Dollars(gross)});
+    prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(gross)});
     AddVigRow(prompt, gross - decision.payout.gross);
   }
   prompt.rows.push_back(
-      {LocalizedText(Rounded(decision.payout) ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff),
+      {SayChosen(Rounded(decision.payout) ? Text::NetPayoffRounded : Text::NetPayoff),
        Dollars(decision.payout.net)});
 }
 
 void AddLossRows(SettlePrompt& prompt, const Decision& decision) {
   const Payout& payout = decision.payout;
   prompt.rows.push_back(
-      {FillIn(BetTexts.LossAt, {RatioText(DecidingRow(decision.number, decision.result))}),
+      {Say(Text::LossAt, RatioText(DecidingRow(decision.number, decision.result))),
        Dollars(-payout.gross)});
   prompt.rows.push_back(
-      {LocalizedText(Rounded(payout) ? BetTexts.NetLossRounded : BetTexts.NetLoss),
-       Dollars(-payout.net)});
+      {SayChosen(Rounded(payout) ? Text::NetLossRounded : Text::NetLoss), Dollars(-payout.net)});
   if (PartsOf(prompt.number) > 1) {
-    prompt.rows.push_back(
-        {LocalizedText(BetTexts.Remainder), Dollars(decision.amount + payout.net)});
+    prompt.rows.push_back({Say(Text::RemainderOfBet), Dollars(decision.amount + payout.net)});
   }
 }
 
 void SetButtons(SettlePrompt& prompt) {
   if (prompt.offersPress) {
-    for (size_t k = 0; k < prompt.buttons.size(); ++k) {
-      prompt.buttons[k] = GetText(50 + static_cast<int>(k));
-    }
+    prompt.buttons = {Say(Text::TakeBetButton), Say(Text::SameBetButton),
+                      Say(Text::PressUnitButton), Say(Text::PressDoubleButton),
+                      Say(Text::ParlayButton)};
   } else {
     prompt.buttons = {
-        LocalizedText(BetTexts.NoBet), LocalizedText(BetTexts.SameBet),
-        LocalizedText(BetTexts.BetRemainder),
-        FillIn(BetTexts.UnitToBet, {FormatMoney(PressingUnit(prompt.place, prompt.number))}),
-        LocalizedText(BetTexts.DoubleBet)};
+        Say(Text::NoBetButton), Say(Text::SameLostBetButton), Say(Text::BetRemainderButton),
+        Say(Text::UnitToBetButton, FormatMoney(PressingUnit(prompt.place, prompt.number))),
+        Say(Text::DoubleBetButton)};
   }
 }
 
@@ -126,7 +120,7 @@ Money CheckOfUnits(Money units) {
 std::string UnitsText(Money units) {
   if (units <= Money()) return "$";
   if (units == Money(1)) return "%";
-  return FillIn(BetTexts.Units, {FormatMoney(CheckOfUnits(units))});
+  return Say(Text::UnitsOf, FormatMoney(CheckOfUnits(units)));
 }
 
 SettlePrompt MakeSettlePrompt(const Decision& decision, bool offersPress) {
@@ -140,16 +134,16 @@ SettlePrompt MakeSettlePrompt(const Decision& decision, bool offersPress) {
   prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(decision.amount)});
   switch (decision.outcome) {
     case Outcome::Won:
-      prompt.title = {name, std::string(GetText(35))};
+      prompt.title = {name, Say(Text::Won)};
       AddWinRows(prompt, decision);
       break;
     case Outcome::Lost:
-      prompt.title = {std::string(GetText(36)), name};
+      prompt.title = {Say(Text::Lost), name};
       AddLossRows(prompt, decision);
       break;
     case Outcome::Idle:
       prompt.title = {name, ""};
-      prompt.rows.push_back({LocalizedText(BetTexts.WasNotWorking), ""});
+      prompt.rows.push_back({Say(Text::WasNotWorking), ""});
   }
   SetButtons(prompt);
   prompt.modify = RowOfSlot(place, offersPress ? PromptWinModify : PromptLossModify);

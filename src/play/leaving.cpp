@@ -11,20 +11,16 @@
 #include "files/hot_keys.h"
 #include "play/auto_roll.h"
 #include "play/game_commands.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
-
 bool AskToStopScripts() {
   if (!AutoBet.ScriptRunning) return true;
-  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
+  if (ShowMessage(Say(Text::AskToStopAutoBetting), Say(Text::AutoBetActive), msg::AskYesDefault,
+                  help::BettingSystems) != AnswerYes)
     return false;
   InterruptAutoBetting();
   return true;
@@ -33,7 +29,7 @@ bool AskToStopScripts() {
 // A table that finds no room on the disk is given up only by somebody who says so.
 bool KeepTable() {
   return SaveDefaultGame() ||
-         ShowMessage(LocalizedText(FileTexts.LeaveUnsaved), std::string(GameFile.WindowTitle),
+         ShowMessage(Say(Text::AskToLeaveUnsaved), std::string(GameFile.WindowTitle),
                      msg::AskNoDefault, help::Saving) == AnswerYes;
 }
 

@@ -29,8 +29,7 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/language.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -44,9 +43,8 @@ bool Refuse(std::string text, std::string title, StopCause cause) {
 }
 
 // A demand on the shooter, with the note where it can be changed.
-std::string BetDemand(const SixTexts& demand) {
-  return FillIn(demand, {Table.PlayerName[Table.Shooter]}) + "\r\r" +
-         LocalizedText(RollTexts.BetRequiredNote);
+std::string BetDemand(Text demand) {
+  return SayChosen(demand, Table.PlayerName[Table.Shooter]) + "\r\r" + Say(Text::BetRequiredNote);
 }
 
 bool HasAnyBet(int place) {
@@ -54,29 +52,27 @@ bool HasAnyBet(int place) {
 }
 
 bool RefuseWithoutLineBet() {
-  const SixTexts& demand = Table.PlayerCount == 1 ? RollTexts.LineBetAlone
-                           : Table.Point != 0     ? RollTexts.LineBetDuringPoint
-                                                  : RollTexts.LineBetOrPass;
-  return Refuse(BetDemand(demand), LocalizedText(RollTexts.LineBetRequired),
-                StopCause::ShooterWithoutLineBet);
+  const Text demand = Table.PlayerCount == 1 ? Text::LineBetAlone
+                      : Table.Point != 0     ? Text::LineBetDuringPoint
+                                             : Text::LineBetOrPass;
+  return Refuse(BetDemand(demand), Say(Text::LineBetRequired), StopCause::ShooterWithoutLineBet);
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
-    return Refuse(std::string(GetText(110)), std::string(GetText(111)), StopCause::NobodyToBet);
+    return Refuse(Say(Text::NoPlayersToBet), Say(Text::BetRequired), StopCause::NobodyToBet);
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
-  return Refuse(BetDemand(RollTexts.AnyBetOrPass), LocalizedText(RollTexts.AnyBetRequired),
+  return Refuse(BetDemand(Text::AnyBetOrPass), Say(Text::AnyBetRequired),
                 StopCause::ShooterWithoutBet);
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  return Refuse(
-      LocalizedText(RollTexts.MaximumRolls) + "\r\r" + LocalizedText(RollTexts.ResetTable),
-      LocalizedText(RollTexts.MaximumRollsTitle), StopCause::MaximumRolls);
+  return Refuse(Say(Text::MaximumRolls) + "\r\r" + Say(Text::ResetTable),
+                Say(Text::MaximumRollsTitle), StopCause::MaximumRolls);
 }
 
 void FigureAvailableBankrolls() {
@@ -377,8 +373,8 @@ void PauseAutoRoll() {
   Trapped("MakeRoll", FlushEventsLog);
   if (AutoStopIsDue()) {
     StopUnattended();
-    ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
-                msg::OkAlert, help::AutoRoll);
+    ShowMessage(Say(Text::AutoStopNotice), Say(Text::AutoRollStopped), msg::OkAlert,
+                help::AutoRoll);
   } else {
     WaitForNextRoll();
   }
