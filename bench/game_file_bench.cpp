@@ -31,9 +31,8 @@ class FullRail {
       SeatPlayer(place, "Player " + std::to_string(place), 9'000);
     for (int roll = 0; roll < 2'000; ++roll) {
       ForEachPlayer([roll](int place) {
-        Table.Amount = 10;
-        ChangeBet(place, bet::PassLine);
-        ChangeBet(place, 1 + roll % LastBet);
+        ChangeBet({place, bet::PassLine, 10});
+        ChangeBet({place, 1 + roll % LastBet, 10});
       });
       MakeRoll();
     }

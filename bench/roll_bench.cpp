@@ -36,12 +36,10 @@ void Rebet() {
     Table.HyperDriveOn = false;
     return;
   }
-  const SilentBets silent;
   for (const Wager& wager : Bench.wagers) {
     const Money standing = Bet(wager.place, wager.number);
     if (standing == wager.amount) continue;
-    Table.Amount = wager.amount - standing;
-    PlaceBet(wager.place, wager.number);
+    PlaceBet({wager.place, wager.number, wager.amount - standing}, Telling::Silent);
   }
 }
 

@@ -40,8 +40,7 @@ void SeatEight() {
     SeatPlayer(place, "Player " + std::to_string(place), 100'000);
     for (const int number : {bet::PassLine, bet::Field, bet::Place6, bet::Place8, bet::Hard8,
                              bet::Lay4, bet::Buy10, bet::Come, bet::Hop34, bet::AllTall}) {
-      Table.Amount = 35;
-      PlaceBet(place, number);
+      PlaceBet({place, number, 35});
     }
   }
 }
@@ -86,7 +85,7 @@ void HyperDrive(benchmark::State& state) {
   AnswerNothing();
   Settings.BetNeededToShoot = 0;
   SeatPlayer(4, "Ann", 9'000'000);
-  Settings.AutoStopRolls = Money::FromWhole(RollsOfRun);
+  Settings.AutoStopRolls = RollsOfRun;
   for ([[maybe_unused]] auto _ : state) {
     Table.HyperDriveOn = true;  // without the question that the end of a person's run asks
     MakeRoll();

@@ -42,9 +42,8 @@ std::string MakeGame() {
     SeatPlayer(place, "Player " + std::to_string(place), 1000);
   for (int roll = 0; roll < 40; ++roll) {
     for (const int place : {1, 6}) {
-      Table.Amount = 10;
-      ChangeBet(place, 1 + (roll * 7 + place) % LastBet);
-      ChangeBet(place, bet::PassLine);
+      ChangeBet({place, 1 + (roll * 7 + place) % LastBet, 10});
+      ChangeBet({place, bet::PassLine, 10});
     }
     MakeRoll();
   }

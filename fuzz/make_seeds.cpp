@@ -60,10 +60,8 @@ void PlaySession() {
   OpenRollFile("rolls.rol");
   SetRecorder(RollFileRecord);
   for (int roll = 0; roll < Rolls; ++roll) {
-    for (const int number : {bet::PassLine, bet::Field, bet::Place6, bet::Fire}) {
-      Table.Amount = 5;
-      ChangeBet(1, number);
-    }
+    for (const int number : {bet::PassLine, bet::Field, bet::Place6, bet::Fire})
+      ChangeBet({1, number, 5});
     MakeRoll();
   }
   CloseRollFile();

@@ -76,12 +76,11 @@ void TurnStepsOn(const ScriptCommand&) {
 void PassTheDice(const ScriptCommand&) {
   const bool shoots = AutoBet.CurrentScriptPlayer == Table.Shooter;
   if (!shoots && !HasRight(Scripts.AllowAct4Others, 855)) return;
-  const SilentBets silent;
   ScriptHost.PassDice();
 }
 
 void SeedFromClock(const ScriptCommand&) {
-  Dice.SeedRequest = Money();
+  Dice.SeedRequest = 0;
   SeedRNG(-1);
 }
 
@@ -91,7 +90,7 @@ void SeedWith(const ScriptCommand& command) {
   const double seed = NumberOf(command.arguments[0]);
   const bool inLimits = seed >= 1 && seed <= SeedLimit(Dice.CurrentRNG);
   if (!inLimits) return FailScript(SeedOutOfLimits);
-  Dice.SeedRequest = Money::FromDouble(seed);
+  Dice.SeedRequest = static_cast<int64_t>(std::nearbyint(seed));
   if (!SeedRNG(-1)) FailScript(SeedOutOfLimits);
 }
 
@@ -160,7 +159,6 @@ void Swap(const ScriptCommand& command) {
   if (AutoBet.ScriptError != 0) return;
   // The side that falls is set first, so that its money is there for the one that rises.
   const bool rises = !IsText(valueOfA) && NumberOf(valueOfB) > valueOfA.value;
-  const SilentBets silent;
   if (rises) {
     ExchangeValues(b, valueOfB, a, valueOfA);
   } else {
@@ -171,7 +169,6 @@ void Swap(const ScriptCommand& command) {
 // Calls visit(place, target) for each target that the script may act on, until a run-time error.
 template <class Visit>
 void ForEachTarget(const ScriptCommand& command, Visit&& visit) {
-  const SilentBets silent;
   for (const Reference& target : command.targets) {
     const int place = ResolvePlayer(target.player);
     if (!MayActFor(place)) return;
@@ -183,7 +180,7 @@ void ForEachTarget(const ScriptCommand& command, Visit&& visit) {
 void BuyPlaceBets(const ScriptCommand& command) {
   ForEachTarget(command, [](int place, const Reference& target) {
     if (!InFamily(target.number, PlaceFamily)) return FailScript(12);
-    BuyPlaceBet(place, target.number);
+    BuyPlaceBet(place, target.number, Telling::Silent);
   });
 }
 
@@ -191,9 +188,9 @@ void CallBets(const ScriptCommand& command) {
   ForEachTarget(command, [&](int place, const Reference& target) {
     if (!IsBet(target.number)) return;
     if (command.action == CallOffAction) {
-      CallBet(place, target.number, CallOff);
+      CallBet(place, target.number, CallOff, Telling::Silent);
     } else if (command.action == CallOnAction) {
-      CallBet(place, target.number, CallOn);
+      CallBet(place, target.number, CallOn, Telling::Silent);
     } else {
       ResetBetWorking(place, target.number);
     }
@@ -201,7 +198,6 @@ void CallBets(const ScriptCommand& command) {
 }
 
 void ClearTargets(const ScriptCommand& command) {
-  const SilentBets silent;
   for (const Reference& target : command.targets) {
     SetVariable(target, Number(0));
     if (AutoBet.ScriptError != 0) return;
@@ -247,7 +243,6 @@ void ChangeTargets(const ScriptCommand& command) {
   if (!HasValue(command)) return;
   const double operand = NumberOf(command.arguments[0]);
   if (DividesByZero(command.action, operand)) return FailScript(DivisionByZero);
-  const SilentBets silent;
   for (const Reference& target : command.targets) {
     const bool anew = command.action == BetAction;
     const double present = anew ? 0 : NumberOf(ReadVariable(target));

@@ -1,9 +1,12 @@
 #include "autobet/bet_figures.h"
 
+#include <algorithm>
+
 #include "autobet/roll_figures.h"
 #include "config/advantage.h"
 #include "state/books.h"
 #include "state/table.h"
+#include "state/vig.h"
 #include "stats/summary_view.h"
 
 namespace tessarel {
@@ -49,7 +52,7 @@ double Quotient(Money amount, double divisor, EmptyError error) {
 }
 
 bool CameLast(const BetMeasures& measures, const Period& period) {
-  return measures.Count > Money() && measures.LastRoll == Money(period.lastRoll);
+  return measures.Count > 0 && measures.LastRoll == period.lastRoll;
 }
 
 Money AmountOnLastRoll(const BetMeasures& measures, const Period& period) {
@@ -57,13 +60,12 @@ Money AmountOnLastRoll(const BetMeasures& measures, const Period& period) {
 }
 
 double RollsSinceEntry(const BetMeasures& measures, const Period& period) {
-  if (measures.Count == Money()) return period.rolls;
-  const Money since = Money(period.lastRoll) - measures.LastRoll;
-  return since > Money() ? since.ToDouble() : 0;
+  if (measures.Count == 0) return period.rolls;
+  return static_cast<double>(std::max<int64_t>(period.lastRoll - measures.LastRoll, 0));
 }
 
-double PerHour(Money amount, Money count, const Period& period, EmptyError error) {
-  if (count == Money()) return Fail(error);
+double PerHour(Money amount, int64_t count, const Period& period, EmptyError error) {
+  if (count == 0) return Fail(error);
   return Quotient(amount, SimHours(Stats.Hands[period.slot].RollTotal), error);
 }
 
@@ -76,13 +78,13 @@ double MeasureFigure(const BetMeasures& measures,
     case ModTotalAmount:
       return measures.Sum.ToDouble();
     case ModTotalNumber:
-      return measures.Count.ToDouble();
+      return static_cast<double>(measures.Count);
     case ModHigh:
       return measures.High.ToDouble();
     case ModLow:
       return measures.Low.ToDouble();
     case ModAverage:
-      return Quotient(measures.Sum, measures.Count.ToDouble(), error);
+      return Quotient(measures.Sum, static_cast<double>(measures.Count), error);
     case ModLastAmount:
       return measures.Last.ToDouble();
     case ModRollsSinceLast:
@@ -92,7 +94,7 @@ double MeasureFigure(const BetMeasures& measures,
     case ModLastRollAmount:
       return AmountOnLastRoll(measures, period).ToDouble();
     case ModNumberPerHour:
-      return PerHour(measures.Count, measures.Count, period, error);
+      return PerHour(Money::FromWhole(measures.Count), measures.Count, period, error);
     case ModAmountPerHour:
       return PerHour(measures.Sum, measures.Count, period, error);
     default:
@@ -102,7 +104,7 @@ double MeasureFigure(const BetMeasures& measures,
 
 // The best result or, turned round, the worst: losses are results below zero.
 Money BestResult(const BetMeasures& good, const BetMeasures& bad) {
-  return good.Count > Money() ? good.High : -bad.Low;
+  return good.Count > 0 ? good.High : -bad.Low;
 }
 
 Money LastResult(const BetRecord& record) {
@@ -111,19 +113,20 @@ Money LastResult(const BetRecord& record) {
 
 double NetFigure(const BetRecord& record, int modifier, const Period& period) {
   const BetMeasures &won = record.Won, &lost = record.Lost;
-  const Money count = record.Tendered.Count, net = won.Sum - lost.Sum;
+  const int64_t count = record.Tendered.Count, decided = won.Count - lost.Count;
+  const Money net = won.Sum - lost.Sum;
   switch (modifier) {
     case ModTotal:
     case ModTotalAmount:
       return net.ToDouble();
     case ModTotalNumber:
-      return (won.Count - lost.Count).ToDouble();
+      return static_cast<double>(decided);
     case ModHigh:
       return BestResult(won, lost).ToDouble();
     case ModLow:
       return -BestResult(lost, won).ToDouble();
     case ModAverage:
-      return Quotient(net, count.ToDouble(), NoResolvedWagers);
+      return Quotient(net, static_cast<double>(count), NoResolvedWagers);
     case ModLastAmount:
       return LastResult(record).ToDouble();
     case ModLastRollNumber:
@@ -131,7 +134,7 @@ double NetFigure(const BetRecord& record, int modifier, const Period& period) {
     case ModLastRollAmount:
       return (AmountOnLastRoll(won, period) - AmountOnLastRoll(lost, period)).ToDouble();
     case ModNumberPerHour:
-      return PerHour(won.Count - lost.Count, count, period, NoResolvedWagers);
+      return PerHour(Money::FromWhole(decided), count, period, NoResolvedWagers);
     case ModAmountPerHour:
       return PerHour(net, count, period, NoResolvedWagers);
     default:
@@ -150,11 +153,8 @@ double ExpectedValue(int number, bool percent, Money wagered) {
   return FigureAdvantage(number).EvPerDec * (percent ? 100 : wagered.ToDouble());
 }
 
-double VigOf(int place, int number) {
-  const bool lay = InFamily(number, LayFamily);
-  if (!lay && !InFamily(number, BuyFamily)) return Fail(NoVigError);
-  const auto& vigs = At(lay ? Table.LayVig : Table.BuyVig, place);
-  return At(vigs, (number - 1) % FamilySize).ToDouble();
+double VigFigure(int place, int number) {
+  return CarriesVig(number) ? VigOf(place, number).ToDouble() : Fail(NoVigError);
 }
 
 double Flag(bool truth) {
@@ -219,7 +219,7 @@ double BetFigure(int place, const Reference& reference) {
     case ModCalledOff:
       return Flag(working() == CalledOff);
     case ModVig:
-      return VigOf(place, number);
+      return VigFigure(place, number);
     case ModLastRollAmount:
     case ModLastRollNumber:
       // What was tendered for the last roll stood on the bet, decided or not.

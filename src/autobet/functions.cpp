@@ -35,11 +35,6 @@ enum FunctionNumber : int32_t {
   FunctionHighestText = 132,
 };
 
-// The faces of the hop bets from bet::Hop13 on, the lower one first.
-constexpr std::array HopFaces = {13, 14, 15, 16, 22, 23, 24, 25, 26,
-                                 33, 34, 35, 36, 44, 45, 46, 55};
-static_assert(bet::Hop13 + static_cast<int>(HopFaces.size()) - 1 == bet::Hop55);
-
 // A whole number from -1000 to 1000 as it stands; 0 for any other number.
 int ExactWhole(double number) {
   return std::abs(number) <= 1000 && number == std::nearbyint(number) ? static_cast<int>(number)
@@ -51,10 +46,7 @@ int HopBet(double number) {
   constexpr double FirstPair = 11;
   const double tenfold = number < FirstPair ? std::nearbyint(number * 1e9) / 1e8 : number;
   const int faces = ExactWhole(tenfold);
-  if (faces > 99) return 0;
-  const int low = std::min(faces / 10, faces % 10), high = std::max(faces / 10, faces % 10);
-  const auto* const found = std::find(HopFaces.begin(), HopFaces.end(), low * 10 + high);
-  return found == HopFaces.end() ? 0 : bet::Hop13 + static_cast<int>(found - HopFaces.begin());
+  return faces > 99 ? 0 : HopOn(faces / 10, faces % 10);
 }
 
 // The bet of a family by the number behind its word; 0 where it has none.

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "base/single_byte_text.h"
 #include "state/bet_numbers.h"
 
 namespace tessarel {
@@ -86,10 +87,6 @@ template <size_t N>
 std::string_view Find(const NamedNumber (&names)[N], int32_t number) {
   const auto* const row = std::ranges::lower_bound(names, number, {}, &NamedNumber::Number);
   return row != std::end(names) && row->Number == number ? row->Name : std::string_view();
-}
-
-std::string Quoted(std::string_view name) {
-  return '"' + std::string(name) + '"';
 }
 
 }  // namespace

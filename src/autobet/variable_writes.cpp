@@ -67,15 +67,11 @@ std::optional<int32_t> WholeWithin(double value, int32_t low, int32_t high, Writ
 
 void WriteBet(int place, int32_t number, double value) {
   const Money change = MoneyToCut(value) - Bet(place, number);
-  if (change == Money()) return;
-  const SilentBets silent;
-  Table.Amount = change;
-  PlaceBet(place, number);
+  if (change != Money()) PlaceBet({place, number, change}, Telling::Silent);
 }
 
 void WriteStack(int place, int32_t number, double value) {
-  const SilentBets silent;
-  SetStackValue(place, number - FirstStack, MoneyToCut(value));
+  SetStackValue(place, number - FirstStack, MoneyToCut(value), Telling::Silent);
 }
 
 struct HandlingVariable {
@@ -125,12 +121,11 @@ void WriteSwitch(int place, int32_t number, bool on) {
       &TableState::DeclinesDice};
   (Table.*At(Switches, number - 700))[place] = on;
   if (!on) return;
-  const SilentBets silent;
   if (number == 700) BetFullOdds(place);
   if (number == 701) BetFullLay(place);
   if (number != 702) return;
   for (int bet = bet::Place4; bet <= bet::Place10; ++bet) {
-    if (Bet(place, bet) > Money()) RemoveBet(place, bet);
+    if (Bet(place, bet) > Money()) RemoveBet(place, bet, Telling::Silent);
   }
 }
 
@@ -187,7 +182,7 @@ void WriteNextRoll(double value) {
 void WriteSeed(double value) {
   const auto seed = MoneyWithin(value, 1, Money::FromWhole(SeedLimit(Dice.CurrentRNG)), BadSeed);
   if (!seed) return;
-  Dice.SeedRequest = *seed;
+  Dice.SeedRequest = static_cast<int64_t>(std::nearbyint(seed->ToDouble()));
   SeedRNG(-1);
 }
 

@@ -381,16 +381,12 @@ struct TableBuilder {
     }
   }
 
-  // Every pair of faces but those of the totals 2, 3, 11 and 12, in both orders.
+  // The faces of each in both orders.
   constexpr void AddHops() {
-    int hop = bet::Hop13;
-    for (int low = 1; low <= 6; ++low) {
-      for (int high = low; high <= 6; ++high) {
-        if (low + high <= 3 || low + high >= 11) continue;
-        Add(Join(" hop", low * 10 + high, " "), Variable(hop));
-        if (low != high) Add(Join(" hop", high * 10 + low, " "), Variable(hop));
-        ++hop;
-      }
+    for (int hop = bet::Hop13; hop <= bet::Hop55; ++hop) {
+      const auto [number, low, high] = FacesOfHop(hop);
+      Add(Join(" hop", low * 10 + high, " "), Variable(hop));
+      if (low != high) Add(Join(" hop", high * 10 + low, " "), Variable(hop));
     }
   }
 

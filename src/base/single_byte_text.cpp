@@ -157,4 +157,8 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && LowerCase(a) == LowerCase(b);
 }
 
+std::string Quoted(std::string_view text) {
+  return std::string(1, '"').append(text) + '"';
+}
+
 }  // namespace tessarel

@@ -33,4 +33,7 @@ std::string LowerCase(std::string_view utf8);
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
+// The text between quotation marks.
+std::string Quoted(std::string_view text);
+
 }  // namespace tessarel

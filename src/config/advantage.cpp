@@ -15,6 +15,7 @@
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/vig.h"
 
 namespace tessarel {
 
@@ -37,9 +38,9 @@ double RatioOf(int number) {
 // put down, so that a loss stays 1.
 double AfterVig(int number, double ratio) {
   const bool lay = InFamily(number, LayFamily);
-  if (ratio <= 0 || !(lay || InFamily(number, BuyFamily))) return ratio;
+  if (ratio <= 0 || !CarriesVig(number)) return ratio;
   const double vig = lay ? Settings.LayVigPct.ToDouble() * ratio : Settings.BuyVigPct.ToDouble();
-  if ((lay ? Settings.LayVigAllBets : Settings.BuyVigAllBets) != 0) {
+  if (ChargesVigUpFront(number)) {
     const double stake = 1 / (1 + vig);
     return stake * ratio - (1 - stake);
   }
@@ -121,8 +122,8 @@ void SetHardWay(DiceCells& cells, int number) {
 }
 
 void SetHop(DiceCells& cells, int number) {
-  const std::string_view name = BetName[number];  // "Hop 13": the faces stand last
-  cells.SetPair(name[4] - '0', name[5] - '0', RatioOf(number));
+  const HopPair faces = FacesOfHop(number);
+  cells.SetPair(faces.low, faces.high, RatioOf(number));
 }
 
 // A come-out that ends on the roll: a number leaves the bet undecided here, since it then travels.

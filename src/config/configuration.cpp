@@ -11,6 +11,7 @@
 #include "engine/bets.h"
 #include "state/payoffs.h"
 #include "state/scripts.h"
+#include "state/vig.h"
 #include "texts/say.h"
 
 namespace tessarel {
@@ -219,10 +220,9 @@ bool ChangeBetAvailability(LayoutOption option, bool use) {
   const LayoutRow& row = At(LayoutRows, static_cast<int>(option));
   if (!use && std::ranges::any_of(row.Bets, AnyHolds)) {
     if (!MayRemove(option, row)) return false;
-    const SilentBets silent;
     ForEachPlayer([&row](int place) {
       for (const int number : row.Bets) {
-        if (number != 0 && Bet(place, number) > Money()) RemoveBet(place, number);
+        if (number != 0 && Bet(place, number) > Money()) RemoveBet(place, number, Telling::Silent);
       }
     });
   }
@@ -233,17 +233,11 @@ bool ChangeBetAvailability(LayoutOption option, bool use) {
 }
 
 Money ChargeChangedVig(int place) {
-  Money total;
-  Table.Standing[place].ForEach([&](int number) { total += Bet(place, number); });
-  for (int k = 0; k < FamilySize; ++k) {
-    const int lay = LayFamily + k, buy = BuyFamily + k;
-    Table.LayVig[place][k] = FigureLayVig(lay, Bet(place, lay));
-    Table.BuyVig[place][k] = FigureBuyVig(buy, Bet(place, buy));
-    if (Settings.LayVigAllBets) total += Table.LayVig[place][k];
-    if (Settings.BuyVigAllBets) total += Table.BuyVig[place][k];
+  for (const Family family : {LayFamily, BuyFamily}) {
+    for (int number = family; number < family + FamilySize; ++number)
+      StoredVig(place, number) = FigureVig(number, Bet(place, number));
   }
-  Table.MoneyOnTable[place] = total;
-  return total;
+  return Table.MoneyOnTable[place] = FigureMoneyOnTable(place);
 }
 
 bool ChangeVig(Money SettingsState::*setting, Money value) {

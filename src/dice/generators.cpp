@@ -159,6 +159,11 @@ int32_t FilesNeeded(int32_t generator) {
   return At(Needed, generator);
 }
 
+// A seed with a fraction rounds half to even.
+int64_t RoundedToEven(Money seed) {
+  return static_cast<int64_t>(std::nearbyint(seed.ToDouble()));
+}
+
 // Asks for a seed until the answer is from 1 to the limit. False on Cancel.
 bool PromptForSeed(int32_t limit) {
   const std::string question = Say(Text::AskSeed, FormatNumber(limit, "#,#"));
@@ -169,7 +174,7 @@ bool PromptForSeed(int32_t limit) {
     std::erase_if(typed, [](char c) { return c == ' ' || c == ','; });
     const Money value = ParseMoney(typed).value_or(Money());
     if (value >= 1 && value <= limit) {
-      Dice.SeedRequest = value;
+      Dice.SeedRequest = RoundedToEven(value);
       return true;
     }
     text = Say(Text::SeedOutOfLimits).append("\r\r").append(question);
@@ -336,8 +341,7 @@ bool SeedRNG(int mode) {
     Dice.SeedRequest = 0;
     return false;
   }
-  // A request with a fraction rounds half to even.
-  Dice.CurrentSeed = static_cast<int32_t>(std::nearbyint(Dice.SeedRequest.ToDouble()));
+  Dice.CurrentSeed = static_cast<int32_t>(Dice.SeedRequest);
   Dice.LastSeed = Dice.CurrentSeed;
   LogSeed(Dice.CurrentRNG, Dice.CurrentSeed);
   ApplySeed(Dice.CurrentRNG, Dice.CurrentSeed);

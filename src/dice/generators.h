@@ -39,7 +39,7 @@ struct DiceState {
   int32_t CurrentRNG = 1;
   int32_t CurrentSeed = 1;  // the seed last applied; with RNG #3 the running state
   int32_t LastSeed = 0;     // the seed last applied
-  Money SeedRequest;        // what SeedRNG is asked for; 0: a seed from the clock
+  int64_t SeedRequest = 0;  // what SeedRNG is asked for; 0: a seed from the clock
   bool AskForSeed = false;
   bool ReseedEachSession = false;
   int32_t SupportFilesMissing = 0;  // bits of SupportFile

@@ -39,7 +39,7 @@ bool WaitUntilThere() {
   const float began = SecondsSinceMidnight(Now());
   bool unattended = false;
   while (PopupRoll.PopupRollActive && !FileExists(PopupRoll.PopupRollFileName)) {
-    if (Table.AutoRollOn || Table.HyperDriveOn) {
+    if (RunIsOn()) {
       unattended = true;
     } else {
       const float waited = SecondsSinceMidnight(Now()) - began;

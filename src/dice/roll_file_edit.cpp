@@ -41,7 +41,7 @@ bool FileIsOpen() {
 }
 
 bool TableIsAtRest() {
-  if (Table.AutoRollOn || Table.HyperDriveOn) {
+  if (RunIsOn()) {
     StopUnattended();
     return false;
   }

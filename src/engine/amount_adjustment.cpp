@@ -1,6 +1,7 @@
 #include "engine/amount_adjustment.h"
 
 #include <cstdint>
+#include <utility>
 
 #include "engine/bet_limits.h"
 #include "state/table.h"
@@ -16,7 +17,9 @@ bool HasUnit(int number) {
          InFamily(number, LayFamily);
 }
 
-int32_t BiasOf(int place, int number) {
+int32_t BiasOf(const BetRequest& request) {
+  const auto [place, number] = std::pair(request.place, request.number);
+  if (request.nearest) return Nearest;
   if (InFamily(number, LayFamily)) return Table.LayBias[place];
   if (IsLaidOdds(number)) return Table.DontBias[place];
   if (IsTakenOdds(number)) return Table.DoBias[place];
@@ -25,15 +28,15 @@ int32_t BiasOf(int place, int number) {
 
 }  // namespace
 
-Adjustment AdjustForOddsPayoff(int place, int number, Money total) {
+Adjustment AdjustForOddsPayoff(const BetRequest& request, Money total, Money limit) {
+  const int number = request.number;
   const Money unit = HasUnit(number) ? PayoffRowOf(number).PayUnit : Money();
   if (unit == Money() || IsMultiple(total, unit)) return {true, total};
-  const Money limit = Table.BetLimit;
   const Money minimum = CeilingToMultiple(BetMinimum(number), unit);
   const Money below = FloorToMultiple(total, unit);
   const Money above = below + unit;
   const bool atLimit = IsOdds(number) && total == limit;
-  const int32_t bias = atLimit ? static_cast<int32_t>(Decrease) : BiasOf(place, number);
+  const int32_t bias = atLimit ? static_cast<int32_t>(Decrease) : BiasOf(request);
   const bool up = bias == Increase || (bias == Nearest && above - total < total - below);
   if (up) return above <= limit ? Adjustment{true, above} : Adjustment{false, below, true};
   return below >= minimum ? Adjustment{true, below} : Adjustment{false, minimum, false};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/money.h"
+#include "engine/bet_request.h"
 
 namespace tessarel {
 
@@ -11,9 +12,9 @@ struct Adjustment {
   bool limitIsMaximum = false;  // which limit stood in the way
 };
 
-// The total that the place's bet may be brought to from `total`. Only Place, Buy, Lay and odds bets
-// have a unit; for all others, and for rows without one, the total stands. Reads Table.BetLimit,
-// the bet's limit as just figured.
-Adjustment AdjustForOddsPayoff(int place, int number, Money total);
+// The total that the requested bet may be brought to from `total`; `limit` is the most it may stand
+// at. Only Place, Buy, Lay and odds bets have a unit; for all others, and for rows without one, the
+// total stands.
+Adjustment AdjustForOddsPayoff(const BetRequest& request, Money total, Money limit);
 
 }  // namespace tessarel

@@ -1,13 +1,15 @@
 #include "engine/bet_handling.h"
 
+#include <array>
 #include <string>
-#include <utility>
 
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
+#include "engine/bet_notices.h"
 #include "engine/bets.h"
-#include "engine/settlement.h"
+#include "engine/payouts.h"
+#include "engine/settle_prompt.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
@@ -26,59 +28,61 @@ std::string Plain(std::string_view caption) {
   return text;
 }
 
-Money AmountBefore(int place) {
-  return Table.BetAmountBefore[place][Table.CurrentBet];
+Money AmountBefore(const Decision& decision) {
+  return Table.BetAmountBefore[decision.place][decision.number];
 }
 
 // Tells how the bet stands now against the roll. `title` is only made when it is shown.
 template <class Title>
-void TellHowItStands(int place, Title&& title) {
-  const Money amount = Bet(place, Table.CurrentBet);
-  const bool quiet = Table.HyperDriveOn || (Table.MessageSwitches & ShowVigNotices) == 0 ||
-                     (Settings.Notices & NoticeCharges) == 0;
-  if (quiet || amount == Money()) return;
-  const Money change = amount - AmountBefore(place);
+void TellHowItStands(const Decision& decision, Title&& title) {
+  const Money amount = Bet(decision.place, decision.number);
+  if (!NoticeShows(NoticeCharges) || amount == Money()) return;
+  const Money change = amount - AmountBefore(decision);
   const Text text = change == Money()  ? Text::BetUnchanged
                     : change > Money() ? Text::BetIncreased
                                        : Text::BetDecreased;
-  Message.MsgText =
-      SayChosen(text, Table.PlayerName[place], BetName[Table.CurrentBet], FormatMoney(Abs(change)));
+  Message.MsgText = SayChosen(text, Table.PlayerName[decision.place], BetName[decision.number],
+                              FormatMoney(Abs(change)));
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
   Message.MsgHelpId = help::SettledBets;
   Message.MsgTimeout = 0;
-  Message.MsgKind = MessageKind::Notice;
   ShowMessage();
 }
 
-void ChangeBy(int place, Money change) {
-  Table.Amount = change;
-  ChangeBet(place, Table.CurrentBet);
-  if (Table.BetDelta != Money()) RedrawBet(place, Table.CurrentBet);
+void ChangeBy(const Decision& decision, Money change, bool nearest = false) {
+  const Money changed = ChangeBet(
+      {.place = decision.place, .number = decision.number, .change = change, .nearest = nearest});
+  if (changed != Money()) RedrawBet(decision.place, decision.number);
+}
+
+void TakeDown(const Decision& decision) {
+  TakeDownBet(decision.place, decision.number);
 }
 
 // A bet that has come off goes back at `amount`, as far as the rules allow.
-void PutBack(int place, Money amount) {
-  TakeDownBet(place);
-  if (amount > Money()) ChangeBy(place, amount);
+void PutBack(const Decision& decision, Money amount) {
+  TakeDown(decision);
+  if (amount > Money()) ChangeBy(decision, amount);
 }
 
 // What one unit of a modify row adds: a hundredth of the bet, a dollar, or a check times the base
 // of the bet's payoff.
-Money UnitToAdd(const HandlingRow& row, Money before) {
+Money UnitToAdd(const HandlingRow& row, int number, Money before) {
   if (row.units <= Money()) return 1;
   if (row.units == Money(1)) return Money::FromDouble(before.ToDouble() / 100);
-  return CheckOfUnits(row.units) * Payoffs.Payoff[Table.CurrentBet].PayDen;
+  return CheckOfUnits(row.units) * Payoffs.Payoff[number].PayDen;
 }
 
-Money ModifiedChange(const HandlingRow& row, Money before) {
+Money ModifiedChange(const HandlingRow& row, const Decision& decision) {
+  const Money before = AmountBefore(decision);
   const double factor = row.amount.ToDouble() * (row.units == Money(1) ? 0.01 : 1.0);
   switch (row.operation) {
     case Plus:
-      return row.amount * UnitToAdd(row, before);
+      return row.amount * UnitToAdd(row, decision.number, before);
     case Minus:
-      return -(row.amount * UnitToAdd(row, before));
+      return -(row.amount * UnitToAdd(row, decision.number, before));
     case Times:
       return Money::FromDouble(before.ToDouble() * factor) - before;
     default:
@@ -93,222 +97,143 @@ std::string FigureText(const HandlingRow& row) {
   return FormatMoney(row.amount) + " " + UnitsText(row.units);
 }
 
-// Holds the four biases of a place at "nearest" for its lifetime.
-class NearestAmounts {
- public:
-  explicit NearestAmounts(int place)
-      : place_(place),
-        saved_{Table.DoBias[place], Table.DontBias[place], Table.PlaceBias[place],
-               Table.LayBias[place]} {
-    Set({2, 2, 2, 2});
-  }
-  ~NearestAmounts() { Set(saved_); }
-  NearestAmounts(const NearestAmounts&) = delete;
-  NearestAmounts& operator=(const NearestAmounts&) = delete;
+// --- The actions: all but the first end in a notice of how the bet stands ------------------------
 
- private:
-  void Set(const std::array<int32_t, 4>& biases) {
-    Table.DoBias[place_] = biases[0];
-    Table.DontBias[place_] = biases[1];
-    Table.PlaceBias[place_] = biases[2];
-    Table.LayBias[place_] = biases[3];
-  }
-
-  int place_;
-  std::array<int32_t, 4> saved_;
-};
-
-void StoreRow(int place, int slot, const HandlingRow& row) {
-  Table.HandleAmount[place][slot] = row.amount;
-  Table.HandleOperator[place][slot] = row.operation;
-  Table.HandleUnits[place][slot] = row.units;
+void SameBet(const Decision& decision) {
+  ChangeBy(decision, Money());
+  TellHowItStands(decision, [] { return Plain(Wording(Text::SameBetButton)); });
 }
 
-void ActOnWin(int place, int button) {
-  switch (button) {
-    case 1:
-      return SameBet(place);
-    case 2:
-      return PressUnit(place);
-    case 3:
-      return PressDouble(place);
-    case 4:
-      return Parlay(place);
-    case 5:
-      return ModifyBet(place, PromptWinModify);
-    case 6:
-      return SetBetUnits(place, PromptWinSet);
-    default:
-      return TakeDownBet(place);
-  }
+void PressUnit(const Decision& decision) {
+  ChangeBy(decision, PressingUnit(decision.place, decision.number));
+  TellHowItStands(decision, [] { return Plain(Wording(Text::PressUnitButton)); });
 }
 
-void ActOnLoss(int place, int button) {
-  switch (button) {
-    case 1:
-      return SameBet(place);
-    case 2:
-      return BetRemainder(place);
-    case 3:
-      return PressUnit(place);
-    case 4:
-      return PressDouble(place);
-    case 5:
-      return ModifyBet(place, PromptLossModify);
-    case 6:
-      return SetBetUnits(place, PromptLossSet);
-    default:
-      return TakeDownBet(place);
-  }
+void PressDouble(const Decision& decision) {
+  ChangeBy(decision, Bet(decision.place, decision.number));
+  TellHowItStands(decision, [] { return Plain(Wording(Text::PressDoubleButton)); });
 }
 
-// Asks the player, keeps the figures he typed, and does what he chose if the bet may stay.
-void AskHandling(int place, Outcome outcome, bool asWin) {
-  FigureUnit(place, Table.CurrentBet);
-  SettlePrompt prompt = MakeSettlePrompt(place, outcome, asWin);
-  FrontEnd.SettleBet(prompt);
-  StoreRow(place, asWin ? PromptWinModify : PromptLossModify, prompt.modify);
-  StoreRow(place, asWin ? PromptWinSet : PromptLossSet, prompt.set);
-  Table.CurrentBet = prompt.number;
-  if (Table.BetCantStay) return TakeDownBet(place);
-  if (asWin) {
-    ActOnWin(place, prompt.button);
+void Parlay(const Decision& decision) {
+  if (decision.payout.net == Money()) {
+    ReplaceBet(decision.place, decision.number, true);
   } else {
-    ActOnLoss(place, prompt.button);
+    ChangeBy(decision, decision.payout.net, true);
   }
+  TellHowItStands(decision, [] { return Plain(Wording(Text::ParlayButton)); });
 }
 
-bool CanAsk(int place) {
-  return !Table.HyperDriveOn && Bet(place, Table.CurrentBet) > Money();
+void BetRemainder(const Decision& decision) {
+  PutBack(decision, AmountBefore(decision) + decision.payout.net);
+  TellHowItStands(decision, [] { return Say(Text::BetRemainderTitle); });
 }
 
-void RunWinMode(int place, Outcome outcome) {
-  const int32_t mode = Table.HandleWinningBets[place];
-  if (mode == WinPrompt && CanAsk(place)) return AskHandling(place, outcome, true);
-  if (Table.BetCantStay) return TakeDownBet(place);
-  switch (mode) {
-    case WinSameBet:
-      return SameBet(place);
-    case WinPressUnit:
-      return PressUnit(place);
-    case WinPressDouble:
-      return PressDouble(place);
-    case WinParlay:
-      return Parlay(place);
-    case WinModify:
-      return ModifyBet(place, AutoWinModify);
-    case WinSetUnits:
-      return SetBetUnits(place, AutoWinSet);
-    default:
-      return TakeDownBet(place);
-  }
-}
-
-void RunLossMode(int place, Outcome outcome) {
-  const int32_t mode = Table.HandleLosingBets[place];
-  if (mode == LossPrompt && CanAsk(place)) return AskHandling(place, outcome, false);
-  if (Table.BetCantStay) return TakeDownBet(place);
-  switch (mode) {
-    case LossSameBet:
-      return SameBet(place);
-    case LossRemainder:
-      return BetRemainder(place);
-    case LossPressUnit:
-      return PressUnit(place);
-    case LossPressDouble:
-      return PressDouble(place);
-    case LossModify:
-      return ModifyBet(place, AutoLossModify);
-    case LossSetUnits:
-      return SetBetUnits(place, AutoLossSet);
-    default:
-      return TakeDownBet(place);
-  }
-}
-
-}  // namespace
-
-HandlingRow RowOfSlot(int place, int slot) {
-  return {Table.HandleAmount[place][slot], Table.HandleOperator[place][slot],
-          Table.HandleUnits[place][slot]};
-}
-
-void SameBet(int place) {
-  ChangeBy(place, Money());
-  TellHowItStands(place, [] { return Plain(Wording(Text::SameBetButton)); });
-}
-
-void PressUnit(int place) {
-  FigureUnit(place, Table.CurrentBet);
-  ChangeBy(place, Table.ChipUnit);
-  TellHowItStands(place, [] { return Plain(Wording(Text::PressUnitButton)); });
-}
-
-void PressDouble(int place) {
-  ChangeBy(place, Bet(place, Table.CurrentBet));
-  TellHowItStands(place, [] { return Plain(Wording(Text::PressDoubleButton)); });
-}
-
-void Parlay(int place) {
-  const NearestAmounts nearest(place);
-  if (Table.NetWin == Money()) {
-    ReplaceBet(place, Table.CurrentBet);
-  } else {
-    ChangeBy(place, Table.NetWin);
-  }
-  TellHowItStands(place, [] { return Plain(Wording(Text::ParlayButton)); });
-}
-
-void BetRemainder(int place) {
-  PutBack(place, AmountBefore(place) + Table.NetWin);
-  TellHowItStands(place, [] { return Say(Text::BetRemainderTitle); });
-}
-
-void ModifyBet(int place, int slot) {
-  const HandlingRow row = RowOfSlot(place, slot);
-  ChangeBy(place, ModifiedChange(row, AmountBefore(place)));
-  TellHowItStands(place, [&row] {
+void ModifyBet(const Decision& decision, int slot) {
+  const HandlingRow row = RowOfSlot(decision.place, slot);
+  ChangeBy(decision, ModifiedChange(row, decision));
+  TellHowItStands(decision, [&row] {
     constexpr std::array Titles = {Text::SameBetPlus, Text::SameBetMinus, Text::SameBetTimes,
                                    Text::SameBetDividedBy};
     return SayChosen(At(Titles, row.operation & 3), FigureText(row));
   });
 }
 
-void SetBetUnits(int place, int slot) {
-  const HandlingRow row = RowOfSlot(place, slot);
+void SetBetUnits(const Decision& decision, int slot) {
+  const HandlingRow row = RowOfSlot(decision.place, slot);
   Money unit = 1;
   if (row.units == Money(1)) {
-    unit = Money::FromDouble(AmountBefore(place).ToDouble() / 100);
+    unit = Money::FromDouble(AmountBefore(decision).ToDouble() / 100);
   } else if (row.units > Money()) {
-    const Money payUnit = Payoffs.Payoff[Table.CurrentBet].PayUnit;
+    const Money payUnit = Payoffs.Payoff[decision.number].PayUnit;
     unit = Money::FromDouble(MulDiv(payUnit, CheckOfUnits(row.units), SmallestCheck()));
   }
-  PutBack(place, row.amount * unit);
-  TellHowItStands(place, [&row] {
+  PutBack(decision, row.amount * unit);
+  TellHowItStands(decision, [&row] {
     if (row.units <= Money(1)) return Say(Text::SetBetTitle, FigureText(row));
     return Say(Text::SetBetUnitsTitle, FormatMoney(row.amount));
   });
 }
 
-void HandleWonBet(int place) {
-  RunWinMode(place, Outcome::Won);
-}
+// --- The choice ----------------------------------------------------------------------------------
 
-void HandleLostBet(int place) {
-  RunLossMode(place, Outcome::Lost);
-}
+// The slots whose figures an action takes: those of the prompt or of the standing choice.
+struct Slots {
+  int modify, set;
+};
 
-void HandleIdleOdds(int place) {
-  const int odds = Table.CurrentBet;
-  Table.NetWin = Table.GrossWin = Money();
-  Table.BetCantStay =
-      !Settings.AllowPutBets || Bet(place, FlatUnder(odds)) == Money() || IsLineOdds(odds);
-  const bool asLoss = Table.BetStreak[place][FlatUnder(odds)] < 2;
-  if (asLoss) {
-    RunLossMode(place, Outcome::Idle);
-  } else {
-    RunWinMode(place, Outcome::Idle);
+void ActOnWin(const Decision& decision, int32_t handling, Slots slots) {
+  switch (handling) {
+    case WinSameBet:
+      return SameBet(decision);
+    case WinPressUnit:
+      return PressUnit(decision);
+    case WinPressDouble:
+      return PressDouble(decision);
+    case WinParlay:
+      return Parlay(decision);
+    case WinModify:
+      return ModifyBet(decision, slots.modify);
+    case WinSetUnits:
+      return SetBetUnits(decision, slots.set);
+    default:
+      return TakeDown(decision);
   }
+}
+
+void ActOnLoss(const Decision& decision, int32_t handling, Slots slots) {
+  switch (handling) {
+    case LossSameBet:
+      return SameBet(decision);
+    case LossRemainder:
+      return BetRemainder(decision);
+    case LossPressUnit:
+      return PressUnit(decision);
+    case LossPressDouble:
+      return PressDouble(decision);
+    case LossModify:
+      return ModifyBet(decision, slots.modify);
+    case LossSetUnits:
+      return SetBetUnits(decision, slots.set);
+    default:
+      return TakeDown(decision);
+  }
+}
+
+void Act(const Decision& decision, bool asWin, int32_t handling, Slots slots) {
+  if (decision.cantStay) return TakeDown(decision);
+  asWin ? ActOnWin(decision, handling, slots) : ActOnLoss(decision, handling, slots);
+}
+
+// Asks the player, keeps the figures he typed, and does what he chose if the bet may stay. The
+// prompt's buttons stand in the order of the standing choices, which begin with asking.
+void AskHandling(const Decision& decision, bool asWin) {
+  const Slots slots =
+      asWin ? Slots{PromptWinModify, PromptWinSet} : Slots{PromptLossModify, PromptLossSet};
+  SettlePrompt prompt = MakeSettlePrompt(decision, asWin);
+  FrontEnd.SettleBet(prompt);
+  StoreRow(decision.place, slots.modify, prompt.modify);
+  StoreRow(decision.place, slots.set, prompt.set);
+  Act(decision, asWin, prompt.button + 1, slots);
+}
+
+// Odds that were off are handled like a win after two wins in a row of the bet under them.
+bool HandledAsWin(const Decision& decision) {
+  if (decision.outcome != Outcome::Idle) return decision.outcome == Outcome::Won;
+  return Table.BetStreak[decision.place][FlatUnder(decision.number)] >= 2;
+}
+
+}  // namespace
+
+void HandleBet(const Decision& decision) {
+  const int place = decision.place;
+  const bool asWin = HandledAsWin(decision);
+  const int32_t mode = asWin ? Table.HandleWinningBets[place] : Table.HandleLosingBets[place];
+  static_assert(static_cast<int>(WinPrompt) == 0 && static_cast<int>(LossPrompt) == 0);
+  const bool asks =
+      mode == WinPrompt && !Table.HyperDriveOn && Bet(place, decision.number) > Money();
+  if (asks) return AskHandling(decision, asWin);
+  Act(decision, asWin, mode,
+      asWin ? Slots{AutoWinModify, AutoWinSet} : Slots{AutoLossModify, AutoLossSet});
 }
 
 }  // namespace tessarel

@@ -3,64 +3,12 @@
 // ChangeBet, so nothing here makes a bet that the rules forbid.
 #pragma once
 
-#include <cstdint>
-
-#include "engine/settle_prompt.h"
+#include "engine/decision.h"
+#include "engine/handling_choices.h"
 
 namespace tessarel {
 
-// The values of HandleWinningBets and HandleLosingBets; 0 asks, and takes the bet down under the
-// Hyper-Drive, where nothing may ask.
-enum WinHandling : int32_t {
-  WinPrompt,
-  WinTakeDown,
-  WinSameBet,
-  WinPressUnit,
-  WinPressDouble,
-  WinParlay,
-  WinModify,
-  WinSetUnits,
-};
-enum LossHandling : int32_t {
-  LossPrompt,
-  LossTakeDown,
-  LossSameBet,
-  LossRemainder,
-  LossPressUnit,
-  LossPressDouble,
-  LossModify,
-  LossSetUnits,
-};
-
-// The slots of the modify and units rows.
-enum HandlingSlot : int {
-  PromptWinModify = 5,
-  PromptWinSet = 6,
-  PromptLossModify = 7,
-  PromptLossSet = 8,
-  AutoWinModify = 9,
-  AutoLossModify = 10,
-  AutoWinSet = 11,
-  AutoLossSet = 12,
-};
-
-// The three occasions; each works on CurrentBet, NetWin, GrossWin and BetCantStay as the decision
-// left them.
-void HandleWonBet(int place);
-void HandleLostBet(int place);
-// An odds bet that was not working while its flat bet was decided.
-void HandleIdleOdds(int place);
-
-// The actions. Those of a bet that may have changed end in a notice of how it stands.
-void SameBet(int place);
-void PressUnit(int place);
-void PressDouble(int place);
-void Parlay(int place);
-void BetRemainder(int place);
-void ModifyBet(int place, int slot);
-void SetBetUnits(int place, int slot);
-
-// The figures of a handling slot.
-HandlingRow RowOfSlot(int place, int slot);
+// Does with a decided bet what its player wants. What can't stay comes down.
+void HandleBet(const Decision& decision);
 
 }  // namespace tessarel

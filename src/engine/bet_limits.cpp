@@ -157,11 +157,10 @@ int OddsPoint(int number) {
   return IsLineOdds(number) ? Table.Point : PointOf(number);
 }
 
-Money OddsLimit(int place, int number) {
+Money OddsLimit(int number, Money flat) {
   const int point = OddsPoint(number);
   if (point == 0) return Money();
   const PayoffRow& row = PayoffRowOf(number);
-  const Money flat = Bet(place, FlatUnder(number));
   const Money factor = OddsFactor(point);
   if (IsTakenOdds(number)) return FigureOddsMax(factor, flat, row.PayNum, row.PayDen);
   // What has to be laid to win the odds allowed on the flat bet.
@@ -178,6 +177,18 @@ Money RoundVig(Money vig, int32_t rounding, Money amount) {
   if (up) rounded += SmallestCheck();
   if (amount > Money()) rounded = std::max(rounded, SmallestCheck());
   return rounded;
+}
+
+Money BuyVig(Money amount) {
+  if (Settings.BuyVigPct == Money()) return Money();
+  return RoundVig(amount * Settings.BuyVigPct, Settings.RoundBuyVig, amount);
+}
+
+Money LayVig(int number, Money amount) {
+  if (Settings.LayVigPct == Money()) return Money();
+  const PayoffRow& row = Payoffs.Payoff[number];
+  const double vig = MulDiv(amount, row.PayNum, row.PayDen) * Settings.LayVigPct.ToDouble();
+  return RoundVig(Money::FromDouble(vig), Settings.RoundLayVig, amount);
 }
 
 }  // namespace
@@ -210,13 +221,15 @@ Money FigureOddsMax(Money factor, Money flat, Money num, Money den) {
   return Settings.MaxOddsBet > Money() ? std::min(limit, Settings.MaxOddsBet) : limit;
 }
 
+Money FigureMaxOdds(int number, Money flat) {
+  return FloorToCheck(OddsLimit(number, flat));
+}
+
 Money FigureMaxBet(int place, int number) {
+  if (!OnLayout(number)) return Money();
+  if (IsOdds(number)) return FigureMaxOdds(number, Bet(place, FlatUnder(number)));
   Money limit = Settings.MaxPlacardBet;
-  if (!OnLayout(number)) {
-    limit = Money();
-  } else if (IsOdds(number)) {
-    limit = OddsLimit(place, number);
-  } else if (InFamily(number, LayFamily)) {
+  if (InFamily(number, LayFamily)) {
     const PayoffRow& row = Payoffs.Payoff[number];
     limit = Money::FromDouble(MulDiv(Settings.MaxPlacardBet, row.PayDen, row.PayNum));
   } else if (number == bet::Fire) {
@@ -224,20 +237,13 @@ Money FigureMaxBet(int place, int number) {
   } else if (number >= bet::Hard4) {
     limit = std::min(PropositionLimit(number), Settings.MaxPlacardBet);
   }
-  Table.BetLimit = FloorToCheck(limit);
-  return Table.BetLimit;
+  return FloorToCheck(limit);
 }
 
-Money FigureBuyVig(int number, Money amount) {
-  if (!InFamily(number, BuyFamily) || Settings.BuyVigPct == Money()) return Money();
-  return RoundVig(amount * Settings.BuyVigPct, Settings.RoundBuyVig, amount);
-}
-
-Money FigureLayVig(int number, Money amount) {
-  if (!InFamily(number, LayFamily) || Settings.LayVigPct == Money()) return Money();
-  const PayoffRow& row = Payoffs.Payoff[number];
-  const double vig = MulDiv(amount, row.PayNum, row.PayDen) * Settings.LayVigPct.ToDouble();
-  return RoundVig(Money::FromDouble(vig), Settings.RoundLayVig, amount);
+Money FigureVig(int number, Money amount) {
+  return InFamily(number, BuyFamily)   ? BuyVig(amount)
+         : InFamily(number, LayFamily) ? LayVig(number, amount)
+                                       : Money();
 }
 
 const PayoffRow& PayoffRowOf(int number) {

@@ -8,9 +8,12 @@
 
 namespace tessarel {
 
-// The largest amount the bet may stand at, floored to the smallest check; also in Table.BetLimit.
-// 0 for a bet that is off the layout and for odds without a flat bet or point.
+// The largest amount the bet may stand at, floored to the smallest check. 0 for a bet that is off
+// the layout and for odds without a flat bet or point.
 Money FigureMaxBet(int place, int number);
+
+// The same of odds on a flat bet of `flat`.
+Money FigureMaxOdds(int number, Money flat);
 
 // The smallest amount the bet may stand at.
 Money BetMinimum(int number);
@@ -26,8 +29,7 @@ Money OddsFactor(int point);
 Money FigureOddsMax(Money factor, Money flat, Money num, Money den);
 
 // The vig on `amount` of a Buy bet (37 to 42) or Lay bet (1 to 6); 0 for other bets.
-Money FigureBuyVig(int number, Money amount);
-Money FigureLayVig(int number, Money amount);
+Money FigureVig(int number, Money amount);
 
 // The row that a bet of the line and its odds are paid by while the current point is on, and the
 // bet's own row for all others.

@@ -45,32 +45,33 @@ Verdict JudgeNoChange(int place, int number) {
 }
 
 // The refusal that an increase to `total` meets, None when it is allowed.
-RefusalKind IncreaseRefusal(int place, int number, Money total) {
+RefusalKind IncreaseRefusal(const BetRequest& request, Money total) {
   using enum RefusalKind;
+  const int place = request.place, number = request.number;
   const bool point = Table.Point != 0;
   const bool aboveContract = total > Table.BetContract[place][number];
   const bool handStarted = RollsInHand() > 0;
   if (InFamily(number, ComeFamily)) {
-    const bool put = aboveContract && !Table.BetMoving && !Settings.AllowPutBets;
+    const bool put = aboveContract && !request.travels && !Settings.AllowPutBets;
     return put ? PutCome : None;
   }
   if (InFamily(number, DontComeFamily)) {
-    return aboveContract && !Table.BetMoving ? DontComeOnNumber : None;
+    return aboveContract && !request.travels ? DontComeOnNumber : None;
   }
   if (InFamily(number, ComeOddsFamily) || InFamily(number, DontComeOddsFamily)) {
-    return Bet(place, number - FamilySize) > Money() ? None : OddsWithoutFlat;
+    return FlatAsPlanned(request) > Money() ? None : OddsWithoutFlat;
   }
   switch (number) {
     case bet::PassLine:
       return point && aboveContract && !Settings.AllowPutBets ? PutPassLine : None;
     case bet::PassLineOdds:
-      return point && Bet(place, bet::PassLine) > Money() ? None : OddsWithoutPassLine;
+      return point && FlatAsPlanned(request) > Money() ? None : OddsWithoutPassLine;
     case bet::Come:
       return point ? None : ComeWithoutPoint;
     case bet::DontPass:
       return point && aboveContract ? DontPassDuringPoint : None;
     case bet::DontPassOdds:
-      return point && Bet(place, bet::DontPass) > Money() ? None : OddsWithoutDontPass;
+      return point && FlatAsPlanned(request) > Money() ? None : OddsWithoutDontPass;
     case bet::DontCome:
       return point ? None : DontComeWithoutPoint;
     case bet::AllSmall:
@@ -91,15 +92,16 @@ RefusalKind IncreaseRefusal(int place, int number, Money total) {
   }
 }
 
-Verdict JudgeIncrease(int place, int number, Money delta) {
+Verdict JudgeIncrease(const BetRequest& request, Money delta) {
+  const int place = request.place, number = request.number;
   const Money amount = Bet(place, number);
   const Money contract = HeldContract(place, number);
-  if (amount + delta < contract && !Table.BetMoving) {
+  if (amount + delta < contract && !request.travels) {
     if (number == bet::PassLine) return {contract - amount, RefusalKind::DecreasePassLine};
     if (number == bet::SevenPoint7) return {contract - amount, RefusalKind::DecreaseDuringPoint};
     return {contract - amount, RefusalKind::DecreaseCome};
   }
-  const RefusalKind refusal = IncreaseRefusal(place, number, amount + delta);
+  const RefusalKind refusal = IncreaseRefusal(request, amount + delta);
   return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, delta, refusal);
 }
 
@@ -121,10 +123,15 @@ Money HeldContract(int place, int number) {
   return held ? Table.BetContract[place][number] : Money();
 }
 
-Verdict JudgeChange(int place, int number, Money delta) {
-  if (delta < Money()) return JudgeDecrease(place, number, delta);
-  if (delta == Money()) return JudgeNoChange(place, number);
-  return JudgeIncrease(place, number, delta);
+Money FlatAsPlanned(const BetRequest& request) {
+  const int flat = FlatUnder(request.number);
+  return request.freed.number == flat ? request.freed.left : Bet(request.place, flat);
+}
+
+Verdict JudgeChange(const BetRequest& request, Money delta) {
+  if (delta < Money()) return JudgeDecrease(request.place, request.number, delta);
+  if (delta == Money()) return JudgeNoChange(request.place, request.number);
+  return JudgeIncrease(request, delta);
 }
 
 std::string RefusalText(RefusalKind refusal, int number) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/money.h"
+#include "engine/bet_request.h"
 
 namespace tessarel {
 
@@ -36,8 +37,11 @@ struct Verdict {
   RefusalKind refusal = RefusalKind::None;
 };
 
-// The verdict on changing the bet by `delta` (below, at or above zero).
-Verdict JudgeChange(int place, int number, Money delta);
+// The verdict on changing the requested bet by `delta` (below, at or above zero).
+Verdict JudgeChange(const BetRequest& request, Money delta);
+
+// The flat bet under requested odds, as it will stand when the request is met.
+Money FlatAsPlanned(const BetRequest& request);
 
 // The part of the bet that cannot be taken back now: its contract for Pass Line and 7 Point 7 with
 // the point on and for Come on a number, else 0.

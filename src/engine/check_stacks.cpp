@@ -36,10 +36,10 @@ std::vector<StackRow> StackRows(int place, bool zeros) {
   return rows;
 }
 
-void SetStackValue(int place, int stack, Money value) {
-  Table.Amount = value - Bet(place, FirstStack + stack);
-  ChangeBet(place, FirstStack + stack);
-  if (!Table.HyperDriveOn) FrontEnd.DrawBet(place, FirstStack + stack);
+void SetStackValue(int place, int stack, Money value, Telling telling) {
+  const int number = FirstStack + stack;
+  ChangeBet({place, number, value - Bet(place, number)}, telling);
+  if (!Table.HyperDriveOn) FrontEnd.DrawBet(place, number);
 }
 
 void SetStackName(int place, int stack, std::string name) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/money.h"
+#include "engine/bet_request.h"
 #include "state/bet_numbers.h"
 
 namespace tessarel {
@@ -28,7 +29,7 @@ struct StackRow {
 std::vector<StackRow> StackRows(int place, bool zeros);
 
 // Sets the value or the name of stack 0 to 99.
-void SetStackValue(int place, int stack, Money value);
+void SetStackValue(int place, int stack, Money value, Telling telling = Telling::Aloud);
 void SetStackName(int place, int stack, std::string name);
 
 void DeleteStackValues(int place);

@@ -31,14 +31,14 @@ void OpenPlaceDefaults(int place) {
 void ClearPlace(int place) {
   ClearPlayerStats(place);
   ForEachPlaceField(
-      [place](auto& array) { At(array, place) = std::decay_t<decltype(At(array, place))>{}; });
+      [place](auto& array) { array[place] = std::decay_t<decltype(array[place])>{}; });
   ForEachSlotField([place](auto& array) {
     for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
-      At(array, slot) = std::decay_t<decltype(At(array, slot))>{};
+      array[slot] = std::decay_t<decltype(array[slot])>{};
     }
   });
   for (auto& bankrolls : Table.GraphBankroll)
-    At(bankrolls, place) = Money();
+    bankrolls[place] = Money();
   NewScript(place);
   OpenPlaceDefaults(place);
   RebuildDerived();

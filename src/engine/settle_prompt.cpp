@@ -3,10 +3,11 @@
 #include <algorithm>
 
 #include "base/number_format.h"
-#include "engine/bet_handling.h"
+#include "engine/payouts.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "state/vig.h"
 #include "texts/say.h"
 
 namespace tessarel {
@@ -47,8 +48,8 @@ Money PaidAt(Money amount, const PayoffRow& row) {
   return Money::FromDouble(MulDiv(amount, row.PayNum, row.PayDen));
 }
 
-bool Rounded() {
-  return Table.NetWin != Table.GrossWin;
+bool Rounded(const Payout& payout) {
+  return payout.net != payout.gross;
 }
 
 void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow& row) {
@@ -59,37 +60,40 @@ void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow&
   prompt.rows.push_back({Say(Text::LessPartOfBet, parts - 1, whole), Dollars(amount - part)});
 }
 
-void AddVigRow(SettlePrompt& prompt, Money gross) {
+void AddVigRow(SettlePrompt& prompt, Money vig) {
+  if (!CarriesVig(prompt.number)) return;
   const bool lay = InFamily(prompt.number, LayFamily);
-  if (!lay && !InFamily(prompt.number, BuyFamily)) return;
   const Money percent = (lay ? Settings.LayVigPct : Settings.BuyVigPct) * 100;
-  prompt.rows.push_back(
-      {Say(Text::VigPercent, FormatMoney(percent)), Dollars(gross - Table.GrossWin)});
+  prompt.rows.push_back({Say(Text::VigPercent, FormatMoney(percent)), Dollars(vig)});
 }
 
-void AddWinRows(SettlePrompt& prompt, Money amount) {
+void AddWinRows(SettlePrompt& prompt, const Decision& decision) {
+  const Money amount = decision.amount;
   const std::string count = CountLine(prompt.number);
   if (!count.empty()) prompt.rows.push_back({count, ""});
-  const PayoffRow& row = Payoffs.Payoff[0];
+  const PayoffRow row = DecidingRow(decision.number, decision.result);
   const int parts = PartsOf(prompt.number);
   if (parts > 1) {
     AddPartRows(prompt, amount, parts, row);
   } else {
     const Money gross = PaidAt(amount, row);
     prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(gross)});
-    AddVigRow(prompt, gross);
+    AddVigRow(prompt, gross - decision.payout.gross);
   }
   prompt.rows.push_back(
-      {SayChosen(Rounded() ? Text::NetPayoffRounded : Text::NetPayoff), Dollars(Table.NetWin)});
+      {SayChosen(Rounded(decision.payout) ? Text::NetPayoffRounded : Text::NetPayoff),
+       Dollars(decision.payout.net)});
 }
 
-void AddLossRows(SettlePrompt& prompt, Money amount) {
+void AddLossRows(SettlePrompt& prompt, const Decision& decision) {
+  const Payout& payout = decision.payout;
   prompt.rows.push_back(
-      {Say(Text::LossAt, RatioText(Payoffs.Payoff[0])), Dollars(-Table.GrossWin)});
+      {Say(Text::LossAt, RatioText(DecidingRow(decision.number, decision.result))),
+       Dollars(-payout.gross)});
   prompt.rows.push_back(
-      {SayChosen(Rounded() ? Text::NetLossRounded : Text::NetLoss), Dollars(-Table.NetWin)});
+      {SayChosen(Rounded(payout) ? Text::NetLossRounded : Text::NetLoss), Dollars(-payout.net)});
   if (PartsOf(prompt.number) > 1) {
-    prompt.rows.push_back({Say(Text::RemainderOfBet), Dollars(amount + Table.NetWin)});
+    prompt.rows.push_back({Say(Text::RemainderOfBet), Dollars(decision.amount + payout.net)});
   }
 }
 
@@ -101,7 +105,8 @@ void SetButtons(SettlePrompt& prompt) {
   } else {
     prompt.buttons = {
         Say(Text::NoBetButton), Say(Text::SameLostBetButton), Say(Text::BetRemainderButton),
-        Say(Text::UnitToBetButton, FormatMoney(Table.ChipUnit)), Say(Text::DoubleBetButton)};
+        Say(Text::UnitToBetButton, FormatMoney(PressingUnit(prompt.place, prompt.number))),
+        Say(Text::DoubleBetButton)};
   }
 }
 
@@ -118,23 +123,23 @@ std::string UnitsText(Money units) {
   return Say(Text::UnitsOf, FormatMoney(CheckOfUnits(units)));
 }
 
-SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
+SettlePrompt MakeSettlePrompt(const Decision& decision, bool offersPress) {
+  const int place = decision.place;
   SettlePrompt prompt;
   prompt.place = place;
-  prompt.number = Table.CurrentBet;
-  prompt.outcome = outcome;
+  prompt.number = decision.number;
+  prompt.outcome = decision.outcome;
   prompt.offersPress = offersPress;
-  const Money amount = Bet(place, prompt.number);
   const std::string& name = Table.PlayerName[place];
-  prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(amount)});
-  switch (outcome) {
+  prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(decision.amount)});
+  switch (decision.outcome) {
     case Outcome::Won:
       prompt.title = {name, Say(Text::Won)};
-      AddWinRows(prompt, amount);
+      AddWinRows(prompt, decision);
       break;
     case Outcome::Lost:
       prompt.title = {Say(Text::Lost), name};
-      AddLossRows(prompt, amount);
+      AddLossRows(prompt, decision);
       break;
     case Outcome::Idle:
       prompt.title = {name, ""};

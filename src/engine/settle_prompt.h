@@ -3,22 +3,14 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "base/money.h"
+#include "engine/decision.h"
+#include "engine/handling_choices.h"
 
 namespace tessarel {
-
-enum class Outcome { Won, Lost, Idle };
-
-// A "modify" or "set" row of the prompt.
-struct HandlingRow {
-  Money amount;
-  int32_t operation = 0;  // 0 plus, 1 minus, 2 times, 3 divide
-  Money units;            // 0 dollars, 1 percent, 2 to 6 the check value of that number less 1
-};
 
 struct SettlePrompt {
   int place = 0;
@@ -35,8 +27,8 @@ struct SettlePrompt {
   int button = 0;  // the answer, 0 to 6
 };
 
-// The prompt for CurrentBet as it was just decided.
-SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress);
+// The prompt for a bet that was just decided.
+SettlePrompt MakeSettlePrompt(const Decision& decision, bool offersPress);
 
 // The check value that a handling row's units above 1 stand for.
 Money CheckOfUnits(Money units);

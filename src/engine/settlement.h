@@ -1,21 +1,20 @@
-// Settling bets: what a result pays, how it reaches the bankroll, and which bets each roll touches
-// in which order.
+// Settling bets: which bets each roll decides in which order, and how a result reaches the bankroll
+// and the books. What becomes of a decided bet is the business of engine/bet_handling.h.
 #pragma once
 
-#include "base/money.h"
+#include <optional>
+
+#include "engine/decision.h"
+#include "engine/payouts.h"
 
 namespace tessarel {
 
-// Results of ResolveBet and FigurePayoff. For 7 Point 7 the result picks its row.
-enum Result : int { Lose = -1, Win = 1, LoseOdds = -2, WinOdds = 2 };
+// Decides the bet of the place of a visit (1 to 8) and books the result. A bet of zero and a bet
+// that is off are not decided; odds that are off come out idle.
+std::optional<Decision> DecideBet(int visit, int result, int number);
 
-// Decides the bet of the place of a visit (1 to 8). A bet of zero and a bet that is off are not
-// decided; odds that are off go through HandleIdleOdds.
+// Decides the bet and does with it what the player wants.
 void ResolveBet(int visit, int result, int number);
-
-// Leaves what `amount` wins or loses in Table.GrossWin and Table.NetWin (rounded down to whole
-// smallest checks).
-void FigurePayoff(int place, int number, int result, Money amount);
 
 // The Come or Don't Come box goes to a number.
 void MoveBet(int place, int from, int to);
@@ -23,8 +22,5 @@ void MoveBet(int place, int from, int to);
 // All decisions of the roll that stands in Table, in their order: losers, one-roll bets, the point,
 // winners, travel, and the special bets that complete.
 void SettleRoll();
-
-// Finds the unit in which a bet pays, for pressing: Table.ChipUnit.
-void FigureUnit(int place, int number);
 
 }  // namespace tessarel

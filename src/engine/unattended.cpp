@@ -60,7 +60,7 @@ std::string StopText(StopCause cause) {
 }
 
 void StopUnattended() {
-  if (!Table.AutoRollOn && !Table.HyperDriveOn) return;
+  if (!RunIsOn()) return;
   Table.AutoRollOn = Table.HyperDriveOn = false;
   if (Table.Stop != StopCause::None) {
     ShowMessage(StopText(Table.Stop), Say(Text::HyperDriveStopped), msg::OkAlert, help::AutoRoll,

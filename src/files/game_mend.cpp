@@ -188,16 +188,16 @@ void MendCounts() {
 }
 
 void MendMeasures(BetMeasures& measures) {
-  for (Money* measure : {&measures.Count, &measures.Sum, &measures.High, &measures.Low,
-                         &measures.LastRoll, &measures.Last}) {
+  for (Money* measure : {&measures.Sum, &measures.High, &measures.Low, &measures.Last})
     Confine(*measure, Money(), SumLimit);
-  }
+  for (int64_t* count : {&measures.Count, &measures.LastRoll})
+    Confine(*count, int64_t{0}, SumLimit.Floor());
 }
 
 NumberSet BetsWithAnEntry(const PerBet<BetRecord>& records) {
   NumberSet bets;
   for (int number = 1; number < std::ssize(records); ++number) {
-    if (At(records, number).Tendered.Count > Money()) bets.Add(number);
+    if (At(records, number).Tendered.Count > 0) bets.Add(number);
   }
   return bets;
 }

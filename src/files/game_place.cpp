@@ -156,11 +156,11 @@ void MeasureRecords(GameRecords& records, int place, BetMeasures BetRecord::*kin
   for (int slot = place; slot < SlotCount; slot += SlotsInScope) {
     for (int number = 1; number <= LastCountedBet; ++number) {
       BetMeasures& measures = Stats.Bets[slot][number].*kind;
-      for (Money BetMeasures::*measure :
-           {&BetMeasures::Count, &BetMeasures::Sum, &BetMeasures::High, &BetMeasures::Low,
-            &BetMeasures::LastRoll, &BetMeasures::Last}) {
-        run.Amount(measures.*measure);
-      }
+      run.Amount(measures.Count);
+      for (Money* measure : {&measures.Sum, &measures.High, &measures.Low})
+        run.Amount(*measure);
+      run.Amount(measures.LastRoll);
+      run.Amount(measures.Last);
     }
   }
 }

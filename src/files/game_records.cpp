@@ -1,5 +1,7 @@
 #include "files/game_records.h"
 
+#include <algorithm>
+
 namespace tessarel {
 
 Record& GameRecords::Next() {
@@ -76,6 +78,16 @@ void GameRecords::Amount(int slot, int32_t& value) {
     value = record.AmountAsInt(slot);
   else
     record.PutAmount(slot, value);
+}
+
+// Counts that an amount has no room for stay at its end.
+void GameRecords::Amount(int slot, int64_t& value) {
+  constexpr int64_t Most = INT64_MAX / Money::Scale;
+  Record& record = file_.At(number_);
+  if (Reading())
+    value = record.Amount(slot).Floor();
+  else
+    record.PutAmount(slot, Money::FromWhole(std::clamp(value, -Most, Most)));
 }
 
 void GameRecords::Amount(int slot, bool& value) {

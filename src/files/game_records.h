@@ -110,6 +110,7 @@ class GameRecords {
   }
   void Amount(int slot, Money& value);
   void Amount(int slot, int32_t& value);
+  void Amount(int slot, int64_t& value);
   void Amount(int slot, bool& value);
   void Short(int slot, int32_t& value);
 
@@ -131,6 +132,7 @@ class SlotRun {
     records_.Word(NextSlot(), value);
   }
   void Amount(Money& value) { records_.Amount(NextSlot(), value); }
+  void Amount(int64_t& value) { records_.Amount(NextSlot(), value); }
   void Amount(int32_t& value) { records_.Amount(NextSlot(), value); }
   void Short(int32_t& value) { records_.Short(NextSlot(), value); }
 

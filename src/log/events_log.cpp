@@ -249,7 +249,7 @@ void WriteEvent(std::string_view line) {
   }
   Open.Add(line);
   if (EventsLog.KeepLatestRollOnTop && IsRollLine(line)) EventsLog.LatestRollLine = Open.Lines();
-  if (!Table.AutoRollOn && !Table.HyperDriveOn) Open.Close();
+  if (!RunIsOn()) Open.Close();
 }
 
 void FlushEventsLog() {

@@ -22,12 +22,8 @@ namespace {
 
 constexpr Money LongestDelay = 300;  // seconds
 
-bool Runs() {
-  return Table.AutoRollOn || Table.HyperDriveOn;
-}
-
 void Start(UnattendedMode mode) {
-  if (Runs() || Table.RollInProgress) return;
+  if (RunIsOn() || Table.RollInProgress) return;
   Table.AutoRollOn = true;
   Table.HyperDriveOn = mode == UnattendedMode::HyperDrive;
   FrontEnd.DrawStatus();
@@ -45,7 +41,7 @@ std::optional<Money> AskForNumber(std::string_view question, std::string_view ti
 }  // namespace
 
 void ToggleAutoRoll(UnattendedMode mode) {
-  Runs() ? StopAutoRoll() : Start(mode);
+  RunIsOn() ? StopAutoRoll() : Start(mode);
 }
 
 void StartAutoRoll() {
@@ -58,6 +54,18 @@ void StartHyperDrive() {
 
 void StopAutoRoll() {
   StopUnattended();
+}
+
+bool AskToStopRun() {
+  if (!RunIsOn()) return true;
+  const bool hyper = Table.HyperDriveOn;
+  const Text title = hyper ? Text::HyperDriveActive : Text::AutoRollActive;
+  const Text question = hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll;
+  const int32_t answer =
+      ShowMessage(SayChosen(question), SayChosen(title), msg::AskYesDefault, help::AutoRoll);
+  if (answer != AnswerYes) return false;
+  StopUnattended();
+  return true;
 }
 
 std::string_view HyperDriveCaption() {
@@ -73,7 +81,7 @@ void AskSetAutoStop() {
   const auto rolls = AskForNumber(Wording(Text::AskAutoStop), Wording(Text::AutoStopTitle),
                                   Settings.AutoStopRolls);
   if (!rolls) return;
-  Settings.AutoStopRolls = Money::FromWhole(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
+  Settings.AutoStopRolls = static_cast<int32_t>(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
 }
 
 void AskSetTimeDelay() {

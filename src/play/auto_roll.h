@@ -19,6 +19,9 @@ void StartHyperDrive();
 // Stops either; the cause, if there is one, is told.
 void StopAutoRoll();
 
+// Asks whether the run that is on is to be stopped. Returns whether none goes on.
+bool AskToStopRun();
+
 // What the buttons say in the language in force.
 std::string_view HyperDriveCaption();
 std::string_view AutoRollCaption();

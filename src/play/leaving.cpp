@@ -7,29 +7,15 @@
 #include "base/trap.h"
 #include "dice/roll_file.h"
 #include "dice/roll_file_edit.h"
-#include "engine/unattended.h"
 #include "files/game_file.h"
 #include "files/hot_keys.h"
 #include "play/auto_roll.h"
 #include "play/game_commands.h"
-#include "state/table.h"
 #include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
-
-bool AskToStopUnattended() {
-  const bool hyper = Table.HyperDriveOn;
-  if (!hyper && !Table.AutoRollOn) return true;
-  const Text title = hyper ? Text::HyperDriveActive : Text::AutoRollActive;
-  const Text question = hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll;
-  if (ShowMessage(SayChosen(question), SayChosen(title), msg::AskYesDefault, help::AutoRoll) !=
-      AnswerYes)
-    return false;
-  StopUnattended();
-  return true;
-}
 
 bool AskToStopScripts() {
   if (!AutoBet.ScriptRunning) return true;
@@ -50,7 +36,7 @@ bool KeepTable() {
 }  // namespace
 
 bool AskToLeave() {
-  return AskToStopUnattended() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
+  return AskToStopRun() && AskToStopScripts() && OfferToSaveScripts() && OfferToSaveMatrix();
 }
 
 bool Leave() {

@@ -62,7 +62,7 @@ RollPadGrid SingleDiceGrid() {
 // Whether a roll can be asked for now; a run in progress is stopped, and so is, if the player wants
 // it, a script that is at work.
 bool RollMayBegin() {
-  if (RollPadStopsRun()) {
+  if (RunIsOn()) {
     StopAutoRoll();
     return false;
   }
@@ -100,10 +100,6 @@ std::optional<Faces> RollChoice::Take(const RollPadCell& cell, RandomChoice rand
   const Faces faces = Chosen;
   Chosen = {0, 0};
   return faces;
-}
-
-bool RollPadStopsRun() {
-  return Table.AutoRollOn || Table.HyperDriveOn;
 }
 
 void RollChosen(Faces faces) {

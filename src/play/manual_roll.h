@@ -50,9 +50,6 @@ struct RollChoice {
   std::optional<Faces> Take(const RollPadCell& cell, RandomChoice random = PlatformRandom);
 };
 
-// Whether a choice or the random roll stops a run instead of rolling.
-bool RollPadStopsRun();
-
 // Makes the next roll one of these faces, before all other sources of dice. A run in progress is
 // stopped instead. While a roll is being made nothing happens, and a roll that is refused takes the
 // choice with it.

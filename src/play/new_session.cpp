@@ -9,7 +9,7 @@
 #include "base/trap.h"
 #include "dice/generators.h"
 #include "dice/roll_file.h"
-#include "engine/bet_handling.h"
+#include "engine/bets.h"
 #include "engine/seats.h"
 #include "engine/settlement.h"
 #include "files/events_log_view.h"
@@ -36,23 +36,23 @@ bool Attempt(Step&& step) {
 }
 
 void LoseAbandoned(int number) {
-  for (int visit = 1; visit <= LastPlace; ++visit)
-    Attempt([=] { ResolveBet(visit, Lose, number); });
+  for (int visit = 1; visit <= LastPlace; ++visit) {
+    Attempt([=] {
+      if (const auto lost = DecideBet(visit, Lose, number)) TakeDownBet(lost->place, lost->number);
+    });
+  }
 }
 
 // The bets that cannot be taken back are lost with the session; nobody is asked what becomes of
 // them.
 void LoseAbandonedBets() {
   if (Settings.ReturnAbandonedBets) return;
-  const auto modes = std::exchange(Table.HandleLosingBets, {});
-  Table.HandleLosingBets.fill(LossTakeDown);
   if (Table.Point != 0) {
     LoseAbandoned(bet::PassLine);
     LoseAbandoned(bet::SevenPoint7);
   }
   for (int number = bet::Come4; number <= bet::Come10; ++number)
     LoseAbandoned(number);
-  Table.HandleLosingBets = modes;
 }
 
 // Every player's session goes into his log, unless the logs go with it.

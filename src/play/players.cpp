@@ -5,7 +5,6 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/number_format.h"
-#include "engine/bets.h"
 #include "engine/seats.h"
 #include "engine/unattended.h"
 #include "files/sessions_log.h"
@@ -30,9 +29,8 @@ constexpr int NextShooterPlace(int place) {
   return place > 1 ? place - 1 : LastPlace;
 }
 
-void TellPassing(PassReason reason, std::string text) {
-  const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
-  if (reason != PlayerAsked || Table.HyperDriveOn || silent) return;
+void TellPassing(bool aloud, std::string text) {
+  if (!aloud || Table.HyperDriveOn) return;
   ShowMessage(std::move(text), Say(Text::PassTheDice), msg::OkAlert, help::Players);
 }
 
@@ -58,13 +56,13 @@ void GiveDice(int place) {
   if (RollsInHand() == 0) Table.LastShooter = place;
 }
 
-void PassAmongNone(PassReason reason) {
+void PassAmongNone(bool aloud) {
   Table.Shooter = Table.LastShooter = 0;
-  TellPassing(reason, Say(Text::NoPlayers));
+  TellPassing(aloud, Say(Text::NoPlayers));
 }
 
-void PassWithOnePlayer(PassReason reason) {
-  TellPassing(reason, Say(Text::NoOtherPlayers));
+void PassWithOnePlayer(PassReason reason, bool aloud) {
+  TellPassing(aloud, Say(Text::NoOtherPlayers));
   if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
 }
 
@@ -76,18 +74,18 @@ std::string NobodyShootsText(int blocked) {
   return other != 0 ? Say(Text::OtherDeclines, NameOf(other)) : Say(Text::AllDecline);
 }
 
-void PassToNobody(PassReason reason, int blocked) {
-  TellPassing(reason, NobodyShootsText(blocked));
+void PassToNobody(PassReason reason, bool aloud, int blocked) {
+  TellPassing(aloud, NobodyShootsText(blocked));
   if (reason == PlayerLeft) {
     GiveDice(FindShooter([](int) { return true; }));
   }
 }
 
 // The dice go on in the middle of a hand, which stays credited to who started it.
-void TellOfPassedHand(PassReason reason, int from, int to) {
+void TellOfPassedHand(bool aloud, int from, int to) {
   if (RollsInHand() == 0) return;
   const Text text = to == Table.LastShooter ? Text::PassingBack : Text::PassingOn;
-  TellPassing(reason, SayChosen(text, NameOf(from), NameOf(to)));
+  TellPassing(aloud, SayChosen(text, NameOf(from), NameOf(to)));
   if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
@@ -135,21 +133,22 @@ void ShowPassedDiceNote() {
   if (!text.empty()) ShowMessage(std::move(text), Say(Text::PassTheDice), msg::Ok, help::Players);
 }
 
-void PassDice(PassReason reason) {
-  if (Table.PlayerCount == 0) return PassAmongNone(reason);
-  if (Table.PlayerCount == 1) return PassWithOnePlayer(reason);
+void PassDice(PassReason reason, Telling telling) {
+  const bool aloud = reason == PlayerAsked && telling == Telling::Aloud;
+  if (Table.PlayerCount == 0) return PassAmongNone(aloud);
+  if (Table.PlayerCount == 1) return PassWithOnePlayer(reason, aloud);
   int blocked = 0;
   const int next = FindShooter([&blocked](int place) {
     if (Table.DeclinesDice[place]) return false;
     if (!MayShoot(place)) ++blocked;
     return MayShoot(place);
   });
-  if (next == 0) return PassToNobody(reason, blocked);
+  if (next == 0) return PassToNobody(reason, aloud, blocked);
   const int from = Table.Shooter;
   if (reason == PlayerAsked) LogDicePassed(next);
   Table.Shooter = next;
   if (!Table.HyperDriveOn) FrontEnd.DrawTable();
-  TellOfPassedHand(reason, from, next);
+  TellOfPassedHand(aloud, from, next);
   if (RollsInHand() == 0) Table.LastShooter = next;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/money.h"
+#include "engine/bet_request.h"
 
 namespace tessarel {
 
@@ -26,7 +27,7 @@ std::optional<Money> AskBankroll(const std::string& question,
 void ShowPassedDiceNote();
 
 // Hands the dice to the next player who wants them and may have them.
-void PassDice(PassReason reason);
+void PassDice(PassReason reason, Telling telling = Telling::Aloud);
 
 // What is said when the bankroll of a place is beyond its limit, or was when its player left.
 std::string BankrollLimitText(int place);

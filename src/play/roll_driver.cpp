@@ -429,7 +429,7 @@ bool RollAndEnd(std::optional<Faces>& chosen) {
 }  // namespace
 
 bool AutoStopIsDue() {
-  const int64_t every = Settings.AutoStopRolls.Floor();
+  const int32_t every = Settings.AutoStopRolls;
   return every > 0 && RollsInSession() > 0 && RollsInSession() % every == 0;
 }
 

@@ -39,7 +39,7 @@ void SetTableDefaults() {
 
 void SetUpNewTable(const std::string& appFolder) {
   ResetAll();
-  ScriptHost = {StartSessionOfScript, [] { PassDice(PlayerAsked); }};
+  ScriptHost = {StartSessionOfScript, [] { PassDice(PlayerAsked, Telling::Silent); }};
   SetAppFolder(appFolder);
   SetLanguage(English);
   DefaultPayoffs();

@@ -2,6 +2,7 @@
 // order in which players are visited. Numbers are part of the file formats and never change.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "base/indexing.h"
@@ -89,9 +90,54 @@ constexpr bool IsOdds(int number) {
 constexpr int FlatUnder(int odds) {
   return IsLineOdds(odds) ? odds - 1 : odds - FamilySize;
 }
+// The odds that ride on a flat bet, 0 for a bet that takes none.
+constexpr int OddsOn(int flat) {
+  if (flat == bet::PassLine || flat == bet::DontPass) return flat + 1;
+  return InFamily(flat, ComeFamily) || InFamily(flat, DontComeFamily) ? flat + FamilySize : 0;
+}
 // Into how many equal parts a bet is divided, of which a hit pays one and loses the others.
 constexpr int PartsOf(int number) {
   return number == bet::CAndE ? 2 : number == bet::Horn ? 4 : number == bet::World ? 5 : 1;
+}
+// The faces of the hop bets, by total and then by the lower die: the order in which they are
+// decided.
+struct HopPair {
+  uint8_t number, low, high;
+};
+inline constexpr Indexed<HopPair, 17> HopPairs = [] {
+  Indexed<HopPair, 17> hops{};
+  size_t next = 0;
+  for (int total = 4; total <= 10; ++total) {
+    for (int low = total > 6 ? total - 6 : 1; 2 * low <= total; ++low) {
+      const int high = total - low;
+      // Numbers run by the lower die and then by the higher one; the lowest die has no pair.
+      constexpr Indexed<int, 6> First = {
+          0, bet::Hop13 - 3, bet::Hop22 - 2, bet::Hop33 - 3, bet::Hop44 - 4, bet::Hop55 - 5};
+      hops[next++] = {static_cast<uint8_t>(First[low] + high), static_cast<uint8_t>(low),
+                      static_cast<uint8_t>(high)};
+    }
+  }
+  return hops;
+}();
+static_assert(HopPairs[1].number == bet::Hop22 && HopPairs[16].number == bet::Hop55);
+
+constexpr bool IsHop(int number) {
+  return number >= bet::Hop13 && number <= bet::Hop55;
+}
+// The faces of a hop bet.
+constexpr HopPair FacesOfHop(int number) {
+  for (const HopPair& hop : HopPairs) {
+    if (hop.number == number) return hop;
+  }
+  return {};
+}
+// The hop bet on a pair of dice in either order; 0 for a pair that has none.
+constexpr int HopOn(int die1, int die2) {
+  for (const HopPair& hop : HopPairs) {
+    const bool same = hop.low == die1 && hop.high == die2;
+    if (same || (hop.low == die2 && hop.high == die1)) return hop.number;
+  }
+  return 0;
 }
 constexpr bool IsStack(int number) {
   return number >= FirstStack && number < FirstStack + StackCount;

@@ -6,7 +6,7 @@
 
 #include "base/fault.h"
 #include "base/trap.h"
-#include "state/settings.h"
+#include "state/vig.h"
 
 namespace tessarel {
 
@@ -141,8 +141,8 @@ void CountInHand(int32_t& counter, int32_t HandFigures::*most, HandRow row) {
   });
 }
 
-void Enter(BetMeasures& measures, Money amount, Money roll) {
-  measures.Count += 1;
+void Enter(BetMeasures& measures, Money amount, int64_t roll) {
+  ++measures.Count;
   measures.Sum += amount;
   measures.High = std::max(measures.High, amount);
   const bool lower = measures.Low == Money() || amount < measures.Low;
@@ -153,14 +153,7 @@ void Enter(BetMeasures& measures, Money amount, Money roll) {
 
 // What was at risk: the bet and the vig that was paid with it.
 Money StakeOf(int place, int number, Money amount) {
-  const auto index = static_cast<size_t>((number - 1) % FamilySize);
-  if (InFamily(number, LayFamily) && Settings.LayVigAllBets) {
-    return amount + Table.LayVig[place][index];
-  }
-  if (InFamily(number, BuyFamily) && Settings.BuyVigAllBets) {
-    return amount + Table.BuyVig[place][index];
-  }
-  return amount;
+  return amount + VigUpFront(place, number);
 }
 
 // Everything of a slot but the bet records and bankrolls.
@@ -262,11 +255,11 @@ namespace {
 
 void CountBetResult(int place, int number, Money amount, Money result) {
   const Money stake = StakeOf(place, number, amount);
-  const Money sessionRoll = RollsInSession();
-  const Money gameRoll = Stats.RollCount[AllSessions][0];
+  const int64_t sessionRoll = RollsInSession();
+  const int64_t gameRoll = Stats.RollCount[AllSessions][0];
   for (const Scope scope : CountedScopes) {
     BetRecord& record = Stats.Bets[place + scope][number];
-    const Money roll = scope == AllSessions ? gameRoll : sessionRoll;
+    const int64_t roll = scope == AllSessions ? gameRoll : sessionRoll;
     Enter(record.Tendered, stake, roll);
     Enter(result > Money() ? record.Won : record.Lost, Abs(result), roll);
     if (InFamily(number, ComeFamily)) {

@@ -17,11 +17,11 @@ inline constexpr int LongestGap = 200;
 
 // The six measures of one kind of entry.
 struct BetMeasures {
-  Money Count;  // entries, as whole units
+  int64_t Count = 0;  // entries
   Money Sum;
   Money High;
-  Money Low;       // the lowest that is not zero
-  Money LastRoll;  // the roll number, in that scope's table count, of the last entry
+  Money Low;             // the lowest that is not zero
+  int64_t LastRoll = 0;  // the roll number, in that scope's table count, of the last entry
   Money Last;
 };
 

@@ -67,9 +67,8 @@ void DefaultPayoffs() {
   Fill(rows.subspan(bet::Buy4), TakenOdds);
   Fill(rows.subspan(bet::Hard4), PropOdds);
   for (size_t hop = bet::Hop13; hop <= bet::Hop55; ++hop) {
-    const bool pair =
-        hop == bet::Hop22 || hop == bet::Hop33 || hop == bet::Hop44 || hop == bet::Hop55;
-    rows[hop] = Row({pair ? 30 : 15, 1});
+    const HopPair faces = FacesOfHop(static_cast<int>(hop));
+    rows[hop] = Row({faces.low == faces.high ? 30 : 15, 1});
   }
   Fill(rows.subspan(bet::AllSmall), SpecialOdds);
   for (int low = 1; low <= 6; ++low) {

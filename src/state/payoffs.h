@@ -22,7 +22,7 @@ struct PayoffRow {
 };
 
 struct PayoffState {
-  Indexed<PayoffRow, 101> Payoff;               // 1 to 93 by bet number; row 0 is scratch
+  Indexed<PayoffRow, 101> Payoff;               // 1 to 93 by bet number
   Indexed<PayoffRow, 22> FieldPayoff;           // 1 to 21, by PairIndex
   Indexed<PayoffRow, 3> SevenPointSevenPayoff;  // 1 a come-out 7, 2 a 7 after the point
   Indexed<PayoffRow, 6> MidwayPayoff;           // 1 hard 6, 2 easy 6, 3 seven, 4 easy 8, 5 hard 8

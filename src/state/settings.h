@@ -73,8 +73,8 @@ struct SettingsState {
 
   // Session and automation.
   bool ClearEventsLogOnNew = false;
-  Money AutoStopRolls;  // 0 none
-  Money RollDelay = 0;  // seconds between rolls under Auto-Roll, 0 to 300
+  int32_t AutoStopRolls = 0;  // 0 none
+  Money RollDelay = 0;        // seconds between rolls under Auto-Roll, 0 to 300
   int32_t Throttle = 0;
 
   static constexpr Indexed<bool, 101> DefaultCompBets() {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "state/scripts.h"
-#include "state/settings.h"
+#include "state/vig.h"
 
 namespace tessarel {
 
@@ -19,7 +19,7 @@ void SetBetAmount(int place, int number, Money amount) {
   const bool stands = amount > Money();
   Table.Standing[place].Set(number, stands);
   if (place == 0) return;
-  const auto visitBit = static_cast<uint8_t>(1u << (At(VisitOfPlace, place) - 1));
+  const auto visitBit = static_cast<uint8_t>(1u << (VisitOfPlace[place] - 1));
   uint8_t& holders = Table.Holders[number];
   holders = static_cast<uint8_t>(stands ? holders | visitBit : holders & ~visitBit);
   Table.Held.Set(number, holders != 0);
@@ -45,7 +45,7 @@ void RebuildDerived() {
       if (number > LastBet || Bet(place, number) <= Money()) continue;
       Table.Standing[place].Add(number);
       Table.Held.Add(number);
-      Table.Holders[number] |= static_cast<uint8_t>(1u << (At(VisitOfPlace, place) - 1));
+      Table.Holders[number] |= static_cast<uint8_t>(1u << (VisitOfPlace[place] - 1));
     }
   }
   Table.PlayerCount = std::popcount(Table.TakenPlaces);
@@ -55,11 +55,7 @@ void RebuildDerived() {
 Money FigureMoneyOnTable(int place) {
   Money sum;
   for (int number = 1; number <= LastBet; ++number)
-    sum += Bet(place, number);
-  for (size_t k = 0; k < FamilySize; ++k) {
-    if (Settings.LayVigAllBets) sum += Table.LayVig[place][k];
-    if (Settings.BuyVigAllBets) sum += Table.BuyVig[place][k];
-  }
+    sum += Bet(place, number) + VigUpFront(place, number);
   return sum;
 }
 
@@ -67,7 +63,7 @@ namespace {
 
 std::string CheckPlace(int place) {
   const std::string who = "place " + std::to_string(place) + ": ";
-  const auto visitBit = static_cast<uint8_t>(1u << (At(VisitOfPlace, place) - 1));
+  const auto visitBit = static_cast<uint8_t>(1u << (VisitOfPlace[place] - 1));
   for (int number = 1; number <= LastBet; ++number) {
     const Money amount = Bet(place, number);
     const std::string which = who + std::string(BetName[number]);

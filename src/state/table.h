@@ -107,16 +107,6 @@ struct TableState {
   int32_t Shooter = 0, LastShooter = 0, PreviousShooter = 0;
   int32_t Die1 = 0, Die2 = 0, DiceTotal = 0;
   int32_t PlayerCount = 0;
-  int32_t CurrentBet = 0;
-  Money NetWin, GrossWin;       // the latest payoff, after and before rounding
-  Money Amount;                 // what ChangeBet is asked for
-  Money BetDelta;               // what it did
-  Money BetLimit;               // what FigureMaxBet found
-  bool BetMoving = false;       // a box is travelling: the rules on numbers are skipped
-  bool BetCantStay = false;     // a won bet has to come down
-  Money ChipUnit;               // the unit in which the current bet pays
-  int32_t MessageSwitches = 7;  // bits of MessageSwitch
-
   int32_t MarkedNumbers = 0;  // bit n: total n has been rolled
   int32_t FourRollCount = 0;
   int32_t FirePointsMask = 0, FirePoints = 0;
@@ -146,10 +136,12 @@ struct TableState {
   PerPlace<bool> WorkingChanged{};     // some BetWorking changed since then
 };
 
-// The kinds of message that bet rules may show; automatic callers clear them to keep silent.
-enum MessageSwitch : int32_t { ShowRejections = 1, ShowAlreadyBet = 2, ShowVigNotices = 4 };
-
 extern TableState Table;
+
+// Whether rolls are made without a person asking for each, shown or not.
+inline bool RunIsOn() {
+  return Table.AutoRollOn || Table.HyperDriveOn;
+}
 
 constexpr bool IsTaken(const TableState& table, int place) {
   return (table.TakenPlaces >> place & 1) != 0;

@@ -37,7 +37,7 @@ void WagerTotals::Add(const WagerTotals& other) {
 }
 
 WagerColumns ColumnsOf(const WagerTotals& totals, bool useSeparator) {
-  const auto count = [useSeparator](Money value) { return CountText(value, useSeparator); };
+  const auto count = [useSeparator](int64_t value) { return CountText(value, useSeparator); };
   const auto amount = [useSeparator](Money value) { return AmountText(value, useSeparator); };
   return {
       .TenderedCount = count(totals.TenderedCount),

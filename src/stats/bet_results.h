@@ -18,9 +18,8 @@ using ExpectedValues = std::array<double, LastBet + 1>;
 
 // Wagers of a bet or of several added up. Those resolved are those that were won or lost.
 struct WagerTotals {
-  Money TenderedCount, Tendered;
-  Money WinCount, Wins;
-  Money LossCount, Losses;
+  int64_t TenderedCount = 0, WinCount = 0, LossCount = 0;
+  Money Tendered, Wins, Losses;
   double Expected = 0;  // in money
 
   Money Net() const { return Wins - Losses; }

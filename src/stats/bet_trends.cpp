@@ -10,7 +10,7 @@ namespace tessarel {
 namespace {
 
 void AddEntry(std::vector<BetTrendEntry>& entries, const BetMeasures& measures, bool won) {
-  if (measures.Count == Money()) return;
+  if (measures.Count == 0) return;
   const Money result = won ? measures.Last : -measures.Last;
   entries.push_back({measures.LastRoll, result, FormatNumber(result, " #,#;-#,#")});
 }
@@ -26,7 +26,7 @@ BetTrendsView BetTrends(Scope scope, int place) {
   }
   for (int bet = 1; bet <= LastBet; ++bet) {
     const BetRecord& record = Stats.Bets[scope + place][bet];
-    if (record.Tendered.Count == Money()) continue;
+    if (record.Tendered.Count == 0) continue;
     BetTrendsRow row{bet, std::string(BetName[bet]), {}};
     AddEntry(row.Entries, record.Won, true);
     AddEntry(row.Entries, record.Lost, false);

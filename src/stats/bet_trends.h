@@ -12,8 +12,8 @@
 namespace tessarel {
 
 struct BetTrendEntry {
-  Money Roll;    // on which it was resolved, in the scope's table count
-  Money Result;  // negative for a loss
+  int64_t Roll = 0;  // on which it was resolved, in the scope's table count
+  Money Result;      // negative for a loss
   std::string Text;
 };
 

@@ -36,10 +36,10 @@ CompFigures FigureComps(int slot) {
     figures.Decisions += wagered.Count;
     figures.TheoreticalLoss += wagered.Sum.ToDouble() * FigureAdvantage(number, dice).EvPerDec;
   }
-  if (figures.Decisions > Money()) {
+  if (figures.Decisions > 0) {
     const double hours = Stats.Hands[slot].RollTotal / Settings.SimRollRate.ToDouble();
-    figures.AverageAction =
-        Money::FromDouble(figures.Action.ToDouble() * hours / figures.Decisions.ToDouble());
+    figures.AverageAction = Money::FromDouble(figures.Action.ToDouble() * hours /
+                                              static_cast<double>(figures.Decisions));
   }
   figures.Comps = Settings.CompRate.ToDouble() * Base(figures) * 0.01;
   return figures;

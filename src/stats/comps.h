@@ -7,7 +7,7 @@
 namespace tessarel {
 
 struct CompFigures {
-  Money Decisions;             // resolved wagers, as whole units
+  int64_t Decisions = 0;       // resolved wagers
   Money Action;                // wagered in all
   Money AverageAction;         // of a wager, times the hours of play
   double TheoreticalLoss = 0;  // what the wagers were worth: below zero for the house's advantage

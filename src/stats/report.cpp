@@ -53,7 +53,7 @@ std::vector<std::string> BetResultsLine(const std::string& name, const WagerColu
 NumberSet ResolvedBets(Scope scope, int place) {
   NumberSet bets;
   for (int bet = 1; bet <= LastBet; ++bet) {
-    bets.Set(bet, Stats.Bets[scope + place][bet].Tendered.Count > Money());
+    bets.Set(bet, Stats.Bets[scope + place][bet].Tendered.Count > 0);
   }
   return bets;
 }

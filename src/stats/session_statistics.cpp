@@ -131,9 +131,9 @@ Session SessionSoFar(int place) {
   const auto& bets = Stats.Bets[place + CurrentSession];
   for (int number = 1; number <= LastBet; ++number) {
     const BetRecord& bet = At(bets, number);
-    session[SessionBets] += bet.Tendered.Count;
-    session[SessionBetsWon] += bet.Won.Count;
-    session[SessionBetsLost] += bet.Lost.Count;
+    session[SessionBets] += Money::FromWhole(bet.Tendered.Count);
+    session[SessionBetsWon] += Money::FromWhole(bet.Won.Count);
+    session[SessionBetsLost] += Money::FromWhole(bet.Lost.Count);
     session[SessionHandle] += bet.Tendered.Sum;
     session[SessionWon] += bet.Won.Sum;
     session[SessionLost] += bet.Lost.Sum;

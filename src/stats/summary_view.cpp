@@ -104,7 +104,7 @@ std::vector<SummaryRow> CompRows(PlaceSelection selection, const PerPlace<CompFi
     sum.TheoreticalLoss += figures.TheoreticalLoss;
     sum.Comps += figures.Comps;
   });
-  const double decisions = sum.Decisions.ToDouble();
+  const auto decisions = static_cast<double>(sum.Decisions);
   const auto caption = [](CheckedText<0> text, int base) {
     return (Settings.CompBase == base ? "* " : "") + Say(text);
   };

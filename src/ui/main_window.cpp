@@ -233,13 +233,8 @@ void MainWindow::Roll() {
 
 // The right button rolls; during a run it asks to stop.
 void MainWindow::RightClick() {
-  if (!Table.AutoRollOn && !Table.HyperDriveOn) return Roll();
-  const bool hyper = Table.HyperDriveOn;
-  const int32_t answer =
-      ShowMessage(SayChosen(hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll),
-                  SayChosen(hyper ? Text::HyperDriveActive : Text::AutoRollActive),
-                  msg::AskYesDefault, help::AutoRoll);
-  if (answer == AnswerYes) StopAutoRoll();
+  if (!RunIsOn()) return Roll();
+  AskToStopRun();
   RefreshAll();
 }
 
@@ -252,7 +247,7 @@ void MainWindow::ShowPlayerMenu(QPoint at) {
 }
 
 void MainWindow::ToggleRun(bool hyperDrive) {
-  if (Table.AutoRollOn || Table.HyperDriveOn) {
+  if (RunIsOn()) {
     StopAutoRoll();
   } else if (TableIsIdle() && ConfirmScriptActive()) {
     core_->Pump().Restart();

@@ -1,7 +1,6 @@
 #include "ui/table_play.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 #include "base/front_end.h"
@@ -10,6 +9,8 @@
 #include "base/single_byte_text.h"
 #include "engine/atm.h"
 #include "engine/bet_limits.h"
+#include "engine/bet_notices.h"
+#include "engine/bet_plan.h"
 #include "engine/bets.h"
 #include "play/auto_roll.h"
 #include "play/players.h"
@@ -17,6 +18,7 @@
 #include "play/roll_driver.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
+#include "state/vig.h"
 #include "texts/say.h"
 #include "ui/layout/table_layout.h"
 
@@ -35,50 +37,12 @@ Money CheckValue() {
   return Settings.Denomination[ChosenCheck()];
 }
 
-// --- What a change would do --------------------------------------------------------------------
-
-struct Trial {
-  Money delta;
-  std::string refusal, title;
-  int32_t flags = 0;
-};
-
-Trial* HeardBy = nullptr;
-
-void Hear() {
-  if (!HeardBy->refusal.empty()) return;
-  HeardBy->refusal = Message.MsgText;
-  HeardBy->title = Message.MsgTitle;
-  HeardBy->flags = Message.MsgFlags;
-}
-
-// Lets `change` work on the table, keeps its BetDelta and the first message that `notices` lets
-// through, and puts everything back as it was.
-template <class Change>
-Trial TryOut(int32_t notices, Change&& change) {
-  const auto table = std::make_unique<TableState>(Table);
-  const FrontEndCallbacks frontEnd = FrontEnd;
-  const MessageState message = Message;
-  const int32_t noticesInForce = std::exchange(Settings.Notices, notices);
-  Trial trial;
-  HeardBy = &trial;
-  FrontEnd = FrontEndCallbacks{};
-  FrontEnd.ShowMessage = Hear;
-  change();
-  trial.delta = Table.BetDelta;
-  FrontEnd = frontEnd;
-  Message = message;
-  Settings.Notices = noticesInForce;
-  Table = *table;
-  return trial;
-}
-
 // --- Changing bets -----------------------------------------------------------------------------
 
-void ChangeAmount(int place, int number, Money amount) {
-  Table.Amount = amount;
+void ChangeAmount(int place, int number, Money change) {
   Table.TableDirty = true;
-  IsBet(number) ? PlaceBet(place, number) : ChangeBet(place, number);
+  const BetRequest request{place, number, change};
+  IsBet(number) ? PlaceBet(request) : ChangeBet(request);
   if (!IsBet(number)) FrontEnd.DrawBet(place, number);
 }
 
@@ -187,18 +151,12 @@ ClickOutlook OutlookOfBet(int number) {
   const std::optional<Money> entered =
       TablePlay.EnteredAmount.empty() ? std::nullopt : ParseMoney(TablePlay.EnteredAmount);
   const Money change = entered ? *entered - Bet(place, number) : CheckValue();
-  const Trial trial = TryOut(NoticeActionsNotAllowed | NoticeLimits, [=] {
-    Table.Amount = change;
-    ChangeBet(place, number);
-  });
-  if (trial.delta == Money() && change != Money() && !trial.refusal.empty()) {
-    // The first line of a refusal is the player's name.
-    const size_t body = trial.refusal.find("\r\r");
-    const std::string why =
-        body == std::string::npos ? trial.refusal : trial.refusal.substr(body + 2);
-    return {OnOneLine(why), false};
+  const Plan plan = PlanChange({place, number, change});
+  if (plan.change == Money() && change != Money()) {
+    const std::string why = ReasonOf(plan);
+    if (!why.empty()) return {OnOneLine(why), false};
   }
-  const std::string amount = FormatMoney(entered ? *entered : trial.delta);
+  const std::string amount = FormatMoney(entered ? *entered : plan.change);
   return {SayChosen(entered ? Text::SetBetTo : Text::AddToBet, SpotName(number), amount), true};
 }
 
@@ -232,10 +190,8 @@ std::string StateText(int place, int number) {
 
 // What goes with a standing bet besides its amount.
 void AddCompanions(std::string& tip, int place, int number) {
-  const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
-  if (lay || buy) {
-    const auto& vigs = lay ? Table.LayVig[place] : Table.BuyVig[place];
-    tip += "\r" + Say(Text::TipVig, FormatExact(At(vigs, (number - 1) % FamilySize)));
+  if (CarriesVig(number)) {
+    tip += "\r" + Say(Text::TipVig, FormatExact(VigOf(place, number)));
   }
   const bool line = number == bet::PassLine || number == bet::DontPass;
   if (line && HasBet(place, number + 1)) {
@@ -278,21 +234,10 @@ void DragBet(int from, int to) {
   const Money amount = Bet(place, source);
   if (target != 0) {
     // What the rules would not take at its new spot is not taken down from the old one either.
-    Money off;
-    const Trial trial = TryOut(Settings.Notices, [&] {
-      {
-        const SilentBets silent;
-        ChangeAmount(place, source, -amount);
-      }
-      off = amount - Bet(place, source);
-      Table.Amount = off;
-      Table.BetDelta = Money();
-      if (off > Money()) ChangeBet(place, target);
-    });
-    if (off > Money() && trial.delta <= Money()) {
-      if (!trial.refusal.empty()) ShowMessage(trial.refusal, trial.title, trial.flags);
-      return;
-    }
+    const FreedBet freed = FreeUp(place, source);
+    const Money off = amount - freed.left;
+    const Plan plan = PlanChange({.place = place, .number = target, .change = off, .freed = freed});
+    if (off > Money() && plan.change <= Money()) return TellPlan(plan);
   }
   ChangeAmount(place, source, -amount);
   const Money taken = amount - Bet(place, source);
@@ -315,9 +260,8 @@ void CallAllBets(bool on) {
   const int place = PlayerForCommand();
   if (place == 0 || !MayChange()) return;
   Table.TableDirty = true;
-  SilentBets silent;
   for (int number = 1; number <= LastBet; ++number) {
-    if (HasBet(place, number)) CallBet(place, number, on ? CallOn : CallOff);
+    if (HasBet(place, number)) CallBet(place, number, on ? CallOn : CallOff, Telling::Silent);
   }
 }
 
@@ -325,11 +269,11 @@ void RemoveAllBets() {
   const int place = PlayerForCommand();
   if (place == 0 || !MayChange()) return;
   Table.TableDirty = true;
-  SilentBets silent;
   // Odds first: they would follow their flat bet, and stay when it has to.
   for (const bool odds : {true, false}) {
     for (int number = 1; number <= LastBet; ++number) {
-      if (IsOdds(number) == odds && HasBet(place, number)) RemoveBet(place, number);
+      if (IsOdds(number) == odds && HasBet(place, number))
+        RemoveBet(place, number, Telling::Silent);
     }
   }
 }
@@ -339,7 +283,7 @@ void RollTheDice() {
 }
 
 bool TableIsIdle() {
-  return !Table.RollInProgress && !Table.HyperDriveOn && !Table.AutoRollOn;
+  return !Table.RollInProgress && !RunIsOn();
 }
 
 bool TableIsOpen() {

@@ -37,7 +37,7 @@ class Actions : public RulesTest {
     AutoBet.CurrentScriptPlayer = Ann;
     Table.Shooter = Table.LastShooter = Ann;
     SetAppFolder(Folder.Path());
-    ScriptHost.PassDice = [] { PassDice(PlayerAsked); };
+    ScriptHost.PassDice = [] { PassDice(PlayerAsked, Telling::Silent); };
   }
   void TearDown() override {
     CloseRollFile();

@@ -147,10 +147,8 @@ TEST_F(Configuration, SpecialBetsStayWhileSevenPointSevenIsAContract) {
 
 TEST_F(Configuration, ChangedVigIsChargedAtOnce) {
   Seat(1, "Ann", 1000);
-  Table.Amount = 100;
-  ChangeBet(1, bet::Lay4);
-  Table.Amount = 100;
-  ChangeBet(1, bet::Buy4);
+  ChangeBet({1, bet::Lay4, 100});
+  ChangeBet({1, bet::Buy4, 100});
   // Lay: five percent of the win of 50, up from 2.50; Buy: of the bet.
   EXPECT_EQ(Table.MoneyOnTable[1], Money(208));
   struct {
@@ -177,8 +175,7 @@ TEST_F(Configuration, AVigThatAPlayerCannotPayIsUndone) {
   Seat(1, "Ann", 1000);
   Seat(4, "Bob", 107);
   for (const int place : {1, 4}) {
-    Table.Amount = 100;
-    ChangeBet(place, bet::Buy10);
+    ChangeBet({place, bet::Buy10, 100});
   }
   Shown.clear();
   EXPECT_TRUE(ChangeVig(&SettingsState::BuyVigPct, Money::FromRaw(700)));

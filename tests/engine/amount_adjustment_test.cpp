@@ -78,7 +78,7 @@ TEST_F(AmountAdjustment, AmountsMoveToTheirUnitByTheBiasOfTheirKind) {
   };
   for (const Case& test : cases) {
     StartOver();
-    Table.MessageSwitches &= ~ShowVigNotices;
+    Settings.Notices &= ~NoticeCharges;
     Table.AutoAdjustBetAmounts[Ann] = 1;
     Table.Point = 5;
     for (const int flat : {PassLine, Come4 + 1, DontPass, DontCome4 + 1})

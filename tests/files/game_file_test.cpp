@@ -111,7 +111,6 @@ class RandomPlay {
   }
 
   void Play(int rolls) {
-    const SilentBets silent;
     for (int roll = 0; roll < rolls; ++roll) {
       ForEachPlayer([this](int place) { Act(place); });
       if (Upto(150) == 0) NewSession({Upto(1) != 0, Upto(1) != 0, true, ContinueRollFile});
@@ -124,8 +123,8 @@ class RandomPlay {
 
   void Act(int place) {
     for (int k = Upto(3); k > 0; --k) {
-      Table.Amount = Money::FromRaw((Upto(80) - 15) * 5000);
-      ChangeBet(place, 1 + Upto(LastBet - 1));
+      const Money change = Money::FromRaw((Upto(80) - 15) * 5000);
+      ChangeBet({place, 1 + Upto(LastBet - 1), change}, Telling::Silent);
     }
     if (Upto(20) == 0) SetStackValue(place, Upto(99), Money::FromRaw(Upto(1'000'000)));
     if (Upto(20) == 0) SetStackName(place, Upto(99), "Step " + std::to_string(Upto(9)));
@@ -173,10 +172,8 @@ TEST_F(GameFileTest, ValuesStandInTheirRecordsAndSlots) {
   SeatPlayer(3, "Ann", 1000);
   SeatPlayer(8, "Bob", 500);
   Settings.MaxFireBet = 7;
-  Table.Amount = 10;
-  ChangeBet(3, bet::PassLine);
-  Table.Amount = 20;
-  ChangeBet(3, bet::Buy4);
+  ChangeBet({3, bet::PassLine, 10});
+  ChangeBet({3, bet::Buy4, 20});
   SetStackValue(3, 1, Money::FromRaw(15000));
   SetStackName(3, 99, "Lost so far");
   MakeRoll(Faces{2, 4});

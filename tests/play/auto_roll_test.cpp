@@ -108,27 +108,27 @@ TEST_F(AutoRolling, EndOfTheRollFileIsAskedAboutAtTheTableOnly) {
 TEST_F(AutoRolling, RepliesAreBroughtIntoTheirLimits) {
   const struct {
     void (*ask)();
-    Money SettingsState::*field;
     const char* reply;
     Money stored;
   } cases[] = {
-      {AskSetAutoStop, &SettingsState::AutoStopRolls, "2.7", 2},
-      {AskSetAutoStop, &SettingsState::AutoStopRolls, "-3", 0},
-      {AskSetAutoStop, &SettingsState::AutoStopRolls, "9000000000", MaxRolls},
-      {AskSetAutoStop, &SettingsState::AutoStopRolls, "x", 7},
-      {AskSetTimeDelay, &SettingsState::RollDelay, " 2.5 ", Money::FromRaw(25'000)},
-      {AskSetTimeDelay, &SettingsState::RollDelay, "301", 300},
-      {AskSetTimeDelay, &SettingsState::RollDelay, "-1", 0},
+      {AskSetAutoStop, "2.7", 2},
+      {AskSetAutoStop, "-3", 0},
+      {AskSetAutoStop, "9000000000", MaxRolls},
+      {AskSetAutoStop, "x", 7},
+      {AskSetTimeDelay, " 2.5 ", Money::FromRaw(25'000)},
+      {AskSetTimeDelay, "301", 300},
+      {AskSetTimeDelay, "-1", 0},
   };
   for (const auto& each : cases) {
-    Settings.*each.field = 7;
+    Settings.RollDelay = Settings.AutoStopRolls = 7;
     Reply = each.reply;
     FrontEnd.ShowMessage = [] {
       EXPECT_EQ(Message.MsgInput, "7");
       Message.MsgInput = Reply;
     };
     each.ask();
-    EXPECT_EQ(Settings.*each.field, each.stored) << each.reply;
+    const bool stop = each.ask == AskSetAutoStop;
+    EXPECT_EQ(stop ? Money(Settings.AutoStopRolls) : Settings.RollDelay, each.stored) << each.reply;
   }
 }
 

@@ -101,10 +101,9 @@ int32_t RollsAsked() {
 }
 
 void BringBetsToTheirAmounts() {
-  const SilentBets silent;
   for (const EdgeCase& row : EdgeCases) {
-    Table.Amount = Money(row.amount) - Bet(row.place, row.bet);
-    if (Table.Amount != Money()) PlaceBet(row.place, row.bet);
+    const Money change = Money(row.amount) - Bet(row.place, row.bet);
+    if (change != Money()) PlaceBet({row.place, row.bet, change}, Telling::Silent);
   }
 }
 
@@ -145,11 +144,12 @@ TEST_F(HouseEdges, OfALongRunAreTheExactOnes) {
     EXPECT_NEAR(exact.edge, row.edge, 1e-7) << name;
 
     // The books hold no pushes.
-    const double decisions = record.Tendered.Count.ToDouble();
+    const auto decisions = static_cast<double>(record.Tendered.Count);
     const double net = (record.Won.Sum - record.Lost.Sum).ToDouble() / row.amount / decisions;
     const double error = exact.deviation / std::sqrt(decisions);
     EXPECT_NEAR(net, exact.net, 4 * error) << name;
-    EXPECT_EQ(record.Tendered.Sum, record.Tendered.Count * Money(row.amount)) << name;
+    EXPECT_EQ(record.Tendered.Sum, Money::FromWhole(record.Tendered.Count) * Money(row.amount))
+        << name;
     if (std::getenv("TESSAREL_EDGE_ROLLS") == nullptr) continue;
     std::printf("%-12s %9.0f decisions  edge %9.6f  exact %9.6f  %+5.2f errors\n", name.c_str(),
                 decisions, exact.edge * net / exact.net, row.edge, (exact.net - net) / error);

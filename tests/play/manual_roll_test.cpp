@@ -133,11 +133,11 @@ TEST_F(ManualRolls, ChoiceStopsARunInsteadOfRolling) {
     Reset();
     Settings.BetNeededToShoot = 0;
     FrontEnd.RunPendingEvents = [] {
-      if (RollsInSession() == 20 && RollPadStopsRun()) RollChosen({1, 1});
+      if (RollsInSession() == 20 && RunIsOn()) RollChosen({1, 1});
     };
     ToggleAutoRoll(mode);
     EXPECT_EQ(RollsInSession(), 20);
-    EXPECT_FALSE(RollPadStopsRun());
+    EXPECT_FALSE(RunIsOn());
     EXPECT_FALSE(Table.RollInProgress);
   }
 }

@@ -64,10 +64,7 @@ class Rail : public testing::Test {
   }
   void TearDown() override { FrontEnd = FrontEndCallbacks{}; }
 
-  static void Ask(int place, int number, Money amount) {
-    Table.Amount = amount;
-    PlaceBet(place, number);
-  }
+  static void Ask(int place, int number, Money amount) { PlaceBet({place, number, amount}); }
   static void Throw(int die1, int die2) { MakeRoll(Faces{die1, die2}); }
 };
 

@@ -308,7 +308,7 @@ TEST_F(RollDriver, CalledOffBetOutlivesTheSevenOut) {
   EXPECT_EQ(Table.BetWorking[1][bet::Place6], CalledOff) << "a call outlives the point";
   EXPECT_EQ(Table.BetWorking[1][bet::Place8], NotWorking);
   EXPECT_EQ(Table.BetWorking[1][bet::Place9], IsWorking);
-  EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Place6].Tendered.Count, Money());
+  EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Place6].Tendered.Count, 0);
   Throw(4, 4);
   EXPECT_EQ(Table.BetWorking[1][bet::Place6], CalledOff);
   EXPECT_EQ(Table.BetWorking[1][bet::Place8], IsWorking);

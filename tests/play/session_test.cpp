@@ -69,10 +69,7 @@ class Session : public ::testing::Test {
   }
 
   static void Roll2(int die1, int die2) { MakeRoll(Faces{die1, die2}); }
-  static void Stake(int place, int number, Money amount) {
-    Table.Amount = amount;
-    ChangeBet(place, number);
-  }
+  static void Stake(int place, int number, Money amount) { ChangeBet({place, number, amount}); }
   // Ann has 5 on the line and 5 on Come 8, and the point is 6.
   static void PlayToPoint() {
     SeatPlayer(3, "Ann", 100);

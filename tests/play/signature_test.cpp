@@ -31,8 +31,8 @@ constexpr Wish Wishes[] = {
 // Brings every bet to its amount as far as the rules allow.
 void MakeBets() {
   for (const Wish& wish : Wishes) {
-    Table.Amount = Money(wish.amount) - Bet(wish.place, wish.number);
-    if (Table.Amount > Money()) PlaceBet(wish.place, wish.number);
+    const Money change = Money(wish.amount) - Bet(wish.place, wish.number);
+    if (change > Money()) PlaceBet({wish.place, wish.number, change});
   }
 }
 

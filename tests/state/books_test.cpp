@@ -11,6 +11,7 @@
 #include "play/players.h"
 #include "play/roll_fixture.h"
 #include "state/books_check.h"
+#include "state/vig.h"
 
 namespace tessarel {
 namespace {
@@ -40,7 +41,7 @@ struct PlayedHand {
 using Hands = std::span<const PlayedHand>;
 
 void Enter(BetMeasures& m, Money amount, int roll) {
-  m.Low = m.Count == Money() ? amount : std::min(m.Low, amount);
+  m.Low = m.Count == 0 ? amount : std::min(m.Low, amount);
   m.High = std::max(m.High, amount);
   m.Count += 1;
   m.Sum += amount;
@@ -50,7 +51,7 @@ void Enter(BetMeasures& m, Money amount, int roll) {
 
 void ExpectSame(const BetMeasures& a, const BetMeasures& b) {
   const auto fields = [](const BetMeasures& m) {
-    return std::array{m.Count, m.Sum, m.High, m.Low, m.LastRoll, m.Last};
+    return std::tuple{m.Count, m.Sum, m.High, m.Low, m.LastRoll, m.Last};
   };
   EXPECT_EQ(fields(a), fields(b));
 }
@@ -147,11 +148,9 @@ class LongGame : public RollTest {
     const int number = Plays[(roll * 7 + place) % 10];
     const Money amount = 10 * (1 + (roll * 3 + place) % 8);
     PutDown(place, number, amount);
-    const bool lay = number < bet::DontCome4;
-    if (!lay && !InFamily(number, BuyFamily)) return;
-    const Money vig = lay ? FigureLayVig(number, amount) : FigureBuyVig(number, amount);
-    At(At(lay ? Table.LayVig : Table.BuyVig, place), (number - 1) % 6) = vig;
-    if (lay ? Settings.LayVigAllBets : Settings.BuyVigAllBets) Table.MoneyOnTable[place] += vig;
+    if (!CarriesVig(number)) return;
+    StoredVig(place, number) = FigureVig(number, amount);
+    Table.MoneyOnTable[place] += VigUpFront(place, number);
   }
 
   void PlayOne() {
@@ -274,7 +273,7 @@ TEST_F(Store, ClearingAPlaceLeavesTheOthers) {
   Throw({{2, 2}, {3, 4}, {1, 1}});
   ClearPlayerStats(1);
   for (int scope = 0; scope < SlotCount; scope += SlotsInScope) {
-    EXPECT_EQ(Stats.Bets[1 + scope][bet::Field].Tendered.Count, Money());
+    EXPECT_EQ(Stats.Bets[1 + scope][bet::Field].Tendered.Count, 0);
     EXPECT_EQ(Stats.RollCount[1 + scope][0], 0);
     EXPECT_EQ(Stats.Hands[1 + scope].RollTotal, 0);
   }
@@ -289,9 +288,9 @@ TEST_F(Store, ClearingAllSessionsKeepsTheSessionAndOneWithoutRollsTheLast) {
   Throw(1, 1);
   ClearAllSessions();
   EXPECT_EQ(Stats.RollCount[AllSessions][0], 0);
-  EXPECT_EQ(Stats.Bets[1 + AllSessions][bet::Field].Won.Count, Money());
+  EXPECT_EQ(Stats.Bets[1 + AllSessions][bet::Field].Won.Count, 0);
   EXPECT_EQ(RollsInSession(), 1);
-  EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Field].Won.Count, Money(1));
+  EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Field].Won.Count, 1);
   for (int time = 1; time <= 2; ++time) {
     StartSessionStatistics();
     EXPECT_EQ(Stats.RollCount[LastSession][0], 1);

@@ -17,7 +17,7 @@ class Comps : public FreshTest {
     Enter(bet::PassLineOdds, 3, 500);  // odds count for nothing
     Stats.Hands[Slot].RollTotal = 60;
   }
-  static void Enter(int number, Money count, Money sum) {
+  static void Enter(int number, int64_t count, Money sum) {
     BetMeasures& wagered = Stats.Bets[Slot][number].Tendered;
     wagered.Count = count;
     wagered.Sum = sum;
@@ -31,7 +31,7 @@ TEST_F(Comps, AreFiguredFromTheBaseOfTheConfiguration) {
     Settings.CompBase = base;
     const CompFigures figures = FigureComps(Slot);
     EXPECT_DOUBLE_EQ(figures.Comps, expected[base]);
-    EXPECT_EQ(figures.Decisions, Money(10));
+    EXPECT_EQ(figures.Decisions, 10);
     EXPECT_EQ(figures.Action, Money(160));
     EXPECT_EQ(figures.AverageAction, Money(8));
     EXPECT_DOUBLE_EQ(figures.TheoreticalLoss, Loss);

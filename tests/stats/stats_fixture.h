@@ -44,10 +44,9 @@ class StatsTest : public FreshTest {
 
   static void Rebet() {
     if (Left-- == 0) Table.HyperDriveOn = false;
-    const SilentBets silent;
-    for (const Wager& wager : Wagers) {
-      Table.Amount = wager.amount - Bet(wager.place, wager.number);
-      if (Table.Amount != Money()) PlaceBet(wager.place, wager.number);
+    for (const auto& [place, number, amount] : Wagers) {
+      const Money change = amount - Bet(place, number);
+      if (change != Money()) PlaceBet({place, number, change}, Telling::Silent);
     }
   }
 

@@ -73,8 +73,7 @@ TEST_F(SummaryTest, StatusBox) {
   EXPECT_TRUE(StatusBox(3).empty());
   EXPECT_EQ(Lines(StatusBox(1)), (Strings{"Bankroll:  =1,000.00", "Rail:  =1,000.00",
                                           "0 Bets:  =0.00", "Even:  =0.00"}));
-  Table.Amount = 25;
-  PlaceBet(1, bet::Field);
+  PlaceBet({1, bet::Field, 25});
   SetBankrollSlots(1, Money::FromRaw(9'500'000));
   EXPECT_EQ(Lines(StatusBox(1)),
             (Strings{"Bankroll:  =950.00", "Rail:  =925.00", "1 Bet:  =25.00", "Lost:  =50.00"}));
@@ -82,7 +81,7 @@ TEST_F(SummaryTest, StatusBox) {
   EXPECT_EQ(Lines(StatusBox(1))[3], "Won:  =1.00");
   EXPECT_EQ(StatusBox(1)[3].Sign, 1);
   SetLanguage(German);
-  PlaceBet(1, bet::Big6);
+  PlaceBet({1, bet::Big6, 25});
   EXPECT_EQ(Lines(StatusBox(1)), (Strings{"Guthaben:  =1,001.00", "Tischrand:  =951.00",
                                           "2 Wetten:  =50.00", "Gewonnen:  =1.00"}));
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "config/configuration.h"
+#include "engine/payouts.h"
 #include "engine/rules_fixture.h"
 #include "engine/settle_prompt.h"
 #include "engine/unattended.h"
@@ -89,12 +90,9 @@ TEST_F(TextsAtTheTable, AShooterWithoutALineBetIsToldSo) {
 
 TEST_F(TextsAtTheTable, TheSettlePromptSpeaksTheLanguageInForce) {
   SetLanguage(Turkish);
-  Table.CurrentBet = bet::Buy4;
   Settings.BuyVigPct = Money::FromDouble(0.05);
   PutDown(Ann, bet::Buy4, 20);
-  Payoffs.Payoff[0].PayNum = 2;
-  Table.GrossWin = Table.NetWin = 39;
-  const SettlePrompt prompt = MakeSettlePrompt(Ann, Outcome::Won, true);
+  const SettlePrompt prompt = MakeSettlePrompt({Ann, bet::Buy4, Win, 20, {39, 39}}, true);
   std::vector<std::string> rows;
   for (const auto& [caption, figure] : prompt.rows)
     rows.push_back(caption + "|" + figure);

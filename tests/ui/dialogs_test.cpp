@@ -16,6 +16,7 @@
 #include "base/temporary_folder.h"
 #include "dice/roll_file.h"
 #include "engine/bets.h"
+#include "engine/payouts.h"
 #include "play/roll_pace.h"
 #include "state/settings.h"
 #include "state/table.h"
@@ -329,11 +330,10 @@ TEST_F(DialogTest, PaletteIsLegible) {
 
 SettlePrompt SomePrompt(Outcome outcome) {
   Table.PlayerName[1] = "Fred";
-  Table.CurrentBet = bet::Place6;
   SetBetAmount(1, bet::Place6, 12);
-  Table.NetWin = Table.GrossWin = outcome == Outcome::Lost ? Money(-12) : Money(14);
-  Table.ChipUnit = 6;
-  return MakeSettlePrompt(1, outcome, outcome == Outcome::Won);
+  const Money result = outcome == Outcome::Lost ? Money(-12) : Money(14);
+  const bool won = outcome == Outcome::Won;
+  return MakeSettlePrompt({1, bet::Place6, won ? Win : Lose, 12, {result, result}, outcome}, won);
 }
 
 TEST_F(DialogTest, SettlePromptAnswersWithItsButtons) {

@@ -81,8 +81,7 @@ TEST_F(WindowTest, BetsAreMadeByKeysAlone) {
 TEST_F(WindowTest, ModesLastForOneClickAndTheRightButtonCancels) {
   Seat(4, "Ann", 1000);
   Table.Point = 6;
-  Table.Amount = 10;
-  PlaceBet(4, bet::Place4);
+  PlaceBet({4, bet::Place4, 10});
   Click(View().PixelOfSpot(PropositionSwitch));  // away from any bet
   Press(Qt::Key_F7);
   EXPECT_EQ(TablePlay.TableAction, ActionCallOff);
@@ -107,8 +106,7 @@ TEST_F(WindowTest, ModesLastForOneClickAndTheRightButtonCancels) {
 
 TEST_F(WindowTest, APileIsDraggedToAnotherBetAndOffTheLayout) {
   Seat(4, "Ann", 1000);
-  Table.Amount = 15;
-  PlaceBet(4, bet::Field);
+  PlaceBet({4, bet::Field, 15});
   const auto drag = [&](QPoint from, QPoint to) {
     QTest::mousePress(&View(), Qt::LeftButton, {}, from);
     QTest::mouseMove(&View(), (from + to) / 2);
@@ -297,8 +295,7 @@ TEST_F(WindowTest, WhatAClickWillDoIsSaidBefore) {
   EXPECT_EQ(come.text, "You may not make a Come bet until a point is established.");
   EXPECT_EQ(Bet(4, bet::PassLine), 0) << "looking changes nothing";
   Settings.Notices = 0;
-  Table.Amount = 20;
-  PlaceBet(4, bet::Buy4);
+  PlaceBet({4, bet::Buy4, 20});
   Settings.InfoTipLevel = 4;
   EXPECT_EQ(InfoTipOf(bet::Buy4), "Buy 4: 20\rvig: 1\rNot working\rPays 2 to 1");
   Settings.InfoTipLevel = 3;

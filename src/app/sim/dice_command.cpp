@@ -66,7 +66,7 @@ void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
     throw Failure(CannotBeDone, Say(Text::SimSeedLimits, Wording(Text::SeedOutOfLimits), number,
                                     SeedLimit(number)));
   }
-  Dice.SeedRequest = seed ? Money::FromWhole(*seed) : Money();
+  Dice.SeedRequest = seed.value_or(0);
   try {
     SeedRNG(-1);
   } catch (const Fault& fault) {

@@ -9,6 +9,7 @@
 #include "dice/generators.h"
 #include "state/books.h"
 #include "state/table.h"
+#include "state/vig.h"
 #include "texts/say.h"
 
 namespace tessarel::sim {
@@ -38,13 +39,6 @@ Json TableJson() {
           {"RideTheLinePasses", Table.RideTheLinePasses}};
 }
 
-Money VigOf(int place, int number) {
-  const auto index = static_cast<size_t>((number - 1) % FamilySize);
-  if (InFamily(number, LayFamily)) return Table.LayVig[place][index];
-  if (InFamily(number, BuyFamily)) return Table.BuyVig[place][index];
-  return Money();
-}
-
 Json BetsJson(int place) {
   Json bets = Json::array();
   Table.Standing[place].ForEach([&](int number) {
@@ -71,16 +65,16 @@ Json StacksJson(int place) {
 }
 
 Json MeasuresJson(const BetMeasures& measures) {
-  return {{"count", Number(measures.Count)},        {"sum", Number(measures.Sum)},
-          {"high", Number(measures.High)},          {"low", Number(measures.Low)},
-          {"last_roll", Number(measures.LastRoll)}, {"last", Number(measures.Last)}};
+  return {{"count", measures.Count},        {"sum", Number(measures.Sum)},
+          {"high", Number(measures.High)},  {"low", Number(measures.Low)},
+          {"last_roll", measures.LastRoll}, {"last", Number(measures.Last)}};
 }
 
 Json ResultsJson(int place) {
   Json results = Json::array();
   for (int number = 1; number <= LastBet; ++number) {
     const BetRecord& record = Stats.Bets[place + CurrentSession][number];
-    if (record.Tendered.Count == Money()) continue;
+    if (record.Tendered.Count == 0) continue;
     results.push_back({{"bet", number},
                        {"name", BetName[number]},
                        {"tendered", MeasuresJson(record.Tendered)},
@@ -137,13 +131,12 @@ std::string BetRows(int place) {
   std::string rows;
   for (int number = 1; number <= LastBet; ++number) {
     const BetRecord& record = Stats.Bets[place + CurrentSession][number];
-    if (record.Tendered.Count == Money()) continue;
+    if (record.Tendered.Count == 0) continue;
     const Money net = record.Won.Sum - record.Lost.Sum;
     const double percent = 100 * net.ToDouble() / record.Tendered.Sum.ToDouble();
     rows += "  " + Left(std::string(BetName[number]), 18) +
-            Right(Count(record.Tendered.Count.Floor()), 12) +
-            Right(Count(record.Won.Count.Floor()), 12) +
-            Right(Count(record.Lost.Count.Floor()), 12) + Right(Cents(record.Tendered.Sum), 20) +
+            Right(Count(record.Tendered.Count), 12) + Right(Count(record.Won.Count), 12) +
+            Right(Count(record.Lost.Count), 12) + Right(Cents(record.Tendered.Sum), 20) +
             Right(Signed(net), 18) + Right(FormatNumber(percent, "0.000;-0.000;0.000") + "%", 11) +
             "\n";
   }

@@ -110,12 +110,10 @@ std::vector<BetArgument> BetsByPlace(const std::vector<BetArgument>& asked) {
 
 // Brings each fixed wager to its amount if the rules allow it now.
 void PlaceFixedBets() {
-  const SilentBets silent;
   for (const BetArgument& bet : Session.bets) {
     const Money standing = Bet(bet.place, bet.number);
     if (standing == bet.amount) continue;
-    Table.Amount = bet.amount - standing;
-    PlaceBet(bet.place, bet.number);
+    PlaceBet({bet.place, bet.number, bet.amount - standing}, Telling::Silent);
   }
 }
 

@@ -10,6 +10,7 @@
 #include "base/fault.h"
 #include "base/file_io.h"
 #include "base/folders.h"
+#include "base/single_byte_text.h"
 #include "dice/roll_file.h"
 #include "files/sessions_log.h"
 #include "log/events_log.h"

@@ -36,9 +36,9 @@ QPoint PairOf(int number) {
     const int face = number - bet::Hard4 + 2;
     return {face, face};
   }
-  if (number >= bet::Hop13 && number <= bet::Hop55) {
-    const std::string_view faces = BetName[number].substr(4);
-    return {faces[0] - '0', faces[1] - '0'};
+  if (IsHop(number)) {
+    const HopPair faces = FacesOfHop(number);
+    return {faces.low, faces.high};
   }
   return {};
 }

@@ -236,7 +236,7 @@ void RollConsole::RefreshFigures() {
   hsbThrottle_->setValue(Settings.Throttle);
   throttleValue_->setText(QString::number(hsbThrottle_->value()));
   lblRollCounter_->setText(Shown(Say(Text::RollCount, CountText(int64_t{RollsInSession()}))));
-  const int64_t stop = Settings.AutoStopRolls.Floor();
+  const int64_t stop = Settings.AutoStopRolls;
   const std::string every = stop > 0 ? CountText(stop) : Say(Text::NoAutoStop);
   mnuSetAutoStop_->setText(Shown(Say(Text::SetAutoStopEvery, every)));
   mnuSetAutoRollTimeDelay_->setText(

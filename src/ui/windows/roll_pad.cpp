@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 
+#include "state/table.h"
 #include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"
@@ -140,7 +141,7 @@ QString RollPad::HintFor(const RollPadCell& cell) const {
 }
 
 QString RollPad::HintText() const {
-  if (RollPadStopsRun()) return Shown(Text::StopHint);
+  if (RunIsOn()) return Shown(Text::StopHint);
   const int index = hovered_ >= 0 ? hovered_ : hasFocus() ? marked_ : -1;
   return index < 0 ? Shown(Text::ChooseHint) : HintFor(grid_.Cells[static_cast<size_t>(index)]);
 }
@@ -162,7 +163,7 @@ void RollPad::TellHint() {
 
 // The signal is the last thing done: the roll may take long, and the window may be gone after it.
 void RollPad::Choose(int index) {
-  if (RollPadStopsRun()) {
+  if (RunIsOn()) {
     Q_EMIT StopChosen();
     return;
   }
@@ -317,7 +318,7 @@ void RollPad::PaintCell(QPainter& painter, int index) const {
   const QColor color = ButtonColor(KindOf(cell));
   const bool hovered = index == hovered_, chosen = IsChosen(cell);
   painter.save();
-  if (RollPadStopsRun()) painter.setOpacity(0.45);
+  if (RunIsOn()) painter.setOpacity(0.45);
   QLinearGradient body(box.topLeft(), box.bottomLeft());
   body.setColorAt(0, hovered ? color.lighter(116) : color.lighter(106));
   body.setColorAt(1, hovered ? color.lighter(104) : color.darker(108));
