@@ -6,7 +6,7 @@
 
 #include "base/message.h"
 #include "base/single_byte_text.h"
-#include "texts/file_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -100,8 +100,7 @@ FindDirection DirectionInForce() {
 }
 
 void SayNotFound() {
-  ShowMessage(LocalizedText(FileTexts.TextNotFound), LocalizedText(FileTexts.SearchResults),
-              msg::OkAlert);
+  ShowMessage(Say(Text::TextNotFound), Say(Text::SearchResults), msg::OkAlert);
 }
 
 bool IsOccurrence(const ScriptLines& lines, const Needle& needle, TextSpan span) {

@@ -20,7 +20,7 @@
 #include "base/message.h"
 #include "base/trap.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -524,8 +524,8 @@ std::optional<ScriptError> AddScript(int slot,
 }
 
 void TellOfFaultyScript(int place) {
-  ShowMessage(FillIn(FileTexts.FaultyScript, {Table.PlayerName[place]}),
-              LocalizedText(FileTexts.FaultyScriptTitle), msg::OkAlert, help::BettingSystems);
+  ShowMessage(Say(Text::FaultyScript, Table.PlayerName[place]), Say(Text::FaultyScriptTitle),
+              msg::OkAlert, help::BettingSystems);
 }
 
 }  // namespace

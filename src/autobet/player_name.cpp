@@ -3,7 +3,7 @@
 #include "autobet/number_text.h"
 #include "autobet/vocabulary.h"
 #include "base/single_byte_text.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -21,10 +21,9 @@ std::optional<std::string> ReservedWordIn(std::string_view name) {
 }
 
 std::optional<std::string> PlayerNameRefusal(std::string_view name) {
-  constexpr int AllNumeric = 7, HoldsReservedWord = 8;
-  if (ReadNumber(TrimSpaces(name))) return std::string(GetText(AllNumeric)) + "\r\r";
+  if (ReadNumber(TrimSpaces(name))) return Say(Text::NameAllNumeric) + "\r\r";
   if (!ReservedWordIn(name)) return {};
-  return "\"" + std::string(name) + "\"" + std::string(GetText(HoldsReservedWord)) + "\r\r";
+  return Say(Text::NameHoldsReservedWord, name) + "\r\r";
 }
 
 }  // namespace tessarel

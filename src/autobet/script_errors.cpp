@@ -5,7 +5,7 @@
 
 #include "autobet/token_names.h"
 #include "autobet/values.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -106,8 +106,7 @@ std::string TextFunctionError(int32_t function) {
 
 std::string ScriptErrorText(int32_t error) {
   constexpr int32_t UnableToOpenFile = 1005, MachineryFault = 10000;
-  constexpr int UnableToOpenFileText = 55;
-  if (error == UnableToOpenFile) return std::string(GetText(UnableToOpenFileText));
+  if (error == UnableToOpenFile) return Say(Text::UnableToOpenFile);
   if (error == MachineryFault) return AutoBet.FaultText;
   if (error >= 801 && error <= 812) return TextFunctionError(error);
   const auto* const row = std::ranges::lower_bound(ErrorRows, error, {}, &ErrorRow::Code);

@@ -12,8 +12,7 @@
 #include "base/message.h"
 #include "base/trap.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -94,30 +93,29 @@ void RunFirstCycle() {
 }
 
 // Not during a roll: its cycles are those of the program it began with.
-bool WantsFirstCycle(const SixTexts& question, std::string_view name = "") {
+bool WantsFirstCycle(std::string question) {
   if (Table.RollInProgress) return false;
-  constexpr int AutoBetTitle = 156;
-  return ShowMessage(FillIn(question, {name}), std::string(GetText(AutoBetTitle)), msg::AskYesNo,
+  return ShowMessage(std::move(question), Say(Text::AutoBet), msg::AskYesNo,
                      help::BettingSystems) == AnswerYes;
 }
 
 void ActivateAll() {
   ForEachPlayer([](int place) { SetScriptActive(place, true); });
-  if (WantsFirstCycle(FileTexts.AllScriptsActivated)) RunFirstCycle();
+  if (WantsFirstCycle(Say(Text::AllScriptsActivated))) RunFirstCycle();
 }
 
 void ActivateOne(int place) {
   SetScriptActive(place, true);
-  if (!WantsFirstCycle(FileTexts.ScriptActivated, Table.PlayerName[place])) return;
+  if (!WantsFirstCycle(Say(Text::ScriptActivated, Table.PlayerName[place]))) return;
   const OnlyScript alone(place);
   RunFirstCycle();
 }
 
 void RunHotKey(const std::string& path) {
-  if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, "File not found");
+  if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, FaultWording.FileNotFound);
   if (!CompileHotKeyScript()) {
-    ShowMessage(LocalizedText(FileTexts.HotKeyScriptError),
-                LocalizedText(FileTexts.ScriptErrorTitle), msg::OkAlert, help::BettingSystems);
+    ShowMessage(Say(Text::HotKeyScriptError), Say(Text::ScriptErrorTitle), msg::OkAlert,
+                help::BettingSystems);
     return;
   }
   Scripts.ProgramReady = true;

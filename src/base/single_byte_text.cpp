@@ -59,13 +59,23 @@ void PutCharacter(std::string& out, char32_t code) {
   }
 }
 
+// The Turkish letters that the code page lacks, and the plain ones that stand for them.
+// clang-format off
+constexpr struct { char32_t letter; char plain; } PlainLetters[] = {
+    {0x11E, 'G'}, {0x11F, 'g'}, {0x130, 'I'}, {0x131, 'i'}, {0x15E, 'S'}, {0x15F, 's'},
+};
+// clang-format on
+
 char ByteOf(char32_t code) {
   if (code < FirstMoved || (code >= FirstMoved + Moved.size() && code < 0x100)) {
     return static_cast<char>(code);
   }
   const auto found = std::find(Moved.begin(), Moved.end(), code);
-  if (found == Moved.end()) return '?';
-  return static_cast<char>(FirstMoved + (found - Moved.begin()));
+  if (found != Moved.end()) return static_cast<char>(FirstMoved + (found - Moved.begin()));
+  for (const auto& [letter, plain] : PlainLetters) {
+    if (letter == code) return plain;
+  }
+  return '?';
 }
 
 char32_t LowerCharacter(char32_t code) {
@@ -85,11 +95,20 @@ std::string_view Trimmed(std::string_view text, std::string_view padding) {
 
 }  // namespace
 
+void AppendSingleByte(std::string& bytes, std::string_view utf8) {
+  const auto isPlain = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::ranges::all_of(utf8, isPlain)) {
+    bytes += utf8;
+    return;
+  }
+  while (!utf8.empty())
+    bytes += ByteOf(TakeCharacter(utf8));
+}
+
 std::string ToSingleByte(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
-  while (!utf8.empty())
-    bytes += ByteOf(TakeCharacter(utf8));
+  AppendSingleByte(bytes, utf8);
   return bytes;
 }
 

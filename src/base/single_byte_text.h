@@ -9,8 +9,10 @@
 
 namespace tessarel {
 
-// One byte a character; a character without a code, and each byte that is not UTF-8, becomes '?'.
+// One byte a character. The Turkish letters that the code page lacks become the plain ones; any other
+// character without a code, and each byte that is not UTF-8, becomes '?'.
 std::string ToSingleByte(std::string_view utf8);
+void AppendSingleByte(std::string& bytes, std::string_view utf8);
 
 // The five bytes that the code page leaves undefined become the control characters of the same
 // number, so that every byte comes back from ToSingleByte as it was.

@@ -11,7 +11,7 @@
 #include "engine/bets.h"
 #include "state/payoffs.h"
 #include "state/scripts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -33,40 +33,38 @@ ConfigurationRefusal Refuse(ConfigTab tab,
 using Refusal = std::optional<ConfigurationRefusal>;
 
 Refusal TestDenominations() {
-  const auto refuse = [](const SixTexts& text, int index) {
-    return Refuse(ConfigTab::ChecksDice, LocalizedText(text), "Denomination", index);
+  const auto refuse = [](CheckedText<0> text, int index) {
+    return Refuse(ConfigTab::ChecksDice, Say(text), "Denomination", index);
   };
   for (int index = 1; index <= 5; ++index) {
     const Money value = Settings.Denomination[index];
-    if (value <= Money()) return refuse(ConfigurationTexts.ChecksNotPositive, index);
+    if (value <= Money()) return refuse(Text::ChecksNotPositive, index);
     if (index == 1) continue;
     if (value < Settings.Denomination[index - 1]) {
-      return refuse(ConfigurationTexts.ChecksNotAscending, index);
+      return refuse(Text::ChecksNotAscending, index);
     }
-    if (!IsMultiple(value, SmallestCheck()))
-      return refuse(ConfigurationTexts.ChecksNotDivisible, index);
+    if (!IsMultiple(value, SmallestCheck())) return refuse(Text::ChecksNotDivisible, index);
   }
   return std::nullopt;
 }
 
 Refusal TestMinimum(Money minimum,
                     std::string_view setting,
-                    const SixTexts& belowCheck,
-                    const SixTexts& notMultiple) {
+                    CheckedText<1> belowCheck,
+                    CheckedText<3> notMultiple) {
   const Money check = SmallestCheck();
   if (minimum < check) {
-    return Refuse(ConfigTab::Bets, FillIn(belowCheck, {WithCents(check)}), setting);
+    return Refuse(ConfigTab::Bets, Say(belowCheck, WithCents(check)), setting);
   }
   if (IsMultiple(minimum, check)) return std::nullopt;
   return Refuse(ConfigTab::Bets,
-                FillIn(notMultiple, {WithCents(check), WithCents(check * 2), WithCents(check * 3)}),
+                Say(notMultiple, WithCents(check), WithCents(check * 2), WithCents(check * 3)),
                 setting);
 }
 
 Refusal TestMaximum() {
   if (Settings.MaxPlacardBet >= Settings.MinPlacardBet) return std::nullopt;
-  return Refuse(ConfigTab::Bets, LocalizedText(ConfigurationTexts.MaximumBelowMinimum),
-                "MaxPlacardBet");
+  return Refuse(ConfigTab::Bets, Say(Text::MaximumBelowMinimum), "MaxPlacardBet");
 }
 
 Refusal TakeRollRate(const RollRateEntry* entry) {
@@ -90,15 +88,14 @@ Refusal TestLargestBets() {
     const Money limit = FigureMaxBet(0, number);
     if (limit >= Settings.MinPlacardPropBet) continue;
     const std::string amount = limit.IsWhole() ? PlainText(limit) : WithCents(limit);
-    return Refuse(ConfigTab::Bets,
-                  FillIn(ConfigurationTexts.LargestBetTooSmall, {BetName[number], amount}),
+    return Refuse(ConfigTab::Bets, Say(Text::LargestBetTooSmall, BetName[number], amount),
                   "MinPlacardPropBet");
   }
   return std::nullopt;
 }
 
-bool Ask(std::string text, const SixTexts& title) {
-  return ShowMessage(std::move(text), LocalizedText(title), msg::AskYesNo) == AnswerYes;
+bool Ask(std::string text, CheckedText<0> title) {
+  return ShowMessage(std::move(text), Say(title), msg::AskYesNo) == AnswerYes;
 }
 
 void CopyHouseWorking(int place) {
@@ -112,29 +109,27 @@ void OfferHouseWorking(const PerBet<int32_t>& before) {
   const bool same =
       std::equal(house.begin() + 1, house.begin() + 1 + LastWorkingBet, before.begin() + 1);
   if (same || Table.PlayerCount == 0) return;
-  const bool wanted =
-      Ask(LocalizedText(ConfigurationTexts.HouseWorkingChanged), ConfigurationTexts.WorkOnComeOut);
+  const bool wanted = Ask(Say(Text::HouseWorkingChanged), Text::WorkOnComeOut);
   if (!wanted) return;
   ForEachPlayer([](int place) {
-    if (Ask(FillIn(ConfigurationTexts.AskPlayerWorking, {Table.PlayerName[place]}),
-            ConfigurationTexts.WorkOnComeOut))
+    if (Ask(Say(Text::AskPlayerWorking, Table.PlayerName[place]), Text::WorkOnComeOut))
       CopyHouseWorking(place);
   });
 }
 
 struct LayoutRow {
   bool SettingsState::*Flag;
-  SixTexts Names;  // in the question
+  std::string_view Names;  // in the question; empty: those of the special proposition bets
   std::array<int, 8> Bets;
 };
 
 // clang-format off
 constexpr std::array<LayoutRow, 4> LayoutRows = {{  // by LayoutOption
-    {&SettingsState::UseBig68, {"Big 6/8"}, {bet::Big6, bet::Big8}},
-    {&SettingsState::UseMidwayBet, {"Midway"}, {bet::Midway}},
-    {&SettingsState::UseFireBet, {"Fire"}, {bet::Fire}},
+    {&SettingsState::UseBig68, "Big 6/8", {bet::Big6, bet::Big8}},
+    {&SettingsState::UseMidwayBet, "Midway", {bet::Midway}},
+    {&SettingsState::UseFireBet, "Fire", {bet::Fire}},
     {&SettingsState::UseSpecialPropBets,
-     ConfigurationTexts.SpecialPropNames,
+     "",
      {bet::AllSmall, bet::AllTall, bet::MakeAll, bet::FourRollsNo7, bet::Point7, bet::SevenPoint7,
       bet::SharpShooter, bet::RideTheLine}},
 }};
@@ -142,12 +137,11 @@ constexpr std::array<LayoutRow, 4> LayoutRows = {{  // by LayoutOption
 
 bool MayRemove(LayoutOption option, const LayoutRow& row) {
   if (option == LayoutOption::SpecialProps && Table.Point != 0 && AnyHolds(bet::SevenPoint7)) {
-    ShowMessage(LocalizedText(ConfigurationTexts.SpecialPropsBound),
-                LocalizedText(ConfigurationTexts.RemoveBets), msg::OkAlert);
+    ShowMessage(Say(Text::SpecialPropsBound), Say(Text::RemoveBets), msg::OkAlert);
     return false;
   }
-  return Ask(FillIn(ConfigurationTexts.WagersWillBeRemoved, {Localized(row.Names)}),
-             ConfigurationTexts.RemoveBets);
+  const std::string_view names = row.Names.empty() ? Wording(Text::SpecialPropNames) : row.Names;
+  return Ask(Say(Text::WagersWillBeRemoved, names), Text::RemoveBets);
 }
 
 // Writes a vig setting unless it would take a player's bankroll below zero.
@@ -162,21 +156,18 @@ bool ChangeVigSetting(Value SettingsState::*setting, Value value) {
   if (payable) return true;
   Settings.*setting = before;
   ForEachPlayer([](int place) { ChargeChangedVig(place); });
-  ShowMessage(LocalizedText(ConfigurationTexts.VigNotPayable),
-              LocalizedText(ConfigurationTexts.Vigorish), msg::OkAlert);
+  ShowMessage(Say(Text::VigNotPayable), Say(Text::Vigorish), msg::OkAlert);
   return false;
 }
 
-bool RefuseNonNegative(int place, const SixTexts& why) {
-  ShowMessage(FillIn(why, {Table.PlayerName[place]}),
-              LocalizedText(ConfigurationTexts.AllowNegativeBankroll), msg::OkAlert);
+bool RefuseNonNegative(int place, CheckedText<1> why) {
+  ShowMessage(Say(why, Table.PlayerName[place]), Say(Text::AllowNegativeBankroll), msg::OkAlert);
   return false;
 }
 
 bool AnyPlayer() {
   if (Table.PlayerCount > 0) return true;
-  ShowMessage(LocalizedText(ConfigurationTexts.PlayersNeeded),
-              LocalizedText(ConfigurationTexts.MissingPlayers), msg::OkAlert);
+  ShowMessage(Say(Text::PlayersNeeded), Say(Text::MissingPlayers), msg::OkAlert);
   return false;
 }
 
@@ -198,8 +189,7 @@ void RequireBet(int number, int last) {
 }
 
 std::string YesNoRow(bool yes, int number) {
-  constexpr int YesText = 33, NoText = 34;
-  return std::string(GetText(yes ? YesText : NoText)) + " - " + std::string(BetName[number]);
+  return SayChosen(yes ? Text::Yes : Text::No) + " - " + std::string(BetName[number]);
 }
 
 }  // namespace
@@ -207,13 +197,11 @@ std::string YesNoRow(bool yes, int number) {
 std::optional<ConfigurationRefusal> ValidateConfiguration(const ValidationOptions& options) {
   Refusal refusal = TestDenominations();
   if (!refusal)
-    refusal =
-        TestMinimum(Settings.MinPlacardBet, "MinPlacardBet", ConfigurationTexts.MinimumBelowCheck,
-                    ConfigurationTexts.MinimumNotMultiple);
+    refusal = TestMinimum(Settings.MinPlacardBet, "MinPlacardBet", Text::MinimumBelowCheck,
+                          Text::MinimumNotMultiple);
   if (!refusal) {
     refusal = TestMinimum(Settings.MinPlacardPropBet, "MinPlacardPropBet",
-                          ConfigurationTexts.PropMinimumBelowCheck,
-                          ConfigurationTexts.PropMinimumNotMultiple);
+                          Text::PropMinimumBelowCheck, Text::PropMinimumNotMultiple);
   }
   if (!refusal) refusal = TestMaximum();
   if (!refusal) refusal = TakeRollRate(options.RollRate);
@@ -272,9 +260,9 @@ bool ChangeVig(bool SettingsState::*setting, bool value) {
 
 bool SetAllowNegBankroll(int place, bool allow) {
   if (!allow && BankrollOf(place) < Money())
-    return RefuseNonNegative(place, ConfigurationTexts.BankrollIsNegative);
+    return RefuseNonNegative(place, Text::BankrollIsNegative);
   if (!allow && Table.MoneyOnTable[place] > BankrollOf(place)) {
-    return RefuseNonNegative(place, ConfigurationTexts.BetsExceedBankroll);
+    return RefuseNonNegative(place, Text::BetsExceedBankroll);
   }
   Table.AllowNegBankroll[place] = allow;
   return true;
@@ -307,9 +295,9 @@ std::optional<std::string> SetSimRollRate(const RollRateEntry& entry) {
   std::string digits = entry.Text;
   std::erase(digits, ',');
   const Money value = ParseMoney(digits).value_or(Money());
-  if (value <= Money()) return LocalizedText(ConfigurationTexts.RollRateNotPositive);
+  if (value <= Money()) return Say(Text::RollRateNotPositive);
   if (value > Money(unit.Maximum)) {
-    return FillIn(ConfigurationTexts.RollRateTooHigh, {Localized(unit.Caption), unit.Is});
+    return Say(Text::RollRateTooHigh, Wording(unit.Caption), unit.Is);
   }
   const Money inAnHour = unit.InAnHour;
   Settings.SimRollRate =
@@ -345,9 +333,7 @@ std::string CompBetRowText(int number) {
 }
 
 bool RestoreDefaultDenoms() {
-  if (!Ask(LocalizedText(ConfigurationTexts.AskDefaultChecks),
-           ConfigurationTexts.RestoreDefaultChecks))
-    return false;
+  if (!Ask(Say(Text::AskDefaultChecks), Text::RestoreDefaultChecks)) return false;
   Settings.Denomination = SettingsState().Denomination;
   return true;
 }

@@ -15,7 +15,7 @@
 #include "config/payoff_editor.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/configuration_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -87,7 +87,7 @@ bool SetBankrollInitAmount(int place, Money amount);
 
 // The ways in which the sim roll rate is shown and entered.
 struct RollRateUnit {
-  SixTexts Caption;
+  Text Caption;
   int InAnHour;         // how many of the unit make an hour
   bool PerRoll;         // a time for each roll instead of rolls in a time
   int Maximum;          // in the unit
@@ -95,12 +95,12 @@ struct RollRateUnit {
 };
 // clang-format off
 inline constexpr std::array<RollRateUnit, 6> RollRateUnits = {{
-    {ConfigurationTexts.RollsPerHour,      1, false, 36'000'000, "36,000,000."},
-    {ConfigurationTexts.RollsPerMinute,   60, false,    600'000, "600,000."},
-    {ConfigurationTexts.RollsPerSecond, 3600, false,     10'000, "10,000."},
-    {ConfigurationTexts.HoursPerRoll,      1, true,      10'000, "10,000."},
-    {ConfigurationTexts.MinutesPerRoll,   60, true,     600'000, "600,000."},
-    {ConfigurationTexts.SecondsPerRoll, 3600, true,  36'000'000, "36,000,000."},
+    {Text::RollsPerHour,      1, false, 36'000'000, "36,000,000."},
+    {Text::RollsPerMinute,   60, false,    600'000, "600,000."},
+    {Text::RollsPerSecond, 3600, false,     10'000, "10,000."},
+    {Text::HoursPerRoll,      1, true,      10'000, "10,000."},
+    {Text::MinutesPerRoll,   60, true,     600'000, "600,000."},
+    {Text::SecondsPerRoll, 3600, true,  36'000'000, "36,000,000."},
 }};
 // clang-format on
 
@@ -131,14 +131,14 @@ bool RestoreDefaultDenoms();
 
 struct NoticeRow {
   Notice Bit;
-  SixTexts Caption;
+  Text Caption;
 };
 inline constexpr std::array<NoticeRow, 5> NoticeRows = {{
-    {NoticeActionsNotAllowed, ConfigurationTexts.ActionsNotAllowed},
-    {NoticeLimits, ConfigurationTexts.LimitsReached},
-    {NoticeCharges, ConfigurationTexts.ChargesAndChange},
-    {NoticeAutoBet, ConfigurationTexts.AutoBetMessages},
-    {NoticeAutoBetHyper, ConfigurationTexts.AutoBetMessagesHyper},
+    {NoticeActionsNotAllowed, Text::ActionsNotAllowed},
+    {NoticeLimits, Text::LimitsReached},
+    {NoticeCharges, Text::ChargesAndChange},
+    {NoticeAutoBet, Text::AutoBetMessages},
+    {NoticeAutoBetHyper, Text::AutoBetMessagesHyper},
 }};
 
 void SetNotice(Notice notice, bool show);

@@ -10,7 +10,7 @@
 #include "engine/bet_limits.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/configuration_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -121,12 +121,12 @@ constexpr PairSet ThreeAndEleven = PairBit(1, 2) | PairBit(5, 6);
 // What a sub-row's caption leaves out on the command line.
 struct CountWord {
   std::string_view Word;
-  SixTexts Row;  // the caption that is shown for it
+  CheckedText<1> Row;  // the caption that is shown for it
 };
-constexpr CountWord CountWords[] = {{" points", ConfigurationTexts.PointsRow},
-                                    {" point", ConfigurationTexts.PointRow},
-                                    {" passes", ConfigurationTexts.PassesRow},
-                                    {" pass", ConfigurationTexts.PassRow}};
+constexpr CountWord CountWords[] = {{" points", Text::PointsRow},
+                                    {" point", Text::PointRow},
+                                    {" passes", Text::PassesRow},
+                                    {" pass", Text::PassRow}};
 
 void RequireRow(PayoffCell cell) {
   const int last = cell.Grid == PayoffGrid::Bets ? PayoffEditorRowCount : FieldRowCount;
@@ -146,7 +146,7 @@ std::string ShownOwnCaption(std::string_view caption) {
     if (!caption.ends_with(count.Word)) continue;
     caption.remove_suffix(count.Word.size());
     caption.remove_prefix(caption.find_first_not_of(' '));
-    return FillIn(count.Row, {caption});
+    return "      " + Say(count.Row, caption);
   }
   return std::string(caption);
 }
@@ -229,10 +229,8 @@ std::optional<PayoffRefusal> TestPositive(int firstRow, int lastRow, std::string
   for (int row = firstRow; row <= lastRow; ++row) {
     const PayoffCell cell{PayoffGrid::Bets, row};
     if (PayoffOf(cell).PayNum > Money()) continue;
-    if (bet.empty())
-      return PayoffRefusal{FillIn(ConfigurationTexts.PayoffNotPositive, {PayoffCaption(cell)}),
-                           cell};
-    return PayoffRefusal{FillIn(ConfigurationTexts.PayoffsNotPositive, {bet}), cell};
+    if (bet.empty()) return PayoffRefusal{Say(Text::PayoffNotPositive, PayoffCaption(cell)), cell};
+    return PayoffRefusal{Say(Text::PayoffsNotPositive, bet), cell};
   }
   return std::nullopt;
 }
@@ -244,18 +242,18 @@ std::optional<PayoffRefusal> TestTable(PayoffCell first, int count, std::string_
     const PayoffCell cell{first.Grid, first.Row + k};
     const PayoffRow& row = PayoffOf(cell);
     if (row.PayNum < -row.PayDen) {
-      return PayoffRefusal{FillIn(ConfigurationTexts.LossExceedsWager, {bet}), cell};
+      return PayoffRefusal{Say(Text::LossExceedsWager, bet), cell};
     }
     wins = wins || row.PayNum > Money();
   }
   if (wins) return std::nullopt;
-  return PayoffRefusal{FillIn(ConfigurationTexts.NoPositivePayoff, {bet}), first};
+  return PayoffRefusal{Say(Text::NoPositivePayoff, bet), first};
 }
 
 std::optional<PayoffRefusal> TestMaxFireBet() {
   if (!Settings.UseFireBet || Settings.MaxFireBet >= Settings.MinPlacardPropBet)
     return std::nullopt;
-  return PayoffRefusal{LocalizedText(ConfigurationTexts.MaxFireBelowMinimum), std::nullopt};
+  return PayoffRefusal{Say(Text::MaxFireBelowMinimum), std::nullopt};
 }
 
 std::optional<PayoffCell> CellByName(std::string_view name) {
@@ -274,15 +272,15 @@ std::optional<PayoffCell> CellByName(std::string_view name) {
 // Why no row has this name. A bet's own name may lead to the row that holds its payoff.
 std::string NoSuchRow(std::string_view name) {
   const int number = BetByName(name);
-  if (number == 0) return "There is no payoff row named " + std::string(name) + ".";
+  if (number == 0) return Say(Text::NoPayoffRowNamed, name);
   const std::string bet(BetName[number]);
   for (int row = 1; row <= PayoffEditorRowCount; ++row) {
     const PayoffEditorRow& shown = At(EditorRows, row);
     if (shown.Heading || shown.SubIndex >= 0) continue;
     if (shown.Bet == number || Twin(shown.Bet) == number)
-      return "The payoff row of " + bet + " is named " + BetCaption(row) + ".";
+      return Say(Text::PayoffRowIsNamed, bet, BetCaption(row));
   }
-  return "The payoff row " + bet + " cannot be edited.";
+  return Say(Text::PayoffRowNotEditable, bet);
 }
 
 }  // namespace
@@ -400,8 +398,7 @@ void SetFieldPayoffs(const FieldPreset& preset) {
 
 bool RestoreDefaultPayoffs() {
   const int32_t answer =
-      ShowMessage(LocalizedText(ConfigurationTexts.AskDefaultPayoffs),
-                  LocalizedText(ConfigurationTexts.RestoreDefaultPayoffs), msg::AskYesNo);
+      ShowMessage(Say(Text::AskDefaultPayoffs), Say(Text::RestoreDefaultPayoffs), msg::AskYesNo);
   if (answer != AnswerYes) return false;
   DefaultPayoffs();
   SetOddsPayoffRows();
@@ -440,8 +437,7 @@ void FigureFieldBase() {
 
 std::optional<std::string> SetPayoffByName(std::string_view assignment) {
   const size_t equals = assignment.rfind('=');
-  if (equals == std::string_view::npos)
-    return "A payoff is set as ROW=NUM:DEN, not as \"" + std::string(assignment) + "\".";
+  if (equals == std::string_view::npos) return Say(Text::PayoffIsSetAs, assignment);
   const std::string_view name = assignment.substr(0, equals);
   const std::string_view ratio = assignment.substr(equals + 1);
   const std::optional<PayoffCell> cell = CellByName(name);
@@ -452,13 +448,10 @@ std::optional<std::string> SetPayoffByName(std::string_view assignment) {
   const std::optional<Money> den =
       colon == std::string_view::npos ? std::nullopt : ParseMoney(ratio.substr(colon + 1));
   if (!num || !den) {
-    return "The payoff of " + PayoffRowName(*cell) +
-           " must be NUM:DEN, two numbers with at most four decimals, not \"" + std::string(ratio) +
-           "\".";
+    return Say(Text::PayoffMustBe, PayoffRowName(*cell), ratio);
   }
   if (*den <= Money()) {
-    return "The second number in the payoff of " + PayoffRowName(*cell) +
-           " must be greater than zero, not " + PlainText(*den) + ".";
+    return Say(Text::PayoffSecondNotPositive, PayoffRowName(*cell), PlainText(*den));
   }
   StorePayoff(*cell, *num, FormTo, *den);
   return std::nullopt;

@@ -14,8 +14,7 @@
 #include "dice/probability.h"
 #include "log/event_lines.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -58,9 +57,9 @@ int32_t EntryFor(const Congruence& congruence, int32_t x) {
 }
 
 // Whether an entry is in the table; if not, that is noted for the next report.
-bool CheckEntry(int32_t entry, const char* complaint) {
+bool CheckEntry(int32_t entry, CheckedText<0> complaint) {
   if (entry >= 1 && entry <= ShuffleEntries) return true;
-  Message.PendingErrorText += complaint;
+  Message.PendingErrorText += Say(complaint) + "\r";
   return false;
 }
 
@@ -162,11 +161,10 @@ int32_t FilesNeeded(int32_t generator) {
 
 // Asks for a seed until the answer is from 1 to the limit. False on Cancel.
 bool PromptForSeed(int32_t limit) {
-  const std::string question = FillIn(GetText(39), FormatNumber(limit, "#,#"));
+  const std::string question = Say(Text::AskSeed, FormatNumber(limit, "#,#"));
   std::string text = question;
   int32_t offered = Dice.LastSeed;
-  while (AskForText(text, std::string(GetTitle(TitleRandomNumberGenerator)),
-                    std::to_string(offered))) {
+  while (AskForText(text, Say(Text::RandomNumberGenerator), std::to_string(offered))) {
     std::string typed = Message.MsgInput;
     std::erase_if(typed, [](char c) { return c == ' ' || c == ','; });
     const Money value = ParseMoney(typed).value_or(Money());
@@ -174,7 +172,7 @@ bool PromptForSeed(int32_t limit) {
       Dice.SeedRequest = value;
       return true;
     }
-    text = std::string(GetText(40)).append("\r\r").append(question);
+    text = Say(Text::SeedOutOfLimits).append("\r\r").append(question);
     // Where nobody answers, the offered seed has to end the asking.
     offered = std::clamp(offered, 1, limit);
   }
@@ -236,7 +234,7 @@ float Ran1(int32_t& idum) {
   state.ix2 = Second.After(state.ix2);
   state.ix3 = Third.After(state.ix3);
   state.j = EntryFor(Third, state.ix3);
-  if (!CheckEntry(state.j, "An error occurred in function Ran1\r")) return 0;
+  if (!CheckEntry(state.j, Text::GeneratorFaultRan1)) return 0;
   return std::exchange(At(state.table, state.j), Ran1Entry(state));
 }
 
@@ -244,7 +242,7 @@ float Ran2(int32_t& idum) {
   Ran2State& state = Dice.Ran2;
   if (idum < 0 || !state.initialised) InitialiseRan2(state, idum);
   state.j = EntryFor(Single, state.iy);
-  if (!CheckEntry(state.j, "An error occurred in function Ran2\r")) return 0;
+  if (!CheckEntry(state.j, Text::GeneratorFaultRan2)) return 0;
   state.iy = At(state.table, state.j);
   state.idum = Single.After(state.idum);
   At(state.table, state.j) = state.idum;
@@ -356,8 +354,8 @@ SelectResult SelectRNG(int32_t number) {
 bool PickGenerator(int32_t number) {
   const SelectResult result = SelectRNG(number);
   if (result == Unavailable) {
-    ShowMessage(FillIn(DiceTexts.GeneratorUnavailable, {std::to_string(number)}),
-                std::string(GetTitle(TitleRandomNumberGenerator)), msg::OkAlert);
+    ShowMessage(Say(Text::GeneratorUnavailable, number), Say(Text::RandomNumberGenerator),
+                msg::OkAlert);
   }
   return result == Selected;
 }
@@ -373,13 +371,12 @@ void SeedAllGenerators() {
 std::string MissingSupportText() {
   if (Dice.SupportFilesMissing == 0) return {};
   std::string text;
-  if ((Dice.SupportFilesMissing & FirstTwister) != 0)
-    text += Localized(DiceTexts.FirstTwisterMissing);
+  if ((Dice.SupportFilesMissing & FirstTwister) != 0) text += Wording(Text::FirstTwisterMissing);
   if ((Dice.SupportFilesMissing & SecondTwister) != 0) {
     if (!text.empty()) text += "\r\r";
-    text += Localized(DiceTexts.SecondTwisterMissing);
+    text += Wording(Text::SecondTwisterMissing);
   }
-  return text.append("\r\r").append(Localized(DiceTexts.WhatToDoAboutMissing));
+  return text.append("\r\r").append(Wording(Text::WhatToDoAboutMissing));
 }
 
 int32_t PlatformRandom(int32_t n) {

@@ -9,7 +9,7 @@
 #include "base/trap.h"
 #include "dice/roll_file.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -89,8 +89,7 @@ std::optional<Faces> TakePopupRoll() {
     return std::nullopt;
   }
   if (!Table.HyperDriveOn) {
-    ShowMessage(LocalizedText(DiceTexts.InvalidRollInPopup), LocalizedText(DiceTexts.RollFileError),
-                msg::OkAlert);
+    ShowMessage(Say(Text::InvalidRollInPopup), Say(Text::RollFileError), msg::OkAlert);
   }
   Table.Stop = StopCause::InvalidRoll;
   return std::nullopt;

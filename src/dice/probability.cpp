@@ -9,7 +9,7 @@
 #include "base/fault.h"
 #include "base/number_format.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -119,16 +119,16 @@ void UnlockShares() {
 
 std::string_view PercentageDiceCaption() {
   const bool freeForm = Probability.ProbabilityMatrix.Flags[0][0] == FreeFormMark;
-  return Localized(freeForm ? DiceTexts.FreeFormDice : DiceTexts.PercentageDice);
+  return Wording(freeForm ? Text::FreeFormDice : Text::PercentageDice);
 }
 
 std::string ProbabilityDisplayText(int32_t display, bool base) {
   if (display < ShownAsPercentages || display > ShownAsRollsFromTrue) RaiseIndexOutOfRange();
-  constexpr std::array Captions = {&DiceTexts.ShownAsPercentages,
-                                   &DiceTexts.ShownAsPercentagesFromTrue, &DiceTexts.ShownAsRolls,
-                                   &DiceTexts.ShownAsRollsFromTrue};
-  const std::string caption(Localized(*At(Captions, display)));
-  return base && IsInRolls(display) ? caption + PlainNumber(Probability.RollsOutOf) : caption;
+  constexpr std::array Captions = {Text::ShownAsPercentages, Text::ShownAsPercentagesFromTrue,
+                                   Text::ShownAsRolls, Text::ShownAsRollsFromTrue};
+  const Text caption = At(Captions, display);
+  if (!IsInRolls(display)) return SayChosen(caption);
+  return SayChosen(caption, base ? PlainNumber(Probability.RollsOutOf) : "");
 }
 
 double ShownShare(int column, int row) {

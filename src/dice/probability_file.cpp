@@ -6,15 +6,13 @@
 #include "base/record_file.h"
 #include "base/single_byte_text.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
 constexpr std::string_view FormatLine = "Tessarel Probability File, Data Format 4.6";
-constexpr int ErrorTitleText = 37;
 constexpr size_t LargestFile = 1 << 20;
 
 // The matrix follows the record with the format line, and its last record is half used.
@@ -47,9 +45,8 @@ void TakeName(const std::string& path) {
   Probability.ProbabilityChanged = false;
 }
 
-SaveChoice AskToSave(const SixTexts& question, int32_t flags) {
-  const int32_t answer =
-      ShowMessage(LocalizedText(question), LocalizedText(DiceTexts.SaveProbabilities), flags);
+SaveChoice AskToSave(CheckedText<0> question, int32_t flags) {
+  const int32_t answer = ShowMessage(Say(question), Say(Text::SaveProbabilities), flags);
   if (answer == AnswerCancel) return SaveChoice::Cancel;
   if (answer != AnswerYes) return SaveChoice::GoOn;
   return EqualIgnoringCase(ShortName(Probability.ProbabilityFileName), AutomaticProbabilityFile)
@@ -75,8 +72,7 @@ bool OpenProbabilityFile(const std::string& name) {
   if (!FileExists(path)) return false;
   const auto planes = MatrixOfBytes(ReadWholeFile(path, LargestFile));
   if (!planes) {
-    ShowMessage(FillIn(DiceTexts.NotAProbabilityFile, {path}), std::string(GetText(ErrorTitleText)),
-                msg::OkAlert);
+    ShowError(Say(Text::NotAProbabilityFile, path));
     return false;
   }
   Probability.ProbabilityMatrix = *planes;
@@ -103,12 +99,12 @@ SaveChoice AskToSaveOnExit() {
   if (Probability.ProbabilityFileName.empty() || !Probability.ProbabilityChanged) {
     return SaveChoice::GoOn;
   }
-  return AskToSave(DiceTexts.CurrentNotSaved, msg::AskYesNo | msg::Cancel);
+  return AskToSave(Text::CurrentProbabilitiesNotSaved, msg::AskYesNo | msg::Cancel);
 }
 
 SaveChoice AskToSaveBeforeNew() {
   if (!Probability.ProbabilityChanged) return SaveChoice::GoOn;
-  return AskToSave(DiceTexts.TheseNotSaved, msg::AskYesNo);
+  return AskToSave(Text::TheseProbabilitiesNotSaved, msg::AskYesNo);
 }
 
 }  // namespace tessarel

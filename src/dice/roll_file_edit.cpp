@@ -16,7 +16,7 @@
 #include "engine/unattended.h"
 #include "log/event_lines.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -28,15 +28,15 @@ constexpr std::string_view ClipboardName = "rollcopyfile.rll";
 constexpr std::string_view ScratchName = "cnvrtasc.xx~";
 constexpr int32_t BlockLength = 30'000;
 
-int32_t Show(const SixTexts& text, const SixTexts& title, int32_t flags) {
-  return ShowMessage(LocalizedText(text), LocalizedText(title), flags);
+int32_t Show(Text text, Text title, int32_t flags) {
+  return ShowMessage(SayChosen(text), SayChosen(title), flags);
 }
 
 // --- What may be done ---------------------------------------------------------------------------
 
 bool FileIsOpen() {
   if (RollFile.File.is_open()) return true;
-  Show(DiceTexts.OpenFileFirst, DiceTexts.RecordTitle, msg::OkAlert);
+  Show(Text::OpenRollFileFirst, Text::RecordRollsTitle, msg::OkAlert);
   return false;
 }
 
@@ -131,7 +131,7 @@ bool PutOnClipboard(RollRange range) {
 bool PasteFrom(const std::string& path) {
   FlushRollFile();  // the open file may be pasted into itself
   if (!IsRollFile(path)) {
-    ShowMessage(FillIn(DiceTexts.NotARollFile, {path}), Message.ErrorTitle, msg::OkAlert);
+    ShowError(Say(Text::NotARollFile, path));
     return false;
   }
   InsertRolls([&path](const ByteSink& sink) {
@@ -230,12 +230,12 @@ void AppendRoll(std::string& text, std::string_view prepared, int32_t number, Fa
   }
 }
 
-bool FormatShowsRolls(const SixTexts& title) {
+bool FormatShowsRolls(CheckedText<0> title) {
   const std::string format = PreparedFormat(RollOutputFormat());
   const bool shows = std::any_of(FormatWords.begin(), FormatWords.end(), [&](const auto& word) {
     return format.find(word.text) != std::string::npos;
   });
-  if (!shows) Show(DiceTexts.EmptyFormat, title, msg::OkAlert);
+  if (!shows) Show(Text::EmptyFormat, title, msg::OkAlert);
   return shows;
 }
 
@@ -258,7 +258,7 @@ int32_t AskFirstNumber(RollRange range) {
   const bool numbered = LowerCase(RollOutputFormat()).find("roll#") != std::string::npos;
   if (range.first == 1 || !numbered) return range.first;
   const bool renumber =
-      Show(DiceTexts.AskToRenumber, DiceTexts.CopyTextTitle, msg::AskYesNo) == AnswerYes;
+      Show(Text::AskToRenumber, Text::CopyRollsAsTextTitle, msg::AskYesNo) == AnswerYes;
   return renumber ? 1 : range.first;
 }
 
@@ -279,27 +279,27 @@ void WriteText(RollRange range, int32_t number, const std::string& path) {
 
 bool MayPlay() {
   if (PopupRoll.PopupRollActive) {
-    if (Show(DiceTexts.PlaybackClosesPopup, DiceTexts.PopupTitle, msg::AskYesNo) != AnswerYes)
+    if (Show(Text::PlaybackClosesPopup, Text::PopupRollsTitle, msg::AskYesNo) != AnswerYes)
       return false;
     ClosePopupRoll();
   }
   if (RollFile.RollCountInFile > 0) return true;
-  Show(DiceTexts.NothingToPlay, DiceTexts.PopupTitle, msg::OkAlert);
+  Show(Text::NoRollsToPlay, Text::PopupRollsTitle, msg::OkAlert);
   return false;
 }
 
 void EnterRecorderState(int32_t use) {
   FlushRollFile();
   if (use == RollFileRecord && RollFile.ReadOnly) {
-    throw Fault(FaultNumber::FileAccess, "No rolls can be recorded to " + RollFile.RollFileName);
+    throw Fault(FaultNumber::FileAccess, Say(Text::NoRollsRecordedTo, RollFile.RollFileName));
   }
   const int32_t before = std::exchange(RollFile.RollFileMode, use);
   RollFile.EndReached = false;
   if (use == RollFilePlay && before != RollFilePlay) LogPlayback(RollFile.RollFileName);
 }
 
-void AskToRewind(const SixTexts& question) {
-  const bool rewind = Show(question, DiceTexts.RollFileTitle, msg::AskYesNo) == AnswerYes;
+void AskToRewind(CheckedText<0> question) {
+  const bool rewind = Show(question, Text::RollFileTitle, msg::AskYesNo) == AnswerYes;
   if (rewind) {
     RewindForPlayback();
   } else {
@@ -368,8 +368,8 @@ void DeleteRollClipboard() {
 bool RefusesOpenRollFile(const std::string& name, bool asText) {
   if (!RollFile.File.is_open() || !IsSameFile(InProgramFolder(name), RollFile.RollFileName))
     return false;
-  Show(asText ? DiceTexts.TextTargetIsOpen : DiceTexts.TargetIsOpen,
-       asText ? DiceTexts.CopyTextTitle : DiceTexts.CopyTitle, msg::OkAlert);
+  Show(asText ? Text::RollTextTargetIsOpen : Text::RollTargetIsOpen,
+       asText ? Text::CopyRollsAsTextTitle : Text::CopyRollsTitle, msg::OkAlert);
   return true;
 }
 
@@ -407,7 +407,7 @@ std::string RollText(std::string_view format, int32_t number, Faces faces) {
 }
 
 bool CopyRollsToTextFile(RollRange selection, const std::string& name) {
-  if (!FileIsOpen() || !FormatShowsRolls(DiceTexts.CopyTextTitle)) return false;
+  if (!FileIsOpen() || !FormatShowsRolls(Text::CopyRollsAsTextTitle)) return false;
   if (RefusesOpenRollFile(name, true)) return false;
   const std::string path = InProgramFolder(name);
   const RollRange range = Within(selection);
@@ -418,20 +418,21 @@ bool CopyRollsToTextFile(RollRange selection, const std::string& name) {
 std::optional<RollRange> AskRollsToPrint(RollRange selection) {
   const RollRange all = Within({1, RollFile.RollCountInFile});
   if (IsEmpty(all)) {
-    Show(DiceTexts.NothingToPrint, DiceTexts.PrintTitle, msg::OkAlert);
+    Show(Text::NoRollsToPrint, Text::PrintRollsTitle, msg::OkAlert);
     return std::nullopt;
   }
-  if (!FormatShowsRolls(DiceTexts.PrintTitle)) return std::nullopt;
+  if (!FormatShowsRolls(Text::PrintRollsTitle)) return std::nullopt;
   const bool wantsAll =
-      Show(DiceTexts.AskToPrintAll, DiceTexts.PrintTitle, msg::AskYesNo) == AnswerYes;
+      Show(Text::AskToPrintAllRolls, Text::PrintRollsTitle, msg::AskYesNo) == AnswerYes;
   return wantsAll ? all : Within(selection);
 }
 
 std::vector<std::string> RollPrintRows(RollRange rolls) {
   const bool named = !RollFile.RollFileName.empty();
-  std::vector<std::string> rows = {"Tessarel Dice Roll File",
-                                   "Roll file:  " + (named ? RollFile.RollFileName : "untitled"),
-                                   MediumDate(Now())};
+  std::vector<std::string> rows = {
+      Say(Text::RollFileReport),
+      Say(Text::ReportRollFile, named ? RollFile.RollFileName : Wording(Text::Untitled)),
+      MediumDate(Now())};
   if (!named) return rows;
   const RollRange range = Within(rolls);
   Trapped("RollPrintRows", [&] {
@@ -443,11 +444,11 @@ std::vector<std::string> RollPrintRows(RollRange rolls) {
 void StopRollFile() {
   const bool popup = PopupRoll.PopupRollActive;
   const int32_t use = RollFile.RollFileMode;
-  if (popup && Show(DiceTexts.AskToClosePopup, DiceTexts.PopupTitle, msg::AskYesNo) == AnswerYes) {
+  if (popup && Show(Text::AskToClosePopup, Text::PopupRollsTitle, msg::AskYesNo) == AnswerYes) {
     ClosePopupRoll();
   }
-  if (use == RollFilePlay) AskToRewind(DiceTexts.PlaybackStopped);
-  if (use == RollFileRecord) AskToRewind(DiceTexts.RecordingStopped);
+  if (use == RollFilePlay) AskToRewind(Text::PlaybackStopped);
+  if (use == RollFileRecord) AskToRewind(Text::RecordingStopped);
   if (popup || use != RollFileOff) FrontEnd.RefreshViews();
 }
 

@@ -8,28 +8,27 @@
 #include "base/message.h"
 #include "base/number_format.h"
 #include "state/table.h"
-#include "texts/rail_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
 std::string AmountsText(Money asked, Money allowed) {
-  return FillIn(RailTexts.AtmAmounts, {FormatMoney(asked), FormatMoney(allowed)}) + "\r\r";
+  return Say(Text::AtmAmounts, FormatMoney(asked), FormatMoney(allowed)) + "\r\r";
 }
 
 // Why a deposit was cut to what the bets on the table leave.
 std::string WageredText(int place, Money asked, Money allowed) {
   const bool wagered = Table.MoneyOnTable[place] > Money();
   return AmountsText(asked, allowed) +
-         FillIn(wagered ? RailTexts.AtmBelowWagered : RailTexts.AtmBelowZero,
-                {Table.PlayerName[place]});
+         SayChosen(wagered ? Text::AtmBelowWagered : Text::AtmBelowZero, Table.PlayerName[place]);
 }
 
 std::string LimitText(int place, Money asked, Money allowed, bool deposit) {
   return AmountsText(asked, allowed) +
-         FillIn(deposit ? RailTexts.AtmBelowLimit : RailTexts.AtmAboveLimit,
-                {Table.PlayerName[place], FormatMoney(BankrollLimit)});
+         SayChosen(deposit ? Text::AtmBelowLimit : Text::AtmAboveLimit, Table.PlayerName[place],
+                   FormatMoney(BankrollLimit));
 }
 
 void MoveBankroll(int place, Money change) {
@@ -59,8 +58,8 @@ Money ATM(int place, bool deposit, Money amount, bool tell) {
     }
   }
   if (!text.empty() && tell && !Table.HyperDriveOn) {
-    const SixTexts& title = deposit ? RailTexts.AtmDeposit : RailTexts.AtmWithdrawal;
-    ShowMessage(std::move(text), LocalizedText(title), msg::OkAlert, help::Players);
+    ShowMessage(std::move(text), SayChosen(deposit ? Text::AtmDeposit : Text::AtmWithdrawal),
+                msg::OkAlert, help::Players);
   }
   if (allowed != Money()) MoveBankroll(place, deposit ? -allowed : allowed);
   return allowed;

@@ -11,8 +11,7 @@
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/bet_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -39,16 +38,17 @@ void TellHowItStands(int place, Title&& title) {
                      (Settings.Notices & NoticeCharges) == 0;
   if (quiet || amount == Money()) return;
   const Money change = amount - AmountBefore(place);
-  const SixTexts& text = change == Money()  ? BetTexts.BetUnchanged
-                         : change > Money() ? BetTexts.BetIncreased
-                                            : BetTexts.BetDecreased;
+  const Text text = change == Money()  ? Text::BetUnchanged
+                    : change > Money() ? Text::BetIncreased
+                                       : Text::BetDecreased;
   Message.MsgText =
-      FillIn(text, {Table.PlayerName[place], BetName[Table.CurrentBet], FormatMoney(Abs(change))});
+      SayChosen(text, Table.PlayerName[place], BetName[Table.CurrentBet], FormatMoney(Abs(change)));
   Message.MsgTitle = title();
   Message.MsgWidth = 500;
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
   Message.MsgHelpId = help::SettledBets;
   Message.MsgTimeout = 0;
+  Message.MsgKind = MessageKind::Notice;
   ShowMessage();
 }
 
@@ -235,18 +235,18 @@ HandlingRow RowOfSlot(int place, int slot) {
 
 void SameBet(int place) {
   ChangeBy(place, Money());
-  TellHowItStands(place, [] { return Plain(GetText(51)); });
+  TellHowItStands(place, [] { return Plain(Wording(Text::SameBetButton)); });
 }
 
 void PressUnit(int place) {
   FigureUnit(place, Table.CurrentBet);
   ChangeBy(place, Table.ChipUnit);
-  TellHowItStands(place, [] { return Plain(GetText(52)); });
+  TellHowItStands(place, [] { return Plain(Wording(Text::PressUnitButton)); });
 }
 
 void PressDouble(int place) {
   ChangeBy(place, Bet(place, Table.CurrentBet));
-  TellHowItStands(place, [] { return Plain(GetText(53)); });
+  TellHowItStands(place, [] { return Plain(Wording(Text::PressDoubleButton)); });
 }
 
 void Parlay(int place) {
@@ -256,21 +256,21 @@ void Parlay(int place) {
   } else {
     ChangeBy(place, Table.NetWin);
   }
-  TellHowItStands(place, [] { return std::string("Parlay"); });
+  TellHowItStands(place, [] { return Plain(Wording(Text::ParlayButton)); });
 }
 
 void BetRemainder(int place) {
   PutBack(place, AmountBefore(place) + Table.NetWin);
-  TellHowItStands(place, [] { return std::string(GetText(47)); });
+  TellHowItStands(place, [] { return Say(Text::BetRemainderTitle); });
 }
 
 void ModifyBet(int place, int slot) {
   const HandlingRow row = RowOfSlot(place, slot);
   ChangeBy(place, ModifiedChange(row, AmountBefore(place)));
   TellHowItStands(place, [&row] {
-    constexpr std::array Titles = {&BetTexts.SameBetPlus, &BetTexts.SameBetMinus,
-                                   &BetTexts.SameBetTimes, &BetTexts.SameBetDividedBy};
-    return FillIn(*At(Titles, row.operation & 3), {FigureText(row)});
+    constexpr std::array Titles = {Text::SameBetPlus, Text::SameBetMinus, Text::SameBetTimes,
+                                   Text::SameBetDividedBy};
+    return SayChosen(At(Titles, row.operation & 3), FigureText(row));
   });
 }
 
@@ -285,9 +285,8 @@ void SetBetUnits(int place, int slot) {
   }
   PutBack(place, row.amount * unit);
   TellHowItStands(place, [&row] {
-    const std::string bet(GetText(45));
-    if (row.units <= Money(1)) return bet + " " + FigureText(row);
-    return bet + " " + FormatMoney(row.amount) + " " + std::string(GetText(46));
+    if (row.units <= Money(1)) return Say(Text::SetBetTitle, FigureText(row));
+    return Say(Text::SetBetUnitsTitle, FormatMoney(row.amount));
   });
 }
 

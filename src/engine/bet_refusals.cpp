@@ -7,7 +7,7 @@
 #include "state/books.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/bet_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -103,14 +103,14 @@ Verdict JudgeIncrease(int place, int number, Money delta) {
   return refusal == RefusalKind::None ? Verdict{delta} : Refused(place, number, delta, refusal);
 }
 
-std::string WithPutNote(const SixTexts& refusal) {
-  return LocalizedText(refusal) + "\r\r" + LocalizedText(BetTexts.UnlessPutBets);
+std::string WithPutNote(CheckedText<0> refusal) {
+  return Say(refusal) + "\r\r" + Say(Text::UnlessPutBets);
 }
 
-const SixTexts& MarkedText(int number) {
-  return number == bet::AllSmall  ? BetTexts.SmallNumbersMarked
-         : number == bet::AllTall ? BetTexts.TallNumbersMarked
-                                  : BetTexts.AnyNumbersMarked;
+CheckedText<1> MarkedText(int number) {
+  return number == bet::AllSmall  ? CheckedText<1>(Text::SmallNumbersMarked)
+         : number == bet::AllTall ? CheckedText<1>(Text::TallNumbersMarked)
+                                  : CheckedText<1>(Text::AnyNumbersMarked);
 }
 
 }  // namespace
@@ -130,46 +130,46 @@ Verdict JudgeChange(int place, int number, Money delta) {
 std::string RefusalText(RefusalKind refusal, int number) {
   using enum RefusalKind;
   const std::string_view name = BetName[number];
-  const auto named = [name](const SixTexts& texts) { return FillIn(texts, {name}); };
+  const auto named = [name](CheckedText<1> text) { return Say(text, name); };
   switch (refusal) {
     case None:
       return "";
     case DecreasePassLine:
-      return LocalizedText(BetTexts.DecreasePassLine);
+      return Say(Text::DecreasePassLine);
     case KeepPassLine:
-      return LocalizedText(BetTexts.KeepPassLine);
+      return Say(Text::KeepPassLine);
     case DecreaseCome:
-      return LocalizedText(BetTexts.DecreaseCome);
+      return Say(Text::DecreaseCome);
     case DecreaseEstablished:
-      return named(BetTexts.DecreaseEstablished);
+      return named(Text::DecreaseEstablished);
     case DecreaseDuringPoint:
-      return named(BetTexts.DecreaseDuringPoint);
+      return named(Text::DecreaseDuringPoint);
     case PutPassLine:
-      return WithPutNote(BetTexts.PutPassLine);
+      return WithPutNote(Text::PutPassLine);
     case PutCome:
-      return WithPutNote(BetTexts.PutCome);
+      return WithPutNote(Text::PutCome);
     case ComeWithoutPoint:
-      return LocalizedText(BetTexts.ComeWithoutPoint);
+      return Say(Text::ComeWithoutPoint);
     case DontPassDuringPoint:
-      return LocalizedText(BetTexts.DontPassDuringPoint);
+      return Say(Text::DontPassDuringPoint);
     case DontComeWithoutPoint:
-      return LocalizedText(BetTexts.DontComeWithoutPoint);
+      return Say(Text::DontComeWithoutPoint);
     case OddsWithoutPassLine:
-      return LocalizedText(BetTexts.OddsWithoutPassLine);
+      return Say(Text::OddsWithoutPassLine);
     case OddsWithoutDontPass:
-      return LocalizedText(BetTexts.OddsWithoutDontPass);
+      return Say(Text::OddsWithoutDontPass);
     case OddsWithoutFlat:
-      return FillIn(BetTexts.OddsWithoutFlat, {name, BetName[number - FamilySize]});
+      return Say(Text::OddsWithoutFlat, name, BetName[number - FamilySize]);
     case DontComeOnNumber:
-      return LocalizedText(BetTexts.DontComeOnNumber);
+      return Say(Text::DontComeOnNumber);
     case NumbersMarked:
       return named(MarkedText(number));
     case CountInProgress:
-      return named(BetTexts.CountInProgress);
+      return named(Text::CountInProgress);
     case NotOnComeOut:
-      return named(BetTexts.NotOnComeOut);
+      return named(Text::NotOnComeOut);
     case HandStarted:
-      return named(BetTexts.HandStarted);
+      return named(Text::HandStarted);
   }
   return "";
 }

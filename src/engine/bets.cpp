@@ -12,8 +12,7 @@
 #include "engine/bet_refusals.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/bet_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -30,7 +29,7 @@ bool Quiet(int32_t messageSwitch) {
 
 std::string BetTitle(int number) {
   if (IsStack(number)) return "CheckStack #" + std::to_string(number - FirstStack);
-  return FillIn(BetTexts.BetTitle, {BetName[number]});
+  return Say(Text::BetTitle, BetName[number]);
 }
 
 // A change on its way through the rules: the change they leave so far and what they said.
@@ -60,8 +59,8 @@ class Change {
   Money Total() const { return Amount() + delta_; }
 
   // Adds a part to the message. `text` is only built when somebody will see it.
-  template <class Text>
-  void Say(Notice notice, Text&& text) {
+  template <class Maker>
+  void Notify(Notice notice, Maker&& text) {
     if (Quiet(ShowRejections) || (Settings.Notices & notice) == 0) return;
     if (!text_.empty()) text_ += "\r\r";
     text_ += text();
@@ -78,8 +77,9 @@ class Change {
     const Verdict verdict = JudgeChange(place_, number_, delta_);
     delta_ = verdict.delta;
     if (verdict.refusal == RefusalKind::None) return false;
-    Say(NoticeActionsNotAllowed,
-        [&] { return Table.PlayerName[place_] + ",\r\r" + RefusalText(verdict.refusal, number_); });
+    Notify(NoticeActionsNotAllowed, [&] {
+      return Table.PlayerName[place_] + ",\r\r" + RefusalText(verdict.refusal, number_);
+    });
     return true;
   }
 
@@ -90,9 +90,8 @@ class Change {
       delta_ = HeldContract(place_, number_) - Amount();
       return;
     }
-    Say(NoticeLimits, [&] {
-      return FillIn(BetTexts.MinimumBet, {BetName[number_], FormatMoney(minimum)});
-    });
+    Notify(NoticeLimits,
+           [&] { return Say(Text::MinimumBet, BetName[number_], FormatMoney(minimum)); });
     delta_ = minimum - Amount();
   }
 
@@ -100,12 +99,11 @@ class Change {
     const Money limit = FigureMaxBet(place_, number_);
     if (Total() <= limit) return;
     const std::string_view name = BetName[number_];
-    Say(NoticeLimits, [&] { return FillIn(BetTexts.MaximumBet, {name, FormatMoney(limit)}); });
+    Notify(NoticeLimits, [&] { return Say(Text::MaximumBet, name, FormatMoney(limit)); });
     const Money contract = HeldContract(place_, number_);
     if (contract > limit) {
-      Say(NoticeLimits, [&] {
-        return FillIn(BetTexts.ContractAboveMaximum, {name, FormatMoney(contract)});
-      });
+      Notify(NoticeLimits,
+             [&] { return Say(Text::ContractAboveMaximum, name, FormatMoney(contract)); });
     }
     delta_ = std::max(limit, contract) - Amount();
   }
@@ -117,11 +115,11 @@ class Change {
       delta_ = adjustment.total - Amount();
       return;
     }
-    Say(NoticeLimits, [&] {
+    Notify(NoticeLimits, [&] {
       unable_ = true;
-      return FillIn(adjustment.limitIsMaximum ? BetTexts.UnableToAdjustMaximum
-                                              : BetTexts.UnableToAdjustMinimum,
-                    {FormatMoney(adjustment.total)});
+      return SayChosen(
+          adjustment.limitIsMaximum ? Text::UnableToAdjustMaximum : Text::UnableToAdjustMinimum,
+          FormatMoney(adjustment.total));
     });
   }
 
@@ -149,7 +147,7 @@ class Change {
     delta_ = LargestAffordable(left);
     const Money held = HeldContract(place_, number_);
     if (Total() < std::max(BetMinimum(number_), held)) delta_ = held - Amount();
-    Say(NoticeLimits, [] { return Localized(BetTexts.NotEnoughBankroll); });
+    Notify(NoticeLimits, [] { return Wording(Text::NotEnoughBankroll); });
   }
 
   // The largest change in whole checks that `left` pays for, at least the bet coming off. The vig
@@ -175,8 +173,8 @@ class Change {
   void Tell() {
     if (text_.empty()) return;
     if (!Quiet(ShowAlreadyBet) && !unable_ && !ended_) {
-      text_ += "\r\r" + FillIn(delta_ == Money() ? BetTexts.AlreadyBet : BetTexts.BeingBet,
-                               {FormatMoney(Total())});
+      text_ += "\r\r" + SayChosen(delta_ == Money() ? Text::AlreadyBet : Text::BeingBet,
+                                  FormatMoney(Total()));
     }
     ShowMessage(std::move(text_), BetTitle(number_), msg::OkAlert | hide_, help::Bets);
   }
@@ -193,11 +191,11 @@ void TellVig(int number, Money vig, Money change, bool upFront) {
   if (Quiet(ShowVigNotices) || (Settings.Notices & NoticeCharges) == 0) return;
   std::string text;
   if (vig == Money()) {
-    text = FillIn(BetTexts.VigReturned, {FormatMoney(-change)});
+    text = Say(Text::VigReturned, FormatMoney(-change));
   } else {
-    text = FillIn(upFront ? BetTexts.VigCharged : BetTexts.VigIfWon, {FormatMoney(vig)});
-    text += "\r" + FillIn(change > Money() ? BetTexts.VigIncreased : BetTexts.VigDecreased,
-                          {FormatMoney(Abs(change))});
+    text = SayChosen(upFront ? Text::VigCharged : Text::VigIfWon, FormatMoney(vig));
+    text += "\r" + SayChosen(change > Money() ? Text::VigIncreased : Text::VigDecreased,
+                             FormatMoney(Abs(change)));
   }
   ShowMessage(std::move(text), BetTitle(number), msg::Ok | msg::PictureAlert | msg::HideNotice4,
               help::OddsVigAndCalls);
@@ -235,17 +233,17 @@ void ChangeStack(int place, int number) {
   std::string text;
   if (delta < -amount) {
     delta = -amount;
-    text = FillIn(BetTexts.StackMinimum, {FormatMoney(Money())});
+    text = Say(Text::StackMinimum, FormatMoney(Money()));
   } else if (delta > StackLimit - amount) {
     delta = StackLimit - amount;
-    text = FillIn(BetTexts.StackMaximum, {FormatMoney(StackLimit)});
+    text = Say(Text::StackMaximum, FormatMoney(StackLimit));
   }
   SetBetAmount(place, number, amount + delta);
   Table.BetDelta = delta;
   if (text.empty() || Quiet(ShowRejections) || (Settings.Notices & NoticeLimits) == 0) return;
   if (!Quiet(ShowAlreadyBet)) {
-    text += "\r\r" + FillIn(delta == Money() ? BetTexts.AlreadyStacked : BetTexts.BeingStacked,
-                            {FormatMoney(amount + delta)});
+    text += "\r\r" + SayChosen(delta == Money() ? Text::AlreadyStacked : Text::BeingStacked,
+                               FormatMoney(amount + delta));
   }
   ShowMessage(std::move(text), BetTitle(number), msg::OkAlert | msg::HideNotice2, help::Bets);
 }
@@ -293,7 +291,7 @@ bool CanBeCalled(int number) {
 
 void TellNotAllowed(std::string text) {
   if (Quiet(ShowRejections) || (Settings.Notices & NoticeActionsNotAllowed) == 0) return;
-  ShowMessage(std::move(text), std::string(GetText(58)), msg::OkAlert | msg::HideNotice1,
+  ShowMessage(std::move(text), Say(Text::ActionNotAllowed), msg::OkAlert | msg::HideNotice1,
               help::OddsVigAndCalls);
 }
 
@@ -395,7 +393,7 @@ void BuyPlaceBet(int place, int number) {
   const Money amount = Bet(place, number);
   if (InFamily(number, BuyFamily) || amount == Money()) return;
   if (!InFamily(number, PlaceFamily)) {
-    TellNotAllowed(std::string(GetText(57)));
+    TellNotAllowed(Say(Text::OnlyPlaceBetsBought));
     return;
   }
   const int32_t working = Table.BetWorking[place][number];
@@ -411,7 +409,7 @@ void BuyPlaceBet(int place, int number) {
 void CallBet(int place, int number, CallState state) {
   if (!IsBet(number)) return;
   if (!CanBeCalled(number)) {
-    TellNotAllowed(FillIn(GetText(59), BetName[number]));
+    TellNotAllowed(Say(Text::BetNotCallable, BetName[number]));
     return;
   }
   const int32_t opposite = state == CallOn ? CalledOff : CalledOn;

@@ -9,7 +9,7 @@
 #include "engine/bets.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/bet_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -59,8 +59,7 @@ bool SetVisibleStacks(int place, const std::array<int, 4>& stacks) {
   auto sorted = stacks;
   std::sort(sorted.begin(), sorted.end());
   if (std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end()) {
-    ShowMessage(LocalizedText(BetTexts.StacksMustDiffer), LocalizedText(BetTexts.SetVisibleStacks),
-                msg::OkAlert);
+    ShowMessage(Say(Text::StacksMustDiffer), Say(Text::SetVisibleStacks), msg::OkAlert);
     return false;
   }
   for (int k = 0; k < 4; ++k) {

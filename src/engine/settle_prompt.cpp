@@ -7,8 +7,7 @@
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/bet_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -18,19 +17,19 @@ std::string Dollars(Money amount) {
   return "$" + FormatMoney(amount);
 }
 
-std::string Counted(int32_t count, const SixTexts& one, const SixTexts& many) {
-  return FillIn(count == 1 ? one : many, {std::to_string(count)});
+std::string Counted(int32_t count, CheckedText<1> one, CheckedText<1> many) {
+  return Say(count == 1 ? one : many, count);
 }
 
 // What of a hand a bet was paid for; empty for the bets that no count decides.
 std::string CountLine(int number) {
   switch (number) {
     case bet::SharpShooter:
-      return Counted(Table.SharpShooterPoints, BetTexts.PointWon, BetTexts.PointsWon);
+      return Counted(Table.SharpShooterPoints, Text::PointWon, Text::PointsWon);
     case bet::RideTheLine:
-      return Counted(Table.RideTheLinePasses, BetTexts.PassMade, BetTexts.PassesMade);
+      return Counted(Table.RideTheLinePasses, Text::PassMade, Text::PassesMade);
     case bet::Fire:
-      return Counted(Table.FirePoints, BetTexts.PointMade, BetTexts.PointsMade);
+      return Counted(Table.FirePoints, Text::PointMade, Text::PointsMade);
     default:
       return "";
   }
@@ -40,8 +39,8 @@ std::string CountLine(int number) {
 std::string RatioText(const PayoffRow& row) {
   const bool isFor = row.PayForm == Money(FormFor);
   const Money num = Abs(row.PayNum);
-  return FillIn(isFor ? BetTexts.PaysFor : BetTexts.PaysTo,
-                {FormatMoney(isFor ? num + row.PayDen : num), FormatMoney(row.PayDen)});
+  return SayChosen(isFor ? Text::PaysFor : Text::PaysTo,
+                   FormatMoney(isFor ? num + row.PayDen : num), FormatMoney(row.PayDen));
 }
 
 Money PaidAt(Money amount, const PayoffRow& row) {
@@ -55,11 +54,9 @@ bool Rounded() {
 void AddPartRows(SettlePrompt& prompt, Money amount, int parts, const PayoffRow& row) {
   const std::string whole = std::to_string(parts);
   const Money part = Money::FromDouble(amount.ToDouble() / parts);
-  prompt.rows.push_back({FillIn(BetTexts.PartOfBet, {whole}), Dollars(part)});
-  prompt.rows.push_back(
-      {std::string(GetText(49)) + RatioText(row) + ":", Dollars(PaidAt(part, row))});
-  prompt.rows.push_back(
-      {FillIn(BetTexts.LessPartOfBet, {std::to_string(parts - 1), whole}), Dollars(amount - part)});
+  prompt.rows.push_back({Say(Text::PartOfBet, whole), Dollars(part)});
+  prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(PaidAt(part, row))});
+  prompt.rows.push_back({Say(Text::LessPartOfBet, parts - 1, whole), Dollars(amount - part)});
 }
 
 void AddVigRow(SettlePrompt& prompt, Money gross) {
@@ -67,7 +64,7 @@ void AddVigRow(SettlePrompt& prompt, Money gross) {
   if (!lay && !InFamily(prompt.number, BuyFamily)) return;
   const Money percent = (lay ? Settings.LayVigPct : Settings.BuyVigPct) * 100;
   prompt.rows.push_back(
-      {FillIn(BetTexts.VigPercent, {FormatMoney(percent)}), Dollars(gross - Table.GrossWin)});
+      {Say(Text::VigPercent, FormatMoney(percent)), Dollars(gross - Table.GrossWin)});
 }
 
 void AddWinRows(SettlePrompt& prompt, Money amount) {
@@ -79,33 +76,32 @@ void AddWinRows(SettlePrompt& prompt, Money amount) {
     AddPartRows(prompt, amount, parts, row);
   } else {
     const Money gross = PaidAt(amount, row);
-    prompt.rows.push_back({std::string(GetText(49)) + RatioText(row) + ":", Dollars(gross)});
+    prompt.rows.push_back({Say(Text::PayoffAt, RatioText(row)), Dollars(gross)});
     AddVigRow(prompt, gross);
   }
-  prompt.rows.push_back({LocalizedText(Rounded() ? BetTexts.NetPayoffRounded : BetTexts.NetPayoff),
-                         Dollars(Table.NetWin)});
+  prompt.rows.push_back(
+      {SayChosen(Rounded() ? Text::NetPayoffRounded : Text::NetPayoff), Dollars(Table.NetWin)});
 }
 
 void AddLossRows(SettlePrompt& prompt, Money amount) {
   prompt.rows.push_back(
-      {FillIn(BetTexts.LossAt, {RatioText(Payoffs.Payoff[0])}), Dollars(-Table.GrossWin)});
-  prompt.rows.push_back({LocalizedText(Rounded() ? BetTexts.NetLossRounded : BetTexts.NetLoss),
-                         Dollars(-Table.NetWin)});
+      {Say(Text::LossAt, RatioText(Payoffs.Payoff[0])), Dollars(-Table.GrossWin)});
+  prompt.rows.push_back(
+      {SayChosen(Rounded() ? Text::NetLossRounded : Text::NetLoss), Dollars(-Table.NetWin)});
   if (PartsOf(prompt.number) > 1) {
-    prompt.rows.push_back({LocalizedText(BetTexts.Remainder), Dollars(amount + Table.NetWin)});
+    prompt.rows.push_back({Say(Text::RemainderOfBet), Dollars(amount + Table.NetWin)});
   }
 }
 
 void SetButtons(SettlePrompt& prompt) {
   if (prompt.offersPress) {
-    for (size_t k = 0; k < prompt.buttons.size(); ++k) {
-      prompt.buttons[k] = GetText(50 + static_cast<int>(k));
-    }
+    prompt.buttons = {Say(Text::TakeBetButton), Say(Text::SameBetButton),
+                      Say(Text::PressUnitButton), Say(Text::PressDoubleButton),
+                      Say(Text::ParlayButton)};
   } else {
-    prompt.buttons = {LocalizedText(BetTexts.NoBet), LocalizedText(BetTexts.SameBet),
-                      LocalizedText(BetTexts.BetRemainder),
-                      FillIn(BetTexts.UnitToBet, {FormatMoney(Table.ChipUnit)}),
-                      LocalizedText(BetTexts.DoubleBet)};
+    prompt.buttons = {
+        Say(Text::NoBetButton), Say(Text::SameLostBetButton), Say(Text::BetRemainderButton),
+        Say(Text::UnitToBetButton, FormatMoney(Table.ChipUnit)), Say(Text::DoubleBetButton)};
   }
 }
 
@@ -119,7 +115,7 @@ Money CheckOfUnits(Money units) {
 std::string UnitsText(Money units) {
   if (units <= Money()) return "$";
   if (units == Money(1)) return "%";
-  return FillIn(BetTexts.Units, {FormatMoney(CheckOfUnits(units))});
+  return Say(Text::UnitsOf, FormatMoney(CheckOfUnits(units)));
 }
 
 SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
@@ -133,16 +129,16 @@ SettlePrompt MakeSettlePrompt(int place, Outcome outcome, bool offersPress) {
   prompt.rows.push_back({std::string(BetName[prompt.number]), Dollars(amount)});
   switch (outcome) {
     case Outcome::Won:
-      prompt.title = {name, std::string(GetText(35))};
+      prompt.title = {name, Say(Text::Won)};
       AddWinRows(prompt, amount);
       break;
     case Outcome::Lost:
-      prompt.title = {std::string(GetText(36)), name};
+      prompt.title = {Say(Text::Lost), name};
       AddLossRows(prompt, amount);
       break;
     case Outcome::Idle:
       prompt.title = {name, ""};
-      prompt.rows.push_back({LocalizedText(BetTexts.WasNotWorking), ""});
+      prompt.rows.push_back({Say(Text::WasNotWorking), ""});
   }
   SetButtons(prompt);
   prompt.modify = RowOfSlot(place, offersPress ? PromptWinModify : PromptLossModify);

@@ -7,9 +7,7 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
-#include "texts/rail_texts.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -18,7 +16,7 @@ namespace {
 constexpr std::string_view LimitText = "9,999,999";
 
 std::string WithReset(std::string text) {
-  return std::move(text) + "\r\r" + LocalizedText(RollTexts.ResetTable);
+  return std::move(text) + "\r\r" + Say(Text::ResetTable);
 }
 
 }  // namespace
@@ -28,33 +26,33 @@ std::string StopText(StopCause cause) {
     case StopCause::None:
       return "";
     case StopCause::NobodyToBet:
-      return LocalizedText(RollTexts.NobodyToBet);
+      return Say(Text::NobodyToBet);
     case StopCause::ShooterWithoutLineBet:
-      return LocalizedText(RollTexts.ShooterWithoutLineBet);
+      return Say(Text::ShooterWithoutLineBet);
     case StopCause::ShooterWithoutBet:
-      return LocalizedText(RollTexts.ShooterWithoutBet);
+      return Say(Text::ShooterWithoutBet);
     case StopCause::MaximumRolls:
-      return WithReset(LocalizedText(RollTexts.StoppedByMaximumRolls));
+      return WithReset(Say(Text::StoppedByMaximumRolls));
     case StopCause::NoGenerator:
-      return LocalizedText(RollTexts.NoGenerator);
+      return Say(Text::NoGenerator);
     case StopCause::AutoStop:
-      return LocalizedText(RollTexts.StoppedByAutoStop);
+      return Say(Text::StoppedByAutoStop);
     case StopCause::BelowBankrollLimit:
-      return WithReset(FillIn(RailTexts.StoppedBelowLimit, {LimitText}));
+      return WithReset(Say(Text::StoppedBelowLimit, LimitText));
     case StopCause::AboveBankrollLimit:
-      return WithReset(FillIn(RailTexts.StoppedAboveLimit, {LimitText}));
+      return WithReset(Say(Text::StoppedAboveLimit, LimitText));
     case StopCause::BankrollLimitOfGonePlayer:
-      return LocalizedText(RollTexts.ResetTable);
+      return Say(Text::ResetTable);
     case StopCause::ScriptCommand:
-      return LocalizedText(RollTexts.StoppedByCommand);
+      return Say(Text::StoppedByCommand);
     case StopCause::ScriptInterrupted:
-      return LocalizedText(RollTexts.AutoBettingInterrupted);
+      return Say(Text::AutoBettingInterrupted);
     case StopCause::InvalidRoll:
-      return LocalizedText(DiceTexts.StoppedByInvalidRoll);
+      return Say(Text::StoppedByInvalidRoll);
     case StopCause::EndOfRollFile:
-      return LocalizedText(DiceTexts.StoppedByEndOfFile);
+      return Say(Text::StoppedByEndOfFile);
     case StopCause::NothingToDraw:
-      return LocalizedText(DiceTexts.NothingToDraw);
+      return Say(Text::NoDiceToDraw);
     case StopCause::PopupRollFault:
       return Table.StopFault;
   }
@@ -65,8 +63,8 @@ void StopUnattended() {
   if (!Table.AutoRollOn && !Table.HyperDriveOn) return;
   Table.AutoRollOn = Table.HyperDriveOn = false;
   if (Table.Stop != StopCause::None) {
-    ShowMessage(StopText(Table.Stop), LocalizedText(RollTexts.HyperDriveStopped), msg::OkAlert,
-                help::AutoRoll);
+    ShowMessage(StopText(Table.Stop), Say(Text::HyperDriveStopped), msg::OkAlert, help::AutoRoll,
+                MessageKind::RunStopped);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

@@ -12,11 +12,11 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
+#include "files/file_dialog.h"
 #include "log/events_log.h"
 #include "log/events_log_reader.h"
 #include "stats/report.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -24,16 +24,15 @@ EventsLogViewState EventsLogView;
 
 namespace {
 
-constexpr int EventsLogText = 163;
-constexpr std::string_view PrintHeading = "Tessarel Events Log";
-
 void UseLog(const std::string& path) {
+  CloseEventsLog();
   EventsLog.EventLogName = IsSameFile(path, DefaultEventLogName()) ? "" : path;
   EventsLogView = {};
 }
 
 // A log that was never written to is an empty one.
 void CopyLog(const std::string& from, const std::string& to) {
+  FlushEventsLog();
   WriteFileAtomically(to, [&from](const ByteSink& sink) {
     if (!FileExists(from)) return;
     ReadFileInBlocks(from, [&sink](std::string_view bytes) {
@@ -45,7 +44,7 @@ void CopyLog(const std::string& from, const std::string& to) {
 
 // Where a log is to be copied to; empty when the user gives up.
 std::string AskForCopy(const std::string& log) {
-  const std::string name = FrontEnd.AskSaveFile(LocalizedText(FileTexts.SaveEventsLogAs), log);
+  const std::string name = FrontEnd.AskSaveFile(FileAction::SaveEventsLog, log);
   return name.empty() ? name : InFolder(Folders.EventsLogFolder, name);
 }
 
@@ -58,9 +57,8 @@ bool IsDefaultLogEmpty() {
 // Whether the default log may be emptied: it is empty, saved, or not wanted.
 bool DefaultLogIsSaved() {
   if (IsDefaultLogEmpty()) return true;
-  const int32_t answer =
-      ShowMessage(LocalizedText(FileTexts.AskToRenameEventsLog),
-                  LocalizedText(FileTexts.SaveEventsLog), msg::AskYesDefault | msg::Cancel);
+  const int32_t answer = ShowMessage(Say(Text::AskToRenameEventsLog), Say(Text::SaveEventsLog),
+                                     msg::AskYesDefault | msg::Cancel);
   if (answer != AnswerYes) return answer == AnswerNo;
   const std::string copy = AskForCopy(DefaultEventLogName());
   if (copy.empty() || IsSameFile(copy, DefaultEventLogName())) return false;
@@ -124,8 +122,7 @@ bool FindFrom(int32_t first, int32_t step) {
     return false;
   }
   if (line == 0) {
-    ShowMessage(LocalizedText(FileTexts.TextNotFound), LocalizedText(FileTexts.SearchResults),
-                msg::OkAlert);
+    ShowMessage(Say(Text::TextNotFound), Say(Text::SearchResults), msg::OkAlert);
     return false;
   }
   ScrollEventsLog(line);
@@ -161,7 +158,7 @@ EventLineKind KindOfEventLine(std::string_view line) {
 }
 
 std::string EventsLogTitle() {
-  const std::string title(GetText(EventsLogText));
+  const std::string title = Say(Text::EventsLog);
   const std::string& name = EventsLog.EventLogName;
   return name.empty() ? title : title + " (" + ShortName(name) + ")";
 }
@@ -177,7 +174,7 @@ bool OpenEventsLog(const std::string& name) {
   const std::string path = InFolder(Folders.EventsLogFolder, name);
   // Only of ordinary files it is known that they end.
   if (!FileExists(path)) {
-    ShowMessage(std::string(GetText(56)) + "\r\r" + path, std::string(GetText(55)), msg::OkAlert);
+    ShowMessage(Say(Text::FileNotFound) + "\r\r" + path, Say(Text::UnableToOpenFile), msg::OkAlert);
     return false;
   }
   const std::string before = EventsLog.EventLogName;
@@ -237,8 +234,7 @@ void KeepLatestRollOnTop(bool on) {
 }
 
 bool FindEvent() {
-  if (!AskForText(LocalizedText(FileTexts.AskTextToFind), LocalizedText(FileTexts.Find),
-                  EventsLogView.FindText) ||
+  if (!AskForText(Say(Text::AskTextToFind), Say(Text::Find), EventsLogView.FindText) ||
       Message.MsgInput.empty()) {
     return false;
   }
@@ -261,12 +257,12 @@ bool PrintEventsLog(std::string_view gameFile,
   EventsLogReader reader;
   const int32_t lines = reader.LineCount();
   if (lines == 0) {
-    ShowMessage(LocalizedText(FileTexts.NoEventsToPrint), LocalizedText(FileTexts.PrintEventsLog),
-                msg::OkAlert);
+    ShowMessage(Say(Text::NoEventsToPrint), Say(Text::PrintEventsLog), msg::OkAlert);
     return false;
   }
   bool wanted = true;
-  for (std::string heading = ReportHeader(PrintHeading, gameFile); wanted && !heading.empty();)
+  for (std::string heading = ReportHeader(Wording(Text::EventsLogReport), gameFile);
+       wanted && !heading.empty();)
     wanted = print(HeadingRow(heading));
   for (int32_t line = 1; wanted && line <= lines; ++line)
     wanted = print(reader.Line(line));

@@ -14,8 +14,7 @@
 #include "files/sessions_log.h"
 #include "log/events_log.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -23,70 +22,68 @@ FileDialogState FileDialog;
 
 namespace {
 
-constexpr int UnableToOpenFile = 55, FileNotFoundText = 56;
-
 // What an action asks of a file.
 enum class Purpose { MustExist, MayExist, Save };
 
 struct FilterRow {
-  int label;  // of the general text table
+  Text label;
   std::string_view pattern;
 };
 // clang-format off
-constexpr FilterRow SessionFilter[]     = {{137, "*.tsg"}};
-constexpr FilterRow RollFilter[]        = {{126, "*.rol"}};
-constexpr FilterRow TextFilter[]        = {{130, "*.txt"}};
-constexpr FilterRow ProbabilityFilter[] = {{149, "*.prb"}};
-constexpr FilterRow SessionsLogFilter[] = {{129, "*.slg"}};
-constexpr FilterRow ScriptFilters[]     = {{128, "*.bet"}, {144, "*.bet;*.txt"}, {130, "*.txt"},
-                                           {138, "*.*"}};
+constexpr FilterRow SessionFilter[]     = {{Text::SessionFiles, "*.tsg"}};
+constexpr FilterRow RollFilter[]        = {{Text::DiceRollFileKind, "*.rol"}};
+constexpr FilterRow TextFilter[]        = {{Text::TextFiles, "*.txt"}};
+constexpr FilterRow ProbabilityFilter[] = {{Text::ProbabilityFiles, "*.prb"}};
+constexpr FilterRow SessionsLogFilter[] = {{Text::SessionsLogFiles, "*.slg"}};
+constexpr FilterRow ScriptFilters[]     = {{Text::AutoBetFiles, "*.bet"}, {Text::AutoBetAndTextFiles, "*.bet;*.txt"}, {Text::TextFiles, "*.txt"},
+                                           {Text::AllFiles, "*.*"}};
 
 struct ActionRow {
   FileAction action;
   FileKind kind;
   Purpose purpose;
   std::span<const FilterRow> filters;
-  SixTexts title;
+  Text title;
 };
 
 using enum FileAction;
 constexpr std::array<ActionRow, FileActionCount> ActionRows = {{
-    {OpenSession,        SessionFiles,     Purpose::MustExist, SessionFilter,     FileTexts.OpenSession},
-    {SaveSession,        SessionFiles,     Purpose::Save,      SessionFilter,     FileTexts.SaveSession},
-    {OpenRolls,          RollFiles,        Purpose::MayExist,  RollFilter,        FileTexts.OpenRolls},
-    {OpenPopupRolls,     RollFiles,        Purpose::MayExist,  TextFilter,        FileTexts.OpenPopupRolls},
-    {CopyRolls,          RollFiles,        Purpose::Save,      RollFilter,        FileTexts.CopyRolls},
-    {CopyRollsAsText,    RollFiles,        Purpose::Save,      TextFilter,        FileTexts.CopyRollsAsText},
-    {PasteRolls,         RollFiles,        Purpose::MustExist, RollFilter,        FileTexts.PasteRolls},
-    {PasteText,          RollFiles,        Purpose::MustExist, TextFilter,        FileTexts.PasteText},
-    {OpenScript,         AutoBetFiles,     Purpose::MustExist, ScriptFilters,     FileTexts.OpenScript},
-    {PasteScript,        AutoBetFiles,     Purpose::MustExist, ScriptFilters,     FileTexts.PasteScript},
-    {SaveScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     FileTexts.SaveScript},
-    {CopyScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     FileTexts.CopyScript},
-    {CopyScripts,        AutoBetFiles,     Purpose::Save,      ScriptFilters,     FileTexts.CopyScripts},
-    {SelectHotKeyScript, AutoBetFiles,     Purpose::MustExist, ScriptFilters,     FileTexts.SelectHotKeyScript},
-    {OpenSessionsLog,    SessionsLogFiles, Purpose::MustExist, SessionsLogFilter, FileTexts.OpenSessionsLog},
-    {SaveSessionsLog,    SessionsLogFiles, Purpose::Save,      SessionsLogFilter, FileTexts.SaveSessionsLogAs},
-    {RenameSessionsLog,  SessionsLogFiles, Purpose::Save,      SessionsLogFilter, FileTexts.RenameSessionsLog},
-    {OpenEventsLog,      EventsLogFiles,   Purpose::MustExist, TextFilter,        FileTexts.OpenEventsLog},
-    {SaveEventsLog,      EventsLogFiles,   Purpose::Save,      TextFilter,        FileTexts.SaveEventsLogAs},
-    {OpenProbability,    ProbabilityFiles, Purpose::MustExist, ProbabilityFilter, FileTexts.OpenProbability},
-    {SaveProbability,    ProbabilityFiles, Purpose::Save,      ProbabilityFilter, FileTexts.SaveProbability},
+    {OpenSession,        SessionFiles,     Purpose::MustExist, SessionFilter,     Text::OpenSession},
+    {SaveSession,        SessionFiles,     Purpose::Save,      SessionFilter,     Text::SaveSession},
+    {OpenRolls,          RollFiles,        Purpose::MayExist,  RollFilter,        Text::OpenRolls},
+    {OpenPopupRolls,     RollFiles,        Purpose::MayExist,  TextFilter,        Text::OpenPopupRolls},
+    {CopyRolls,          RollFiles,        Purpose::Save,      RollFilter,        Text::CopyRolls},
+    {CopyRollsAsText,    RollFiles,        Purpose::Save,      TextFilter,        Text::CopyRollsAsText},
+    {PasteRolls,         RollFiles,        Purpose::MustExist, RollFilter,        Text::PasteRolls},
+    {PasteText,          RollFiles,        Purpose::MustExist, TextFilter,        Text::PasteText},
+    {OpenScript,         AutoBetFiles,     Purpose::MustExist, ScriptFilters,     Text::OpenScript},
+    {PasteScript,        AutoBetFiles,     Purpose::MustExist, ScriptFilters,     Text::PasteScript},
+    {SaveScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     Text::SaveScript},
+    {CopyScript,         AutoBetFiles,     Purpose::Save,      ScriptFilters,     Text::CopyScript},
+    {CopyScripts,        AutoBetFiles,     Purpose::Save,      ScriptFilters,     Text::CopyScripts},
+    {SelectHotKeyScript, AutoBetFiles,     Purpose::MustExist, ScriptFilters,     Text::SelectHotKeyScript},
+    {OpenSessionsLog,    SessionsLogFiles, Purpose::MustExist, SessionsLogFilter, Text::OpenSessionsLog},
+    {SaveSessionsLog,    SessionsLogFiles, Purpose::Save,      SessionsLogFilter, Text::SaveSessionsLogAs},
+    {RenameSessionsLog,  SessionsLogFiles, Purpose::Save,      SessionsLogFilter, Text::RenameSessionsLog},
+    {OpenEventsLog,      EventsLogFiles,   Purpose::MustExist, TextFilter,        Text::OpenEventsLog},
+    {SaveEventsLog,      EventsLogFiles,   Purpose::Save,      TextFilter,        Text::SaveEventsLogAs},
+    {OpenProbability,    ProbabilityFiles, Purpose::MustExist, ProbabilityFilter, Text::OpenProbability},
+    {SaveProbability,    ProbabilityFiles, Purpose::Save,      ProbabilityFilter, Text::SaveProbability},
 }};
 
 struct KindRow {
   FileKind kind;
-  SixTexts text;
-  SixTexts deleteTitle;
+  Text text;
+  Text deleteTitle;
   std::string FoldersState::*folder;
 };
 constexpr std::array<KindRow, FileKindCount> KindRows = {{
-    {SessionFiles,     FileTexts.SessionFile, FileTexts.DeleteFile, &FoldersState::GameFolder},
-    {AutoBetFiles,     FileTexts.ScriptFile, FileTexts.DeleteScript, &FoldersState::BetFolder},
-    {RollFiles,        FileTexts.RollFile, FileTexts.DeleteRolls, &FoldersState::AppFolder},
-    {ProbabilityFiles, FileTexts.ProbabilityFile, FileTexts.DeleteProbability, &FoldersState::ProbabilityFolder},
-    {SessionsLogFiles, FileTexts.SessionsLogFile, FileTexts.DeleteSessionsLog, &FoldersState::SessionsLogFolder},
-    {EventsLogFiles,   FileTexts.EventsLogFile, FileTexts.DeleteFile, &FoldersState::EventsLogFolder},
+    {SessionFiles,     Text::SessionFileKind, Text::DeleteFile, &FoldersState::GameFolder},
+    {AutoBetFiles,     Text::ScriptFileKind, Text::DeleteScript, &FoldersState::BetFolder},
+    {RollFiles,        Text::RollFileKind, Text::DeleteRolls, &FoldersState::AppFolder},
+    {ProbabilityFiles, Text::ProbFileKind, Text::DeleteProbability, &FoldersState::ProbabilityFolder},
+    {SessionsLogFiles, Text::SessionsLogFileKind, Text::DeleteSessionsLog, &FoldersState::SessionsLogFolder},
+    {EventsLogFiles,   Text::EventsLogKind, Text::DeleteFile, &FoldersState::EventsLogFolder},
 }};
 // clang-format on
 
@@ -156,13 +153,12 @@ bool MayTake(const std::string& path, const ActionRow& row) {
   const bool exists = FileExists(path);
   if (row.purpose == Purpose::Save) {
     if (RefusesTarget(path)) return false;
-    return !exists ||
-           ShowMessage(FillIn(FileTexts.AskToOverwrite, {path}), LocalizedText(row.title),
-                       msg::AskNoDefault, help::Saving) == AnswerYes;
+    return !exists || ShowMessage(Say(Text::AskToOverwrite, path), SayChosen(row.title),
+                                  msg::AskNoDefault, help::Saving) == AnswerYes;
   }
   if (!exists) {
-    ShowMessage(std::string(GetText(FileNotFoundText)) + "\r\r" + path,
-                std::string(GetText(UnableToOpenFile)), msg::OkAlert, help::Saving);
+    ShowMessage(Say(Text::FileNotFound) + "\r\r" + path, Say(Text::UnableToOpenFile), msg::OkAlert,
+                help::Saving);
   }
   return exists;
 }
@@ -170,7 +166,7 @@ bool MayTake(const std::string& path, const ActionRow& row) {
 // --- Deleting -----------------------------------------------------------------------------------
 
 bool AskToDelete(const std::string& name, FileKind kind) {
-  return ShowMessage(FillIn(FileTexts.AskToDelete, {name}), LocalizedText(RowOf(kind).deleteTitle),
+  return ShowMessage(Say(Text::AskToDelete, name), SayChosen(RowOf(kind).deleteTitle),
                      msg::AskNoDefault) == AnswerYes;
 }
 
@@ -187,8 +183,8 @@ void BackToDefaultSessionsLog(int place) {
   const std::string& name = Table.PlayerName[place];
   std::string& log = Table.SessionLogName[place];
   log = DefaultSessionsLogName(name);
-  const SixTexts& text = FileExists(log) ? FileTexts.ExistingLogInstead : FileTexts.NewLogInstead;
-  ShowMessage(FillIn(text, {log}), FillIn(FileTexts.SessionsLogOf, {name}), msg::OkAlert,
+  const Text text = FileExists(log) ? Text::ExistingLogInstead : Text::NewLogInstead;
+  ShowMessage(SayChosen(text, log), Say(Text::SessionsLogOf, name), msg::OkAlert,
               help::SessionsLogs);
 }
 
@@ -204,20 +200,11 @@ void GiveUpAndDelete(const std::string& path) {
 }  // namespace
 
 std::string_view FileKindText(FileKind kind) {
-  return Localized(RowOf(kind).text);
+  return Wording(RowOf(kind).text);
 }
 
 std::string_view FileActionTitle(FileAction action) {
-  return Localized(RowOf(action).title);
-}
-
-std::optional<FileAction> FileActionOfTitle(std::string_view title) {
-  for (const ActionRow& row : ActionRows) {
-    for (const std::string_view known : row.title) {
-      if (EqualIgnoringCase(known, title)) return row.action;
-    }
-  }
-  return std::nullopt;
+  return Wording(RowOf(action).title);
 }
 
 bool SavesFile(FileAction action) {
@@ -228,7 +215,7 @@ std::vector<FileFilter> FileFilters(FileAction action) {
   std::vector<FileFilter> filters;
   for (const FilterRow& row : RowOf(action).filters) {
     const std::string pattern(row.pattern);
-    filters.push_back({std::string(GetText(row.label)) + " (" + pattern + ")", pattern});
+    filters.push_back({SayChosen(row.label) + " (" + pattern + ")", pattern});
   }
   return filters;
 }

@@ -16,8 +16,7 @@
 #include "files/game_blocks.h"
 #include "state/scripts.h"
 #include "state/view_state.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -28,7 +27,6 @@ namespace {
 constexpr std::string_view ProgramName = "Tessarel";
 constexpr std::string_view Header = "Tessarel Pro Game File, Data Format 2.5";
 constexpr std::string_view GameFileEnding = ".tsg";
-constexpr int UnableToOpenText = 55;
 
 bool IsAutomatic(const std::string& path) {
   return EqualIgnoringCase(ShortName(path), AutomaticGameFile);
@@ -58,17 +56,17 @@ void NameGame(const std::string& path) {
 
 // --- Opening -----------------------------------------------------------------------------------
 
-void Refuse(const SixTexts& why, const std::string& path) {
-  ShowMessage(FillIn(why, {ShortName(path)}), Message.ErrorTitle, msg::OkAlert, help::Saving);
+void Refuse(CheckedText<1> why, const std::string& path) {
+  ShowError(Say(why, ShortName(path)), help::Saving);
 }
 
 bool IsGameFile(const RecordFile& file, const std::string& path) {
   const std::string header = file.At(1).LongText();
   if (header.find(Header) != std::string::npos) return true;
   if (header.find(ProgramName) == std::string::npos) {
-    Refuse(FileTexts.NotAGame, path);
+    Refuse(Text::NotAGame, path);
   } else if (!IsAutomatic(path) || GameFile.MainWindowShown) {
-    Refuse(FileTexts.IncompatibleGame, path);
+    Refuse(Text::IncompatibleGame, path);
   }
   return false;
 }
@@ -132,9 +130,9 @@ void SetAutomaticGameAside() {
 }
 
 void TellUnrecognized(const std::string& argument, bool automaticFollows) {
-  std::string text = FillIn(FileTexts.UnrecognizedGame, {argument});
-  if (automaticFollows) text.append("\r\r").append(Localized(FileTexts.DefaultGameInstead));
-  ShowMessage(std::move(text), std::string(GetText(UnableToOpenText)), msg::OkAlert, help::Saving);
+  std::string text = Say(Text::UnrecognizedGame, argument);
+  if (automaticFollows) text.append("\r\r").append(Wording(Text::DefaultGameInstead));
+  ShowMessage(std::move(text), Say(Text::UnableToOpenFile), msg::OkAlert, help::Saving);
 }
 
 void WriteGame(const std::string& path, bool automatic) {

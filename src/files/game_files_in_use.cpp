@@ -19,7 +19,7 @@
 #include "files/sessions_log.h"
 #include "log/events_log.h"
 #include "state/scripts.h"
-#include "texts/file_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -72,19 +72,28 @@ void NoteFilesOfPlace(FilesInUse& files, int place) {
 
 // What is said of a file, with the title of the box.
 struct FileNotice {
-  SixTexts text;
-  SixTexts title;
+  CheckedText<1> text;
+  CheckedText<0> title;
 };
-constexpr FileNotice RollFileGone = {FileTexts.RollFileGone, FileTexts.RollFileGoneTitle};
-constexpr FileNotice RollFileChanged = {FileTexts.RollFileChanged, FileTexts.RollFileChangedTitle};
-constexpr FileNotice MatrixGone = {FileTexts.MatrixGone, FileTexts.MatrixGoneTitle};
-constexpr FileNotice MatrixChanged = {FileTexts.MatrixChanged, FileTexts.MatrixChangedTitle};
-constexpr FileNotice EventsLogGone = {FileTexts.EventsLogGone, FileTexts.EventsLogGoneTitle};
-constexpr FileNotice ScriptGone = {FileTexts.ScriptGone, FileTexts.ScriptGoneTitle};
-constexpr FileNotice ScriptChanged = {FileTexts.ScriptChanged, FileTexts.ScriptChangedTitle};
+// The same with the player whose file it is.
+struct ScriptNotice {
+  CheckedText<2> text;
+  CheckedText<0> title;
+};
+constexpr FileNotice RollFileGone = {Text::RollFileGone, Text::RollFileGoneTitle};
+constexpr FileNotice RollFileChanged = {Text::RollFileChanged, Text::RollFileChangedTitle};
+constexpr FileNotice MatrixGone = {Text::MatrixGone, Text::MatrixGoneTitle};
+constexpr FileNotice MatrixChanged = {Text::MatrixChanged, Text::MatrixChangedTitle};
+constexpr FileNotice EventsLogGone = {Text::EventsLogGone, Text::EventsLogGoneTitle};
+constexpr ScriptNotice ScriptGone = {Text::ScriptGone, Text::ScriptGoneTitle};
+constexpr ScriptNotice ScriptChanged = {Text::ScriptChanged, Text::ScriptChangedTitle};
 
-void Tell(const FileNotice& notice, const std::string& file, const std::string& player = "") {
-  ShowMessage(FillIn(notice.text, {file, player}), LocalizedText(notice.title), msg::OkAlert);
+void Tell(const FileNotice& notice, const std::string& file) {
+  ShowMessage(Say(notice.text, file), Say(notice.title), msg::OkAlert);
+}
+
+void Tell(const ScriptNotice& notice, const std::string& file, const std::string& player) {
+  ShowMessage(Say(notice.text, file, player), Say(notice.title), msg::OkAlert);
 }
 
 // The path of a name in a game file, which may have '\' in it and be relative.
@@ -145,7 +154,7 @@ void TakeUpScript(int place, const HeldFile& file) {
     Tell(ScriptGone, path, name);
   } else if (!CanReadScript(place, path)) {
     NewScript(place);
-    ShowMessage(FillIn(FileTexts.ScriptUnreadable, {path, name}), Message.ErrorTitle, msg::OkAlert);
+    ShowError(Say(Text::ScriptUnreadable, path, name));
   } else if (LastModifiedText(path) != file.Date) {
     Tell(ScriptChanged, path, name);
   }
@@ -158,10 +167,8 @@ void TakeUpSessionsLog(int place, const std::string& log) {
   const bool there = FileExists(log);
   Table.SessionLogName[place] = there ? log : usual;
   if (there || log.empty() || log == usual) return;
-  const SixTexts& text =
-      FileExists(usual) ? FileTexts.LogGoneExistingInstead : FileTexts.LogGoneNewInstead;
-  ShowMessage(FillIn(text, {log, name, usual}), LocalizedText(FileTexts.LogGoneTitle),
-              msg::OkAlert);
+  const Text text = FileExists(usual) ? Text::LogGoneExistingInstead : Text::LogGoneNewInstead;
+  ShowMessage(SayChosen(text, log, name, usual), Say(Text::LogGoneTitle), msg::OkAlert);
 }
 
 // What goes wrong with one file is reported and leaves the others.

@@ -10,7 +10,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
-#include "texts/file_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -75,8 +75,7 @@ std::string LetterOf(char key) {
 std::optional<HotKey> Checked(char key, std::string_view fileName, std::string_view note) {
   const std::string_view name = TrimSpaces(fileName);
   if (name.empty()) {
-    ShowMessage(LocalizedText(FileTexts.HotKeyNeedsFile), LocalizedText(FileTexts.HotKey),
-                msg::OkAlert);
+    ShowMessage(Say(Text::HotKeyNeedsFile), Say(Text::HotKeyTitle), msg::OkAlert);
     return std::nullopt;
   }
   std::string letter = LetterOf(key);

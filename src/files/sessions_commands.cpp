@@ -12,17 +12,15 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
+#include "files/file_dialog.h"
 #include "files/sessions_log.h"
 #include "state/books.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
-
-constexpr int ErrorTitleText = 37;
 
 // Runs a command, which tells whether it was done, for the player of a place, if there is one.
 template <class Command>
@@ -36,33 +34,32 @@ const std::string& NameOf(int place) {
   return Table.PlayerName[place];
 }
 
-void Tell(const SixTexts& text, const SixTexts& title) {
-  ShowMessage(LocalizedText(text), LocalizedText(title), msg::OkAlert);
+void Tell(Text text, Text title) {
+  ShowMessage(SayChosen(text), SayChosen(title), msg::OkAlert);
 }
 
 void RefuseFile() {
-  ShowMessage(LocalizedText(FileTexts.NotASessionsLog), std::string(GetText(ErrorTitleText)),
-              msg::OkAlert);
+  ShowError(Say(Text::NotASessionsLog));
 }
 
 // --- New logs ----------------------------------------------------------------------------------
 
 bool AgreesToSessionInProgress(bool oneLog) {
   if (RollsInSession() == 0) return true;
-  const SixTexts& question =
-      oneLog ? FileTexts.SessionGoesIntoNewLog : FileTexts.SessionGoesIntoNewLogs;
-  const SixTexts& title =
-      oneLog ? FileTexts.SessionGoesIntoNewLogTitle : FileTexts.SessionGoesIntoNewLogsTitle;
-  return ShowMessage(LocalizedText(question), LocalizedText(title), msg::AskNoDefault) == AnswerYes;
+  const Text question = oneLog ? Text::SessionGoesIntoNewLog : Text::SessionGoesIntoNewLogs;
+  const Text title = oneLog ? Text::SessionGoesIntoNewLogTitle : Text::SessionGoesIntoNewLogsTitle;
+  return ShowMessage(SayChosen(question), SayChosen(title), msg::AskNoDefault) == AnswerYes;
 }
 
 // Whether a log may take this name: other players go on with theirs.
-bool MayTakeName(int place, const std::string& name, const SixTexts& title) {
+bool MayTakeName(int place, const std::string& name, FileAction dialog) {
   bool free = true;
   ForEachPlayer([&](int other) {
     if (other != place && IsSameFile(SessionsLogNameOf(other), name)) free = false;
   });
-  if (!free) Tell(FileTexts.LogOfAnotherPlayer, title);
+  if (!free) {
+    ShowMessage(Say(Text::LogOfAnotherPlayer), std::string(FileActionTitle(dialog)), msg::OkAlert);
+  }
   return free;
 }
 
@@ -70,8 +67,8 @@ bool MayTakeName(int place, const std::string& name, const SixTexts& title) {
 std::string MoveToChosenName(int place,
                              const std::string& from,
                              const std::string& offered,
-                             const SixTexts& dialog) {
-  const std::string chosen = FrontEnd.AskSaveFile(LocalizedText(dialog), offered);
+                             FileAction dialog) {
+  const std::string chosen = FrontEnd.AskSaveFile(dialog, offered);
   if (chosen.empty()) return "";
   const std::string to = InFolder(Folders.SessionsLogFolder, chosen);
   if (!MayTakeName(place, to, dialog)) return "";
@@ -82,12 +79,11 @@ std::string MoveToChosenName(int place,
 // Lets a player keep the sessions that stand under the name of his new log.
 bool MakesRoom(int place, const std::string& name) {
   if (CountSessions(name) == 0) return true;
-  const int32_t answer =
-      ShowMessage(FillIn(FileTexts.AskToRenameLog, {NameOf(place)}),
-                  LocalizedText(FileTexts.SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
+  const int32_t answer = ShowMessage(Say(Text::AskToRenameLog, NameOf(place)),
+                                     Say(Text::SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
   if (answer == AnswerNo) return true;
   if (answer != AnswerYes) return false;
-  const std::string kept = MoveToChosenName(place, name, name, FileTexts.SaveSessionsLogAs);
+  const std::string kept = MoveToChosenName(place, name, name, FileAction::SaveSessionsLog);
   return !kept.empty() && !IsSameFile(kept, name);
 }
 
@@ -134,15 +130,14 @@ std::optional<Money> ReadValue(std::string text) {
 }
 
 std::string_view ChosenStatName() {
-  return At(SessionStatNames, SessionsView.Stat);
+  return Wording(At(SessionStatNames, SessionsView.Stat));
 }
 
 bool FindFrom(const SessionStatistics& statistics, int32_t from, int step) {
   const std::optional<Money> value = ReadValue(SessionsView.FindText);
   const int32_t row = value ? FindSessionRow(statistics, *value, from, step) : -1;
   if (row < 0) {
-    ShowMessage(FillIn(FileTexts.ValueNotFound, {SessionsView.FindText}),
-                LocalizedText(FileTexts.Find), msg::OkAlert);
+    ShowMessage(Say(Text::ValueNotFound, SessionsView.FindText), Say(Text::Find), msg::OkAlert);
     return false;
   }
   SessionsView.FoundRow = row;
@@ -187,8 +182,7 @@ bool NewSessionsLogs() {
 
 bool AskToDeleteSessions(int place) {
   return DoneFor(place, "DeleteSessions", [place] {
-    if (!AskForText(LocalizedText(FileTexts.AskSessionsToDelete),
-                    LocalizedText(FileTexts.DeleteSessions), "") ||
+    if (!AskForText(Say(Text::AskSessionsToDelete), Say(Text::DeleteSessions), "") ||
         TrimSpaces(Message.MsgInput).empty()) {
       return false;
     }
@@ -196,7 +190,7 @@ bool AskToDeleteSessions(int place) {
     const auto range = ReadRange(TrimSpaces(Message.MsgInput));
     if (!range || range->first < 1 || range->last < range->first ||
         range->last > CountSessions(log)) {
-      Tell(FileTexts.NoSessionsDeleted, FileTexts.DeleteSessions);
+      Tell(Text::NoSessionsDeleted, Text::DeleteSessions);
       return false;
     }
     DeleteSessions(log, range->first, range->last);
@@ -206,8 +200,8 @@ bool AskToDeleteSessions(int place) {
 
 bool AskToDeleteAllSessions(int place) {
   return DoneFor(place, "DeleteAllSessions", [place] {
-    if (ShowMessage(FillIn(FileTexts.AskToDeleteAllSessions, {NameOf(place)}),
-                    LocalizedText(FileTexts.DeleteAllSessions), msg::AskNoDefault) != AnswerYes) {
+    if (ShowMessage(Say(Text::AskToDeleteAllSessions, NameOf(place)), Say(Text::DeleteAllSessions),
+                    msg::AskNoDefault) != AnswerYes) {
       return false;
     }
     ClearSessionsLog(SessionsLogNameOf(place));
@@ -224,7 +218,7 @@ bool MergeSessionsLog(int place, const std::string& name) {
       return false;
     }
     if (IsSameFile(log, other)) {
-      Tell(FileTexts.CannotMergeWithItself, FileTexts.MergeSessionsLogs);
+      Tell(Text::CannotMergeWithItself, Text::MergeSessionsLogs);
       return false;
     }
     AppendSessions(log, other);
@@ -235,13 +229,12 @@ bool MergeSessionsLog(int place, const std::string& name) {
 bool OfferToRenameSessionsLog(int place) {
   return DoneFor(place, "RenameSessionsLog", [place] {
     const std::string log = SessionsLogNameOf(place);
-    if (ShowMessage(FillIn(FileTexts.AskToRenamePlayersLog, {NameOf(place), log}),
-                    LocalizedText(FileTexts.RenameSessionsLogTitle),
-                    msg::AskYesDefault) != AnswerYes) {
+    if (ShowMessage(Say(Text::AskToRenamePlayersLog, NameOf(place), log),
+                    Say(Text::RenameSessionsLogTitle), msg::AskYesDefault) != AnswerYes) {
       return false;
     }
     const std::string name = MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)),
-                                              FileTexts.RenameSessionsLog);
+                                              FileAction::RenameSessionsLog);
     if (name.empty()) return false;
     Table.SessionLogName[place] = name;
     return true;
@@ -249,8 +242,8 @@ bool OfferToRenameSessionsLog(int place) {
 }
 
 bool AskToFindSession(const SessionStatistics& statistics) {
-  if (!AskForText(FillIn(FileTexts.AskValueToFind, {ChosenStatName()}),
-                  LocalizedText(FileTexts.Find), SessionsView.FindText)) {
+  if (!AskForText(Say(Text::AskValueToFind, ChosenStatName()), Say(Text::Find),
+                  SessionsView.FindText)) {
     return false;
   }
   const std::string text(TrimSpaces(Message.MsgInput));
@@ -270,8 +263,8 @@ bool FindPreviousSession(const SessionStatistics& statistics) {
 }
 
 bool AskBreakPoint() {
-  if (!AskForText(FillIn(FileTexts.AskBreakPoint, {ChosenStatName()}),
-                  LocalizedText(FileTexts.SetBreakPoint), PlainText(SessionsView.BreakPoint))) {
+  if (!AskForText(Say(Text::AskBreakPoint, ChosenStatName()), Say(Text::SetBreakPoint),
+                  PlainText(SessionsView.BreakPoint))) {
     return false;
   }
   const std::optional<Money> value = ReadValue(Message.MsgInput);

@@ -6,7 +6,7 @@
 #include "log/events_log.h"
 #include "state/scripts.h"
 #include "state/table.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -210,7 +210,8 @@ void LogPlayerJoined(int place, Money amount) {
   if (!EventsLog.LogOn) return;
   const bool left = place <= 4;
   const std::string spot = std::to_string(left ? 5 - place : place - 4);
-  WriteNote(place, FillIn(GetText(left ? 15 : 16), spot) + PlainText(amount));
+  WriteEvent("    " + SayChosen(left ? Text::JoinedAtStickLeft : Text::JoinedAtStickRight,
+                                NameOf(place), spot, PlainText(amount)));
 }
 
 void LogPlayerMoved(int place) {
@@ -220,23 +221,21 @@ void LogPlayerMoved(int place) {
 
 void LogPlayerRenamed(std::string_view before, std::string_view after) {
   if (!EventsLog.LogOn) return;
-  WriteEvent(Join("    ", before, GetText(17), after));
+  WriteEvent("    " + Say(Text::NameChanged, before, after));
 }
 
 void LogCashOut(int place, Money abandoned) {
   if (!EventsLog.LogOn) return;
   const Money bankroll = BankrollOf(place);
   const Money net = bankroll - Table.InvestedBankroll[place];
-  std::string outcome(GetText(30));
+  std::string outcome = Say(Text::BrokeEven);
   if (net != Money()) {
-    outcome = Join("$", PlainText(Abs(net)), GetText(net > Money() ? 29 : 28));
+    outcome = SayChosen(net > Money() ? Text::CashOutWin : Text::CashOutLoss, PlainText(Abs(net)));
   }
   if (abandoned != Money()) {
-    outcome += Join(GetText(31), PlainText(abandoned), GetText(32));
-  } else {
-    outcome += ")";
+    outcome = Say(Text::CashOutAfterAbandoned, outcome, PlainText(abandoned));
   }
-  WriteNote(place, Join(GetText(27), PlainText(bankroll), " (", outcome));
+  WriteEvent("    " + Say(Text::CashedOut, NameOf(place), PlainText(bankroll), outcome));
 }
 
 void LogSeed(int32_t generator, int32_t seed) {

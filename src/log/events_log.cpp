@@ -11,6 +11,7 @@
 #include "base/fault.h"
 #include "base/folders.h"
 #include "base/single_byte_text.h"
+#include "state/table.h"
 
 namespace tessarel {
 
@@ -32,20 +33,13 @@ constexpr std::array AllKinds = {
 };
 
 [[noreturn]] void RaiseFileAccess() {
-  throw Fault(FaultNumber::FileAccess, "Path/File access error");
-}
-
-std::ofstream OpenToAppend(const std::string& name) {
-  std::ofstream file(name, std::ios::binary | std::ios::app);
-  file.seekp(0, std::ios::end);
-  if (!file) RaiseFileAccess();
-  return file;
+  throw Fault(FaultNumber::FileAccess, FaultWording.FileAccess);
 }
 
 // Writes out what is buffered; a full disk shows here.
 void Close(std::ofstream& file) {
   file.close();
-  if (!file) throw Fault(FaultNumber::DeviceFull, "Disk full");
+  if (!file) throw Fault(FaultNumber::DeviceFull, FaultWording.DeviceFull);
 }
 
 void Remove(const std::string& name) {
@@ -62,6 +56,98 @@ std::array<char, PositionSize> PositionBytes(int64_t position) {
     bytes[k] = static_cast<char>(position >> (8 * k) & 0xFF);
   return bytes;
 }
+
+// The two files as they are held during a run: lines gather in memory and are written out in large
+// pieces.
+class OpenLog {
+ public:
+  bool IsFor(const std::string& name, const std::string& folder) const {
+    return log_.is_open() && name == name_ && folder == folder_;
+  }
+
+  void OpenBoth(const std::string& name, const std::string& folder) {
+    name_ = name;
+    folder_ = folder;
+    try {
+      const std::string indexName = EventsIndexName();
+      OpenAtEnd(index_, indexName);
+      OpenAtEnd(log_, EventsLogPath());
+      size_ = log_.tellp();
+      const int64_t indexSize = index_.tellp();
+      lines_ = indexSize / PositionSize;
+      // A record that was cut off in the middle gives way to the next one.
+      if (indexSize % PositionSize != 0) CutTo(indexName, lines_ * PositionSize);
+    } catch (const Fault&) {
+      Forget();
+      throw;
+    }
+  }
+
+  // A log that has no room for the line is closed as it stands.
+  void Add(std::string_view line) {
+    if (size_ >= LastPosition) {
+      Close();
+      RaiseOverflow();
+    }
+    const auto position = PositionBytes(size_ + 1);
+    positions_.append(position.data(), position.size());
+    const size_t before = text_.size();
+    AppendSingleByte(text_, line);
+    text_ += LineEnd;
+    size_ += static_cast<int64_t>(text_.size() - before);
+    ++lines_;
+    if (text_.size() >= MostHeld) Flush();
+  }
+
+  int32_t Lines() const { return static_cast<int32_t>(lines_); }
+
+  // Writes out what is held. After a fault nothing is open and what was held is gone.
+  void Flush() {
+    if (text_.empty()) return;
+    index_ << positions_ << std::flush;
+    log_ << text_ << std::flush;
+    positions_.clear();
+    text_.clear();
+    if (index_ && log_) return;
+    Forget();
+    throw Fault(FaultNumber::DeviceFull, FaultWording.DeviceFull);
+  }
+
+  void Close() {
+    if (!log_.is_open()) return;
+    Flush();
+    Forget();
+  }
+
+ private:
+  static constexpr size_t MostHeld = 1 << 20;
+
+  static void OpenAtEnd(std::ofstream& file, const std::string& name) {
+    file.open(name, std::ios::binary | std::ios::app);
+    file.seekp(0, std::ios::end);
+    if (!file) RaiseFileAccess();
+  }
+
+  static void CutTo(const std::string& name, int64_t size) {
+    std::error_code error;
+    std::filesystem::resize_file(name, static_cast<uintmax_t>(size), error);
+    if (error) RaiseFileAccess();
+  }
+
+  void Forget() {
+    index_ = std::ofstream();
+    log_ = std::ofstream();
+    positions_.clear();
+    text_.clear();
+  }
+
+  std::ofstream index_, log_;
+  std::string name_, folder_;
+  std::string positions_, text_;
+  int64_t size_ = 0, lines_ = 0;
+};
+
+OpenLog Open;
 
 // Walks over the bytes of a log in blocks of any size and finds where its lines start.
 class LineFinder {
@@ -119,7 +205,7 @@ class LineFinder {
 // the latest line of a roll.
 int32_t IndexLog(const std::string& indexName) {
   std::ifstream log(EventsLogPath(), std::ios::binary);
-  if (!log) throw Fault(FaultNumber::FileNotFound, "File not found");
+  if (!log) throw Fault(FaultNumber::FileNotFound, FaultWording.FileNotFound);
   std::ofstream index(indexName, std::ios::binary | std::ios::trunc);
   if (!index) RaiseFileAccess();
   LineFinder finder;
@@ -157,25 +243,21 @@ bool EventsLogExists() {
 }
 
 void WriteEvent(std::string_view line) {
-  const std::string indexName = EventsIndexName();
-  std::ofstream index = OpenToAppend(indexName);
-  std::ofstream log = OpenToAppend(EventsLogPath());
-  const int64_t indexSize = index.tellp();
-  const int64_t lines = indexSize / PositionSize;
-  // A record that was cut off in the middle gives way to the new one.
-  if (indexSize % PositionSize != 0) {
-    std::error_code error;
-    std::filesystem::resize_file(indexName, static_cast<uintmax_t>(lines * PositionSize), error);
-    if (error) RaiseFileAccess();
+  if (!Open.IsFor(EventsLog.EventLogName, Folders.AppFolder)) {
+    Open.Close();
+    Open.OpenBoth(EventsLog.EventLogName, Folders.AppFolder);
   }
-  const auto position = PositionBytes(static_cast<int64_t>(log.tellp()) + 1);
-  index.write(position.data(), position.size());
-  log << ToSingleByte(line) << LineEnd;
-  Close(index);
-  Close(log);
-  if (EventsLog.KeepLatestRollOnTop && IsRollLine(line)) {
-    EventsLog.LatestRollLine = static_cast<int32_t>(lines + 1);
-  }
+  Open.Add(line);
+  if (EventsLog.KeepLatestRollOnTop && IsRollLine(line)) EventsLog.LatestRollLine = Open.Lines();
+  if (!Table.AutoRollOn && !Table.HyperDriveOn) Open.Close();
+}
+
+void FlushEventsLog() {
+  Open.Flush();
+}
+
+void CloseEventsLog() {
+  Open.Close();
 }
 
 void WriteSection(std::string_view heading) {
@@ -194,6 +276,7 @@ void SelectAllEvents(bool on) {
 }
 
 void ClearEventsLog() {
+  CloseEventsLog();
   Remove(EventsIndexName());
   Remove(EventsLogPath());
   EventsLog.LatestRollLine = 0;
@@ -201,12 +284,14 @@ void ClearEventsLog() {
 }
 
 void IndexEventsLog() {
+  CloseEventsLog();
   if (EventsLogExists()) return RebuildEventsIndex();
   Remove(EventsIndexName());
   EventsLog.LatestRollLine = 0;
 }
 
 void RebuildEventsIndex() {
+  CloseEventsLog();
   // The new index replaces the old one only when it is whole.
   const std::string unfinished = EventsIndexName() + ".tmp";
   try {

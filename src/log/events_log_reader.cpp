@@ -49,7 +49,9 @@ void FileWindow::MoveTo(int64_t at) {
   held_.resize(static_cast<size_t>(file_.gcount()));
 }
 
-EventsLogReader::EventsLogReader() : index_(EventsIndexName()), log_(EventsLogPath()) {}
+// What a run still holds is written out first.
+EventsLogReader::EventsLogReader()
+    : index_((FlushEventsLog(), EventsIndexName())), log_(EventsLogPath()) {}
 
 int32_t EventsLogReader::LineCount() const {
   return static_cast<int32_t>(

@@ -12,17 +12,13 @@
 #include "play/roll_driver.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/language.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
 // Numbers of the general text table.
-constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114, StartAutoRollText = 115,
-              AutoRollActiveText = 117, AutoBetActiveText = 121, StopAutoBettingText = 145,
-              RollDelayText = 155;
 
 constexpr Money LongestDelay = 300;  // seconds
 
@@ -65,34 +61,34 @@ void StopAutoRoll() {
 }
 
 std::string_view HyperDriveCaption() {
-  return GetText(Table.HyperDriveOn ? HyperDriveActiveText : StartHyperDriveText);
+  return Wording(Table.HyperDriveOn ? Text::HyperDriveActive : Text::StartHyperDrive);
 }
 
 std::string_view AutoRollCaption() {
   const bool active = Table.AutoRollOn && !Table.HyperDriveOn;
-  return GetText(active ? AutoRollActiveText : StartAutoRollText);
+  return Wording(active ? Text::AutoRollActive : Text::StartAutoRoll);
 }
 
 void AskSetAutoStop() {
-  const auto rolls = AskForNumber(Localized(RollTexts.AskAutoStop),
-                                  Localized(RollTexts.AutoStopTitle), Settings.AutoStopRolls);
+  const auto rolls = AskForNumber(Wording(Text::AskAutoStop), Wording(Text::AutoStopTitle),
+                                  Settings.AutoStopRolls);
   if (!rolls) return;
   Settings.AutoStopRolls = Money::FromWhole(std::clamp<int64_t>(rolls->Floor(), 0, MaxRolls));
 }
 
 void AskSetTimeDelay() {
-  const auto delay =
-      AskForNumber(GetText(RollDelayText), GetTitle(TitleAutoRollDelay), Settings.RollDelay);
+  const auto delay = AskForNumber(Wording(Text::AskRollDelay), Wording(Text::AutoRollDelayTitle),
+                                  Settings.RollDelay);
   if (delay) Settings.RollDelay = std::clamp(*delay, Money(), LongestDelay);
 }
 
 bool ConfirmScriptActive() {
   if (!AutoBet.ScriptRunning) return true;
   const std::string question =
-      std::string(GetText(StopAutoBettingText)) + "\r\r" +
-      FillIn(RollTexts.ScriptProcessing, {Table.PlayerName[AutoBet.CurrentScriptPlayer]});
-  const int32_t answer = ShowMessage(question, std::string(GetText(AutoBetActiveText)),
-                                     msg::AskNoDefault, help::BettingSystems);
+      Say(Text::AskToStopAutoBetting) + "\r\r" +
+      Say(Text::ScriptProcessing, Table.PlayerName[AutoBet.CurrentScriptPlayer]);
+  const int32_t answer =
+      ShowMessage(question, Say(Text::AutoBetActive), msg::AskNoDefault, help::BettingSystems);
   if (answer != AnswerYes) return false;
   InterruptAutoBetting();
   return true;

@@ -14,16 +14,11 @@
 #include "files/game_file.h"
 #include "state/scripts.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
-
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
 
 void EmptyScripts() {
   for (int place = 1; place <= LastPlace; ++place)
@@ -34,7 +29,8 @@ void EmptyScripts() {
 bool SaveScript(int place) {
   const bool untitled = Scripts.Places[place].ScriptFile.empty();
   const std::string file =
-      untitled ? FrontEnd.AskSaveFile(Text(147), Table.PlayerName[place] + ".bet") : "";
+      untitled ? FrontEnd.AskSaveFile(FileAction::SaveScript, Table.PlayerName[place] + ".bet")
+               : "";
   if (untitled && file.empty()) return false;
   return Trapped("SaveScriptFile",
                  [&] { untitled ? SaveScriptFileAs(place, file) : SaveScriptFile(place); });
@@ -42,9 +38,9 @@ bool SaveScript(int place) {
 
 bool OfferToSaveScript(int place) {
   if (!Scripts.Places[place].changed) return true;
-  const std::string question = FillIn(FileTexts.AskToSaveScript, {Table.PlayerName[place]});
-  const int32_t answer =
-      ShowMessage(question, Text(120), msg::AskYesDefault | msg::Cancel, help::BettingSystems);
+  const std::string question = Say(Text::AskToSaveScript, Table.PlayerName[place]);
+  const int32_t answer = ShowMessage(question, Say(Text::AskToSaveAutoBets),
+                                     msg::AskYesDefault | msg::Cancel, help::BettingSystems);
   return answer == AnswerNo || (answer == AnswerYes && SaveScript(place));
 }
 
@@ -63,8 +59,8 @@ bool SaveGameUnderItsName() {
 
 bool OfferToSaveGame() {
   if (!Table.TableDirty) return true;
-  const int32_t answer =
-      ShowMessage(Text(141), Text(139), msg::AskYesDefault | msg::Cancel, help::Saving);
+  const int32_t answer = ShowMessage(Say(Text::AskToSaveSession), Say(Text::SaveSessionTitle),
+                                     msg::AskYesDefault | msg::Cancel, help::Saving);
   return answer == AnswerNo || (answer == AnswerYes && SaveGameUnderItsName());
 }
 
@@ -83,8 +79,7 @@ bool OfferToSaveMatrix() {
     case SaveChoice::SaveUnderItsName:
       return SaveMatrix(std::string(file));
     case SaveChoice::SaveUnderNewName:
-      return SaveMatrix(
-          FrontEnd.AskSaveFile(std::string(FileActionTitle(FileAction::SaveProbability)), file));
+      return SaveMatrix(FrontEnd.AskSaveFile(FileAction::SaveProbability, file));
     case SaveChoice::Cancel:
       return false;
     case SaveChoice::GoOn:
@@ -115,8 +110,7 @@ bool SaveGameInUse() {
 }
 
 bool SaveGameAs() {
-  const std::string title(FileActionTitle(FileAction::SaveSession));
-  return SaveGameTo(FrontEnd.AskSaveFile(title, GameFile.GameFileName));
+  return SaveGameTo(FrontEnd.AskSaveFile(FileAction::SaveSession, GameFile.GameFileName));
 }
 
 bool AskToReplaceGame() {

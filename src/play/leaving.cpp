@@ -13,22 +13,19 @@
 #include "play/auto_roll.h"
 #include "play/game_commands.h"
 #include "state/table.h"
-#include "texts/file_texts.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
-
 bool AskToStopUnattended() {
   const bool hyper = Table.HyperDriveOn;
   if (!hyper && !Table.AutoRollOn) return true;
-  const int title = hyper ? 114 : 117, question = hyper ? 118 : 119;
-  if (ShowMessage(Text(question), Text(title), msg::AskYesDefault, help::AutoRoll) != AnswerYes)
+  const Text title = hyper ? Text::HyperDriveActive : Text::AutoRollActive;
+  const Text question = hyper ? Text::AskToStopHyperDrive : Text::AskToStopAutoRoll;
+  if (ShowMessage(SayChosen(question), SayChosen(title), msg::AskYesDefault, help::AutoRoll) !=
+      AnswerYes)
     return false;
   StopUnattended();
   return true;
@@ -36,7 +33,8 @@ bool AskToStopUnattended() {
 
 bool AskToStopScripts() {
   if (!AutoBet.ScriptRunning) return true;
-  if (ShowMessage(Text(145), Text(121), msg::AskYesDefault, help::BettingSystems) != AnswerYes)
+  if (ShowMessage(Say(Text::AskToStopAutoBetting), Say(Text::AutoBetActive), msg::AskYesDefault,
+                  help::BettingSystems) != AnswerYes)
     return false;
   InterruptAutoBetting();
   return true;
@@ -45,7 +43,7 @@ bool AskToStopScripts() {
 // A table that finds no room on the disk is given up only by somebody who says so.
 bool KeepTable() {
   return SaveDefaultGame() ||
-         ShowMessage(LocalizedText(FileTexts.LeaveUnsaved), std::string(GameFile.WindowTitle),
+         ShowMessage(Say(Text::AskToLeaveUnsaved), std::string(GameFile.WindowTitle),
                      msg::AskNoDefault, help::Saving) == AnswerYes;
 }
 

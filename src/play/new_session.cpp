@@ -22,8 +22,7 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "stats/bankroll_graph.h"
-#include "texts/language.h"
-#include "texts/rail_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -107,8 +106,8 @@ void ClearLayout(bool keepStacks) {
 // A Cancel leaves the amount offered.
 Money AskBeginningBankroll(int place) {
   const Money offered = std::clamp(Table.BankrollInitAmount[place], -BankrollLimit, BankrollLimit);
-  return AskBankroll(FillIn(RailTexts.AskBeginningBankroll, {Table.PlayerName[place]}),
-                     LocalizedText(RailTexts.BeginningBankroll), PlainText(offered))
+  return AskBankroll(Say(Text::AskBeginningBankroll, Table.PlayerName[place]),
+                     Say(Text::BeginningBankroll), PlainText(offered))
       .value_or(offered);
 }
 

@@ -13,9 +13,7 @@
 #include "state/books.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/language.h"
-#include "texts/rail_texts.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -35,7 +33,7 @@ constexpr int NextShooterPlace(int place) {
 void TellPassing(PassReason reason, std::string text) {
   const bool silent = (Table.MessageSwitches & ShowRejections) == 0;
   if (reason != PlayerAsked || Table.HyperDriveOn || silent) return;
-  ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::OkAlert, help::Players);
+  ShowMessage(std::move(text), Say(Text::PassTheDice), msg::OkAlert, help::Players);
 }
 
 // The first place after the shooter's that `qualifies` accepts; 0 when none does.
@@ -62,21 +60,20 @@ void GiveDice(int place) {
 
 void PassAmongNone(PassReason reason) {
   Table.Shooter = Table.LastShooter = 0;
-  TellPassing(reason, LocalizedText(RailTexts.NoPlayers));
+  TellPassing(reason, Say(Text::NoPlayers));
 }
 
 void PassWithOnePlayer(PassReason reason) {
-  TellPassing(reason, LocalizedText(RailTexts.NoOtherPlayers));
+  TellPassing(reason, Say(Text::NoOtherPlayers));
   if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
 }
 
 std::string NobodyShootsText(int blocked) {
-  if (blocked == 1) return LocalizedText(RailTexts.OneBlocked);
-  if (blocked > 1) return FillIn(RailTexts.ManyBlocked, {std::to_string(blocked)});
+  if (blocked == 1) return Say(Text::OneBlocked);
+  if (blocked > 1) return Say(Text::ManyBlocked, blocked);
   const bool oneOther = Table.PlayerCount == 2 && Table.Shooter != 0;
   const int other = oneOther ? FindShooter([](int) { return true; }) : 0;
-  return other != 0 ? FillIn(RailTexts.OtherDeclines, {NameOf(other)})
-                    : LocalizedText(RailTexts.AllDecline);
+  return other != 0 ? Say(Text::OtherDeclines, NameOf(other)) : Say(Text::AllDecline);
 }
 
 void PassToNobody(PassReason reason, int blocked) {
@@ -89,8 +86,8 @@ void PassToNobody(PassReason reason, int blocked) {
 // The dice go on in the middle of a hand, which stays credited to who started it.
 void TellOfPassedHand(PassReason reason, int from, int to) {
   if (RollsInHand() == 0) return;
-  const SixTexts& text = to == Table.LastShooter ? RailTexts.PassingBack : RailTexts.PassingOn;
-  TellPassing(reason, FillIn(text, {NameOf(from), NameOf(to)}));
+  const Text text = to == Table.LastShooter ? Text::PassingBack : Text::PassingOn;
+  TellPassing(reason, SayChosen(text, NameOf(from), NameOf(to)));
   if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
@@ -105,8 +102,9 @@ std::optional<Money> AskBankroll(const std::string& question,
     const std::optional<Money> amount = ParseTypedMoney(shown);
     if (amount && Abs(*amount) <= BankrollLimit) return amount;
     const bool tooLow = amount && *amount < Money();
-    text = std::string(GetText(tooLow ? 11 : 10)) + (tooLow ? "-$" : "$") +
-           FormatMoney(BankrollLimit) + "\r\r" + question;
+    text = SayChosen(tooLow ? Text::BankrollMinimum : Text::BankrollMaximum,
+                     FormatMoney(BankrollLimit)) +
+           "\r\r" + question;
   }
   return std::nullopt;
 }
@@ -129,14 +127,12 @@ void ShowPassedDiceNote() {
   std::string text;
   if (RollsInHand() > 0 && Table.Shooter != Table.LastShooter) {
     const std::string& shooter = NameOf(Table.Shooter);
-    text = Table.LastShooter == 0
-               ? FillIn(RailTexts.HandOfGonePlayer, {shooter})
-               : FillIn(RailTexts.HandOfOther, {shooter, NameOf(Table.LastShooter)});
+    text = Table.LastShooter == 0 ? Say(Text::HandOfGonePlayer, shooter)
+                                  : Say(Text::HandOfOther, shooter, NameOf(Table.LastShooter));
   } else if (RollsInHand() == 0 && handBefore && Table.PreviousShooter == 0) {
-    text = LocalizedText(RailTexts.LastHandOfGonePlayer);
+    text = Say(Text::LastHandOfGonePlayer);
   }
-  if (!text.empty())
-    ShowMessage(std::move(text), LocalizedText(RailTexts.PassTheDice), msg::Ok, help::Players);
+  if (!text.empty()) ShowMessage(std::move(text), Say(Text::PassTheDice), msg::Ok, help::Players);
 }
 
 void PassDice(PassReason reason) {
@@ -158,10 +154,10 @@ void PassDice(PassReason reason) {
 }
 
 std::string BankrollLimitText(int place) {
-  const std::string reset = LocalizedText(RollTexts.ResetTable);
+  const std::string reset = Say(Text::ResetTable);
   if (!IsTaken(Table, place)) return reset;
-  const SixTexts& text = BankrollOf(place) <= Money() ? RailTexts.BelowLimit : RailTexts.AboveLimit;
-  return FillIn(text, {NameOf(place), LimitText}) + "\r\r" + reset;
+  const Text text = BankrollOf(place) <= Money() ? Text::BelowLimit : Text::AboveLimit;
+  return SayChosen(text, NameOf(place), LimitText) + "\r\r" + reset;
 }
 
 void BankrollLimitStop(int place) {

@@ -22,8 +22,7 @@
 #include "state/scripts.h"
 #include "state/table.h"
 #include "stats/selection.h"
-#include "texts/language.h"
-#include "texts/rail_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -32,10 +31,6 @@ namespace {
 constexpr const char* UsualBuyIn = "1000";
 // The name of a player's sessions log, which holds his, is one that every disk takes.
 constexpr size_t MostNameCharacters = 60;
-
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
 
 // Asks `question` until the answer is a name that can be given; empty when the user gives up.
 std::string AskName(const std::string& question, const std::string& title, int place) {
@@ -48,7 +43,7 @@ std::string AskName(const std::string& question, const std::string& title, int p
     offered = name;
     if (ToSingleByte(name).size() > MostNameCharacters) {
       const std::string most = std::to_string(MostNameCharacters);
-      text = FillIn(RailTexts.NameTooLong, {most}) + "\r\r" + question;
+      text = Say(Text::NameTooLong, most) + "\r\r" + question;
     } else if (const auto taken = NameRefusal(name, place)) {
       text = *taken + "\r\r" + question;
     } else if (const auto reserved = PlayerNameRefusal(name)) {
@@ -82,32 +77,32 @@ Money Total(const std::vector<AbandonedBet>& bets) {
   return total;
 }
 
-// "an active Pass Line bet and 2 active Come bets "
+// "an active Pass Line bet and 2 active Come bets"
 std::string ListOf(const std::vector<AbandonedBet>& bets) {
   const auto isCome = [](const AbandonedBet& bet) { return InFamily(bet.number, ComeFamily); };
   const auto comes = std::count_if(bets.begin(), bets.end(), isCome);
   std::vector<std::string> parts;
   for (const AbandonedBet& bet : bets) {
     if (comes > 1 && isCome(bet)) continue;
-    parts.push_back(FillIn(GetText(20), BetName[bet.number]));
+    parts.push_back(Say(Text::AbandonedBet, BetName[bet.number]));
   }
   if (comes > 1) {
-    parts.push_back(std::to_string(comes) + FillIn(GetText(23), BetName[bet::Come]));
+    parts.push_back(Say(Text::AbandonedBets, comes, BetName[bet::Come]));
   }
   std::string list = parts.front();
   for (size_t k = 1; k < parts.size(); ++k)
-    list += Text(21) + parts[k];
+    list = Say(Text::AbandonedBetsJoined, list, parts[k]);
   return list;
 }
 
 bool ConfirmRemoval(int place, const std::vector<AbandonedBet>& abandoned) {
   const std::string& name = Table.PlayerName[place];
-  std::string text = Text(18) + name + "?";
+  std::string text = Say(Text::AskToRemovePlayer, name);
   if (!abandoned.empty()) {
-    text += "\r\r" + name + Text(19) + ListOf(abandoned) + Text(24) + "\r\r" + Text(25) +
-            FormatMoney(Total(abandoned));
+    text += "\r\r" + Say(Text::StillHasBets, name, ListOf(abandoned)) + "\r\r" +
+            Say(Text::TotalAbandoned, FormatMoney(Total(abandoned)));
   }
-  return ShowMessage(text, Text(26), msg::AskNoDefault, help::Players) == AnswerYes;
+  return ShowMessage(text, Say(Text::RemovePlayer), msg::AskNoDefault, help::Players) == AnswerYes;
 }
 
 void LoseAbandoned(int place, const std::vector<AbandonedBet>& bets) {
@@ -127,19 +122,22 @@ std::optional<std::string> NameRefusal(const std::string& name, int place) {
   for (int other = 1; other <= LastPlace; ++other) {
     if (other != place && IsTaken(Table, other) &&
         EqualIgnoringCase(Table.PlayerName[other], name)) {
-      return Text(6) + name;
+      return Say(Text::NameTaken, name);
     }
   }
-  if (name.find_first_not_of("0123456789") == std::string::npos) return Text(7);
+  if (name.find_first_not_of("0123456789") == std::string::npos) return Say(Text::NameAllNumeric);
   return std::nullopt;
 }
 
 bool AddPlayer(int place) {
   if (IsTaken(Table, place)) return false;
-  if (ShowMessage(Text(3), Text(5), msg::AskYesDefault, help::Players) != AnswerYes) return false;
-  const std::string name = AskName(Text(4), Text(5), 0);
+  if (ShowMessage(Say(Text::AskToAddPlayer), Say(Text::AddNewPlayer), msg::AskYesDefault,
+                  help::Players) != AnswerYes)
+    return false;
+  const std::string name = AskName(Say(Text::AskNewPlayerName), Say(Text::AddNewPlayer), 0);
   if (name.empty()) return false;
-  const std::optional<Money> buyIn = AskBankroll(FillIn(GetText(9), name), Text(5), UsualBuyIn);
+  const std::optional<Money> buyIn =
+      AskBankroll(Say(Text::AskBuyIn, name), Say(Text::AddNewPlayer), UsualBuyIn);
   if (!buyIn) return false;
   return RunCommand("AddPlayer", [&] {
     SeatPlayer(place, name, *buyIn);
@@ -151,7 +149,7 @@ bool AddPlayer(int place) {
 bool RenamePlayer(int place) {
   if (!IsTaken(Table, place)) return false;
   const std::string before = Table.PlayerName[place];
-  const std::string name = AskName(Text(13) + before, Text(14), place);
+  const std::string name = AskName(Say(Text::AskNewName, before), Say(Text::RenamePlayer), place);
   if (name.empty()) return false;
   const bool renamed = RunCommand("RenamePlayer", [&] {
     SetPlayerName(place, name);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "autobet/interpreter.h"
+#include "base/clock.h"
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/trap.h"
@@ -28,8 +29,7 @@
 #include "state/scripts.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/language.h"
-#include "texts/roll_texts.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -43,9 +43,8 @@ bool Refuse(std::string text, std::string title, StopCause cause) {
 }
 
 // A demand on the shooter, with the note where it can be changed.
-std::string BetDemand(const SixTexts& demand) {
-  return FillIn(demand, {Table.PlayerName[Table.Shooter]}) + "\r\r" +
-         LocalizedText(RollTexts.BetRequiredNote);
+std::string BetDemand(Text demand) {
+  return SayChosen(demand, Table.PlayerName[Table.Shooter]) + "\r\r" + Say(Text::BetRequiredNote);
 }
 
 bool HasAnyBet(int place) {
@@ -53,29 +52,27 @@ bool HasAnyBet(int place) {
 }
 
 bool RefuseWithoutLineBet() {
-  const SixTexts& demand = Table.PlayerCount == 1 ? RollTexts.LineBetAlone
-                           : Table.Point != 0     ? RollTexts.LineBetDuringPoint
-                                                  : RollTexts.LineBetOrPass;
-  return Refuse(BetDemand(demand), LocalizedText(RollTexts.LineBetRequired),
-                StopCause::ShooterWithoutLineBet);
+  const Text demand = Table.PlayerCount == 1 ? Text::LineBetAlone
+                      : Table.Point != 0     ? Text::LineBetDuringPoint
+                                             : Text::LineBetOrPass;
+  return Refuse(BetDemand(demand), Say(Text::LineBetRequired), StopCause::ShooterWithoutLineBet);
 }
 
 bool RequiredBetStands() {
   if (Settings.BetNeededToShoot <= 0) return true;
   if (Table.PlayerCount == 0) {
-    return Refuse(std::string(GetText(110)), std::string(GetText(111)), StopCause::NobodyToBet);
+    return Refuse(Say(Text::NoPlayersToBet), Say(Text::BetRequired), StopCause::NobodyToBet);
   }
   if (Settings.BetNeededToShoot == 1) return HasLineBet(Table.Shooter) || RefuseWithoutLineBet();
   if (HasAnyBet(Table.Shooter)) return true;
-  return Refuse(BetDemand(RollTexts.AnyBetOrPass), LocalizedText(RollTexts.AnyBetRequired),
+  return Refuse(BetDemand(Text::AnyBetOrPass), Say(Text::AnyBetRequired),
                 StopCause::ShooterWithoutBet);
 }
 
 bool BelowMaximumRolls() {
   if (RollsInSession() < MaxRolls) return true;
-  return Refuse(
-      LocalizedText(RollTexts.MaximumRolls) + "\r\r" + LocalizedText(RollTexts.ResetTable),
-      LocalizedText(RollTexts.MaximumRollsTitle), StopCause::MaximumRolls);
+  return Refuse(Say(Text::MaximumRolls) + "\r\r" + Say(Text::ResetTable),
+                Say(Text::MaximumRollsTitle), StopCause::MaximumRolls);
 }
 
 void FigureAvailableBankrolls() {
@@ -336,11 +333,22 @@ bool ScriptsCanRun() {
   return Scripts.ProgramReady;
 }
 
+// Once a second what a run has logged goes to the disk.
+void KeepLogUpToDate() {
+  if (!EventsLog.LogOn) return;
+  constexpr int64_t Second = 1000;
+  const int64_t now = TickMilliseconds();
+  if (now - RollPace.LogStamp < Second) return;
+  RollPace.LogStamp = now;
+  Trapped("MakeRoll", FlushEventsLog);
+}
+
 // Between two rolls of the Hyper-Drive. Returns whether it goes on. The events may have changed the
 // scripts.
 bool GoOnRolling() {
   if (!Table.HyperDriveOn) return false;
   FrontEnd.RunPendingEvents();
+  KeepLogUpToDate();
   StopAtCount();
   if (Table.HyperDriveOn && !ScriptsCanRun()) StopUnattended();
   if (!Table.HyperDriveOn || Table.Stop != StopCause::None) return false;
@@ -362,10 +370,11 @@ bool RollUntilStopped(std::optional<Faces>& chosen) {
 void PauseAutoRoll() {
   if (!Table.AutoRollOn || Table.HyperDriveOn || Table.Stop != StopCause::None) return;
   FrontEnd.DrawStatus();
+  Trapped("MakeRoll", FlushEventsLog);
   if (AutoStopIsDue()) {
     StopUnattended();
-    ShowMessage(LocalizedText(RollTexts.AutoStopNotice), LocalizedText(RollTexts.AutoRollStopped),
-                msg::OkAlert, help::AutoRoll);
+    ShowMessage(Say(Text::AutoStopNotice), Say(Text::AutoRollStopped), msg::OkAlert,
+                help::AutoRoll);
   } else {
     WaitForNextRoll();
   }
@@ -392,6 +401,7 @@ void EndRolling(bool ranUnattended, bool rolled) {
   EndPlay(ranUnattended);
   Table.Stop = StopCause::None;
   if (rolled) CallComeOut();
+  Trapped("MakeRoll", CloseEventsLog);
   Table.RollInProgress = false;
   FrontEnd.DrawStatus();
 }

@@ -10,6 +10,7 @@ namespace tessarel {
 inline constexpr int32_t MaxThrottle = 100;
 
 struct RollPaceState {
+  int64_t LogStamp = 0;  // when the events log was last written out in a run
   // Steps of the empty loop at throttle position 1; 0: not measured yet.
   int64_t LoopRate = 0;
   // When the last roll ended, in TickMilliseconds: the next one waits from then on.

@@ -14,8 +14,8 @@
 #include "state/payoffs.h"
 #include "state/settings.h"
 #include "state/table.h"
-#include "texts/dice_texts.h"
 #include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -51,7 +51,7 @@ void SetUpNewTable(const std::string& appFolder) {
 
 void WarnOfMissingFiles() {
   const std::string text = MissingSupportText();
-  if (!text.empty()) ShowMessage(text, LocalizedText(DiceTexts.MissingSupportFile), msg::Ok);
+  if (!text.empty()) ShowMessage(text, Say(Text::MissingSupportFile), msg::Ok);
 }
 
 }  // namespace

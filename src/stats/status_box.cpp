@@ -3,45 +3,31 @@
 #include "base/number_format.h"
 #include "state/table.h"
 #include "stats/view_text.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
 // The two spaces stand between a caption and its figure.
-// clang-format off
-constexpr SixTexts BankrollCaption = {
-    "Bankroll:  ", "Capital:  ", "Guthaben:  ", "Capital :  ", "Bakiye:  ", "Capitale:  "};
-constexpr SixTexts RailCaption = {
-    "Rail:  ", "Barandilla:  ", "Tischrand:  ", "Rebord :  ", "Kenarda:  ", "Sponda:  "};
-constexpr SixTexts BetCaption = {
-    "1 Bet:  ", "1 apuesta:  ", "1 Wette:  ", "1 mise :  ", "1 bahis:  ", "1 puntata:  "};
-constexpr SixTexts BetsCaption = {
-    "%1 Bets:  ", "%1 apuestas:  ", "%1 Wetten:  ", "%1 mises :  ", "%1 bahis:  ",
-    "%1 puntate:  "};
-constexpr SixTexts WonCaption = {
-    "Won:  ", "Ganado:  ", "Gewonnen:  ", "Gagné :  ", "Kazanç:  ", "Vinto:  "};
-constexpr SixTexts LostCaption = {
-    "Lost:  ", "Perdido:  ", "Verloren:  ", "Perdu :  ", "Kayip:  ", "Perso:  "};
-constexpr SixTexts EvenCaption = {
-    "Even:  ", "En paz:  ", "Ausgeglichen:  ", "Égalité :  ", "Basabas:  ", "In pari:  "};
-// clang-format on
 
-std::string Text(Money amount) {
+// Between a caption and its amount, which the captions carry.
+constexpr const char* Gap = "  ";
+
+std::string Cents(Money amount) {
   return FormatNumber(amount, "#,0.00;-#,0.00;0.00");
 }
 
 std::string BetCountCaption(int64_t bets) {
-  if (bets == 1) return std::string(Localized(BetCaption));
-  return FillIn(BetsCaption, {CountText(bets)});
+  if (bets == 1) return Say(Text::StatusOneBet) + Gap;
+  return Say(Text::StatusBets, CountText(bets)) + Gap;
 }
 
 // What the session brought, ATM moves aside.
 StatusRow ResultRow(Money net) {
   const int sign = net > Money() ? 1 : net < Money() ? -1 : 0;
-  const SixTexts& caption = sign > 0 ? WonCaption : sign < 0 ? LostCaption : EvenCaption;
-  return {std::string(Localized(caption)), Text(Abs(net)), sign};
+  const Text caption = sign > 0 ? Text::StatusWon : sign < 0 ? Text::StatusLost : Text::StatusEven;
+  return {SayChosen(caption) + Gap, Cents(Abs(net)), sign};
 }
 
 }  // namespace
@@ -53,9 +39,9 @@ std::vector<StatusRow> StatusBox(int place) {
   int64_t bets = 0;
   Table.Standing[place].ForEach([&bets](int) { ++bets; });
   return {
-      {std::string(Localized(BankrollCaption)), Text(bankroll)},
-      {std::string(Localized(RailCaption)), Text(bankroll - onTable)},
-      {BetCountCaption(bets), Text(onTable)},
+      {Say(Text::StatusBankroll) + Gap, Cents(bankroll)},
+      {Say(Text::StatusRail) + Gap, Cents(bankroll - onTable)},
+      {BetCountCaption(bets), Cents(onTable)},
       ResultRow(bankroll - Table.InvestedBankroll[place]),
   };
 }

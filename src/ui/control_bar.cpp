@@ -18,13 +18,11 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "state/view_state.h"
-#include "texts/dice_texts.h"
+#include "texts/say.h"
 #include "ui/check_drag.h"
-#include "ui/control_bar_texts.h"
 #include "ui/paint/check_paint.h"
 #include "ui/table_play.h"
 #include "ui/text.h"
-#include "ui/windows/rate_meter.h"
 
 namespace tessarel {
 
@@ -34,10 +32,6 @@ constexpr int CheckSide = 44, CheckGap = 8, DiceIconSide = 30;
 
 std::string Count(int64_t count) {
   return FormatNumber(Money::FromWhole(count), "#,0");
-}
-
-int64_t RollsASecond() {
-  return static_cast<int64_t>(RollRate());
 }
 
 // The two dice as a picture for the roll button.
@@ -61,17 +55,17 @@ QString InTwoLines(std::string_view caption) {
 }
 
 QString DrivingCaption(int64_t rate) {
-  return Shown(GetText(114)) + "\n" + Shown(FillIn(texts::RollsASecond, {Count(rate)}));
+  return Shown(Text::HyperDriveActive) + "\n" + Shown(Say(Text::RollsASecond, Count(rate)));
 }
 
 QString PointText() {
-  return Table.Point == 0 ? Shown(texts::ComeOut)
-                          : Shown(FillIn(texts::PointIs, {std::to_string(Table.Point)}));
+  return Table.Point == 0 ? Shown(Text::ComeOutRoll)
+                          : Shown(Say(Text::PointIs, std::to_string(Table.Point)));
 }
 
 // What stands in the way of the next roll, else the point.
 QString StateText() {
-  if (PopupRoll.Waiting) return Shown(DiceTexts.WaitingForRollFile);
+  if (PopupRoll.Waiting) return Shown(Text::WaitingForRollFile);
   return PointText();
 }
 
@@ -153,10 +147,10 @@ bool CheckChooser::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const int denomination = CheckAt(help->pos());
-    const QString text = denomination == 0
-                             ? QString()
-                             : Shown(FillIn(texts::BetWithCheck,
-                                            {FormatMoney(Settings.Denomination[denomination])}));
+    const QString text =
+        denomination == 0
+            ? QString()
+            : Shown(Say(Text::BetWithCheck, FormatMoney(Settings.Denomination[denomination])));
     QToolTip::showText(help->globalPos(), text, this);
     return true;
   }
@@ -213,12 +207,12 @@ ControlBar::ControlBar(QWidget* parent)
 }
 
 void ControlBar::SetCaptions() {
-  roll_->setText(Shown(texts::Roll));
-  roll_->setToolTip(Shown(texts::RollTip));
-  autoRoll_->setToolTip(Shown(texts::AutoRollTip));
-  hyperDrive_->setToolTip(Shown(texts::HyperDriveTip));
-  checks_->setAccessibleName(Shown(texts::ChecksName));
-  enterBet_->setAccessibleName(Shown(texts::KeyedAmountName));
+  roll_->setText(Shown(Text::RollButton));
+  roll_->setToolTip(Shown(Text::RollTip));
+  autoRoll_->setToolTip(Shown(Text::AutoRollTip));
+  hyperDrive_->setToolTip(Shown(Text::HyperDriveTip));
+  checks_->setAccessibleName(Shown(Text::ChecksName));
+  enterBet_->setAccessibleName(Shown(Text::KeyedAmountName));
   // The buttons keep the width of their longest caption, so that nothing moves when play starts.
   const auto widest = [](QPushButton* button, std::initializer_list<QString> captions) {
     int width = 0;
@@ -226,17 +220,22 @@ void ControlBar::SetCaptions() {
       width = std::max(width, button->fontMetrics().size(0, WithoutMark(caption)).width());
     button->setFixedWidth(width + 28);
   };
-  widest(autoRoll_, {InTwoLines(GetText(115)), InTwoLines(GetText(117))});
-  widest(hyperDrive_, {InTwoLines(GetText(112)), DrivingCaption(99'999'999)});
+  widest(autoRoll_,
+         {InTwoLines(Wording(Text::StartAutoRoll)), InTwoLines(Wording(Text::AutoRollActive))});
+  widest(hyperDrive_, {InTwoLines(Wording(Text::StartHyperDrive)), DrivingCaption(99'999'999)});
   counts_->setMinimumWidth(counts_->fontMetrics().horizontalAdvance(
-      Shown(FillIn(texts::Counts, {"9,999,999", "999,999"}))));
+      Shown(Say(Text::RollAndHandCounts, "9,999,999", "999,999"))));
   Refresh();
 }
 
 void ControlBar::ShowState() {
   state_->setText(StateText());
   const int64_t hands = Stats.Hands[CurrentSession].HandCount + (RollsInHand() > 0 ? 1 : 0);
-  counts_->setText(Shown(FillIn(texts::Counts, {Count(RollsInSession()), Count(hands)})));
+  counts_->setText(Shown(Say(Text::RollAndHandCounts, Count(RollsInSession()), Count(hands))));
+}
+
+int64_t ControlBar::RollsASecond() {
+  return static_cast<int64_t>(rate_.PerSecond());
 }
 
 void ControlBar::ShowRun() {

@@ -17,10 +17,8 @@
 #include "play/roll_driver.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
-#include "state/view_state.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/layout/table_layout.h"
-#include "ui/table_texts.h"
 
 namespace tessarel {
 
@@ -28,24 +26,8 @@ TablePlayState TablePlay;
 
 namespace {
 
-std::string Text(int id) {
-  return std::string(GetText(id));
-}
-
 std::string NameOf(int place) {
   return Table.PlayerName[place];
-}
-
-bool IsRailSpot(int spot) {
-  return spot >= RailSpot(1, 0) && spot < RailSpot(LastPlace + 1, 0);
-}
-
-int PlaceOfSpot(int spot) {
-  return spot / RailSpot(1, 0);
-}
-
-bool HasBet(int place, int number) {
-  return Bet(place, number) > Money();
 }
 
 // The amount that a bare click adds; with `from` no more than stands on the bet.
@@ -93,10 +75,6 @@ Trial TryOut(int32_t notices, Change&& change) {
 
 // --- Changing bets -----------------------------------------------------------------------------
 
-bool MayChange() {
-  return TableIsOpen() && ConfirmScriptActive();
-}
-
 void ChangeAmount(int place, int number, Money amount) {
   Table.Amount = amount;
   Table.TableDirty = true;
@@ -115,10 +93,6 @@ Money ClickedChange(int place, int number, ClickKind kind) {
   if (const auto entered = TakeEnteredAmount()) return *entered - Bet(place, number);
   const Money check = CheckValue();
   return kind == ClickKind::Add ? check : -std::min(check, Bet(place, number));
-}
-
-void TellNobodyHere() {
-  ShowMessage(Text(1), Text(2), msg::Ok);
 }
 
 void ClickBet(int spot, ClickKind kind) {
@@ -173,21 +147,12 @@ void ClickRail(int place) {
   SelectPlace(place);
 }
 
-// The current player, after telling that there is none.
-int PlayerForCommand() {
-  if (!TableIsOpen()) return 0;
-  const int place = CurrentPlace();
-  if (place == 0) TellNobodyHere();
-  return place;
-}
-
 std::string OutlookOnRail(int place) {
   if (TablePlay.TableAction > ActionMovePlayer) {
-    return FillIn(texts::MoveHere, {NameOf(TablePlay.TableAction - ActionMovePlayer)});
+    return Say(Text::MoveHere, NameOf(TablePlay.TableAction - ActionMovePlayer));
   }
-  if (!IsTaken(Table, place)) return std::string(Localized(texts::JoinHere));
-  return FillIn(place == CurrentPlace() ? texts::PlayersMenu : texts::BetForPlayer,
-                {NameOf(place)});
+  if (!IsTaken(Table, place)) return Say(Text::JoinHere);
+  return SayChosen(place == CurrentPlace() ? Text::PlayersMenu : Text::BetForPlayer, NameOf(place));
 }
 
 // --- Saying what is there ----------------------------------------------------------------------
@@ -199,24 +164,24 @@ std::string SpotName(int number) {
   return name.empty() ? "CheckStack #" + std::to_string(number - FirstStack) : name;
 }
 
-const SixTexts& ActionText(int action) {
+Text ActionText(int action) {
   switch (action) {
     case ActionCallOn:
-      return texts::CallOnHere;
+      return Text::CallOnHere;
     case ActionCallOff:
-      return texts::CallOffHere;
+      return Text::CallOffHere;
     case ActionBuy:
-      return texts::BuyHere;
+      return Text::BuyHere;
     default:
-      return texts::RemoveHere;
+      return Text::RemoveHere;
   }
 }
 
 ClickOutlook OutlookOfBet(int number) {
   const int place = CurrentPlace();
-  if (place == 0) return {Text(1), false};
+  if (place == 0) return {Say(Text::ClickOpenPosition), false};
   if (TablePlay.TableAction != ActionNormal) {
-    return {FillIn(ActionText(TablePlay.TableAction), {SpotName(number)}),
+    return {SayChosen(ActionText(TablePlay.TableAction), SpotName(number)),
             Suits(number < FirstStack ? number : 0)};
   }
   const std::optional<Money> entered =
@@ -234,7 +199,7 @@ ClickOutlook OutlookOfBet(int number) {
     return {OnOneLine(why), false};
   }
   const std::string amount = FormatMoney(entered ? *entered : trial.delta);
-  return {FillIn(entered ? texts::SetBetTo : texts::AddToBet, {SpotName(number), amount}), true};
+  return {SayChosen(entered ? Text::SetBetTo : Text::AddToBet, SpotName(number), amount), true};
 }
 
 bool PayoffVaries(int number) {
@@ -244,24 +209,24 @@ bool PayoffVaries(int number) {
 }
 
 std::string PayoffText(int number) {
-  if (PayoffVaries(number)) return std::string(Localized(texts::PayoffVaries));
+  if (PayoffVaries(number)) return Say(Text::TipPayoffVaries);
   const PayoffRow& row = PayoffRowOf(number);
   const bool isTo = row.PayForm == Money(FormTo);
   const Money first = isTo ? row.PayNum : row.PayNum + row.PayDen;
-  return std::string(Localized(texts::Pays)) + FormatMoney(first) +
-         std::string(Localized(isTo ? texts::PaysTo : texts::PaysFor)) + FormatMoney(row.PayDen);
+  return SayChosen(isTo ? Text::TipPaysTo : Text::TipPaysFor, FormatMoney(first),
+                   FormatMoney(row.PayDen));
 }
 
 std::string StateText(int place, int number) {
   switch (Table.BetWorking[place][number]) {
     case CalledOff:
-      return std::string(Localized(texts::IsCalledOff));
+      return Say(Text::TipCalledOff);
     case CalledOn:
-      return std::string(Localized(texts::IsCalledOn));
+      return Say(Text::TipCalledOn);
     case NotWorking:
-      return std::string(Localized(texts::NotWorking));
+      return Say(Text::TipNotWorking);
     default:
-      return std::string(Localized(texts::Working));
+      return Say(Text::TipWorking);
   }
 }
 
@@ -270,83 +235,32 @@ void AddCompanions(std::string& tip, int place, int number) {
   const bool lay = InFamily(number, LayFamily), buy = InFamily(number, BuyFamily);
   if (lay || buy) {
     const auto& vigs = lay ? Table.LayVig[place] : Table.BuyVig[place];
-    tip += "\r" + std::string(Localized(texts::Vig)) +
-           FormatExact(At(vigs, (number - 1) % FamilySize));
+    tip += "\r" + Say(Text::TipVig, FormatExact(At(vigs, (number - 1) % FamilySize)));
   }
   const bool line = number == bet::PassLine || number == bet::DontPass;
   if (line && HasBet(place, number + 1)) {
-    tip += "\r" + std::string(Localized(texts::TipOdds)) + FormatExact(Bet(place, number + 1));
+    tip += "\r" + Say(Text::TipOdds, FormatExact(Bet(place, number + 1)));
   }
-  tip += "\r" + std::string(TrimSpaces(StateText(place, number)));
+  tip += "\r" + StateText(place, number);
 }
 
 std::string FullTip(int place, int number) {
   std::string tip = SpotName(number) + ": " + FormatExact(Bet(place, number));
   if (!IsBet(number)) return tip;
   if (HasBet(place, number)) AddCompanions(tip, place, number);
-  return tip + "\r" + std::string(TrimSpaces(PayoffText(number)));
+  return tip + "\r" + PayoffText(number);
 }
 
 }  // namespace
 
-// --- Choices -----------------------------------------------------------------------------------
-
-int CurrentPlace() {
-  int32_t& place = GameViews.Players.Table;
-  if (place >= 1 && place <= LastPlace && IsTaken(Table, place)) return place;
-  place = Table.TakenPlaces == 0 ? 0 : std::countr_zero(Table.TakenPlaces);
-  return place;
-}
-
-void SelectPlace(int place) {
-  if (place < 1 || place > LastPlace || !IsTaken(Table, place)) return;
-  GameViews.Players.Table = place;
-  FrontEnd.DrawTable();
-}
-
-int ChosenCheck() {
-  constexpr int AtTheStart = 2;
-  return GameViews.Table.ChosenCheck == 0 ? AtTheStart : GameViews.Table.ChosenCheck;
-}
-
-void ChooseCheck(int denomination) {
-  GameViews.Table.ChosenCheck = std::clamp(denomination, 1, 5);
-  FrontEnd.DrawStatus();
-}
-
-// --- Spots -------------------------------------------------------------------------------------
-
-int SpotOfPixel(int value) {
-  const int place = CurrentPlace();
-  if (place == 0) return value;
-  if (InFamily(value, DontComeOddsFamily)) {
-    const bool neither = !HasBet(place, value) && !HasBet(place, FlatUnder(value));
-    return neither ? FlatUnder(value) : value;
-  }
-  if (value == bet::DontPass || value == bet::DontPassOdds) {
-    if (value == bet::DontPassOdds && HasBet(place, value)) return value;
-    return HasBet(place, bet::DontPass) && Table.Point != 0 ? bet::DontPassOdds : bet::DontPass;
-  }
-  if (InFamily(value, PlaceFamily) && HasBet(place, value + FamilySize)) return value + FamilySize;
-  const int item = value % RailSpot(1, 0);
-  const bool ownStack = IsRailSpot(value) && PlaceOfSpot(value) == place &&
-                        item >= FirstRailStack && item <= LastRailStack;
-  return ownStack ? FirstStack + 1 + item - FirstRailStack : value;
-}
-
-int NumberOfSpot(int spot) {
-  if (IsBet(spot)) return spot;
-  if (spot <= FirstStack || spot > FirstStack + 4) return 0;
-  return Table.VisibleStack[CurrentPlace()][spot - FirstStack];
-}
+// --- Clicks -----------------------------------------------------------------------------------
 
 void ClickSpot(int spot, ClickKind kind) {
   if (TablePlay.DiceInAir) return;
   if (TablePlay.TableAction > ActionMovePlayer) return FinishMove(spot);
   if (IsRailSpot(spot)) return ClickRail(PlaceOfSpot(spot));
   if (spot == PropositionSwitch) {
-    GameViews.Table.DisplayPropBets = !GameViews.Table.DisplayPropBets;
-    return FrontEnd.DrawTable();
+    return ToggleOption(&TableOptions::DisplayPropBets);
   }
   if (TablePlay.TableAction != ActionNormal) {
     const auto action = static_cast<TableActionMode>(TablePlay.TableAction);
@@ -420,48 +334,6 @@ void RemoveAllBets() {
   }
 }
 
-void RenameCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place != 0 && RenamePlayer(place)) FrontEnd.DrawTable();
-}
-
-void RemoveCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place != 0 && MayChange() && DeletePlayer(place, true)) FrontEnd.DrawTable();
-}
-
-void MoveCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place == 0 || !MayChange()) return;
-  TablePlay.TableAction = ActionMovePlayer + place;
-  FrontEnd.DrawTable();
-}
-
-void BuyInCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place == 0) return;
-  const std::string question = FillIn(texts::BuyInQuestion, {NameOf(place)});
-  const std::string title(Localized(texts::BuyInTitle));
-  std::string offered = PlainText(Settings.AtmAmount);
-  while (AskForText(question, title, offered, help::Players)) {
-    offered = Message.MsgInput;
-    const std::optional<Money> amount = ParseTypedMoney(offered);
-    if (amount && *amount > Money()) {
-      ATM(place, false, *amount, true);
-      Table.TableDirty = true;
-      return FrontEnd.DrawTable();
-    }
-    ShowMessage(std::string(Localized(texts::BuyInRefused)), title, msg::OkAlert);
-  }
-}
-
-void PassTheDice() {
-  if (!MayChange()) return;
-  Table.TableDirty = true;
-  GiveUpDice();
-  FrontEnd.DrawTable();
-}
-
 void RollTheDice() {
   if (!Table.RollInProgress && ConfirmScriptActive()) MakeRoll();
 }
@@ -493,16 +365,16 @@ bool KeyAmount(char key) {
 ClickOutlook OutlookOfSpot(int spot) {
   const bool moves = TablePlay.TableAction > ActionMovePlayer;
   if (moves && !IsRailSpot(spot)) {
-    return {Text(12) + NameOf(TablePlay.TableAction - ActionMovePlayer), true};
+    return {Say(Text::ClickNewPosition, NameOf(TablePlay.TableAction - ActionMovePlayer)), true};
   }
   if (spot == 0) {
     const bool picks = TablePlay.TableAction != ActionNormal;
-    return {picks ? std::string(Localized(texts::PickABet)) : std::string(), true};
+    return {picks ? Say(Text::PickABet) : std::string(), true};
   }
   if (IsRailSpot(spot)) return {OutlookOnRail(PlaceOfSpot(spot)), true};
   if (spot == PropositionSwitch) {
-    return {std::string(Localized(GameViews.Table.DisplayPropBets ? texts::HidePropositions
-                                                                  : texts::ShowPropositions)),
+    return {SayChosen(GameViews.Table.DisplayPropBets ? Text::HidePropositions
+                                                      : Text::ShowPropositions),
             true};
   }
   const int number = NumberOfSpot(spot);

@@ -56,8 +56,7 @@ std::array<int32_t, 17> Listed(const Parts& p) {
 TablePreset TraditionalGreen() {
   constexpr int32_t Felt = TableRgb(0, 86, 52), Yellow = TableRgb(255, 222, 96);
   return {"mnuSetTableTraditionalGreen",
-          {"Traditional &Green", "&Verde tradicional", "Klassisches &Grün", "&Vert traditionnel",
-           "&Klasik yesil", "&Verde tradizionale"},
+          Text::TableTraditionalGreenCaption,
           Listed({Felt, White, TableRgb(58, 30, 18), TableRgb(126, 74, 36), TableRgb(24, 22, 20),
                   TableRgb(190, 18, 26), White, White, Yellow, White, White, Yellow, White}),
           White,
@@ -71,7 +70,7 @@ TablePreset Burgundy() {
   constexpr int32_t Felt = TableRgb(68, 68, 0), Wine = TableRgb(155, 0, 33);
   constexpr int32_t Rose = TableRgb(255, 205, 190);
   return {"mnuSetTableBurgundy",
-          {"&Burgundy", "&Borgoña", "&Burgunder", "&Bourgogne", "&Bordo", "&Borgogna"},
+          Text::TableBurgundyCaption,
           Listed({Felt, White, TableRgb(98, 8, 28), TableRgb(92, 34, 26), TableRgb(30, 10, 14),
                   Wine, White, White, Rose, White, Rose, Rose, White}),
           White,
@@ -85,8 +84,7 @@ TablePreset HotChocolate() {
   constexpr int32_t Felt = TableRgb(66, 38, 26), Cream = TableRgb(252, 238, 214);
   constexpr int32_t Caramel = TableRgb(240, 186, 110);
   return {"mnuSetTableHotChocolate",
-          {"&Hot Chocolate", "&Chocolate caliente", "&Heiße Schokolade", "&Chocolat chaud",
-           "&Sicak çikolata", "&Cioccolata calda"},
+          Text::TableHotChocolateCaption,
           Listed({Felt, Cream, TableRgb(34, 18, 12), TableRgb(150, 96, 54), TableRgb(22, 14, 10),
                   TableRgb(120, 56, 26), Cream, Cream, Caramel, Cream, Cream, Caramel, Cream}),
           Cream,
@@ -100,7 +98,7 @@ TablePreset Oak() {
   constexpr int32_t Felt = TableRgb(94, 58, 26), Linen = TableRgb(255, 244, 220);
   constexpr int32_t Straw = TableRgb(255, 214, 130);
   return {"mnuSetTableOak",
-          {"&Oak", "&Roble", "&Eiche", "Ch&êne", "&Mese", "&Quercia"},
+          Text::TableOakCaption,
           Listed({Felt, Linen, TableRgb(112, 68, 30), TableRgb(172, 122, 66), TableRgb(38, 28, 18),
                   TableRgb(150, 30, 20), White, Linen, Straw, Linen, Linen, Straw, Linen}),
           Linen,
@@ -114,7 +112,7 @@ TablePreset Sunrise() {
   constexpr int32_t Felt = TableRgb(128, 40, 40), Sun = TableRgb(255, 226, 120);
   constexpr int32_t Peach = TableRgb(255, 214, 184);
   return {"mnuSetTableSunrise",
-          {"&Sunrise", "&Amanecer", "&Sonnenaufgang", "&Lever de soleil", "&Gün dogumu", "&Alba"},
+          Text::TableSunriseCaption,
           Listed({Felt, TableRgb(255, 244, 230), TableRgb(92, 38, 60), TableRgb(214, 120, 44),
                   TableRgb(44, 26, 52), TableRgb(236, 130, 20), White, Sun, Sun, Peach, Peach, Sun,
                   Sun}),
@@ -129,8 +127,7 @@ TablePreset BlueVelvet() {
   constexpr int32_t Felt = TableRgb(30, 26, 108), Silver = TableRgb(224, 230, 255);
   constexpr int32_t Ice = TableRgb(150, 214, 255);
   return {"mnuSetTableBlueVelvet",
-          {"Blue &Velvet", "&Terciopelo azul", "Blauer &Samt", "Ve&lours bleu", "Mavi ka&dife",
-           "Ve&lluto blu"},
+          Text::TableBlueVelvetCaption,
           Listed({Felt, Silver, TableRgb(22, 20, 58), TableRgb(62, 50, 82), TableRgb(12, 11, 28),
                   TableRgb(40, 60, 190), White, Silver, Ice, Silver, Silver, Ice, Silver}),
           Silver,
@@ -143,8 +140,7 @@ TablePreset BlueVelvet() {
 TablePreset BlueJeans() {
   constexpr int32_t Felt = TableRgb(42, 66, 108), Thread = TableRgb(255, 206, 130);
   return {"mnuSetTableBlueJeans",
-          {"Blue &Jeans", "Te&janos azules", "Blue &Jeans", "Blue-&jean", "Kot pan&tolon",
-           "Blue &jeans"},
+          Text::TableBlueJeansCaption,
           Listed({Felt, Thread, TableRgb(110, 66, 36), TableRgb(30, 46, 78), TableRgb(20, 22, 28),
                   TableRgb(178, 92, 30), White, White, Thread, White, White, Thread, White}),
           White,
@@ -159,8 +155,7 @@ TablePreset BlackLight() {
   constexpr int32_t Lime = TableRgb(170, 255, 70), Pink = TableRgb(255, 120, 235);
   constexpr int32_t Orange = TableRgb(255, 170, 60);
   return {"mnuSetTableBlackLight",
-          {"Black &Light", "&Luz negra", "Schwarz&licht", "L&umière noire", "Siyah &isik",
-           "L&uce nera"},
+          Text::TableBlackLightCaption,
           Listed({Felt, Cyan, TableRgb(34, 10, 70), TableRgb(52, 20, 104), TableRgb(6, 2, 16),
                   TableRgb(120, 20, 220), Lime, Lime, Pink, Orange, Cyan, Pink, Lime}),
           Lime,
@@ -173,8 +168,7 @@ TablePreset BlackLight() {
 
 TablePreset BlackWhite() {
   return {"mnuSetTableBlackWhite",
-          {"Black && &White", "Blanco &y negro", "Sch&warz-Weiß", "&Noir et blanc", "Siyah &beyaz",
-           "Bianco e &nero"},
+          Text::TableBlackWhiteCaption,
           Listed({Black, White, TableRgb(229, 229, 229), TableRgb(127, 127, 127),
                   TableRgb(40, 40, 40), White, Black, White, White, White, White, White, White}),
           White,

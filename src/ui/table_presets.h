@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -17,7 +17,7 @@ struct TablePreset {
     int32_t colour;
   };
   std::string_view menu;            // the name of its command
-  SixTexts caption;                 // with shortcut marks
+  Text caption;                     // with shortcut marks
   std::array<int32_t, 17> parts;    // entries 0 to 16 of Settings.TableColor
   int32_t rest;                     // entries 17 to 45
   int32_t forms;                    // the last three, backgrounds of windows

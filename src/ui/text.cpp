@@ -7,7 +7,8 @@ namespace tessarel {
 namespace {
 
 bool Keeps(QChar letter) {
-  return letter == '?' || ToSingleByte(QString(letter).toStdString()) != "?";
+  const std::string text = QString(letter).toStdString();
+  return FromSingleByte(ToSingleByte(text)) == text;
 }
 
 }  // namespace
@@ -17,8 +18,8 @@ QString Shown(std::string_view utf8) {
   return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
 }
 
-QString Shown(const SixTexts& texts) {
-  return Shown(Localized(texts));
+QString Shown(Text text) {
+  return Shown(Wording(text));
 }
 
 std::string Typed(const QString& text) {

@@ -5,15 +5,15 @@
 #include <string>
 #include <string_view>
 
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 // A text of the core as Qt shows it: line breaks are line feeds.
 QString Shown(std::string_view utf8);
 
-// The variant in the language in force.
-QString Shown(const SixTexts& texts);
+// A text without values, in the language in force.
+QString Shown(Text text);
 
 // What was typed, as the core takes it.
 std::string Typed(const QString& text);

@@ -11,8 +11,8 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
-#include "play/players.h"
 #include "play/game_commands.h"
+#include "play/players.h"
 #include "play/start_up.h"
 #include "state/table.h"
 

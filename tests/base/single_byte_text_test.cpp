@@ -16,11 +16,12 @@ TEST(SingleByteText, EveryByteComesBack) {
   EXPECT_EQ(FromSingleByte("\x80\x9F\xE9\x81"), "€Ÿé\u0081");
 }
 
-TEST(SingleByteText, WhatHasNoByteBecomesAQuestionMark) {
+TEST(SingleByteText, WhatHasNoByteBecomesAPlainLetterOrAQuestionMark) {
   const std::pair<std::string, std::string> cases[] = {
       {"Çek değer",
        "\xC7"
-       "ek de?er"},
+       "ek deger"},
+      {"ŞşĞğİıÖöÜüÇç", "SsGgIi\xD6\xF6\xDC\xFC\xC7\xE7"},
       {"骰子 🎲", "?? ?"},
       {"a\xFFz", "a?z"},
       {"cut \xE2\x82", "cut ??"},

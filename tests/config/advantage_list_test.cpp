@@ -53,7 +53,7 @@ TEST_F(AdvantageList, CaptionsOfTheBets) {
 
 TEST_F(AdvantageList, PercentagesWithTheSignForTheColour) {
   EXPECT_EQ(AdvantageNote(), "All figures shown in percentage");
-  EXPECT_EQ(AdvantageColumns()[1], "EV/Roll");
+  EXPECT_EQ(Wording(AdvantageColumns()[1]), "EV/Roll");
   struct {
     int Number;
     Figures Expected;
@@ -73,7 +73,7 @@ TEST_F(AdvantageList, PercentagesWithTheSignForTheColour) {
 TEST_F(AdvantageList, RollsDecisionsAndTimes) {
   Advantage.ShowMiscData = true;
   EXPECT_EQ(AdvantageNote(), "");
-  EXPECT_EQ(AdvantageColumns()[5], "Time/Dec");
+  EXPECT_EQ(Wording(AdvantageColumns()[5]), "Time/Dec");
   EXPECT_EQ(AdvantageRowOf(bet::PassLine).Figures,
             (Figures{"3.38", "0.30", "35.55", "0.59", "0:01:41.3"}));
   Settings.SimRollRate = 1;

@@ -4,7 +4,7 @@
 #include "config/configuration_fixture.h"
 #include "engine/bet_limits.h"
 #include "engine/bets.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 namespace {
@@ -282,7 +282,7 @@ TEST_F(Configuration, TheRollRateIsShownAndTakenInSixUnits) {
     const RollRateUnit& row = At(RollRateUnits, unit);
     const std::string past = PlainText(Money(row.Maximum) + Money::FromRaw(1));
     EXPECT_EQ(SetSimRollRate({unit, past}), "The maximum simulated " +
-                                                std::string(Localized(row.Caption)) + " rate is " +
+                                                std::string(Wording(row.Caption)) + " rate is " +
                                                 std::string(row.Is));
     for (const char* const nothing : {"0", "", "<.0001"})
       EXPECT_EQ(SetSimRollRate({unit, nothing}),

@@ -119,7 +119,9 @@ TEST_F(Generators, ShuffledGeneratorsOverflowAboveTheirLargestSeeds) {
     if (!faces.empty()) {
       EXPECT_EQ(Roll(6), faces);
     }
-    EXPECT_EQ(FaultOf([&] { SeedWith(generator, Money(largest) + 1); }),
+    EXPECT_EQ(FaultOf([&generator = generator, &largest = largest] {
+                SeedWith(generator, Money(largest) + 1);
+              }),
               NumberOf(FaultNumber::Overflow));
     EXPECT_EQ(Dice.LastSeed, largest + 1);
     EXPECT_EQ(Dice.CurrentSeed, largest + 1);

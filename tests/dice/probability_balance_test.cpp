@@ -308,16 +308,17 @@ TEST_F(BalanceTest, PercentageDiceTakeFromAnAxis) {
       EXPECT_EQ(ShareOf(face + 1, FirstDieRow), At(die1, face - 1)) << face;
       EXPECT_EQ(ShareOf(face + 1, SecondDieRow), At(die2, face - 1)) << face;
     }
-    ForEachShare([&](int column, int row) {
-      const int axis = row == FirstDieRow ? first.Axis : second.Axis;
-      const bool onAxis = column == 2 + axis || column == 7 - axis;
-      EXPECT_EQ(FlagOf(column, row), row > LastTotalRow && onAxis ? LockFlag : 0);
-      if (!IsPairCell(column, row)) return;
-      const Faces faces = FacesOfCell(column, row);
-      const double product =
-          static_cast<double>(At(die1, faces.die1 - 1)) * At(die2, faces.die2 - 1) / WholeShare;
-      EXPECT_NEAR(ShareOf(column, row), product, 0.5);
-    });
+    ForEachShare(
+        [&first = first, &second = second, &die1 = die1, &die2 = die2](int column, int row) {
+          const int axis = row == FirstDieRow ? first.Axis : second.Axis;
+          const bool onAxis = column == 2 + axis || column == 7 - axis;
+          EXPECT_EQ(FlagOf(column, row), row > LastTotalRow && onAxis ? LockFlag : 0);
+          if (!IsPairCell(column, row)) return;
+          const Faces faces = FacesOfCell(column, row);
+          const double product =
+              static_cast<double>(At(die1, faces.die1 - 1)) * At(die2, faces.die2 - 1) / WholeShare;
+          EXPECT_NEAR(ShareOf(column, row), product, 0.5);
+        });
   }
 }
 

@@ -96,7 +96,8 @@ TEST_F(ProbabilityMatrixTest, CellsStandForTheirFaces) {
   const std::pair<int, int> unused[] = {{0, 1}, {1, 0},  {1, 12}, {3, 1},  {2, 12 + 2},
                                         {7, 7}, {3, 11}, {8, 12}, {1, 13}, {-1, 6}};
   for (const auto& [column, row] : unused) {
-    EXPECT_EQ(FaultOf([&] { ShareOf(column, row); }), NumberOf(FaultNumber::IndexOutOfRange))
+    EXPECT_EQ(FaultOf([&column = column, &row = row] { ShareOf(column, row); }),
+              NumberOf(FaultNumber::IndexOutOfRange))
         << column << ' ' << row;
   }
 }

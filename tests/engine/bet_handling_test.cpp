@@ -232,7 +232,7 @@ TEST_F(BetHandling, PromptTellsOfTheWinAndDoesWhatIsAnswered) {
   Ask(bet::Field, 20);
   Throw(1, 1);
   ASSERT_EQ(Talk.shown.size(), 1u);
-  EXPECT_EQ(Rows(Talk.shown[0]), "Ann/Won|Field$20|Payoff at 2 to 1:$40|Net payoff: $40");
+  EXPECT_EQ(Rows(Talk.shown[0]), "Ann/Won|Field$20|Payoff at 2 to 1:$40|Net payoff:$40");
   EXPECT_EQ(Talk.shown[0].buttons[2], "Press &1 unit");
   EXPECT_EQ(Bet(1, bet::Field), 25);
   EXPECT_EQ(RowOfSlot(1, PromptWinModify).amount, 25);
@@ -247,14 +247,14 @@ TEST_F(BetHandling, PromptRowsOfEachKind) {
     const char* rows;
   } cases[] = {
       {bet::CAndE, 10, 5, 6,
-       "Ann/Won|C and E$10|1/2 of bet:$5|Payoff at 15 to 1:$75|Less 1/2 of bet:$5|Net payoff: $70"},
+       "Ann/Won|C and E$10|1/2 of bet:$5|Payoff at 15 to 1:$75|Less 1/2 of bet:$5|Net payoff:$70"},
       {bet::Horn, 4, 1, 2,
-       "Ann/Won|Horn$4|1/4 of bet:$1|Payoff at 15 to 1:$15|Less 3/4 of bet:$3|Net payoff: $12"},
-      {bet::Lay4, 20, 3, 4, "Ann/Won|Lay 4$20|Payoff at 1 to 2:$10|5% vig:$1|Net payoff: $9"},
-      {bet::Place6, 5, 3, 3, "Ann/Won|Place 6$5|Payoff at 7 to 6:$5.8333|Net payoff (rounded): $5"},
-      {bet::Horn, 4, 2, 3, "Lost/Ann|Horn$4|Loss at 1 to 1$4|Net loss: $4|Remainder: $0"},
-      {bet::Field, 10, 2, 3, "Lost/Ann|Field$10|Loss at 1 to 1$10|Net loss: $10"},
-      {bet::Fire, 5, 3, 4, "Lost/Ann|Fire$5|Loss at 1 to 1$5|Net loss: $5"},
+       "Ann/Won|Horn$4|1/4 of bet:$1|Payoff at 15 to 1:$15|Less 3/4 of bet:$3|Net payoff:$12"},
+      {bet::Lay4, 20, 3, 4, "Ann/Won|Lay 4$20|Payoff at 1 to 2:$10|5% vig:$1|Net payoff:$9"},
+      {bet::Place6, 5, 3, 3, "Ann/Won|Place 6$5|Payoff at 7 to 6:$5.8333|Net payoff (rounded):$5"},
+      {bet::Horn, 4, 2, 3, "Lost/Ann|Horn$4|Loss at 1 to 1$4|Net loss:$4|Remainder:$0"},
+      {bet::Field, 10, 2, 3, "Lost/Ann|Field$10|Loss at 1 to 1$10|Net loss:$10"},
+      {bet::Fire, 5, 3, 4, "Lost/Ann|Fire$5|Loss at 1 to 1$5|Net loss:$5"},
   };
   for (const auto& each : cases) {
     SetUp();

@@ -3,6 +3,7 @@
 #include "base/clock.h"
 #include "base/front_end.h"
 #include "base/message.h"
+#include "files/file_dialog.h"
 #include "log/events_log_fixture.h"
 
 namespace tessarel {
@@ -28,8 +29,8 @@ class EventsLogWindow : public EventsLogTest {
       Message.MsgResult = Answer;
       Message.MsgInput = Typed;
     };
-    FrontEnd.AskSaveFile = [](const std::string& title, const std::string&) {
-      Shown.push_back(title);
+    FrontEnd.AskSaveFile = [](FileAction action, const std::string&) {
+      Shown.emplace_back(FileActionTitle(action));
       return SaveName;
     };
   }

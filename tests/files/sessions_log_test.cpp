@@ -10,10 +10,11 @@
 #include "base/front_end.h"
 #include "base/message.h"
 #include "base/temporary_folder.h"
+#include "files/file_dialog.h"
 #include "files/sessions_commands.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/rail.h"
-#include "play/new_session.h"
 #include "play/start_up.h"
 #include "state/books.h"
 #include "state/table.h"
@@ -46,8 +47,8 @@ class SessionsLogTest : public ::testing::Test {
                           : answer == "cancel" ? AnswerCancel
                                                : 0;
     };
-    FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
-      Shown.push_back(title + ": " + offered);
+    FrontEnd.AskSaveFile = [](FileAction action, const std::string& offered) {
+      Shown.push_back(std::string(FileActionTitle(action)) + ": " + offered);
       return Chosen;
     };
   }

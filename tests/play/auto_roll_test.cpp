@@ -8,7 +8,7 @@
 #include "base/temporary_folder.h"
 #include "play/roll_fixture.h"
 #include "play/roll_pace.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 namespace {
@@ -55,8 +55,8 @@ TEST_F(AutoRolling, StopsAtEachMultipleOfTheCount) {
 
 TEST_F(AutoRolling, SwitchStopsWithoutAMessage) {
   FrontEnd.RunPendingEvents = [] {
-    EXPECT_EQ(Table.HyperDriveOn, HyperDriveCaption() == GetText(114));
-    EXPECT_EQ(!Table.HyperDriveOn, AutoRollCaption() == GetText(117));
+    EXPECT_EQ(Table.HyperDriveOn, HyperDriveCaption() == Wording(Text::HyperDriveActive));
+    EXPECT_EQ(!Table.HyperDriveOn, AutoRollCaption() == Wording(Text::AutoRollActive));
     if (RollsInSession() % 5 == 0) ToggleAutoRoll();
   };
   Settings.RollDelay = 300;
@@ -67,8 +67,8 @@ TEST_F(AutoRolling, SwitchStopsWithoutAMessage) {
   EXPECT_EQ(RollsInSession(), 10);
   EXPECT_EQ(TickMilliseconds() - before, 4 * 300'000) << "the last wait ends with the run";
   EXPECT_EQ(Shown, Shows{});
-  EXPECT_EQ(HyperDriveCaption(), GetText(112));
-  EXPECT_EQ(AutoRollCaption(), GetText(115));
+  EXPECT_EQ(HyperDriveCaption(), Wording(Text::StartHyperDrive));
+  EXPECT_EQ(AutoRollCaption(), Wording(Text::StartAutoRoll));
   Table.RollInProgress = true;
   StartAutoRoll();
   EXPECT_FALSE(Table.AutoRollOn);

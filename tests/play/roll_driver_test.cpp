@@ -9,7 +9,7 @@
 #include "engine/settlement.h"
 #include "play/players.h"
 #include "play/roll_fixture.h"
-#include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 namespace {
@@ -236,7 +236,7 @@ TEST_F(RollDriver, RequiredBetIsAskedForInTheWordsOfTheHouse) {
       } else if (refused) {
         ASSERT_EQ(Shown.size(), 1u);
         EXPECT_EQ(Shown[0].first, each.title);
-        EXPECT_EQ(Shown[0].second, each.players > 0 ? each.text : std::string(GetText(110)));
+        EXPECT_EQ(Shown[0].second, each.players > 0 ? each.text : Say(Text::NoPlayersToBet));
       } else {
         EXPECT_TRUE(Shown.empty());
       }

@@ -5,6 +5,7 @@
 #include "base/clock.h"
 #include "stats/stats_fixture.h"
 #include "stats/text_table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 namespace {
@@ -22,8 +23,9 @@ class ReportTest : public StatsTest {
 };
 
 TEST_F(ReportTest, Headers) {
-  EXPECT_EQ(ReportHeader(HandsTitle, ""), "Tessarel Hands\n22-Nov-26\nGame file:  untitled\n");
-  EXPECT_EQ(ReportHeader(HandsTitle, "/home/ann/my game.tsg"),
+  EXPECT_EQ(ReportHeader(Wording(Text::HandsReport), ""),
+            "Tessarel Hands\n22-Nov-26\nGame file:  untitled\n");
+  EXPECT_EQ(ReportHeader(Wording(Text::HandsReport), "/home/ann/my game.tsg"),
             "Tessarel Hands\n22-Nov-26\nGame file:  my game.tsg\n");
   SeatPlayer(1, "Ann", 10);
   SeatPlayer(2, "Bob", 10);

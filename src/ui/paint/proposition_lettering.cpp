@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/layout/layout_geometry.h"
 #include "ui/paint/contrast.h"
 #include "ui/paint/felt_lettering.h"
@@ -12,10 +13,6 @@
 namespace tessarel {
 
 namespace {
-
-constexpr SixTexts MoreBets = {"More bets",     "Más apuestas",   "Mehr Wetten",
-                               "Plus de paris", "Daha çok bahis", "Altre puntate"};
-constexpr SixTexts FewerBets = {"Less", "Menos", "Weniger", "Moins", "Daha az", "Meno"};
 
 QRectF Inset(const QRectF& area, double x, double y) {
   return area.adjusted(x, y, -x, -y);
@@ -271,7 +268,7 @@ void PaintSwitch(QPainter& painter, const QRectF& box, bool open, double least) 
   painter.setPen(Qt::NoPen);
   painter.setBrush(QuietInk());
   painter.drawRoundedRect(plate, 12, 12);
-  const QString text = Shown(open ? FewerBets : MoreBets).toUpper();
+  const QString text = Shown(open ? Text::FewerBets : Text::MoreBets).toUpper();
   PaintWords(painter, Inset(plate, 6, 6), {text}, {ColourOfTable(colour::Felt), 28, least});
 }
 

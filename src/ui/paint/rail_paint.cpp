@@ -5,7 +5,7 @@
 
 #include "base/number_format.h"
 #include "state/table.h"
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/paint/check_picture.h"
 #include "ui/paint/table_paint.h"
@@ -14,12 +14,6 @@
 namespace tessarel {
 
 namespace {
-
-constexpr SixTexts OpenText = {"Open", "Libre", "Frei", "Libre", "Bos", "Libero"};
-constexpr SixTexts JoinText = {
-    "Click to join", "Clic para entrar", "Klick: mitspielen", "Clic : jouer",
-    "Katil",         "Clic: gioca"};
-constexpr SixTexts ChooseText = {"Choose", "Elegir", "Wählen", "Choisir", "Seç", "Scegli"};
 
 struct PlateStyle {
   QColor back, border, ink, quiet;
@@ -158,13 +152,13 @@ void PaintOpen(
     QPainter& painter, const PlateRoom& room, const PlateStyle& style, bool choosing, bool hover) {
   const QRectF line = room.tight ? room.first : room.first.united(room.second);
   const QRectF second = room.tight ? room.second : line;
-  const QString action = Shown(choosing ? ChooseText : JoinText);
+  const QString action = Shown(choosing ? Text::RailChoose : Text::RailJoin);
   // What a click does, where a line has room for it.
   const bool roomy = WidthOf(action, room.lettering, hover) <= second.width();
   if ((choosing || hover) && roomy) {
     return PaintLine(painter, second, action, style.ink, room.lettering, hover);
   }
-  const QString open = Fitted(Shown(OpenText), line.width(), room.lettering, hover);
+  const QString open = Fitted(Shown(Text::RailOpen), line.width(), room.lettering, hover);
   PaintLine(painter, line, open, style.ink, room.lettering, hover);
 }
 

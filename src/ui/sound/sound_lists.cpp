@@ -6,17 +6,12 @@
 #include <QRandomGenerator>
 #include <algorithm>
 
-#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/text.h"
 
 namespace tessarel {
 
 namespace {
-
-constexpr SixTexts NoneText = {"< none >",  "< ninguno >", "< kein >",
-                               "< aucun >", "< yok >",     "< nessuno >"};
-constexpr SixTexts RandomText = {"< random >",    "< al azar >",  "< zufällig >",
-                                 "< au hasard >", "< rastgele >", "< a caso >"};
 
 constexpr std::array<const char*, SoundKindCount> Extensions = {"stk", "dce", "chp", "win"};
 
@@ -86,10 +81,10 @@ const SoundEntry* NamedSound(const SoundLists& lists, SoundKind kind, const QStr
 }
 
 QStringList ShownSounds(const SoundLists& lists, SoundKind kind) {
-  QStringList names{Shown(NoneText)};
+  QStringList names{Shown(Text::NoSound)};
   for (const SoundEntry& entry : lists.Of(kind))
     names << entry.name;
-  if (names.size() > 2) names << Shown(RandomText);
+  if (names.size() > 2) names << Shown(Text::RandomSound);
   return names;
 }
 

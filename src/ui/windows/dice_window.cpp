@@ -1,18 +1,22 @@
-// The window in which the dice are shown: both dice large, and the total called below them.
+#include "ui/windows/dice_window.h"
+
 #include <QPainter>
 #include <algorithm>
 
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
-#include "ui/windows/roll_console.h"
-#include "ui/windows/small_window.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
 namespace {
+
+constexpr std::array TotalWords = {Text::TotalTwo,    Text::TotalThree, Text::TotalFour,
+                                   Text::TotalFive,   Text::TotalSix,   Text::TotalSeven,
+                                   Text::TotalEight,  Text::TotalNine,  Text::TotalTen,
+                                   Text::TotalEleven, Text::TotalTwelve};
 
 QColor FeltColor() {
   const int32_t felt = Settings.TableColor[0];
@@ -21,7 +25,7 @@ QColor FeltColor() {
 
 QString TotalInWords() {
   const int total = Table.Die1 + Table.Die2;
-  if (total < 2 || total > 12) return Shown(NoRollYet);
+  if (total < 2 || total > 12) return Shown(Text::NoRollYet);
   return Shown(At(TotalWords, total - 2));
 }
 
@@ -30,41 +34,35 @@ QString NoteOnTotal() {
     case 2:
     case 3:
     case 12:
-      return Shown(CrapsCall);
+      return Shown(Text::CrapsCall);
     default:
       const bool hard = total > 0 && Table.Die1 == Table.Die2;
-      return hard ? Shown(HardWayCall) : QString();
+      return hard ? Shown(Text::HardWayCall) : QString();
   }
 }
 
-class DiceWindow : public FloatingWindow {
- public:
-  explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::Dice) {
-    setObjectName("frmDice");
-    Refresh();
-  }
-  void Refresh() override {
-    setWindowTitle(Shown(DiceTitle));
-    setAccessibleDescription(DiceCall());
-    update();
-  }
-  void SetPhase(double phase) {
-    phase_ = std::clamp(phase, 0.0, 1.0);
-    update();
-  }
-  QSize sizeHint() const override { return {280, 200}; }
-  QSize minimumSizeHint() const override { return {180, 130}; }
+}  // namespace
 
- protected:
-  void paintEvent(QPaintEvent* event) override;
+QString DiceCall() {
+  const QString note = NoteOnTotal();
+  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
+}
 
- private:
-  void PaintFelt(QPainter& painter) const;
-  void PaintBothDice(QPainter& painter, const QRectF& area) const;
-  void PaintCall(QPainter& painter, const QRectF& area) const;
+DiceWindow::DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::Dice) {
+  setObjectName("frmDice");
+  Refresh();
+}
 
-  double phase_ = 1;
-};
+void DiceWindow::Refresh() {
+  setWindowTitle(Shown(Text::DiceTitle));
+  setAccessibleDescription(DiceCall());
+  update();
+}
+
+void DiceWindow::SetPhase(double phase) {
+  phase_ = std::clamp(phase, 0.0, 1.0);
+  update();
+}
 
 void DiceWindow::PaintFelt(QPainter& painter) const {
   const QColor felt = FeltColor();
@@ -119,21 +117,6 @@ void DiceWindow::paintEvent(QPaintEvent*) {
   }
   PaintBothDice(painter, area.adjusted(0, 0, 0, -callHeight));
   if (phase_ == 1) PaintCall(painter, call);
-}
-
-}  // namespace
-
-QString DiceCall() {
-  const QString note = NoteOnTotal();
-  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
-}
-
-QWidget* MakeDiceWindow(QWidget* parent) {
-  return new DiceWindow(parent);
-}
-
-void ShowThrow(QWidget* diceWindow, double phase) {
-  if (auto* window = dynamic_cast<DiceWindow*>(diceWindow)) window->SetPhase(phase);
 }
 
 }  // namespace tessarel

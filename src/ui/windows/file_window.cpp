@@ -9,10 +9,9 @@
 #include "base/folders.h"
 #include "base/message.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
-#include "ui/windows/file_dialog_texts.h"
 #include "ui/windows/folder_listing.h"
 #include "ui/windows/game_dialogs.h"
 
@@ -20,26 +19,25 @@ namespace tessarel {
 
 namespace {
 
-constexpr int PathText = 131, JumpHomeText = 132;
 constexpr int IsFolderRole = Qt::UserRole;
 
-const SixTexts& VerbOf(FileAction action) {
+Text VerbOf(FileAction action) {
   switch (action) {
     case FileAction::CopyRolls:
     case FileAction::CopyRollsAsText:
     case FileAction::CopyScript:
     case FileAction::CopyScripts:
-      return file_text::Copy;
+      return Text::CopyVerb;
     case FileAction::PasteRolls:
     case FileAction::PasteText:
     case FileAction::PasteScript:
-      return file_text::Paste;
+      return Text::PasteVerb;
     case FileAction::SelectHotKeyScript:
-      return file_text::Select;
+      return Text::SelectVerb;
     case FileAction::RenameSessionsLog:
-      return file_text::Rename;
+      return Text::RenameVerb;
     default:
-      return SavesFile(action) ? file_text::Save : file_text::Open;
+      return SavesFile(action) ? Text::SaveVerb : Text::OpenVerb;
   }
 }
 
@@ -94,7 +92,7 @@ class FileWindow : public QDialog {
   void AddFolderRow(QVBoxLayout* column) {
     auto* const row = new QHBoxLayout;
     row->setSpacing(LookStep(2));
-    row->addWidget(new QLabel(Shown(GetText(PathText)) + ":"));
+    row->addWidget(new QLabel(Shown(Text::Path) + ":"));
     cmdPath_ = new QToolButton;
     cmdPath_->setObjectName(QStringLiteral("cmdPath"));
     cmdPath_->setAutoRaise(true);
@@ -117,7 +115,7 @@ class FileWindow : public QDialog {
     QObject::connect(filList_, &QListWidget::currentItemChanged, this,
                      [this](QListWidgetItem* item) { OfferListed(item); });
     column->addWidget(filList_, 1);
-    lblEmpty_ = new QLabel(Shown(file_text::Empty));
+    lblEmpty_ = new QLabel(Shown(Text::NoFilesOfType));
     lblEmpty_->setFont(DialogFont());
     lblEmpty_->setForegroundRole(QPalette::PlaceholderText);
     column->addWidget(lblEmpty_);
@@ -139,12 +137,12 @@ class FileWindow : public QDialog {
       FileDialog.Filter = index;
       ShowFolder();
     });
-    AddField(grid, 0, file_text::Name, txtFileName_);
-    AddField(grid, 1, file_text::Shows, cmbFilter_);
+    AddField(grid, 0, Text::FileNameField, txtFileName_);
+    AddField(grid, 1, Text::FileTypeField, cmbFilter_);
     column->addLayout(grid);
   }
 
-  static void AddField(QGridLayout* grid, int row, const SixTexts& caption, QWidget* field) {
+  static void AddField(QGridLayout* grid, int row, Text caption, QWidget* field) {
     auto* const label = new QLabel(Shown(caption));
     label->setBuddy(field);
     grid->addWidget(label, row, 0);
@@ -157,7 +155,7 @@ class FileWindow : public QDialog {
         AddButton(row, Shown(VerbOf(FileDialog.Action)), [this] { TakeTyped(); });
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
-    AddButton(row, Shown(dialog_text::Cancel), [this] {
+    AddButton(row, Shown(Text::Cancel), [this] {
       reject();
     })->setObjectName(QStringLiteral("cmdCancel"));
   }
@@ -187,8 +185,8 @@ class FileWindow : public QDialog {
   }
 
   void AskToJumpHome() {
-    const int32_t answer = ShowMessage(std::string(GetText(JumpHomeText)),
-                                       std::string(GetText(PathText)), msg::AskYesDefault);
+    const int32_t answer =
+        ShowMessage(Say(Text::AskToJumpHome), Say(Text::Path), msg::AskYesDefault);
     if (answer == AnswerYes) GoTo(Folders.AppFolder);
   }
 

@@ -20,9 +20,9 @@
 #include <algorithm>
 
 #include "state/settings.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/help_pages.h"
-#include "ui/windows/help_texts.h"
 
 namespace tessarel {
 
@@ -82,7 +82,7 @@ class HelpBrowser : public QTextBrowser {
     if (type != QTextDocument::HtmlResource) return {};
     const QString page = HelpPage(name.fileName(), Settings.Language);
     if (!page.isEmpty()) return page;
-    return QString("<p>" + Shown(help_text::Missing) + "<br>" +
+    return QString("<p>" + Shown(Text::HelpPagesMissing) + "<br>" +
                    HelpFolder(English).toHtmlEscaped() + "</p>");
   }
 
@@ -221,8 +221,7 @@ void HelpWindow::MarkTopic(const QString& fileName) {
     if (item->data(Qt::UserRole).toString() == fileName) topics_->setCurrentItem(item);
   }
   const QString title = page_->documentTitle();
-  setWindowTitle(title.isEmpty() ? Shown(help_text::Title)
-                                 : title + " - " + Shown(help_text::Title));
+  setWindowTitle(title.isEmpty() ? Shown(Text::HelpTitle) : title + " - " + Shown(Text::HelpTitle));
   Find(0);
 }
 
@@ -244,10 +243,9 @@ void HelpWindow::Find(int step) {
   if (text.isEmpty()) {
     found_->clear();
   } else if (count == 0) {
-    found_->setText(Shown(help_text::NotFound));
+    found_->setText(Shown(Text::NotFoundInPage));
   } else {
-    found_->setText(
-        Shown(FillIn(help_text::Found, {std::to_string(place_ + 1), std::to_string(count)})));
+    found_->setText(Shown(Say(Text::FoundInPage, std::to_string(place_ + 1), count)));
   }
 }
 
@@ -279,13 +277,13 @@ void HelpWindow::TakeUpSettings() {
   fontSize_ = Settings.BasicFontSize;
   language_ = Settings.Language;
   TakeUpFontSize();
-  topics_->setAccessibleName(Shown(help_text::Topics));
-  back_->setToolTip(Shown(help_text::Back));
-  forward_->setToolTip(Shown(help_text::Forward));
-  back_->setAccessibleName(Shown(help_text::Back));
-  forward_->setAccessibleName(Shown(help_text::Forward));
-  find_->setPlaceholderText(Shown(help_text::Find));
-  find_->setAccessibleName(Shown(help_text::Find));
+  topics_->setAccessibleName(Shown(Text::HelpTopics));
+  back_->setToolTip(Shown(Text::HelpBack));
+  forward_->setToolTip(Shown(Text::HelpForward));
+  back_->setAccessibleName(Shown(Text::HelpBack));
+  forward_->setAccessibleName(Shown(Text::HelpForward));
+  find_->setPlaceholderText(Shown(Text::FindInPage));
+  find_->setAccessibleName(Shown(Text::FindInPage));
   const int hint = find_->fontMetrics().horizontalAdvance(find_->placeholderText());
   find_->setFixedWidth(hint + 3 * find_->fontMetrics().height());
   ListTopics();
@@ -382,14 +380,36 @@ void HelpWindow::changeEvent(QEvent* event) {
   }
 }
 
-QPointer<HelpWindow> OpenWindow;
+// The program has one help, whoever asks for it: the application keeps it.
+class HelpDesk : public QObject {
+ public:
+  static HelpDesk& Get() {
+    const QString name = QStringLiteral("HelpDesk");
+    QObject* desk = qApp->findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
+    if (desk == nullptr) {
+      desk = new HelpDesk(qApp);
+      desk->setObjectName(name);
+    }
+    return static_cast<HelpDesk&>(*desk);
+  }
+
+  HelpWindow& Window() {
+    if (window_ == nullptr) window_ = new HelpWindow;
+    return *window_;
+  }
+
+ private:
+  using QObject::QObject;
+
+  QPointer<HelpWindow> window_;  // deletes itself when it is closed
+};
 
 }  // namespace
 
 void ShowHelp(QWidget* parent, int topic) {
-  if (OpenWindow == nullptr) OpenWindow = new HelpWindow;
-  OpenWindow->ShowTopic(topic);
-  OpenWindow->BringUp(parent);
+  HelpWindow& window = HelpDesk::Get().Window();
+  window.ShowTopic(topic);
+  window.BringUp(parent);
 }
 
 }  // namespace tessarel

@@ -1,30 +1,26 @@
 #include <QListWidget>
 
 #include "state/settings.h"
+#include "texts/language.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
 #include "ui/windows/game_dialogs.h"
-#include "ui/windows/language_texts.h"
 
 namespace tessarel {
 
-std::function<void()> LanguageChanged;
-
 namespace {
-
-using namespace language_text;
 
 class LanguageWindow : public QDialog {
  public:
   explicit LanguageWindow(QWidget* parent) : QDialog(parent) {
-    DressWindow(*this, Shown(Title));
+    DressWindow(*this, Shown(Text::LanguageTitle));
     QVBoxLayout* const column = MakeColumn(*this);
     lstLanguages_ = new QListWidget;
     lstLanguages_->setObjectName(QStringLiteral("lstLanguages"));
     for (int32_t language = 0; language < LanguageCount; ++language) {
       auto* const item =
-          new QListWidgetItem(Shown(NativeNames[static_cast<size_t>(language)]), lstLanguages_);
+          new QListWidgetItem(Shown(Wording(Text::LanguageName, language)), lstLanguages_);
       item->setData(Qt::UserRole, language);
       item->setSizeHint({LookStep(44), LookStep(7)});
     }
@@ -34,8 +30,8 @@ class LanguageWindow : public QDialog {
     column->addWidget(lstLanguages_);
     QObject::connect(lstLanguages_, &QListWidget::itemClicked, this, &QDialog::accept);
     QHBoxLayout* const row = AddButtonRow(column);
-    AddButton(row, Shown(Choose), [this] { accept(); })->setDefault(true);
-    AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    AddButton(row, Shown(Text::ChooseLanguage), [this] { accept(); })->setDefault(true);
+    AddButton(row, Shown(Text::Cancel), [this] { reject(); });
     HelpOnF1(*this, help::SoundsAndLanguage);
     lstLanguages_->setFocus();
   }
@@ -48,11 +44,11 @@ class LanguageWindow : public QDialog {
 
 }  // namespace
 
-void AskLanguage(QWidget* parent) {
+bool AskLanguage(QWidget* parent) {
   LanguageWindow window(parent);
-  if (RunDialog(window) != QDialog::Accepted) return;
+  if (RunDialog(window) != QDialog::Accepted) return false;
   SetLanguage(window.Picked());
-  if (LanguageChanged) LanguageChanged();
+  return true;
 }
 
 }  // namespace tessarel

@@ -16,20 +16,16 @@
 #include "play/roll_pace.h"
 #include "state/settings.h"
 #include "state/table.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
+#include "ui/windows/help_window.h"
 #include "ui/windows/message_pictures.h"
-#include "ui/windows/message_texts.h"
 
 namespace tessarel {
 
-std::function<void(int32_t topic)> OpenHelpTopic;
-std::function<void()> NoticesChanged;
-
 namespace {
 
-constexpr int YesText = 33, NoText = 34;
 constexpr int32_t MediumFontSize = 11;
 constexpr int TimerInterval = 100;  // milliseconds
 
@@ -71,15 +67,15 @@ Choice EscapeChoice(const std::vector<Choice>& choices) {
 QString CaptionOf(ButtonKind kind) {
   switch (kind) {
     case YesButton:
-      return Shown(GetText(YesText));
+      return Shown(Text::Yes);
     case NoButton:
-      return Shown(GetText(NoText));
+      return Shown(Text::No);
     case HelpButton:
-      return Shown(dialog_text::Help);
+      return Shown(Text::Help);
     case OkButton:
-      return Shown(dialog_text::Ok);
+      return Shown(Text::Ok);
     default:
-      return Shown(dialog_text::Cancel);
+      return Shown(Text::Cancel);
   }
 }
 
@@ -95,11 +91,6 @@ int32_t HiddenNotices(int32_t flags) {
     if (Has(flags, flag)) notices |= notice;
   }
   return notices;
-}
-
-void HideNotices(int32_t notices) {
-  Settings.Notices &= ~notices;
-  if (NoticesChanged) NoticesChanged();
 }
 
 class MessageBox : public QDialog {
@@ -125,15 +116,15 @@ class MessageBox : public QDialog {
     if (result() == Accepted && cmbUser_ != nullptr) {
       Message.MsgInput = Typed(cmbUser_->currentText());
     }
-    if (chkHide_ != nullptr && chkHide_->isChecked()) HideNotices(notices_);
+    if (chkHide_ != nullptr && chkHide_->isChecked()) Settings.Notices &= ~notices_;
     CreditMessageTime();
-    if (answer_.kind == HelpButton && OpenHelpTopic) OpenHelpTopic(call_.MsgHelpId);
+    if (answer_.kind == HelpButton) ShowHelp(parentWidget(), call_.MsgHelpId);
   }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_F1) {
-      if (call_.MsgHelpId != 0 && OpenHelpTopic) OpenHelpTopic(call_.MsgHelpId);
+      if (call_.MsgHelpId != 0) ShowHelp(this, call_.MsgHelpId);
     } else if (QPushButton* const button = ButtonOfLetter(event->text())) {
       button->click();
     } else {
@@ -210,7 +201,7 @@ class MessageBox : public QDialog {
 
   void AddHideBox(QVBoxLayout* side) {
     if (notices_ == 0) return;
-    chkHide_ = new QCheckBox(Shown(message_text::Hide));
+    chkHide_ = new QCheckBox(Shown(Text::HideSuchMessages));
     chkHide_->setObjectName(QStringLiteral("chkHide"));
     side->addWidget(chkHide_);
   }
@@ -265,20 +256,12 @@ class MessageBox : public QDialog {
   QCheckBox* chkHide_ = nullptr;
 };
 
-std::vector<QWidget*> OpenBoxes;
-
 }  // namespace
 
 void ShowMessageWindow(QWidget* parent) {
   MessageBox box(parent);
-  OpenBoxes.push_back(&box);
   RunDialog(box);
-  OpenBoxes.pop_back();
   box.LeaveAnswer();
-}
-
-QWidget* OpenMessageWindow() {
-  return OpenBoxes.empty() ? nullptr : OpenBoxes.back();
 }
 
 }  // namespace tessarel

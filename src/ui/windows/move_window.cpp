@@ -6,7 +6,7 @@
 #include <QSlider>
 #include <vector>
 
-#include "ui/main_texts.h"
+#include "texts/say.h"
 #include "ui/table_view.h"
 #include "ui/text.h"
 
@@ -52,9 +52,9 @@ class MoveWindow : public QWidget {
   }
 
   void SetCaptions() {
-    setWindowTitle(WithoutMark(Shown(texts::ViewMove)));
-    labels_[0]->setText(Shown(texts::Zoom));
-    labels_[1]->setText(Shown(texts::Rotation));
+    setWindowTitle(WithoutMark(Shown(Text::ViewMove)));
+    labels_[0]->setText(Shown(Text::ZoomSlider));
+    labels_[1]->setText(Shown(Text::RotationSlider));
   }
 
   QFormLayout* form_;

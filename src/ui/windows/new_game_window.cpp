@@ -3,72 +3,65 @@
 
 #include "base/folders.h"
 #include "dice/roll_file.h"
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
-#include "ui/windows/dialog_texts.h"
 #include "ui/windows/game_dialogs.h"
-#include "ui/windows/new_game_texts.h"
 
 namespace tessarel {
-
-NewGameChoicesState NewGameChoices;
 
 namespace {
 
 // How a roll file goes on "as it is": the words of what it does now.
 QString GoingOnCaption() {
-  const int text = RollFile.RollFileMode == RollFilePlay     ? 133
-                   : RollFile.RollFileMode == RollFileRecord ? 134
-                                                             : 135;
-  QString caption = Shown(GetText(text));
+  const Text text = RollFile.RollFileMode == RollFilePlay     ? Text::ContinuePlayback
+                    : RollFile.RollFileMode == RollFileRecord ? Text::ContinueRecording
+                                                              : Text::ContinueInactive;
+  QString caption = Shown(text);
   caption[0] = caption[0].toUpper();
   return caption;
 }
 
 class NewGameWindow : public QDialog {
  public:
-  explicit NewGameWindow(QWidget* parent) : QDialog(parent) {
+  NewGameWindow(QWidget* parent, NewGameChoices& choices) : QDialog(parent), choices_(choices) {
     setObjectName(QStringLiteral("frmNew"));
-    DressWindow(*this, Shown(new_game_text::Title));
+    DressWindow(*this, Shown(Text::NewGameTitle));
     QVBoxLayout* const column = MakeColumn(*this);
-    column->addWidget(MakeHeading(Shown(new_game_text::Question)));
+    column->addWidget(MakeHeading(Shown(Text::AskWhatToKeep)));
     column->addSpacing(LookStep(1));
-    const NewGameChoicesState& last = NewGameChoices;
-    using namespace new_game_text;
-    chkPreserveCheckstacks_ =
-        AddBox(column, "chkPreserveCheckstacks", Checkstacks, last.PreserveCheckstacks);
-    chkPreservePrevSessions_ =
-        AddBox(column, "chkPreservePrevSessions", PrevSessions, last.PreservePrevSessions);
-    chkPreserveSessionsLogs_ =
-        AddBox(column, "chkPreserveSessionsLogs", SessionsLogs, last.PreserveSessionsLogs);
-    chkPreserveAutoBets_ = AddBox(column, "chkPreserveAutoBets", AutoBets, last.PreserveAutoBets);
-    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", new_game_text::RollFile,
-                                      last.PreserveDiceRollFile);
+    chkPreserveCheckstacks_ = AddBox(column, "chkPreserveCheckstacks", Text::KeepCheckStacks,
+                                     choices_.PreserveCheckstacks);
+    chkPreservePrevSessions_ = AddBox(column, "chkPreservePrevSessions", Text::KeepPreviousSessions,
+                                      choices_.PreservePrevSessions);
+    chkPreserveSessionsLogs_ = AddBox(column, "chkPreserveSessionsLogs", Text::KeepSessionsLogs,
+                                      choices_.PreserveSessionsLogs);
+    chkPreserveAutoBets_ =
+        AddBox(column, "chkPreserveAutoBets", Text::KeepAutoBets, choices_.PreserveAutoBets);
+    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", Text::KeepRollFile,
+                                      choices_.PreserveDiceRollFile);
     AddRollFileUses(column);
     QHBoxLayout* const row = AddButtonRow(column);
-    QPushButton* const cmdOK = AddButton(row, Shown(Start), [this] { accept(); });
+    QPushButton* const cmdOK = AddButton(row, Shown(Text::StartSession), [this] { accept(); });
     cmdOK->setDefault(true);
-    AddButton(row, Shown(dialog_text::Cancel), [this] { reject(); });
+    AddButton(row, Shown(Text::Cancel), [this] { reject(); });
     HelpOnF1(*this, help::NewSession);
     chkPreserveCheckstacks_->setFocus();
   }
 
   // What is chosen of a roll file stays as it was when none is open.
   void KeepChoices() const {
-    NewGameChoices.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
-    NewGameChoices.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
-    NewGameChoices.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
-    NewGameChoices.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
+    choices_.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
+    choices_.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
+    choices_.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
+    choices_.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
     if (!hasRollFile_) return;
-    NewGameChoices.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
-    NewGameChoices.Rewind = optRewind_->isChecked();
+    choices_.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
+    choices_.Rewind = optRewind_->isChecked();
   }
 
  private:
-  static QCheckBox* AddBox(QVBoxLayout* column,
-                           const char* name,
-                           const SixTexts& caption,
-                           bool checked) {
+  static QCheckBox* AddBox(QVBoxLayout* column, const char* name, Text caption, bool checked) {
     auto* const box = new QCheckBox(Shown(caption));
     box->setObjectName(QLatin1String(name));
     box->setChecked(checked);
@@ -86,7 +79,7 @@ class NewGameWindow : public QDialog {
 
   void AddRollFileUses(QVBoxLayout* column) {
     const QString file = hasRollFile_ ? Shown(ShortName(tessarel::RollFile.RollFileName))
-                                      : Shown(new_game_text::NoRollFile);
+                                      : Shown(Text::NoRollFileOpen);
     chkPreserveDiceRollFile_->setText(chkPreserveDiceRollFile_->text() + " (" +
                                       QString(file).replace("&", "&&") + ")");
     chkPreserveDiceRollFile_->setEnabled(hasRollFile_);
@@ -94,8 +87,8 @@ class NewGameWindow : public QDialog {
     auto* const uses = new QVBoxLayout;
     uses->setContentsMargins(LookStep(6), 0, 0, 0);
     uses->setSpacing(LookStep(2));
-    const bool rewinds = NewGameChoices.Rewind;
-    optRewind_ = AddUse(uses, "optRewind", Shown(new_game_text::Rewind), rewinds);
+    const bool rewinds = choices_.Rewind;
+    optRewind_ = AddUse(uses, "optRewind", Shown(Text::RewindAndPlay), rewinds);
     QRadioButton* const optContinue = AddUse(uses, "optContinue", GoingOnCaption(), !rewinds);
     column->addLayout(uses);
     const auto enableUses = [=, this] {
@@ -106,13 +99,14 @@ class NewGameWindow : public QDialog {
     QObject::connect(chkPreserveDiceRollFile_, &QCheckBox::toggled, this, enableUses);
   }
 
+  NewGameChoices& choices_;
   const bool hasRollFile_ = !tessarel::RollFile.RollFileName.empty();
   QCheckBox *chkPreserveCheckstacks_, *chkPreservePrevSessions_, *chkPreserveSessionsLogs_,
       *chkPreserveAutoBets_, *chkPreserveDiceRollFile_;
   QRadioButton* optRewind_;
 };
 
-NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
+NewGameAnswer AnswerOf(const NewGameChoices& choices) {
   NewGameAnswer answer;
   answer.keepScripts = choices.PreserveAutoBets;
   answer.options.keepSessions = choices.PreservePrevSessions ? 1 : 0;
@@ -127,11 +121,11 @@ NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
 
 }  // namespace
 
-std::optional<NewGameAnswer> AskNewGame(QWidget* parent) {
-  NewGameWindow window(parent);
+std::optional<NewGameAnswer> AskNewGame(QWidget* parent, NewGameChoices& choices) {
+  NewGameWindow window(parent, choices);
   if (RunDialog(window) != QDialog::Accepted) return std::nullopt;
   window.KeepChoices();
-  return AnswerOf(NewGameChoices);
+  return AnswerOf(choices);
 }
 
 }  // namespace tessarel

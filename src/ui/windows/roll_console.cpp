@@ -3,18 +3,12 @@
 #include <QActionGroup>
 #include <QColorDialog>
 #include <QContextMenuEvent>
-#include <QLabel>
-#include <QMenuBar>
 #include <QPainter>
 #include <QPointer>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QSlider>
 #include <QTimerEvent>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <array>
-#include <functional>
 
 #include "play/auto_roll.h"
 #include "play/roll_pace.h"
@@ -22,12 +16,8 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "stats/view_text.h"
+#include "texts/say.h"
 #include "ui/text.h"
-#include "ui/windows/console_options.h"
-#include "ui/windows/rate_meter.h"
-#include "ui/windows/roll_pad.h"
-#include "ui/windows/small_window.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
@@ -35,56 +25,13 @@ namespace {
 
 constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
-// Numbers of the general text table.
-constexpr int StartHyperDriveText = 112, HyperDriveActiveText = 114;
+constexpr std::array DisplayCaptions = {Text::DisplayBasic, Text::DisplayTriangle, Text::DisplayBox,
+                                        Text::DisplaySingleDice};
+constexpr std::array ButtonColorCaptions = {Text::ButtonColorNumbers,  Text::ButtonColorSeven,
+                                            Text::ButtonColorCraps,    Text::ButtonColorEleven,
+                                            Text::ButtonColorHardWays, Text::ButtonColorSingle};
 
-class RollConsole : public FloatingWindow {
- public:
-  explicit RollConsole(QWidget* parent);
-  ~RollConsole() override;
-  void Refresh() override;
-
- protected:
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
-  void timerEvent(QTimerEvent* event) override;
-
- private:
-  // What is looked at between two calls of Refresh.
-  struct Seen {
-    int32_t Rolls = -1, AutoRollOn = false, HyperDriveOn = false, Throttle = 0;
-    friend bool operator==(const Seen&, const Seen&) = default;
-  };
-
-  void AddDisplayMenu();
-  void AddColorMenu();
-  void AddRollMenu();
-  void LayOut();
-  QAction* AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides);
-  void ShowChange();
-  void PickColor(RollKind kind);
-  template <class Action>
-  void Run(Action action);
-  void RefreshCaptions();
-  void RefreshColorIcons();
-  void RefreshFigures();
-  void FitToDisplay();
-
-  QMenuBar* bar_;
-  QMenu *displayMenu_, *colorMenu_, *rollMenu_;
-  std::array<QAction*, RollPadDisplays> mnuRYONDisplay_{};
-  std::array<QAction*, RollKinds> mnuButtonColor_{};
-  QAction *mnuRollCounter_, *mnuHyperDriveButton_, *mnuRandomButton_, *mnuHide_, *defaultColors_;
-  QAction *rollAtRandom_, *hyperDrive_, *mnuSetAutoStop_, *mnuSetAutoRollTimeDelay_;
-  RollPad* pad_;
-  QLabel *hint_, *throttleCaption_, *throttleValue_, *lblRollCounter_;
-  QPushButton *cmdRandomRoll_, *cmdHyperDrive_;
-  QSlider* hsbThrottle_;
-  HyperDriveMeter* meter_;
-  QBasicTimer timer_;
-  Seen seen_;
-};
+}  // namespace
 
 RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::RollConsole) {
   setObjectName("frmRYON");
@@ -106,9 +53,10 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces
   AddDisplayMenu();
   AddRollMenu();
   LayOut();
-  pad_->OnRoll = [this](Faces faces) { Run([faces] { RollChosen(faces); }); };
-  pad_->OnStop = [this] { Run(StopAutoRoll); };
-  pad_->OnHint = [this](const QString& hint) { hint_->setText(hint); };
+  connect(pad_, &RollPad::Chosen, this,
+          [this](Faces faces) { Run([faces] { RollChosen(faces); }); });
+  connect(pad_, &RollPad::StopChosen, this, [this] { Run(StopAutoRoll); });
+  connect(pad_, &RollPad::HintChanged, hint_, &QLabel::setText);
   connect(cmdRandomRoll_, &QPushButton::clicked, this, [this] { Run(RollAtRandom); });
   connect(cmdHyperDrive_, &QPushButton::clicked, this, [this] { Run([] { ToggleAutoRoll(); }); });
   connect(hsbThrottle_, &QSlider::valueChanged, this, [this](int position) {
@@ -121,9 +69,7 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces
 
 // The pad may still lose the focus while the window below this one goes.
 RollConsole::~RollConsole() {
-  pad_->OnRoll = nullptr;
-  pad_->OnStop = nullptr;
-  pad_->OnHint = nullptr;
+  pad_->disconnect(this);
 }
 
 void RollConsole::AddDisplayMenu() {
@@ -249,23 +195,23 @@ void RollConsole::Run(Action action) {
 }
 
 void RollConsole::RefreshCaptions() {
-  setWindowTitle(Shown(ConsoleTitle));
-  displayMenu_->setTitle(Shown(DisplayMenu));
-  rollMenu_->setTitle(Shown(RollMenu));
+  setWindowTitle(Shown(Text::ConsoleTitle));
+  displayMenu_->setTitle(Shown(Text::DisplayMenu));
+  rollMenu_->setTitle(Shown(Text::RollMenu));
   for (int k = 0; k < RollPadDisplays; ++k)
     At(mnuRYONDisplay_, k)->setText(Shown(At(DisplayCaptions, k)));
   for (int k = 0; k < RollKinds; ++k)
     At(mnuButtonColor_, k)->setText(Shown(At(ButtonColorCaptions, k)));
-  mnuRollCounter_->setText(Shown(RollCounterCaption));
-  mnuHyperDriveButton_->setText(Shown(HyperDriveButtonCaption));
-  mnuRandomButton_->setText(Shown(RandomButtonCaption));
-  colorMenu_->setTitle(Shown(ButtonColorMenu));
-  defaultColors_->setText(Shown(DefaultColorsCaption));
-  mnuHide_->setText(Shown(HideCaption));
-  rollAtRandom_->setText(Shown(RandomRollCaption));
-  cmdRandomRoll_->setText(Shown(RandomRollCaption));
-  throttleCaption_->setText(Shown(ThrottleCaption));
-  hsbThrottle_->setToolTip(Shown(ThrottleNote));
+  mnuRollCounter_->setText(Shown(Text::RollCounter));
+  mnuHyperDriveButton_->setText(Shown(Text::HyperDriveButton));
+  mnuRandomButton_->setText(Shown(Text::RandomRollButton));
+  colorMenu_->setTitle(Shown(Text::ButtonColorMenu));
+  defaultColors_->setText(Shown(Text::DefaultColors));
+  mnuHide_->setText(Shown(Text::HideWindow));
+  rollAtRandom_->setText(Shown(Text::RandomRoll));
+  cmdRandomRoll_->setText(Shown(Text::RandomRoll));
+  throttleCaption_->setText(Shown(Text::Throttle));
+  hsbThrottle_->setToolTip(Shown(Text::ThrottleNote));
   throttleValue_->setMinimumWidth(fontMetrics().horizontalAdvance("100"));
   hint_->setMinimumWidth(RollPad::WidestHint(hint_->fontMetrics()));
 }
@@ -289,12 +235,12 @@ void RollConsole::RefreshFigures() {
   const QSignalBlocker blocker(hsbThrottle_);
   hsbThrottle_->setValue(Settings.Throttle);
   throttleValue_->setText(QString::number(hsbThrottle_->value()));
-  lblRollCounter_->setText(Shown(FillIn(RollCountText, {CountText(int64_t{RollsInSession()})})));
+  lblRollCounter_->setText(Shown(Say(Text::RollCount, CountText(int64_t{RollsInSession()}))));
   const int64_t stop = Settings.AutoStopRolls.Floor();
-  const std::string every = stop > 0 ? CountText(stop) : std::string(Localized(NoAutoStop));
-  mnuSetAutoStop_->setText(Shown(FillIn(AutoStopCaption, {every})));
+  const std::string every = stop > 0 ? CountText(stop) : Say(Text::NoAutoStop);
+  mnuSetAutoStop_->setText(Shown(Say(Text::SetAutoStopEvery, every)));
   mnuSetAutoRollTimeDelay_->setText(
-      Shown(FillIn(TimeDelayCaption, {AmountText(Settings.RollDelay)})));
+      Shown(Say(Text::SetTimeDelayOf, AmountText(Settings.RollDelay))));
   pad_->Refresh();
 }
 
@@ -315,8 +261,8 @@ void RollConsole::Refresh() {
   const QString caption = cmdHyperDrive_->text();
   cmdHyperDrive_->setMinimumWidth(0);
   int widest = 0;
-  for (const int text : {StartHyperDriveText, HyperDriveActiveText}) {
-    cmdHyperDrive_->setText(Shown(GetText(text)));
+  for (const Text text : {Text::StartHyperDrive, Text::HyperDriveActive}) {
+    cmdHyperDrive_->setText(Shown(text));
     widest = std::max(widest, cmdHyperDrive_->sizeHint().width());
   }
   cmdHyperDrive_->setText(caption);
@@ -339,12 +285,6 @@ void RollConsole::hideEvent(QHideEvent*) {
 void RollConsole::timerEvent(QTimerEvent*) {
   const Seen now{RollsInSession(), Table.AutoRollOn, Table.HyperDriveOn, Settings.Throttle};
   if (now != seen_) RefreshFigures();
-}
-
-}  // namespace
-
-QWidget* MakeRollConsole(QWidget* parent) {
-  return new RollConsole(parent);
 }
 
 }  // namespace tessarel

@@ -7,16 +7,14 @@
 #include <array>
 #include <cmath>
 
+#include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"
 #include "ui/windows/small_die.h"
-#include "ui/windows/small_window_texts.h"
 
 namespace tessarel {
 
 namespace {
-
-constexpr int DieText = 97;  // of the general text table
 
 constexpr int Margin = 2, Gap = 3;  // around the grid, and between two cells
 
@@ -72,7 +70,7 @@ void RollPad::SetDisplay(RollPadDisplay display) {
 }
 
 void RollPad::Refresh() {
-  setAccessibleName(Shown(ConsoleTitle));
+  setAccessibleName(Shown(Text::ConsoleTitle));
   update();
   TellHint();
 }
@@ -128,29 +126,30 @@ bool RollPad::IsChosen(const RollPadCell& cell) const {
 }
 
 QString RollPad::HintFor(const RollPadCell& cell) const {
-  if (display_ == BasicNumbers) return Shown(FillIn(TotalHint, {Typed(Figures(cell.Total))}));
+  if (display_ == BasicNumbers) return Shown(Say(Text::TotalHint, Typed(Figures(cell.Total))));
   Faces dice = cell.Dice;
   const bool first = dice.die1 != 0;
   if (dice.die1 == 0) dice.die1 = choice_.Chosen.die1;
   if (dice.die2 == 0) dice.die2 = choice_.Chosen.die2;
   if (dice.die1 == 0 || dice.die2 == 0) {
     const int face = first ? dice.die1 : dice.die2;
-    return Shown(FillIn(SingleHint, {first ? "1" : "2", Typed(Figures(face))}));
+    return Shown(Say(Text::SingleHint, first ? "1" : "2", Typed(Figures(face))));
   }
-  return Shown(FillIn(PairHint, {Typed(Figures(dice.die1)), Typed(Figures(dice.die2)),
-                                 Typed(Figures(dice.die1 + dice.die2))}));
+  return Shown(Say(Text::PairHint, Typed(Figures(dice.die1)), Typed(Figures(dice.die2)),
+                   Typed(Figures(dice.die1 + dice.die2))));
 }
 
 QString RollPad::HintText() const {
-  if (RollPadStopsRun()) return Shown(StopHint);
+  if (RollPadStopsRun()) return Shown(Text::StopHint);
   const int index = hovered_ >= 0 ? hovered_ : hasFocus() ? marked_ : -1;
-  return index < 0 ? Shown(ChooseHint) : HintFor(grid_.Cells[static_cast<size_t>(index)]);
+  return index < 0 ? Shown(Text::ChooseHint) : HintFor(grid_.Cells[static_cast<size_t>(index)]);
 }
 
 int RollPad::WidestHint(const QFontMetrics& metrics) {
-  const std::array<QString, 5> hints = {Shown(ChooseHint), Shown(FillIn(TotalHint, {"12"})),
-                                        Shown(FillIn(PairHint, {"6", "6", "12"})),
-                                        Shown(FillIn(SingleHint, {"2", "6"})), Shown(StopHint)};
+  const std::array<QString, 5> hints = {Shown(Text::ChooseHint), Shown(Say(Text::TotalHint, "12")),
+                                        Shown(Say(Text::PairHint, "6", "6", "12")),
+                                        Shown(Say(Text::SingleHint, "2", "6")),
+                                        Shown(Text::StopHint)};
   int widest = 0;
   for (const QString& hint : hints)
     widest = std::max(widest, metrics.horizontalAdvance(hint));
@@ -158,19 +157,19 @@ int RollPad::WidestHint(const QFontMetrics& metrics) {
 }
 
 void RollPad::TellHint() {
-  if (OnHint) OnHint(HintText());
+  Q_EMIT HintChanged(HintText());
 }
 
-// The call is the last thing done: the roll may take long, and the window may be gone after it.
+// The signal is the last thing done: the roll may take long, and the window may be gone after it.
 void RollPad::Choose(int index) {
   if (RollPadStopsRun()) {
-    if (OnStop) OnStop();
+    Q_EMIT StopChosen();
     return;
   }
   const auto faces = choice_.Take(grid_.Cells[static_cast<size_t>(index)]);
   update();
   TellHint();
-  if (faces && OnRoll) OnRoll(*faces);
+  if (faces) Q_EMIT Chosen(*faces);
 }
 
 void RollPad::Mark(int index) {
@@ -281,7 +280,7 @@ void RollPad::PaintLabels(QPainter& painter) const {
     } else if (display_ == SingleDice && cell.Column == 0) {
       const QRect label(box.left(), box.top() - LabelHeight(), width(), LabelHeight());
       painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter,
-                       Shown(GetText(DieText)) + ' ' + Figures(cell.Row + 1));
+                       Shown(Text::Die) + ' ' + Figures(cell.Row + 1));
     }
   }
 }

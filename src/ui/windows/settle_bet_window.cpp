@@ -3,12 +3,12 @@
 #include <QLineEdit>
 #include <vector>
 
+#include "texts/say.h"
 #include "ui/money_input.h"
 #include "ui/palette.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
 #include "ui/windows/game_dialogs.h"
-#include "ui/windows/settle_bet_texts.h"
 
 namespace tessarel {
 
@@ -40,7 +40,7 @@ class SettleBetWindow : public QDialog {
  public:
   SettleBetWindow(QWidget* parent, SettlePrompt& prompt) : QDialog(parent), prompt_(prompt) {
     setObjectName(QStringLiteral("frmSettleBet"));
-    DressWindow(*this, Shown(settle_text::Title));
+    DressWindow(*this, Shown(Text::SettleBetTitle));
     prompt_.button = TakeButton;
     QVBoxLayout* const column = MakeColumn(*this);
     auto* const upper = new QHBoxLayout;
@@ -57,8 +57,8 @@ class SettleBetWindow : public QDialog {
     auto* const grid = new QGridLayout;
     grid->setSpacing(LookStep(2));
     grid->setColumnStretch(2, 1);
-    AddRow(grid, 0, ModifyButton, Shown(settle_text::Modify), prompt_.modify);
-    AddRow(grid, 1, SetButton, Shown(settle_text::Set), prompt_.set);
+    AddRow(grid, 0, ModifyButton, Shown(Text::ChangeBetBy), prompt_.modify);
+    AddRow(grid, 1, SetButton, Shown(Text::SetBetAt), prompt_.set);
     column->addLayout(grid);
     HelpOnF1(*this, help::SettledBets);
     buttons_[SameButton]->setDefault(true);
