@@ -1,12 +1,10 @@
 // That a game file has one slot for each thing it keeps of windows and settings, and that nothing
 // in such a slot is lost or does harm.
-#include <gtest/gtest.h>
-
 #include <set>
 
 #include "base/record_file.h"
 #include "files/game_blocks.h"
-#include "play/reset.h"
+#include "reset.h"
 #include "state/settings.h"
 #include "state/view_state.h"
 #include "stats/bankroll_graph.h"
@@ -114,10 +112,8 @@ std::vector<Position> Differences(const RecordFile& file, const RecordFile& othe
   return positions;
 }
 
-class GameFields : public ::testing::Test {
+class GameFields : public FreshTest {
  protected:
-  ~GameFields() override { ResetAll(); }
-
   // Alters one member after the other: each one changes one slot, which no other one has. Returns
   // how many have none.
   template <class State>
