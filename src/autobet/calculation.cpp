@@ -39,7 +39,7 @@ double Calculate(Operation operation, double a, double b) {
   switch (operation) {
     case Operation::Power:
       if (a < 0 && b != std::floor(b))
-        throw Fault(FaultNumber::InvalidCall, "Invalid procedure call or argument");
+        throw Fault(FaultNumber::InvalidCall, FaultWording.InvalidCall);
       if (a == 0 && b < 0) return DividedByZero();
       return Finite(std::pow(a, b));
     case Operation::Multiply:

@@ -112,7 +112,7 @@ void ActivateOne(int place) {
 }
 
 void RunHotKey(const std::string& path) {
-  if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, "File not found");
+  if (!ReadScriptFile(0, path)) throw Fault(FaultNumber::FileNotFound, FaultWording.FileNotFound);
   if (!CompileHotKeyScript()) {
     ShowMessage(Say(Text::HotKeyScriptError), Say(Text::ScriptErrorTitle), msg::OkAlert,
                 help::BettingSystems);

@@ -2,16 +2,18 @@
 
 namespace tessarel {
 
+FaultWordingState FaultWording;
+
 void RaiseOverflow() {
-  throw Fault(FaultNumber::Overflow, "Overflow");
+  throw Fault(FaultNumber::Overflow, FaultWording.Overflow);
 }
 
 void RaiseIndexOutOfRange() {
-  throw Fault(FaultNumber::IndexOutOfRange, "Subscript out of range");
+  throw Fault(FaultNumber::IndexOutOfRange, FaultWording.IndexOutOfRange);
 }
 
 void RaiseDivisionByZero() {
-  throw Fault(FaultNumber::DivisionByZero, "Division by zero");
+  throw Fault(FaultNumber::DivisionByZero, FaultWording.DivisionByZero);
 }
 
 }  // namespace tessarel

@@ -4,6 +4,7 @@
 
 #include <exception>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace tessarel {
@@ -30,6 +31,24 @@ class Fault : public std::exception {
   int Number;
   std::string Description;
 };
+
+// What faults are called and how they are reported, in the language in force: whoever puts a
+// language in force fills this in.
+struct FaultWordingState {
+  std::string Overflow = "Overflow";
+  std::string IndexOutOfRange = "Subscript out of range";
+  std::string DivisionByZero = "Division by zero";
+  std::string FileNotFound = "File not found";
+  std::string FileAccess = "Path/File access error";
+  std::string DeviceFull = "Disk full";
+  std::string FileTooLarge = "File too large";
+  std::string InputPastEnd = "Input past end of file";
+  std::string InvalidCall = "Invalid procedure call or argument";
+  // The report of a fault that came up at `place`; unset, it is made in English.
+  std::string (*Report)(const Fault& fault, std::string_view place) = nullptr;
+};
+
+extern FaultWordingState FaultWording;
 
 [[noreturn]] void RaiseOverflow();
 [[noreturn]] void RaiseIndexOutOfRange();

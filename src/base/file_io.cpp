@@ -22,7 +22,7 @@ namespace tessarel {
 namespace {
 
 [[noreturn]] void RaiseFileAccess() {
-  throw Fault(FaultNumber::FileAccess, "Path/File access error");
+  throw Fault(FaultNumber::FileAccess, FaultWording.FileAccess);
 }
 
 // The fault of a failed system call.
@@ -30,11 +30,11 @@ namespace {
   switch (error) {
     case ENOENT:
     case ENOTDIR:
-      throw Fault(FaultNumber::FileNotFound, "File not found");
+      throw Fault(FaultNumber::FileNotFound, FaultWording.FileNotFound);
     case ENOSPC:
     case EDQUOT:
     case EFBIG:
-      throw Fault(FaultNumber::DeviceFull, "Disk full");
+      throw Fault(FaultNumber::DeviceFull, FaultWording.DeviceFull);
     default:
       RaiseFileAccess();
   }
@@ -186,7 +186,9 @@ void WriteFileAtomically(const std::string& path,
 std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
   struct stat status {};
   const OpenFile file(OpenOrdinary(path, status));
-  const auto raiseTooLarge = [] { throw Fault(FaultNumber::FileAccess, "File too large"); };
+  const auto raiseTooLarge = [] {
+    throw Fault(FaultNumber::FileAccess, FaultWording.FileTooLarge);
+  };
   if (static_cast<uint64_t>(status.st_size) > maxBytes) raiseTooLarge();
   std::string bytes;
   bytes.reserve(static_cast<size_t>(status.st_size));

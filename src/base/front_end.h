@@ -3,6 +3,7 @@
 // desktop program, tessarel-sim and the tests each fill in what they need.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace tessarel {
@@ -10,8 +11,9 @@ namespace tessarel {
 // The sounds the core asks for. A front end without sound leaves PlaySound alone.
 enum class Sound { Check, DiceThrown, Total, Doubles, ComeOut, FirstComeOut, LimitBroken };
 
-struct SettlePrompt;  // engine/settle_prompt.h
-struct ScriptStep;    // autobet/interpreter.h
+enum class FileAction : int32_t;  // files/file_dialog.h
+struct SettlePrompt;              // engine/settle_prompt.h
+struct ScriptStep;                // autobet/interpreter.h
 
 struct FrontEndCallbacks {
   // Shows the message that stands in the call block (base/message.h) and waits for its answer.
@@ -34,8 +36,8 @@ struct FrontEndCallbacks {
   // A step of a script that runs step by step: shows it and waits until the next one may run.
   void (*ShowStep)(const ScriptStep& step) = [](const ScriptStep&) {};
   // Asks for the file to save to, the offered one at first; empty when the user gives up.
-  std::string (*AskSaveFile)(const std::string& title, const std::string& offered) =
-      [](const std::string&, const std::string&) { return std::string(); };
+  std::string (*AskSaveFile)(FileAction action, const std::string& offered) =
+      [](FileAction, const std::string&) { return std::string(); };
   // How long a status text has to stay readable; nobody looks at it by default.
   int StatusMilliseconds = 0;
 };

@@ -30,14 +30,20 @@ void ShowMessage() {
   FrontEnd.ShowMessage();
 }
 
-int32_t ShowMessage(std::string text, std::string title, int32_t flags, int32_t topic) {
+int32_t ShowMessage(
+    std::string text, std::string title, int32_t flags, int32_t topic, MessageKind kind) {
   Message.MsgText = std::move(text);
   Message.MsgTitle = std::move(title);
   Message.MsgFlags = flags;
   Message.MsgHelpId = topic;
+  Message.MsgKind = kind;
   Message.MsgWidth = Message.MsgTimeout = 0;
   ShowMessage();
   return Message.MsgResult;
+}
+
+void ShowError(std::string text, int32_t topic) {
+  ShowMessage(std::move(text), Message.ErrorTitle, msg::OkAlert, topic, MessageKind::Error);
 }
 
 bool AskForText(std::string text, std::string title, std::string offered, int32_t topic) {

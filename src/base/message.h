@@ -39,12 +39,20 @@ inline constexpr int32_t OkInput = Button0 | Cancel | Input;
 // The values of MsgResult that are not a button's index.
 enum MessageAnswer : int32_t { AnswerCancel = 2, AnswerYes = 6, AnswerNo = 7 };
 
+// What a message is about, for those who treat some apart: its title is for people.
+enum class MessageKind {
+  Notice,     // news or a question
+  Error,      // a run-time fault, or a file that is no good
+  RunStopped  // why the Hyper-Drive has ended
+};
+
 struct MessageState {
-  std::string MsgText;     // the message; a carriage return makes a line break
-  std::string MsgTitle;    // empty: no title
-  int32_t MsgWidth = 0;    // of the text, in the box's units; 0 takes the default
-  int32_t MsgFlags = 0;    // bits of msg::
-  int32_t MsgHelpId = 0;   // one of help::
+  std::string MsgText;    // the message; a carriage return makes a line break
+  std::string MsgTitle;   // empty: no title
+  int32_t MsgWidth = 0;   // of the text, in the box's units; 0 takes the default
+  int32_t MsgFlags = 0;   // bits of msg::
+  int32_t MsgHelpId = 0;  // one of help::
+  MessageKind MsgKind = MessageKind::Notice;
   int32_t MsgResult = 0;   // the answer: MessageAnswer, or the index of a button
   int32_t MsgTimeout = 0;  // milliseconds after which the box answers by itself; 0 never
   std::string MsgInput;    // with msg::Input: the text offered, and on return the text typed
@@ -63,7 +71,11 @@ void ShowMessage();
 int32_t ShowMessage(std::string text,
                     std::string title,
                     int32_t flags,
-                    int32_t topic = help::NoTopic);
+                    int32_t topic = help::NoTopic,
+                    MessageKind kind = MessageKind::Notice);
+
+// Tells of something that went wrong, under the title of fault reports.
+void ShowError(std::string text, int32_t topic = help::NoTopic);
 
 // Puts a question whose answer is a text. Returns false on Cancel, else the answer stands in
 // Message.MsgInput.

@@ -112,7 +112,7 @@ void RecordFile::Save(const std::string& path) const {
 
 const Record& RecordFile::At(int number) const {
   if (number < 1 || number > Count()) {
-    throw Fault(FaultNumber::InputPastEnd, "Input past end of file");
+    throw Fault(FaultNumber::InputPastEnd, FaultWording.InputPastEnd);
   }
   return records_[static_cast<size_t>(number - 1)];
 }

@@ -14,10 +14,12 @@ namespace {
 
 constexpr std::string_view FigureFormat = "0.00;-0.00;0.00";
 
-constexpr std::array<std::string_view, 1 + AdvantageFigureCount> ValueColumns = {
-    "Bet", "EV/Roll", "StDev/Roll", "EV/Dec", "StDev/Dec", "EV/Hour"};
-constexpr std::array<std::string_view, 1 + AdvantageFigureCount> MiscColumns = {
-    "Bet", "Rolls/Dec", "Dec/Roll", "Dec/Hour", "Dec/Min", "Time/Dec"};
+constexpr std::array<Text, 1 + AdvantageFigureCount> ValueColumns = {
+    Text::BetColumn, Text::EvPerRoll,   Text::StDevPerRoll,
+    Text::EvPerDec,  Text::StDevPerDec, Text::EvPerHour};
+constexpr std::array<Text, 1 + AdvantageFigureCount> MiscColumns = {
+    Text::BetColumn,  Text::RollsPerDec,  Text::DecPerRoll,
+    Text::DecPerHour, Text::DecPerMinute, Text::TimePerDec};
 
 // The caption under which the payoff editor shows a bet; some have no row of their own there.
 std::string EditorCaption(int number) {
@@ -77,7 +79,7 @@ std::array<std::string, AdvantageFigureCount> MiscFigures(double rolls, double r
 
 }  // namespace
 
-const std::array<std::string_view, 1 + AdvantageFigureCount>& AdvantageColumns() {
+const std::array<Text, 1 + AdvantageFigureCount>& AdvantageColumns() {
   return Advantage.ShowMiscData ? MiscColumns : ValueColumns;
 }
 
@@ -103,14 +105,17 @@ AdvantageRow AdvantageRowOf(int number) {
 }
 
 std::vector<std::string> AdvantageReportHeading(const AdvantageReportSource& source) {
-  const auto nameOf = [](const std::string& file) { return file.empty() ? "untitled" : file; };
-  return {"Tessarel Advantage",
+  const auto nameOf = [](const std::string& file) {
+    return file.empty() ? Wording(Text::Untitled) : std::string_view(file);
+  };
+  return {Say(Text::AdvantageReport),
           MediumDate(Now()),
-          "Game file:  " + nameOf(source.GameFile),
-          source.ProbabilityActive ? "Probability file:  " + nameOf(source.ProbabilityFile)
-                                   : "Figured using true probabilities",
-          "Sim roll rate/hour:  " + FormatNumber(Settings.SimRollRate, "0.0###"),
-          "These columns given in percent"};
+          Say(Text::ReportGameFile, nameOf(source.GameFile)),
+          source.ProbabilityActive
+              ? Say(Text::ReportProbabilityFile, nameOf(source.ProbabilityFile))
+              : Say(Text::ReportTrueProbabilities),
+          Say(Text::ReportRollRate, FormatNumber(Settings.SimRollRate, "0.0###")),
+          Say(Text::ReportInPercent)};
 }
 
 }  // namespace tessarel

@@ -9,13 +9,14 @@
 #include <vector>
 
 #include "config/advantage.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 inline constexpr int AdvantageFigureCount = 5;
 
 // The captions of the columns, the bet's first, by ShowMiscData.
-const std::array<std::string_view, 1 + AdvantageFigureCount>& AdvantageColumns();
+const std::array<Text, 1 + AdvantageFigureCount>& AdvantageColumns();
 
 // The note over the columns; empty when they are not percentages.
 std::string_view AdvantageNote();

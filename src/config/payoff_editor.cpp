@@ -272,15 +272,15 @@ std::optional<PayoffCell> CellByName(std::string_view name) {
 // Why no row has this name. A bet's own name may lead to the row that holds its payoff.
 std::string NoSuchRow(std::string_view name) {
   const int number = BetByName(name);
-  if (number == 0) return "There is no payoff row named " + std::string(name) + ".";
+  if (number == 0) return Say(Text::NoPayoffRowNamed, name);
   const std::string bet(BetName[number]);
   for (int row = 1; row <= PayoffEditorRowCount; ++row) {
     const PayoffEditorRow& shown = At(EditorRows, row);
     if (shown.Heading || shown.SubIndex >= 0) continue;
     if (shown.Bet == number || Twin(shown.Bet) == number)
-      return "The payoff row of " + bet + " is named " + BetCaption(row) + ".";
+      return Say(Text::PayoffRowIsNamed, bet, BetCaption(row));
   }
-  return "The payoff row " + bet + " cannot be edited.";
+  return Say(Text::PayoffRowNotEditable, bet);
 }
 
 }  // namespace
@@ -437,8 +437,7 @@ void FigureFieldBase() {
 
 std::optional<std::string> SetPayoffByName(std::string_view assignment) {
   const size_t equals = assignment.rfind('=');
-  if (equals == std::string_view::npos)
-    return "A payoff is set as ROW=NUM:DEN, not as \"" + std::string(assignment) + "\".";
+  if (equals == std::string_view::npos) return Say(Text::PayoffIsSetAs, assignment);
   const std::string_view name = assignment.substr(0, equals);
   const std::string_view ratio = assignment.substr(equals + 1);
   const std::optional<PayoffCell> cell = CellByName(name);
@@ -449,13 +448,10 @@ std::optional<std::string> SetPayoffByName(std::string_view assignment) {
   const std::optional<Money> den =
       colon == std::string_view::npos ? std::nullopt : ParseMoney(ratio.substr(colon + 1));
   if (!num || !den) {
-    return "The payoff of " + PayoffRowName(*cell) +
-           " must be NUM:DEN, two numbers with at most four decimals, not \"" + std::string(ratio) +
-           "\".";
+    return Say(Text::PayoffMustBe, PayoffRowName(*cell), ratio);
   }
   if (*den <= Money()) {
-    return "The second number in the payoff of " + PayoffRowName(*cell) +
-           " must be greater than zero, not " + PlainText(*den) + ".";
+    return Say(Text::PayoffSecondNotPositive, PayoffRowName(*cell), PlainText(*den));
   }
   StorePayoff(*cell, *num, FormTo, *den);
   return std::nullopt;

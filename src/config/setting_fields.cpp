@@ -16,6 +16,7 @@
 #include "state/settings.h"
 #include "state/table.h"
 #include "texts/language.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -230,24 +231,19 @@ struct KeyedValue {
   Money value;
 };
 
-std::string Quoted(std::string_view text) {
-  return std::string(1, '"').append(text) + '"';
-}
-
 // What the field takes, to follow "must be".
 std::string Allowed(const SettingField& field) {
   const auto [low, high, step] = field.Range;
-  if (field.Kind == Flag || field.Kind == Mark) return "0, 1 or -1";
-  const std::string limits = " from " + FormatExact(low) + " to " + FormatExact(high);
+  if (field.Kind == Flag || field.Kind == Mark) return Say(Text::AllowedFlag);
   if (field.Kind == Amount) {
-    return "an amount" + limits + " with at most " + (step == CentStep ? "two" : "four") +
-           " decimals";
+    return SayChosen(step == CentStep ? Text::AllowedCents : Text::AllowedAmount, FormatExact(low),
+                     FormatExact(high));
   }
-  if (step == Money(1)) return "a whole number" + limits;
+  if (step == Money(1)) return Say(Text::AllowedWhole, FormatExact(low), FormatExact(high));
   std::string choices = PlainText(low);
-  for (Money choice = low + step; choice <= high; choice += step)
-    choices += (choice == high ? " or " : ", ") + PlainText(choice);
-  return choices;
+  for (Money choice = low + step; choice < high; choice += step)
+    choices += ", " + PlainText(choice);
+  return Say(Text::OneOrOther, choices, PlainText(high));
 }
 
 // Reads one value; empty when the field does not take it.
@@ -271,9 +267,8 @@ int ReadKey(const SettingField& field, std::string_view text) {
 }
 
 std::string KeyError(const SettingField& field, const std::string& label, std::string_view key) {
-  if (field.Shape == ByBet) return label + " has no bet " + Quoted(key) + ".";
-  return label + " has no entry " + Quoted(key) + "; its entries are " +
-         std::to_string(field.FirstKey) + " to " + std::to_string(field.LastKey) + ".";
+  if (field.Shape == ByBet) return Say(Text::SettingHasNoBet, label, key);
+  return Say(Text::SettingHasNoEntry, label, key, field.FirstKey, field.LastKey);
 }
 
 std::vector<std::string_view> Split(std::string_view text) {
@@ -295,17 +290,17 @@ Error ReadPart(const SettingField& field,
   if (field.Shape == ByBet || field.Shape == ByIndex) {
     const size_t colon = part.rfind(':');
     if (colon == std::string_view::npos) {
-      return label + " takes " + (field.Shape == ByBet ? "BET" : "NUMBER") +
-             ":VALUE, separated by commas, not " + Quoted(part) + ".";
+      return SayChosen(field.Shape == ByBet ? Text::SettingTakesBets : Text::SettingTakesNumbers,
+                       label, part);
     }
     const std::string_view key = TrimSpaces(part.substr(0, colon));
     part.remove_prefix(colon + 1);
     read.key = ReadKey(field, key);
     if (read.key < 0) return KeyError(field, label, key);
-    which += " of " + std::string(key);
+    which = Say(Text::SettingEntry, label, key);
   }
   const std::optional<Money> value = ReadValue(field, part);
-  if (!value) return which + " must be " + Allowed(field) + ", not " + Quoted(part) + ".";
+  if (!value) return Say(Text::SettingMustBe, which, Allowed(field), part);
   read.value = *value;
   return std::nullopt;
 }
@@ -317,8 +312,7 @@ Error ReadAll(const SettingField& field,
   const auto parts = field.Shape == Single ? std::vector<std::string_view>{text} : Split(text);
   const auto count = static_cast<size_t>(field.LastKey - field.FirstKey + 1);
   if (field.Shape == InOrder && parts.size() != count) {
-    return label + " takes " + std::to_string(count) + " values separated by commas, not " +
-           Quoted(text) + ".";
+    return Say(Text::SettingTakesValues, label, count, text);
   }
   for (const std::string_view part : parts) {
     KeyedValue read{field.FirstKey + static_cast<int>(values.size()), Money()};
@@ -364,7 +358,7 @@ Error Apply(const SettingField& field,
             const std::vector<KeyedValue>& values) {
   if (field.Change != nullptr) {
     if (field.Change(place, values.front().value)) return std::nullopt;
-    return label + " was not changed: " + OnOneLine(Message.MsgText);
+    return Say(Text::SettingNotChanged, label, OnOneLine(Message.MsgText));
   }
   for (const auto& [key, value] : values)
     Write(field.Reach(place, key), value);
@@ -374,11 +368,9 @@ Error Apply(const SettingField& field,
 Error TestPlace(const SettingField& field, std::optional<int> place) {
   if (!place) return std::nullopt;
   const std::string name(field.Name);
-  if (!field.PerPlace) return name + " is a setting of the whole table and takes no place.";
-  if (*place < 1 || *place > LastPlace)
-    return "The place of " + name + " must be from 1 to 8, not " + std::to_string(*place) + ".";
-  if (!IsTaken(Table, *place))
-    return name + " cannot be set for place " + std::to_string(*place) + ", where nobody plays.";
+  if (!field.PerPlace) return Say(Text::SettingTakesNoPlace, name);
+  if (*place < 1 || *place > LastPlace) return Say(Text::SettingPlaceBeyond, name, *place);
+  if (!IsTaken(Table, *place)) return Say(Text::SettingPlaceEmpty, name, *place);
   return std::nullopt;
 }
 
@@ -400,7 +392,7 @@ std::optional<std::string> SetField(std::string_view name,
                                     std::string_view value) {
   const auto* field = std::ranges::find_if(
       Fields, [name](const SettingField& row) { return EqualIgnoringCase(row.Name, name); });
-  if (field == std::end(Fields)) return "There is no setting named " + Quoted(name) + ".";
+  if (field == std::end(Fields)) return Say(Text::NoSettingNamed, name);
   if (Error error = TestPlace(*field, place)) return error;
 
   std::string label(field->Name);

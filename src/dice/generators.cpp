@@ -57,9 +57,9 @@ int32_t EntryFor(const Congruence& congruence, int32_t x) {
 }
 
 // Whether an entry is in the table; if not, that is noted for the next report.
-bool CheckEntry(int32_t entry, const char* complaint) {
+bool CheckEntry(int32_t entry, CheckedText<0> complaint) {
   if (entry >= 1 && entry <= ShuffleEntries) return true;
-  Message.PendingErrorText += complaint;
+  Message.PendingErrorText += Say(complaint) + "\r";
   return false;
 }
 
@@ -234,7 +234,7 @@ float Ran1(int32_t& idum) {
   state.ix2 = Second.After(state.ix2);
   state.ix3 = Third.After(state.ix3);
   state.j = EntryFor(Third, state.ix3);
-  if (!CheckEntry(state.j, "An error occurred in function Ran1\r")) return 0;
+  if (!CheckEntry(state.j, Text::GeneratorFaultRan1)) return 0;
   return std::exchange(At(state.table, state.j), Ran1Entry(state));
 }
 
@@ -242,7 +242,7 @@ float Ran2(int32_t& idum) {
   Ran2State& state = Dice.Ran2;
   if (idum < 0 || !state.initialised) InitialiseRan2(state, idum);
   state.j = EntryFor(Single, state.iy);
-  if (!CheckEntry(state.j, "An error occurred in function Ran2\r")) return 0;
+  if (!CheckEntry(state.j, Text::GeneratorFaultRan2)) return 0;
   state.iy = At(state.table, state.j);
   state.idum = Single.After(state.idum);
   At(state.table, state.j) = state.idum;

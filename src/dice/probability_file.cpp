@@ -72,7 +72,7 @@ bool OpenProbabilityFile(const std::string& name) {
   if (!FileExists(path)) return false;
   const auto planes = MatrixOfBytes(ReadWholeFile(path, LargestFile));
   if (!planes) {
-    ShowMessage(Say(Text::NotAProbabilityFile, path), Say(Text::Error), msg::OkAlert);
+    ShowError(Say(Text::NotAProbabilityFile, path));
     return false;
   }
   Probability.ProbabilityMatrix = *planes;

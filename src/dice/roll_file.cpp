@@ -22,22 +22,22 @@ namespace {
 
 constexpr int32_t BlockLength = 65'536;
 
-constexpr const char* UnableToOpen = "Unable to open the dice roll file ";
-constexpr const char* UnableToRead = "Unable to read the dice roll file ";
-constexpr const char* UnableToWrite = "Unable to write the dice roll file ";
+constexpr CheckedText<1> UnableToOpen = Text::RollFileNotOpened;
+constexpr CheckedText<1> UnableToRead = Text::RollFileNotRead;
+constexpr CheckedText<1> UnableToWrite = Text::RollFileNotWritten;
 
-[[noreturn]] void RaiseFileFault(std::string what, const std::string& path) {
+[[noreturn]] void RaiseFileFault(CheckedText<1> what, const std::string& path) {
   const FaultNumber number = errno == ENOSPC ? FaultNumber::DeviceFull : FaultNumber::FileAccess;
-  throw Fault(number, std::move(what) + path);
+  throw Fault(number, Say(what, path));
 }
 
 // Gives the file up after a failure of the disk: what it holds is no longer known.
-[[noreturn]] void AbandonRollFile(std::string what) {
+[[noreturn]] void AbandonRollFile(CheckedText<1> what) {
   const int reason = errno;
   const std::string path = RollFile.RollFileName;
   RollFile = {};
   errno = reason;
-  RaiseFileFault(std::move(what), path);
+  RaiseFileFault(what, path);
 }
 
 // Only ordinary files: a folder opens but cannot be read, a pipe cannot be rewound, and a null byte
@@ -46,7 +46,7 @@ void CheckFileName(const std::string& path) {
   std::error_code ignored;
   if (path.find('\0') != std::string::npos ||
       (std::filesystem::exists(path, ignored) && !FileExists(path))) {
-    throw Fault(FaultNumber::FileAccess, "Not a file that can hold dice rolls: " + path);
+    throw Fault(FaultNumber::FileAccess, Say(Text::CannotHoldRolls, path));
   }
 }
 
@@ -211,7 +211,7 @@ void RecordToRollFile(Faces faces) {
   }
   if (RollFile.ReadOnly) {
     RollFile.RollFileMode = RollFileOff;
-    throw Fault(FaultNumber::FileAccess, "No rolls can be recorded to " + RollFile.RollFileName);
+    throw Fault(FaultNumber::FileAccess, Say(Text::NoRollsRecordedTo, RollFile.RollFileName));
   }
   const bool goesOn = RollFile.BlockIsRecorded && std::ssize(RollFile.Block) < BlockLength &&
                       RollFile.NextRoll == RollFile.BlockStart + std::ssize(RollFile.Block);

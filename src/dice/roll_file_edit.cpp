@@ -131,7 +131,7 @@ bool PutOnClipboard(RollRange range) {
 bool PasteFrom(const std::string& path) {
   FlushRollFile();  // the open file may be pasted into itself
   if (!IsRollFile(path)) {
-    ShowMessage(Say(Text::NotARollFile, path), Message.ErrorTitle, msg::OkAlert);
+    ShowError(Say(Text::NotARollFile, path));
     return false;
   }
   InsertRolls([&path](const ByteSink& sink) {
@@ -291,7 +291,7 @@ bool MayPlay() {
 void EnterRecorderState(int32_t use) {
   FlushRollFile();
   if (use == RollFileRecord && RollFile.ReadOnly) {
-    throw Fault(FaultNumber::FileAccess, "No rolls can be recorded to " + RollFile.RollFileName);
+    throw Fault(FaultNumber::FileAccess, Say(Text::NoRollsRecordedTo, RollFile.RollFileName));
   }
   const int32_t before = std::exchange(RollFile.RollFileMode, use);
   RollFile.EndReached = false;
@@ -429,9 +429,10 @@ std::optional<RollRange> AskRollsToPrint(RollRange selection) {
 
 std::vector<std::string> RollPrintRows(RollRange rolls) {
   const bool named = !RollFile.RollFileName.empty();
-  std::vector<std::string> rows = {"Tessarel Dice Roll File",
-                                   "Roll file:  " + (named ? RollFile.RollFileName : "untitled"),
-                                   MediumDate(Now())};
+  std::vector<std::string> rows = {
+      Say(Text::RollFileReport),
+      Say(Text::ReportRollFile, named ? RollFile.RollFileName : Wording(Text::Untitled)),
+      MediumDate(Now())};
   if (!named) return rows;
   const RollRange range = Within(rolls);
   Trapped("RollPrintRows", [&] {

@@ -48,6 +48,7 @@ void TellHowItStands(int place, Title&& title) {
   Message.MsgFlags = msg::Ok | msg::HideNotice4;
   Message.MsgHelpId = help::SettledBets;
   Message.MsgTimeout = 0;
+  Message.MsgKind = MessageKind::Notice;
   ShowMessage();
 }
 

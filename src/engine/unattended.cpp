@@ -63,7 +63,8 @@ void StopUnattended() {
   if (!Table.AutoRollOn && !Table.HyperDriveOn) return;
   Table.AutoRollOn = Table.HyperDriveOn = false;
   if (Table.Stop != StopCause::None) {
-    ShowMessage(StopText(Table.Stop), Say(Text::HyperDriveStopped), msg::OkAlert, help::AutoRoll);
+    ShowMessage(StopText(Table.Stop), Say(Text::HyperDriveStopped), msg::OkAlert, help::AutoRoll,
+                MessageKind::RunStopped);
   }
   FrontEnd.DrawTable();
   FrontEnd.RefreshViews();

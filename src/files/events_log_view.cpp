@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
+#include "files/file_dialog.h"
 #include "log/events_log.h"
 #include "log/events_log_reader.h"
 #include "stats/report.h"
@@ -22,8 +23,6 @@ namespace tessarel {
 EventsLogViewState EventsLogView;
 
 namespace {
-
-constexpr std::string_view PrintHeading = "Tessarel Events Log";
 
 void UseLog(const std::string& path) {
   CloseEventsLog();
@@ -45,7 +44,7 @@ void CopyLog(const std::string& from, const std::string& to) {
 
 // Where a log is to be copied to; empty when the user gives up.
 std::string AskForCopy(const std::string& log) {
-  const std::string name = FrontEnd.AskSaveFile(Say(Text::SaveEventsLogAs), log);
+  const std::string name = FrontEnd.AskSaveFile(FileAction::SaveEventsLog, log);
   return name.empty() ? name : InFolder(Folders.EventsLogFolder, name);
 }
 
@@ -262,7 +261,8 @@ bool PrintEventsLog(std::string_view gameFile,
     return false;
   }
   bool wanted = true;
-  for (std::string heading = ReportHeader(PrintHeading, gameFile); wanted && !heading.empty();)
+  for (std::string heading = ReportHeader(Wording(Text::EventsLogReport), gameFile);
+       wanted && !heading.empty();)
     wanted = print(HeadingRow(heading));
   for (int32_t line = 1; wanted && line <= lines; ++line)
     wanted = print(reader.Line(line));

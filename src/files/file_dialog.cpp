@@ -207,15 +207,6 @@ std::string_view FileActionTitle(FileAction action) {
   return Wording(RowOf(action).title);
 }
 
-std::optional<FileAction> FileActionOfTitle(std::string_view title) {
-  for (const ActionRow& row : ActionRows) {
-    for (int32_t language = 0; language < LanguageCount; ++language) {
-      if (EqualIgnoringCase(Wording(row.title, language), title)) return row.action;
-    }
-  }
-  return std::nullopt;
-}
-
 bool SavesFile(FileAction action) {
   return RowOf(action).purpose == Purpose::Save;
 }

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,10 +53,6 @@ inline constexpr int FileActionCount = 21;
 
 // The dialog's title in the language in force.
 std::string_view FileActionTitle(FileAction action);
-
-// The action of a title in any of the languages and any letter case, as callers of
-// FrontEnd.AskSaveFile give it; none for a title of something else.
-std::optional<FileAction> FileActionOfTitle(std::string_view title);
 
 // Whether the action writes a file that it names.
 bool SavesFile(FileAction action);

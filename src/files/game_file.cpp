@@ -57,7 +57,7 @@ void NameGame(const std::string& path) {
 // --- Opening -----------------------------------------------------------------------------------
 
 void Refuse(CheckedText<1> why, const std::string& path) {
-  ShowMessage(Say(why, ShortName(path)), Message.ErrorTitle, msg::OkAlert, help::Saving);
+  ShowError(Say(why, ShortName(path)), help::Saving);
 }
 
 bool IsGameFile(const RecordFile& file, const std::string& path) {

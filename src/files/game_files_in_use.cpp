@@ -154,7 +154,7 @@ void TakeUpScript(int place, const HeldFile& file) {
     Tell(ScriptGone, path, name);
   } else if (!CanReadScript(place, path)) {
     NewScript(place);
-    ShowMessage(Say(Text::ScriptUnreadable, path, name), Message.ErrorTitle, msg::OkAlert);
+    ShowError(Say(Text::ScriptUnreadable, path, name));
   } else if (LastModifiedText(path) != file.Date) {
     Tell(ScriptChanged, path, name);
   }

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "base/single_byte_text.h"
 #include "base/trap.h"
+#include "files/file_dialog.h"
 #include "files/sessions_log.h"
 #include "state/books.h"
 #include "state/table.h"
@@ -38,7 +39,7 @@ void Tell(Text text, Text title) {
 }
 
 void RefuseFile() {
-  ShowMessage(Say(Text::NotASessionsLog), Say(Text::Error), msg::OkAlert);
+  ShowError(Say(Text::NotASessionsLog));
 }
 
 // --- New logs ----------------------------------------------------------------------------------
@@ -51,12 +52,14 @@ bool AgreesToSessionInProgress(bool oneLog) {
 }
 
 // Whether a log may take this name: other players go on with theirs.
-bool MayTakeName(int place, const std::string& name, Text title) {
+bool MayTakeName(int place, const std::string& name, FileAction dialog) {
   bool free = true;
   ForEachPlayer([&](int other) {
     if (other != place && IsSameFile(SessionsLogNameOf(other), name)) free = false;
   });
-  if (!free) Tell(Text::LogOfAnotherPlayer, title);
+  if (!free) {
+    ShowMessage(Say(Text::LogOfAnotherPlayer), std::string(FileActionTitle(dialog)), msg::OkAlert);
+  }
   return free;
 }
 
@@ -64,8 +67,8 @@ bool MayTakeName(int place, const std::string& name, Text title) {
 std::string MoveToChosenName(int place,
                              const std::string& from,
                              const std::string& offered,
-                             Text dialog) {
-  const std::string chosen = FrontEnd.AskSaveFile(SayChosen(dialog), offered);
+                             FileAction dialog) {
+  const std::string chosen = FrontEnd.AskSaveFile(dialog, offered);
   if (chosen.empty()) return "";
   const std::string to = InFolder(Folders.SessionsLogFolder, chosen);
   if (!MayTakeName(place, to, dialog)) return "";
@@ -80,7 +83,7 @@ bool MakesRoom(int place, const std::string& name) {
                                      Say(Text::SaveSessionsLog), msg::AskYesDefault | msg::Cancel);
   if (answer == AnswerNo) return true;
   if (answer != AnswerYes) return false;
-  const std::string kept = MoveToChosenName(place, name, name, Text::SaveSessionsLogAs);
+  const std::string kept = MoveToChosenName(place, name, name, FileAction::SaveSessionsLog);
   return !kept.empty() && !IsSameFile(kept, name);
 }
 
@@ -127,7 +130,7 @@ std::optional<Money> ReadValue(std::string text) {
 }
 
 std::string_view ChosenStatName() {
-  return At(SessionStatNames, SessionsView.Stat);
+  return Wording(At(SessionStatNames, SessionsView.Stat));
 }
 
 bool FindFrom(const SessionStatistics& statistics, int32_t from, int step) {
@@ -231,7 +234,7 @@ bool OfferToRenameSessionsLog(int place) {
       return false;
     }
     const std::string name = MoveToChosenName(place, log, DefaultSessionsLogName(NameOf(place)),
-                                              Text::RenameSessionsLog);
+                                              FileAction::RenameSessionsLog);
     if (name.empty()) return false;
     Table.SessionLogName[place] = name;
     return true;

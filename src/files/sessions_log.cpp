@@ -28,7 +28,7 @@ constexpr int StacksLogged = 20;
 constexpr int64_t RecordSize = Record::Size;
 
 [[noreturn]] void RaiseFileAccess() {
-  throw Fault(FaultNumber::FileAccess, "Path/File access error");
+  throw Fault(FaultNumber::FileAccess, FaultWording.FileAccess);
 }
 
 Record Header(int32_t sessions) {
@@ -92,7 +92,7 @@ int32_t SessionsToKeep(const std::string& name) {
 void PutRecord(std::ostream& file, int64_t number, const Record& record) {
   file.seekp((number - 1) * RecordSize);
   file << BytesOf(record);
-  if (!file.flush()) throw Fault(FaultNumber::DeviceFull, "Disk full");
+  if (!file.flush()) throw Fault(FaultNumber::DeviceFull, FaultWording.DeviceFull);
 }
 
 }  // namespace
@@ -120,7 +120,7 @@ int32_t CountSessions(const std::string& name) {
 
 std::vector<Session> ReadSessions(const std::string& name) {
   const int32_t count = CountSessions(name);
-  if (count > MaxSessionsRead) throw Fault(FaultNumber::FileAccess, "File too large");
+  if (count > MaxSessionsRead) throw Fault(FaultNumber::FileAccess, FaultWording.FileTooLarge);
   std::vector<Session> sessions;
   sessions.reserve(static_cast<size_t>(count));
   Record record;

@@ -33,13 +33,13 @@ constexpr std::array AllKinds = {
 };
 
 [[noreturn]] void RaiseFileAccess() {
-  throw Fault(FaultNumber::FileAccess, "Path/File access error");
+  throw Fault(FaultNumber::FileAccess, FaultWording.FileAccess);
 }
 
 // Writes out what is buffered; a full disk shows here.
 void Close(std::ofstream& file) {
   file.close();
-  if (!file) throw Fault(FaultNumber::DeviceFull, "Disk full");
+  if (!file) throw Fault(FaultNumber::DeviceFull, FaultWording.DeviceFull);
 }
 
 void Remove(const std::string& name) {
@@ -110,7 +110,7 @@ class OpenLog {
     text_.clear();
     if (index_ && log_) return;
     Forget();
-    throw Fault(FaultNumber::DeviceFull, "Disk full");
+    throw Fault(FaultNumber::DeviceFull, FaultWording.DeviceFull);
   }
 
   void Close() {
@@ -205,7 +205,7 @@ class LineFinder {
 // the latest line of a roll.
 int32_t IndexLog(const std::string& indexName) {
   std::ifstream log(EventsLogPath(), std::ios::binary);
-  if (!log) throw Fault(FaultNumber::FileNotFound, "File not found");
+  if (!log) throw Fault(FaultNumber::FileNotFound, FaultWording.FileNotFound);
   std::ofstream index(indexName, std::ios::binary | std::ios::trunc);
   if (!index) RaiseFileAccess();
   LineFinder finder;

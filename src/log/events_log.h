@@ -28,8 +28,8 @@ inline bool Logs(bool EventsLogState::*kind) {
 
 // Appends one line (UTF-8, without its line end) to the log and its position to the index. During a
 // run both stay open and lines gather in memory; otherwise both are closed again when it returns. A
-// file that cannot be written raises the file fault; a log too long for a 32-bit position raises the
-// overflow fault and stays as it is.
+// file that cannot be written raises the file fault; a log too long for a 32-bit position raises
+// the overflow fault and stays as it is.
 void WriteEvent(std::string_view line);
 
 // Writes out the lines that gathered in a run, or that and closes both files. The run calls this at

@@ -28,9 +28,9 @@ void EmptyScripts() {
 // Saves a script, an untitled one where the user wants it; false when he gives up or it fails.
 bool SaveScript(int place) {
   const bool untitled = Scripts.Places[place].ScriptFile.empty();
-  const std::string file = untitled ? FrontEnd.AskSaveFile(Say(Text::SaveAutoBetFileAs),
-                                                           Table.PlayerName[place] + ".bet")
-                                    : "";
+  const std::string file =
+      untitled ? FrontEnd.AskSaveFile(FileAction::SaveScript, Table.PlayerName[place] + ".bet")
+               : "";
   if (untitled && file.empty()) return false;
   return Trapped("SaveScriptFile",
                  [&] { untitled ? SaveScriptFileAs(place, file) : SaveScriptFile(place); });
@@ -79,8 +79,7 @@ bool OfferToSaveMatrix() {
     case SaveChoice::SaveUnderItsName:
       return SaveMatrix(std::string(file));
     case SaveChoice::SaveUnderNewName:
-      return SaveMatrix(
-          FrontEnd.AskSaveFile(std::string(FileActionTitle(FileAction::SaveProbability)), file));
+      return SaveMatrix(FrontEnd.AskSaveFile(FileAction::SaveProbability, file));
     case SaveChoice::Cancel:
       return false;
     case SaveChoice::GoOn:
@@ -111,8 +110,7 @@ bool SaveGameInUse() {
 }
 
 bool SaveGameAs() {
-  const std::string title(FileActionTitle(FileAction::SaveSession));
-  return SaveGameTo(FrontEnd.AskSaveFile(title, GameFile.GameFileName));
+  return SaveGameTo(FrontEnd.AskSaveFile(FileAction::SaveSession, GameFile.GameFileName));
 }
 
 bool AskToReplaceGame() {

@@ -22,7 +22,7 @@ struct SettingsState {
   Money MaxPropBetPayoff = 3000;  // the most a proposition bet may win
   Money MaxOddsBet = 3000, MaxFireBet = 5;
   Money OddsAllowed410 = 3, OddsAllowed59 = 4, OddsAllowed68 = 5;  // multiples of the flat bet
-  int32_t OddsCalcMethod = 0;    // 0 to 5, ConfigurationTexts.OddsCalcMethods
+  int32_t OddsCalcMethod = 0;    // 0 to 5, from Text::OddsAutoSelect on
   int32_t BarNumber = 12;        // 2 or 12
   int32_t BetNeededToShoot = 1;  // 0 none, 1 a line bet, 2 any bet
   bool AllowPutBets = true;

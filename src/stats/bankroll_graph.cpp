@@ -10,6 +10,7 @@
 #include "state/table.h"
 #include "stats/summary_view.h"
 #include "stats/view_text.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -88,9 +89,9 @@ std::string Hours(int32_t rolls) {
   return FormatNumber(SimHours(rolls), "#,#.00;-#,#.00;0.00");
 }
 
-std::string LegendText(const char* averageOf) {
-  if (BankrollGraph.MovingAverageRolls == 0) return "All rolls avg";
-  return CountText(int64_t{BankrollGraph.MovingAverageRolls}) + averageOf;
+std::string LegendText(CheckedText<1> average) {
+  if (BankrollGraph.MovingAverageRolls == 0) return Say(Text::GraphAverageOfAll);
+  return Say(average, CountText(int64_t{BankrollGraph.MovingAverageRolls}));
 }
 
 }  // namespace
@@ -168,16 +169,15 @@ GraphLabels LabelsOfGraph(int place, RollSpan window) {
   const int32_t rolls = RollsInSession();
   const std::string rate = BankrollText(Settings.SimRollRate);
   return {
-      .Current = "  Current:  " + BankrollText(Table.Bankroll[slot]),
-      .High = "High:  " + BankrollText(Table.BankrollHigh[slot]),
-      .Low = "  Low:  " + BankrollText(Table.BankrollLow[slot]),
+      .Current = "  " + Say(Text::GraphCurrent, BankrollText(Table.Bankroll[slot])),
+      .High = Say(Text::GraphHigh, BankrollText(Table.BankrollHigh[slot])),
+      .Low = "  " + Say(Text::GraphLow, BankrollText(Table.BankrollLow[slot])),
       .TotalRolls = CountText(int64_t{rolls}),
       .RollsPerHour = rate,
       .SimHours = Hours(rolls),
-      .Note = CountText(int64_t{rolls}) + " rolls @ " + rate + " rolls/hr = " + Hours(rolls) +
-              " sim hrs",
-      .Legend = LegendText(" roll avg"),
-      .PrintedLegend = LegendText(" roll moving average"),
+      .Note = Say(Text::GraphNote, CountText(int64_t{rolls}), rate, Hours(rolls)),
+      .Legend = LegendText(Text::GraphAverage),
+      .PrintedLegend = LegendText(Text::GraphMovingAverage),
       .RollsLeft = CountText(int64_t{window.First}),
       .RollsRight = CountText(int64_t{window.Last}),
   };
@@ -203,34 +203,29 @@ ReferenceLabels LabelsOfReferenceLines(int place, RollSpan window) {
 }
 
 bool SetMovingAverage() {
-  const std::string question =
-      "Enter the number of rolls (max 525) that you'd like to include "
-      "in the bankroll moving average (a value of 0 will display an "
-      "average of all rolls since the beginning of the session):";
+  const std::string question = Say(Text::AskMovingAverage);
   std::string text = question;
   const int32_t offered = std::clamp(BankrollGraph.MovingAverageRolls, 0, MaxAverageRolls);
-  while (AskForText(text, "Set Bankroll Moving Average", std::to_string(offered))) {
+  while (AskForText(text, Say(Text::MovingAverageTitle), std::to_string(offered))) {
     const std::optional<Money> answer = ParseMoney(Message.MsgInput);
     if (answer && answer->IsWhole() && *answer >= 0 && *answer <= MaxAverageRolls) {
       BankrollGraph.MovingAverageRolls = static_cast<int32_t>(answer->Floor());
       return true;
     }
-    text = "The number of rolls must be a whole number from 0 to 525.\r\r" + question;
+    text = Say(Text::MovingAverageRefused) + "\r\r" + question;
   }
   return false;
 }
 
 bool SetAutoPrint(bool on) {
-  const bool confirmed = !on || ShowMessage("Confirm ready to activate auto-print?",
-                                            "Print Bankroll Graph", msg::AskYesNo) == AnswerYes;
+  const bool confirmed = !on || ShowMessage(Say(Text::AskAutoPrint), Say(Text::PrintBankrollGraph),
+                                            msg::AskYesNo) == AnswerYes;
   if (confirmed) BankrollGraph.AutoPrint = on;
   return confirmed;
 }
 
 std::string PrintNowQuestion(int fit, int sent) {
-  return CountText(int64_t{fit}) + " graphs will fit on a page.\r\rSo far you've sent " +
-         CountText(int64_t{sent}) +
-         " to the current page.\r\rWould you like to finish printing now?";
+  return Say(Text::AskToFinishPrinting, CountText(int64_t{fit}), CountText(int64_t{sent}));
 }
 
 }  // namespace tessarel

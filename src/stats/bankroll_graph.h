@@ -110,7 +110,6 @@ struct GraphLabels {
 };
 GraphLabels LabelsOfGraph(int place, RollSpan window);
 
-inline constexpr std::string_view ReferenceCaption = "Reference line differences:  ";
 struct ReferenceLabels {
   std::string Bankroll1, Bankroll2;  // NotAvailable where the line has no point
   std::string RollsDifference, BankrollDifference;

@@ -16,8 +16,6 @@ namespace tessarel {
 // Per bet 1 to 93: the expected value of a decision, as a fraction of the stake.
 using ExpectedValues = std::array<double, LastBet + 1>;
 
-inline constexpr std::string_view ExpectedValueCaption = " Expected value $";
-
 // Wagers of a bet or of several added up. Those resolved are those that were won or lost.
 struct WagerTotals {
   Money TenderedCount, Tendered;

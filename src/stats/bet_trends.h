@@ -11,9 +11,6 @@
 
 namespace tessarel {
 
-inline constexpr std::string_view BetTrendsCaption =
-    "Recent Won / Lost trend for bets actually made (losses shown as negative numbers).";
-
 struct BetTrendEntry {
   Money Roll;    // on which it was resolved, in the scope's table count
   Money Result;  // negative for a loss

@@ -5,6 +5,7 @@
 #include "base/number_format.h"
 #include "state/books.h"
 #include "stats/view_text.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -58,16 +59,16 @@ HandsView Hands(Scope scope, PlaceSelection selection, HandUnits units) {
   HandSums sums;
   ForEachSlot(scope, selection, [&sums](int slot) { AddSlot(sums, slot); });
   view.Figures = {
-      {"Total hands", CountText(sums.Hands)},
-      {"Total rolls", CountText(sums.Rolls)},
-      {"Avg rolls per hand", Average(sums.Rolls, sums.Hands)},
-      {"Most rolls in a hand", CountText(sums.MostRolls)},
-      {"Avg c/o rolls/hand", Average(sums.RowSum(HandComeoutRolls), sums.Hands)},
-      {"Most c/o rolls in a hand", CountText(sums.MostComeoutRolls)},
-      {"Avg passes/hand", Average(sums.RowSum(HandPasses), sums.Hands)},
-      {"Most passes in a hand", CountText(sums.MostPasses)},
-      {"Avg misses/hand", Average(sums.RowSum(HandMisses), sums.Hands)},
-      {"Most misses in a hand", CountText(sums.MostMisses)},
+      {Say(Text::TotalHands), CountText(sums.Hands)},
+      {Say(Text::TotalRolls), CountText(sums.Rolls)},
+      {Say(Text::AverageRollsOfHand), Average(sums.Rolls, sums.Hands)},
+      {Say(Text::MostRollsOfHand), CountText(sums.MostRolls)},
+      {Say(Text::AverageComeOutRolls), Average(sums.RowSum(HandComeoutRolls), sums.Hands)},
+      {Say(Text::MostComeOutRolls), CountText(sums.MostComeoutRolls)},
+      {Say(Text::AveragePasses), Average(sums.RowSum(HandPasses), sums.Hands)},
+      {Say(Text::MostPassesOfHand), CountText(sums.MostPasses)},
+      {Say(Text::AverageMisses), Average(sums.RowSum(HandMisses), sums.Hands)},
+      {Say(Text::MostMissesOfHand), CountText(sums.MostMisses)},
   };
   for (int total = 2; total <= 12; ++total) {
     const auto text = [&](HandRow row) {

@@ -25,13 +25,13 @@ std::string Flush(std::string_view caption) {
 
 std::string SummarySection(const ReportInputs& inputs) {
   const SummaryView view = Summary(inputs.Of, WholeTable, inputs.Expected, inputs.Comps);
-  TextRows rows = {{"", "Table", view.PlayerTitle}};
+  TextRows rows = {{"", Say(Text::TableColumn), view.PlayerTitle}};
   for (const GeneralRow& row : view.General)
     rows.push_back({row.Caption, row.Table, row.Player});
   TextRows wagers;
   for (const SummaryRow& row : view.Wagers)
     wagers.push_back({Flush(row.Caption), row.Value});
-  return TextTable(rows) + "\nWagers\n" + TextTable(wagers);
+  return TextTable(rows) + "\n" + Say(Text::Wagers) + "\n" + TextTable(wagers);
 }
 
 std::vector<std::string> BetResultsLine(const std::string& name, const WagerColumns& columns) {
@@ -60,19 +60,21 @@ NumberSet ResolvedBets(Scope scope, int place) {
 
 std::string BetResultsOf(const ReportInputs& inputs, int place) {
   const NumberSet bets = ResolvedBets(inputs.Of, place);
-  const std::string title = "\nPlayer:  " + Table.PlayerName[place] + "\n";
-  if (bets.Empty()) return title + "No bets were resolved.\n";
+  const std::string title = "\n" + Say(Text::ReportPlayer, Table.PlayerName[place]) + "\n";
+  if (bets.Empty()) return title + Say(Text::NoBetsResolved) + "\n";
   const BetResultsView view = BetResults(inputs.Of, 1u << place, bets, inputs.Expected);
-  TextRows rows = {{"Bet", "Tendered", "$", "Resolved", "$", "Wins", "$", "Losses", "$", "Net $",
-                    "Net %", "Expected $"}};
+  TextRows rows = {{Say(Text::BetColumn), Say(Text::TenderedColumn), "$", Say(Text::WagersResolved),
+                    "$", Say(Text::WagersWins), "$", Say(Text::WagersLosses), "$",
+                    Say(Text::NetDollarsColumn), Say(Text::WagersNetPercent),
+                    Say(Text::ExpectedColumn)}};
   for (const BetResultsRow& row : view.Rows)
     rows.push_back(BetResultsLine(row.Name, row.Columns));
-  rows.push_back(BetResultsLine("Total", view.Totals));
-  return title + TextTable(rows) + Flush(ExpectedValueCaption) + view.Totals.Expected + "\n";
+  rows.push_back(BetResultsLine(Say(Text::TotalLine), view.Totals));
+  return title + TextTable(rows) + Say(Text::WagersExpected) + view.Totals.Expected + "\n";
 }
 
 std::string BetResultsSection(const ReportInputs& inputs) {
-  std::string text = Heading(BetResultsTitle);
+  std::string text = Heading(Wording(Text::BetResultsReport));
   if (Table.TakenPlaces == 0) return text + Say(Text::NoPlayersPresent) + "\n";
   ForEachPlayer([&](int place) { text += BetResultsOf(inputs, place); });
   return text;
@@ -83,27 +85,29 @@ std::string HandsSection(const ReportInputs& inputs) {
   TextRows rows;
   for (const HandsRow& row : view.Figures)
     rows.push_back({row.Caption, row.Value});
-  TextRows table = {{"Total", "C/o rolls", "Passes", "Misses"}};
+  TextRows table = {{Say(Text::TotalLine), Say(Text::ComeOutRollsColumn), Say(Text::PassesColumn),
+                     Say(Text::MissesColumn)}};
   for (const HandsTableRow& row : view.Table)
     table.push_back({std::to_string(row.Total), row.ComeoutRolls, row.Passes, row.Misses});
-  return Heading(HandsTitle) + TextTable(rows) + "\n" + TextTable(table);
+  return Heading(Wording(Text::HandsReport)) + TextTable(rows) + "\n" + TextTable(table);
 }
 
 std::string RollTotalsTable(const ReportInputs& inputs, RollTotalsDisplay display) {
   const RollTotalsView view = RollTotals(inputs.Of, WholeTable, display, inputs.Dice);
-  TextRows rows = {{"Roll"}};
-  rows[0].insert(rows[0].end(), RollTotalsHeadings.begin(), RollTotalsHeadings.end());
+  TextRows rows = {{Say(Text::RollColumn)}};
+  for (const Text heading : RollTotalsHeadings)
+    rows[0].push_back(SayChosen(heading));
   for (const RollTotalsRow& row : view.Rows) {
     rows.push_back({row.Name, row.ActualPercent, row.ProbablePercent, row.Rolls, row.ProbableRolls,
                     row.Since, row.ChiSquare});
   }
-  return TextTable(rows) + "chi-square " + view.ChiSquare + " with " +
-         std::to_string(view.Degrees) + " degrees of freedom, " + view.PValue + "\n";
+  return TextTable(rows) + Say(Text::ChiSquareLine, view.ChiSquare, view.Degrees, view.PValue) +
+         "\n";
 }
 
 std::string RollTotalsSection(const ReportInputs& inputs) {
   using enum RollTotalsDisplay;
-  std::string text = Heading(RollTotalsTitle);
+  std::string text = Heading(Wording(Text::RollTotalsReport));
   const char* separator = "";
   for (const RollTotalsDisplay display : {Number, Combinations, Die1, Die2}) {
     text += separator + RollTotalsTable(inputs, display);
@@ -129,30 +133,33 @@ std::string BankrollSection(const ReportInputs& inputs) {
     addColumn(bankrolls, view.Bankroll);
     addColumn(comps, view.Comps);
   });
-  return Heading(BankrollTitle) + TextTable(bankrolls) + "\nComps\n" + TextTable(comps);
+  return Heading(Wording(Text::BankrollReport)) + TextTable(bankrolls) + "\n" + Say(Text::Comps) +
+         "\n" + TextTable(comps);
 }
 
 }  // namespace
 
 std::string ReportHeader(std::string_view title, std::string_view gameFile) {
   const std::string name = ShortName(gameFile);
-  return std::string(title) + "\n" + MediumDate(Now()) +
-         "\nGame file:  " + (name.empty() ? "untitled" : name) + "\n";
+  return std::string(title) + "\n" + MediumDate(Now()) + "\n" +
+         Say(Text::ReportGameFile, name.empty() ? Wording(Text::Untitled) : name) + "\n";
 }
 
 std::string SelectionHeader(Scope scope, PlaceSelection selection) {
   const PlaceSelection present = PresentPlaces(selection);
-  const std::string players = std::has_single_bit(present)
-                                  ? "Player:  " + Table.PlayerName[std::countr_zero(present)]
-                                  : SelectionCaption(selection);
+  const std::string players =
+      std::has_single_bit(present)
+          ? Say(Text::ReportPlayer, Table.PlayerName[std::countr_zero(present)])
+          : SelectionCaption(selection);
   return std::string(ScopeName(scope)) + "\n" + players + "\n";
 }
 
 std::string TextReport(const ReportInputs& inputs) {
   const std::string stopped = inputs.StopReason.empty() ? "" : inputs.StopReason + "\n";
-  return ReportHeader(SummaryTitle, inputs.GameFile) + SelectionHeader(inputs.Of, WholeTable) +
-         stopped + "\n" + SummarySection(inputs) + BetResultsSection(inputs) +
-         HandsSection(inputs) + RollTotalsSection(inputs) + BankrollSection(inputs);
+  return ReportHeader(Wording(Text::SummaryReport), inputs.GameFile) +
+         SelectionHeader(inputs.Of, WholeTable) + stopped + "\n" + SummarySection(inputs) +
+         BetResultsSection(inputs) + HandsSection(inputs) + RollTotalsSection(inputs) +
+         BankrollSection(inputs);
 }
 
 }  // namespace tessarel

@@ -12,14 +12,6 @@
 
 namespace tessarel {
 
-// Titles.
-inline constexpr std::string_view SummaryTitle = "Tessarel Summary",
-                                  RollTotalsTitle = "Tessarel Roll Totals",
-                                  BetResultsTitle = "Tessarel Bet Results",
-                                  BetTrendsTitle = "Tessarel Bet Trends",
-                                  HandsTitle = "Tessarel Hands",
-                                  BankrollTitle = "Tessarel Bankroll";
-
 // The title, today's date and "Game file:  " with the short name of `gameFile`, or "untitled" for
 // an empty one.
 std::string ReportHeader(std::string_view title, std::string_view gameFile);

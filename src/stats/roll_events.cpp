@@ -6,6 +6,7 @@
 #include "base/fault.h"
 #include "dice/probability.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -59,29 +60,29 @@ constexpr std::array<RollEvent, LastRollEvent + 1> Events = {{
 }};
 // clang-format on
 
-// What stands in front of the totals of a group; a group not named here is just its totals.
-constexpr std::string_view GroupName(int code) {
+// The text of a group with a name of its own; any other is just its totals.
+constexpr std::optional<CheckedText<1>> GroupName(int code) {
   switch (code) {
     case 17:
-      return "Point numbers";
+      return CheckedText<1>(Text::EventPointNumbers);
     case 18:
-      return "Inside numbers";
+      return CheckedText<1>(Text::EventInsideNumbers);
     case 19:
-      return "Outside numbers";
+      return CheckedText<1>(Text::EventOutsideNumbers);
     case 20:
-      return "Craps";
+      return CheckedText<1>(Text::EventCraps);
     case 21:
-      return "Field";
+      return CheckedText<1>(Text::EventField);
     case 65:
-      return "Come-out decisions";
+      return CheckedText<1>(Text::EventComeOutDecisions);
     case 66:
-      return "Horn";
+      return CheckedText<1>(Text::EventHorn);
     case 67:
-      return "Low points";
+      return CheckedText<1>(Text::EventLowPoints);
     case 68:
-      return "High points";
+      return CheckedText<1>(Text::EventHighPoints);
     default:
-      return "";
+      return std::nullopt;
   }
 }
 
@@ -91,40 +92,43 @@ std::string PairText(int pair) {
 }
 
 std::string GroupText(int code, uint16_t totals) {
-  std::string list;
-  const int count = std::popcount(totals);
-  const char* const separator = count == 2 ? " or " : ", ";
-  for (unsigned rest = totals; rest != 0; rest &= rest - 1) {
-    if (!list.empty()) list += separator;
-    list += std::to_string(std::countr_zero(rest));
+  std::vector<std::string> numbers;
+  for (unsigned rest = totals; rest != 0; rest &= rest - 1)
+    numbers.push_back(std::to_string(std::countr_zero(rest)));
+  std::string list = numbers.front();
+  if (numbers.size() == 2) {
+    list = Say(Text::OneOrOther, list, numbers.back());
+  } else {
+    for (size_t k = 1; k < numbers.size(); ++k)
+      list += ", " + numbers[k];
   }
-  const std::string_view name = GroupName(code);
-  return name.empty() ? list : std::string(name) + " (" + list + ")";
+  const auto name = GroupName(code);
+  return name ? Say(*name, list) : list;
 }
 
 // The totals that only one pair, or one pair in two orders, makes are named by their pairs.
 std::string TotalText(int total) {
-  const std::string number = "Number " + std::to_string(total);
   switch (total) {
     case 2:
-      return number + " (1.1)";
+      return Say(Text::EventNumber, total, "(1.1)");
     case 3:
-      return number + " (1.2) or (2.1)";
+      return Say(Text::EventNumber, total, Say(Text::OneOrOther, "(1.2)", "(2.1)"));
     case 11:
-      return number + " (5.6) or (6.5)";
+      return Say(Text::EventNumber, total, Say(Text::OneOrOther, "(5.6)", "(6.5)"));
     case 12:
-      return number + " (6.6)";
+      return Say(Text::EventNumber, total, "(6.6)");
     default:
-      return "Any " + std::to_string(total);
+      return Say(Text::EventAnyTotal, total);
   }
 }
 
 std::string PairsText(const std::array<uint8_t, 2>& pairs) {
   const int die1 = pairs[0] / 10, die2 = pairs[0] % 10;
-  const std::string total = std::to_string(die1 + die2);
-  if (die1 == die2) return "Hard " + total + " " + PairText(pairs[0]);
-  const std::string name = "Number " + total + " " + PairText(pairs[0]);
-  return pairs[1] == 0 ? name : name + " or " + PairText(pairs[1]);
+  const std::string first = PairText(pairs[0]);
+  if (die1 == die2) return Say(Text::EventHard, die1 + die2, first);
+  const bool both = pairs[1] != 0;
+  return Say(Text::EventNumber, die1 + die2,
+             both ? Say(Text::OneOrOther, first, PairText(pairs[1])) : first);
 }
 
 // In 1/100,000.
@@ -159,8 +163,8 @@ const RollEvent& RollEventOf(int code) {
 
 std::string RollEventName(int code) {
   const RollEvent& event = RollEventOf(code);
-  if (event.Die1 != 0) return "Die 1, face " + std::to_string(event.Die1);
-  if (event.Die2 != 0) return "Die 2, face " + std::to_string(event.Die2);
+  if (event.Die1 != 0) return Say(Text::EventDie1Face, int{event.Die1});
+  if (event.Die2 != 0) return Say(Text::EventDie2Face, int{event.Die2});
   if (event.Pairs[0] != 0) return PairsText(event.Pairs);
   return std::has_single_bit(event.Totals) ? TotalText(std::countr_zero(event.Totals))
                                            : GroupText(code, event.Totals);

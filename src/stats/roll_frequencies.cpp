@@ -3,6 +3,7 @@
 #include "base/number_format.h"
 #include "state/books.h"
 #include "stats/view_text.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -22,10 +23,10 @@ std::vector<RollFrequencyRow> RollFrequencies(int event, const SkewedDice& dice)
   const double average = count > 0 ? static_cast<double>(rolls) / count : 0;
   const double share = rolls > 0 ? 100.0 * count / rolls : 0;
   return {
-      {"# rolls since last rolled:", CountText(RollsSince(event))},
-      {"Average # of rolls:", ThreeDecimals(average)},
-      {"Actual % rolled:", ThreeDecimals(share)},
-      {"Average # of rolls to achieve:",
+      {Say(Text::RollsSinceLast), CountText(RollsSince(event))},
+      {Say(Text::AverageRollsBetween), ThreeDecimals(average)},
+      {Say(Text::ActualPercentRolled), ThreeDecimals(share)},
+      {Say(Text::AverageRollsToAchieve),
        probable > 0 ? ThreeDecimals(100 / probable) : std::string(NotAvailable)},
   };
 }

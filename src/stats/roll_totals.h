@@ -9,15 +9,17 @@
 
 #include "stats/roll_events.h"
 #include "stats/selection.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 // Totals; ordered pairs; the same pairs as shares of all rolls; the faces of either die.
 enum class RollTotalsDisplay { Number, Combinations, Percent, Die1, Die2 };
 
-// The columns behind the name of the result.
-inline constexpr std::array<std::string_view, 6> RollTotalsHeadings = {
-    "% rolled", "% prob", "# of rolls", "# prob", "since last", "chi-square"};
+// The columns after the name of the result.
+inline constexpr std::array RollTotalsHeadings = {
+    Text::PercentRolledColumn, Text::PercentProbableColumn, Text::RollCountColumn,
+    Text::ProbableCountColumn, Text::SinceLastColumn,       Text::ChiSquareColumn};
 
 struct RollTotalsRow {
   int Event = 0;

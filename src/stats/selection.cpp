@@ -11,18 +11,14 @@ namespace tessarel {
 ViewSelectionState ViewSelections;
 
 std::string_view ScopeName(Scope scope) {
-  return At(ScopeNames, scope / SlotsInScope);
+  return Wording(At(ScopeNames, scope / SlotsInScope));
 }
 
 std::string_view ScopeExplanation(Scope scope) {
-  constexpr std::array<std::string_view, 5> Sentences = {
-      "Figures since the current shooter's first roll.",
-      "Figures of the hand that ended with the last seven-out.",
-      "Figures since the current session began.",
-      "Figures of the session before this one.",
-      "Figures of this session and of all that were preserved before it.",
-  };
-  return At(Sentences, scope / SlotsInScope);
+  constexpr std::array Sentences = {Text::AboutCurrentHand, Text::AboutLastHand,
+                                    Text::AboutCurrentSession, Text::AboutLastSession,
+                                    Text::AboutAllSessions};
+  return Wording(At(Sentences, scope / SlotsInScope));
 }
 
 bool IsCounted(Scope scope) {
@@ -54,9 +50,9 @@ std::string SelectionCaption(PlaceSelection selection) {
 std::string BetSelectionCaption(const NumberSet& bets) {
   int count = 0;
   bets.ForEach([&count](int number) { count += number >= 1 && number <= LastBet; });
-  if (count == 0) return "No bets selected";
-  if (count == 1) return "1 bet selected";
-  return count == LastBet ? "All bets selected" : std::to_string(count) + " bets selected";
+  if (count == 0) return Say(Text::NoBetsSelected);
+  if (count == 1) return Say(Text::OneBetSelected);
+  return count == LastBet ? Say(Text::AllBetsSelected) : Say(Text::BetsSelected, count);
 }
 
 NumberSet AllBets() {

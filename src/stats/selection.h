@@ -9,6 +9,7 @@
 
 #include "base/number_set.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -31,8 +32,9 @@ extern ViewSelectionState ViewSelections;
 void FollowInViews(int from, int to);
 
 // The list of scopes in a view; an index times SlotsInScope is the Scope.
-inline constexpr std::array<std::string_view, 5> ScopeNames = {
-    "Current hand", "Last hand", "Current session", "Last session", "All sessions"};
+inline constexpr std::array ScopeNames = {Text::ScopeCurrentHand, Text::ScopeLastHand,
+                                          Text::ScopeCurrentSession, Text::ScopeLastSession,
+                                          Text::ScopeAllSessions};
 std::string_view ScopeName(Scope scope);
 // A sentence about it.
 std::string_view ScopeExplanation(Scope scope);

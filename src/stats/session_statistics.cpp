@@ -6,6 +6,7 @@
 #include "base/number_format.h"
 #include "state/books.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -257,15 +258,16 @@ std::array<std::string, 2> SessionShareTexts(const SessionShare& share) {
 std::vector<SessionStatLine> SessionStatLines(const SessionStatistics& statistics) {
   const auto exact = [&](Money value) { return SessionValueText(value, statistics.Stat); };
   std::vector<SessionStatLine> lines = {
-      {"Sessions", FormatNumber(statistics.Count(), "#,#;-#,#;0")}};
+      {Say(Text::SessionsLine), FormatNumber(statistics.Count(), "#,#;-#,#;0")}};
   if (statistics.Sorted.empty()) return lines;
   // Percents of sessions do not add up to anything.
-  if (statistics.Stat != SessionAdvantage) lines.push_back({"Total", exact(statistics.Total)});
-  lines.push_back({"Mean", FineText(statistics.Mean)});
-  lines.push_back({"Median", FineText(statistics.Median)});
-  lines.push_back({"Standard deviation", FineText(statistics.Deviation)});
-  lines.push_back({"Lowest", exact(statistics.Lowest)});
-  lines.push_back({"Highest", exact(statistics.Highest)});
+  if (statistics.Stat != SessionAdvantage)
+    lines.push_back({Say(Text::TotalLine), exact(statistics.Total)});
+  lines.push_back({Say(Text::Mean), FineText(statistics.Mean)});
+  lines.push_back({Say(Text::Median), FineText(statistics.Median)});
+  lines.push_back({Say(Text::StandardDeviation), FineText(statistics.Deviation)});
+  lines.push_back({Say(Text::LowestLine), exact(statistics.Lowest)});
+  lines.push_back({Say(Text::HighestLine), exact(statistics.Highest)});
   return lines;
 }
 

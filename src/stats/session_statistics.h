@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/money.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -35,18 +36,11 @@ using Session = std::array<Money, SessionFigures>;
 
 // The statistics that can be chosen. The first ten are the figures of the same number; the last one
 // is 1 for every session.
-inline constexpr std::array<std::string_view, 11> SessionStatNames = {
-    "# Rolls",
-    "# Bets Decided",
-    "# Bets Won",
-    "# Bets Lost",
-    "# Bets Won/Lost (Net)",
-    "$ Bets Decided (Handle)",
-    "$ Bets Won",
-    "$ Bets Lost",
-    "$ Bets Won/Lost (Net)",
-    "% Won or Lost (HA)",
-    "# Sessions",
+inline constexpr std::array SessionStatNames = {
+    Text::SessionStatRolls,     Text::SessionStatDecided,  Text::SessionStatBetsWon,
+    Text::SessionStatBetsLost,  Text::SessionStatBetsNet,  Text::SessionStatHandle,
+    Text::SessionStatWon,       Text::SessionStatLost,     Text::SessionStatNet,
+    Text::SessionStatAdvantage, Text::SessionStatSessions,
 };
 inline constexpr int CountOfSessions = 10;
 

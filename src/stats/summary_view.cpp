@@ -6,6 +6,7 @@
 #include "state/books.h"
 #include "state/settings.h"
 #include "stats/view_text.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -38,22 +39,22 @@ std::vector<GeneralRow> GeneralRows(Scope scope, PlaceSelection selection) {
   ForEachSelected(selection, [&](int place) { AddPlay(players, scope + place); });
   const std::string rate = FourDecimals(Settings.SimRollRate.ToDouble());
   return {
-      {"Total hands", CountText(table.Hands), CountText(players.Hands)},
-      {"Total rolls", CountText(table.Rolls), CountText(players.Rolls)},
-      {"Sim hours", HoursText(table.Rolls), HoursText(players.Rolls)},
-      {"Rolls / hour", rate, rate},
+      {Say(Text::TotalHands), CountText(table.Hands), CountText(players.Hands)},
+      {Say(Text::TotalRolls), CountText(table.Rolls), CountText(players.Rolls)},
+      {Say(Text::SimHours), HoursText(table.Rolls), HoursText(players.Rolls)},
+      {Say(Text::RollsPerHourRow), rate, rate},
   };
 }
 
 std::vector<SummaryRow> WagerRows(const WagerColumns& columns) {
   return {
-      {"Total #", columns.TenderedCount},
-      {"Resolved", columns.Resolved},
-      {"Wins", columns.Wins},
-      {"Losses", columns.Losses},
-      {"Net", columns.Net},
-      {"Net %", columns.NetPercent},
-      {std::string(ExpectedValueCaption), columns.Expected},
+      {Say(Text::WagersTotalCount), columns.TenderedCount},
+      {Say(Text::WagersResolved), columns.Resolved},
+      {Say(Text::WagersWins), columns.Wins},
+      {Say(Text::WagersLosses), columns.Losses},
+      {Say(Text::WagersNet), columns.Net},
+      {Say(Text::WagersNetPercent), columns.NetPercent},
+      {" " + Say(Text::WagersExpected), columns.Expected},
   };
 }
 
@@ -80,11 +81,12 @@ std::vector<SummaryRow> BankrollRows(Scope scope, PlaceSelection selection) {
     low += Table.BankrollLow[scope + place];
   });
   return {
-      {"Beginning bankroll", AmountText(begin)},
-      {IsCounted(scope) ? "Current bankroll" : "Ending bankroll", AmountText(end)},
-      {"High bankroll", AmountText(high)},
-      {"Low bankroll", AmountText(low)},
-      {"Average bankroll", AverageText(scope, selection)},
+      {Say(Text::BeginningBankrollRow), AmountText(begin)},
+      {SayChosen(IsCounted(scope) ? Text::CurrentBankrollRow : Text::EndingBankrollRow),
+       AmountText(end)},
+      {Say(Text::HighBankrollRow), AmountText(high)},
+      {Say(Text::LowBankrollRow), AmountText(low)},
+      {Say(Text::AverageBankrollRow), AverageText(scope, selection)},
   };
 }
 
@@ -103,18 +105,18 @@ std::vector<SummaryRow> CompRows(PlaceSelection selection, const PerPlace<CompFi
     sum.Comps += figures.Comps;
   });
   const double decisions = sum.Decisions.ToDouble();
-  const auto caption = [](const char* text, int base) {
-    return (Settings.CompBase == base ? "* " : "") + std::string(text);
+  const auto caption = [](CheckedText<0> text, int base) {
+    return (Settings.CompBase == base ? "* " : "") + Say(text);
   };
   return {
-      {"Total # comp bets", CountText(sum.Decisions)},
-      {"Avg comp action $",
+      {Say(Text::CompBetCount), CountText(sum.Decisions)},
+      {Say(Text::CompAverageAction),
        decisions > 0 ? CentsText(sum.Action.ToDouble() / decisions) : std::string(NotAvailable)},
-      {"Comp rate %", FormatNumber(Settings.CompRate, "#,0.0#;-#,0.0#;0")},
-      {caption("Theoretical vig $", 0), CentsText(-sum.TheoreticalLoss)},
-      {caption("Total comp action $", 1), CentsText(sum.Action.ToDouble())},
-      {caption("Avg action x time $", 2), CentsText(sum.AverageAction.ToDouble())},
-      {"Comps $", CentsText(sum.Comps)},
+      {Say(Text::CompRatePercent), FormatNumber(Settings.CompRate, "#,0.0#;-#,0.0#;0")},
+      {caption(Text::CompTheoreticalVig, 0), CentsText(-sum.TheoreticalLoss)},
+      {caption(Text::CompTotalAction, 1), CentsText(sum.Action.ToDouble())},
+      {caption(Text::CompActionTimesTime, 2), CentsText(sum.AverageAction.ToDouble())},
+      {Say(Text::CompDollars), CentsText(sum.Comps)},
   };
 }
 

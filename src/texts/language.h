@@ -7,7 +7,8 @@
 
 namespace tessarel {
 
-// Puts a language in force (outside 0 to 5: English) together with the title of fault reports.
+// Puts a language in force (outside 0 to 5: English) together with the wording of faults, which
+// base/ keeps.
 void SetLanguage(int32_t language);
 
 }  // namespace tessarel

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "autobet/values.h"
 #include "base/fault.h"
 #include "base/file_io.h"
 #include "base/folders.h"
@@ -24,8 +25,9 @@ QString Named(const std::string& file) {
 
 }  // namespace
 
-Autosave::Autosave(const std::string& folder)
-    : file_(AsFolder(folder) + FileName),
+Autosave::Autosave(const std::string& folder, QObject* parent)
+    : QObject(parent),
+      file_(AsFolder(folder) + FileName),
       lock_(std::make_unique<QLockFile>(Named(AsFolder(folder) + LockName))) {
   lock_->setStaleLockTime(0);
   owns_ = lock_->tryLock(0);
@@ -60,17 +62,16 @@ void Autosave::Discard() {
   if (owns_) QFile::remove(Named(file_));
 }
 
-void Autosave::Start(std::function<bool()> isSafe) {
-  isSafe_ = std::move(isSafe);
+void Autosave::Start() {
   if (!owns_) return;
   timer_.setInterval(EveryMs);
-  QObject::connect(&timer_, &QTimer::timeout, [this] { Tick(); });
+  connect(&timer_, &QTimer::timeout, this, &Autosave::Tick);
   timer_.start();
 }
 
 void Autosave::Tick() {
   due_ = true;
-  if (isSafe_()) SaveIfDue();
+  if (!Table.RollInProgress && !AutoBet.ScriptRunning) SaveIfDue();
 }
 
 void Autosave::SaveIfDue() {

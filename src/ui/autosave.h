@@ -4,17 +4,18 @@
 #pragma once
 
 #include <QLockFile>
+#include <QObject>
 #include <QTimer>
-#include <functional>
 #include <memory>
 #include <string>
 
 namespace tessarel {
 
-class Autosave {
+class Autosave : public QObject {
+  Q_OBJECT
  public:
   // Keeps its file in `folder`, the program's.
-  explicit Autosave(const std::string& folder);
+  Autosave(const std::string& folder, QObject* parent);
 
   // Whether the folder can be written, so that an orderly end can keep the table.
   bool CanWrite() const;
@@ -26,8 +27,8 @@ class Autosave {
   bool TakeUp();
   void Discard();
 
-  // Begins to save. `isSafe` tells whether the table stands between two rolls.
-  void Start(std::function<bool()> isSafe);
+  // Begins to save.
+  void Start();
   // Saves if a minute has passed; called wherever the table is between two rolls.
   void SaveIfDue();
   // The orderly end: nothing is left behind.
@@ -40,7 +41,6 @@ class Autosave {
   std::unique_ptr<QLockFile> lock_;
   bool owns_ = false, due_ = false;
   QTimer timer_;
-  std::function<bool()> isSafe_;
 };
 
 }  // namespace tessarel

@@ -23,7 +23,6 @@
 #include "ui/paint/check_paint.h"
 #include "ui/table_play.h"
 #include "ui/text.h"
-#include "ui/windows/rate_meter.h"
 
 namespace tessarel {
 
@@ -33,10 +32,6 @@ constexpr int CheckSide = 44, CheckGap = 8, DiceIconSide = 30;
 
 std::string Count(int64_t count) {
   return FormatNumber(Money::FromWhole(count), "#,0");
-}
-
-int64_t RollsASecond() {
-  return static_cast<int64_t>(RollRate());
 }
 
 // The two dice as a picture for the roll button.
@@ -237,6 +232,10 @@ void ControlBar::ShowState() {
   state_->setText(StateText());
   const int64_t hands = Stats.Hands[CurrentSession].HandCount + (RollsInHand() > 0 ? 1 : 0);
   counts_->setText(Shown(Say(Text::RollAndHandCounts, Count(RollsInSession()), Count(hands))));
+}
+
+int64_t ControlBar::RollsASecond() {
+  return static_cast<int64_t>(rate_.PerSecond());
 }
 
 void ControlBar::ShowRun() {

@@ -7,12 +7,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QWidget>
-#include <functional>
+#include <cstdint>
+
+#include "ui/windows/rate_meter.h"
 
 namespace tessarel {
 
 // The five checks. A click or the left and right arrows choose one; it can be dragged to the table.
 class CheckChooser : public QWidget {
+  Q_OBJECT
  public:
   explicit CheckChooser(QWidget* parent);
 
@@ -33,6 +36,7 @@ class CheckChooser : public QWidget {
 };
 
 class ControlBar : public QWidget {
+  Q_OBJECT
  public:
   explicit ControlBar(QWidget* parent);
 
@@ -56,11 +60,13 @@ class ControlBar : public QWidget {
  private:
   void ShowState();
   void ShowElidedHint();
+  int64_t RollsASecond();
 
   CheckChooser* checks_;
   QLineEdit* enterBet_;
   QPushButton *roll_, *autoRoll_, *hyperDrive_;
   QLabel *state_, *counts_, *hint_;
+  RollRate rate_;
   QString hintText_;
   int shownDie1_ = -1, shownDie2_ = -1;
 };

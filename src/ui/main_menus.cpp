@@ -1,461 +1,15 @@
-// The menus of the main window, entry by entry: name, caption, keys, what it does, when it is
-// possible and what its check mark says.
-#include <QActionGroup>
-#include <QMenu>
+#include "ui/main_menus.h"
+
 #include <QMenuBar>
 #include <QSlider>
 #include <QWidgetAction>
-#include <functional>
-#include <initializer_list>
-#include <utility>
+#include <string>
 
-#include "autobet/values.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "config/configuration.h"
-#include "engine/bets.h"
-#include "engine/check_stacks.h"
-#include "play/auto_roll.h"
-#include "play/game_commands.h"
-#include "play/roll_pace.h"
-#include "state/settings.h"
-#include "state/view_state.h"
-#include "texts/say.h"
 #include "ui/main_window.h"
-#include "ui/sound/sounds.h"
-#include "ui/table_presets.h"
+#include "ui/table_play.h"
 #include "ui/text.h"
-#include "ui/windows/game_dialogs.h"
-#include "ui/windows/help_window.h"
-#include "ui/windows/move_window.h"
 
 namespace tessarel {
-
-namespace {
-
-using Check = std::function<bool()>;
-
-bool HasPlayer() {
-  return CurrentPlace() != 0 && TableIsOpen();
-}
-
-bool NotDriving() {
-  return !Table.HyperDriveOn;
-}
-
-bool HasOpenPlace() {
-  return Table.PlayerCount < LastPlace && TableIsIdle();
-}
-
-void TellWhereToJoin() {
-  ShowMessage(Say(Text::ClickOpenPosition), Say(Text::AddPlayerTitle), msg::Ok, help::Players);
-}
-
-// All odds of the current player at once.
-void FullOdds(void (*bet)(int)) {
-  if (!HasPlayer() || !ConfirmScriptActive()) return;
-  Table.TableDirty = true;
-  bet(CurrentPlace());
-  FrontEnd.DrawTable();
-}
-
-void ToggleOption(bool TableOptions::*option) {
-  GameViews.Table.*option = !(GameViews.Table.*option);
-  FrontEnd.DrawTable();
-}
-
-void ToggleSetting(bool& setting) {
-  setting = !setting;
-  Table.TableDirty = true;
-}
-
-}  // namespace
-
-// Fills one window's menus. The window keeps every entry with its caption and conditions.
-struct MainMenus {
-  MainWindow& window;
-  QMenu* menu = nullptr;
-
-  void Menu(Text caption) {
-    menu = window.menuBar()->addMenu(QString());
-    window.menus_.push_back({menu, caption});
-  }
-  QMenu* Submenu(Text caption) {
-    QMenu* inner = menu->addMenu(QString());
-    window.menus_.push_back({inner, caption});
-    return inner;
-  }
-  // `keys` is a shortcut; with a leading tab it is only shown, and the window handles the key.
-  QAction* Add(const char* name,
-               Text caption,
-               const char* keys,
-               std::function<void()> action,
-               Check possible = {},
-               Check checked = {}) {
-    auto* entry = new QAction(&window);
-    entry->setObjectName(name);
-    const QString shown = QString::fromLatin1(keys);
-    if (shown.startsWith('\t')) {
-      entry->setProperty("shownKeys", shown);
-    } else if (!shown.isEmpty()) {
-      entry->setShortcut(QKeySequence(shown));
-    }
-    entry->setCheckable(static_cast<bool>(checked));
-    QObject::connect(entry, &QAction::triggered, &window, [this_ = &window, action] {
-      action();
-      this_->RefreshAll();
-    });
-    menu->addAction(entry);
-    window.entries_.push_back({entry, caption, std::move(possible), std::move(checked)});
-    return entry;
-  }
-  void Line() { menu->addSeparator(); }
-
-  // A slider in a menu.
-  void Slider(Text caption, int most, std::function<int()> value, std::function<void(int)> change) {
-    QMenu* inner = Submenu(caption);
-    auto* slider = new QSlider(Qt::Horizontal, inner);
-    slider->setRange(0, most);
-    slider->setMinimumWidth(180);
-    slider->setAccessibleName(WithoutMark(Shown(caption)));
-    auto* action = new QWidgetAction(inner);
-    action->setDefaultWidget(slider);
-    inner->addAction(action);
-    QObject::connect(inner, &QMenu::aboutToShow, slider, [slider, value] {
-      const QSignalBlocker quiet(slider);
-      slider->setValue(value());
-      slider->setFocus();
-    });
-    QObject::connect(slider, &QSlider::valueChanged, slider, change);
-  }
-
-  // Entries of which one holds.
-  struct Choice {
-    const char* name;
-    Text caption;
-    int32_t value;
-  };
-  void Choices(Text caption,
-               std::initializer_list<Choice> choices,
-               std::function<int32_t()> now,
-               std::function<void(int32_t)> choose) {
-    QMenu* outer = std::exchange(menu, Submenu(caption));
-    auto* group = new QActionGroup(&window);
-    for (const Choice& choice : choices) {
-      group->addAction(Add(
-          choice.name, choice.caption, "", [choose, value = choice.value] { choose(value); }, {},
-          [now, value = choice.value] { return now() == value; }));
-    }
-    menu = outer;
-  }
-
-  void Game();
-  void Players();
-  void Bets();
-  void Dice();
-  void View();
-  void Views();
-  void Colours();
-  void Options();
-  void Notices();
-  void Auto();
-  void Window();
-  void Help();
-};
-
-void MainMenus::Game() {
-  Menu(Text::MenuGame);
-  Add(
-      "mnuNew", Text::GameNew, "Ctrl+N", [&w = window] { w.NewGame(); }, TableIsIdle);
-  Add(
-      "mnuOpen", Text::GameOpen, "Ctrl+O", [&w = window] { w.OpenGameFile(); }, TableIsIdle);
-  Add(
-      "mnuSave", Text::GameSave, "Ctrl+S", [] { SaveGameInUse(); }, TableIsIdle);
-  Add(
-      "mnuSaveAs", Text::GameSaveAs, "Ctrl+Shift+S", [] { SaveGameAs(); }, TableIsIdle);
-  Line();
-  Add("mnuExit", Text::GameExit, "Ctrl+Q", [&w = window] { w.close(); });
-}
-
-void MainMenus::Players() {
-  Menu(Text::MenuPlayers);
-  Add("mnuAddPlayer", Text::PlayersAdd, "", TellWhereToJoin, HasOpenPlace);
-  Add("mnuRenamePlayer", Text::PlayersRename, "", RenameCurrentPlayer, HasPlayer);
-  Add("mnuMovePlayer", Text::PlayersMove, "", MoveCurrentPlayer,
-      [] { return HasPlayer() && Table.PlayerCount < LastPlace; });
-  Add("mnuRemovePlayer", Text::PlayersRemove, "", RemoveCurrentPlayer, HasPlayer);
-  Line();
-  Add("mnuBuyIn", Text::PlayersBuyIn, "", BuyInCurrentPlayer, HasPlayer);
-  Add("mnuPassDice", Text::PlayersPassDice, "\tP", PassTheDice, TableIsOpen);
-  Line();
-  window.players_ = menu;
-}
-
-void MainMenus::Bets() {
-  Menu(Text::MenuBets);
-  Add(
-      "mnuRemoveBet", Text::BetsRemove, "Del", [] { PickBetFor(ActionRemove); }, HasPlayer);
-  Add("mnuRemoveAllBets", Text::BetsRemoveAll, "Shift+Del", RemoveAllBets, HasPlayer);
-  Line();
-  Add(
-      "mnuBuyPlaceBet", Text::BetsBuy, "F5", [] { PickBetFor(ActionBuy); }, HasPlayer);
-  Add(
-      "mnuCallBetOn", Text::BetsCallOn, "F6", [] { PickBetFor(ActionCallOn); }, HasPlayer);
-  Add(
-      "mnuCallAllBetsOn", Text::BetsCallAllOn, "Shift+F6", [] { CallAllBets(true); }, HasPlayer);
-  Add(
-      "mnuCallBetOff", Text::BetsCallOff, "F7", [] { PickBetFor(ActionCallOff); }, HasPlayer);
-  Add(
-      "mnuCallAllBetsOff", Text::BetsCallAllOff, "Shift+F7", [] { CallAllBets(false); }, HasPlayer);
-  Line();
-  const auto withPoint = [] { return HasPlayer() && Table.Point != 0; };
-  Add(
-      "mnuTakeFullOdds", Text::BetsTakeOdds, "", [] { FullOdds(BetFullOdds); }, withPoint);
-  Add(
-      "mnuLayFullOdds", Text::BetsLayOdds, "", [] { FullOdds(BetFullLay); }, withPoint);
-  Line();
-  Add(
-      "mnuKeyInBetAmounts", Text::BetsKeyIn, "F9",
-      [] {
-        TablePlay.EnteredAmount.clear();
-        ToggleOption(&TableOptions::KeyInBetAmounts);
-      },
-      {}, [] { return GameViews.Table.KeyInBetAmounts; });
-}
-
-void MainMenus::Dice() {
-  Menu(Text::MenuDice);
-  Add("mnuRollDice", Text::DiceRoll, "F2", RollTheDice, TableIsIdle);
-  Add(
-      "mnuRollYourOwnNumbers", Text::DiceOwn, "F12",
-      [&w = window] {
-        w.ShowSmall(SmallWindowKind::Console, !w.IsSmallShown(SmallWindowKind::Console));
-      },
-      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
-  Line();
-  Choices(
-      Text::DiceAction,
-      {{"mnuDiceNormal", Text::DiceNormal, DiceNormal},
-       {"mnuDiceStationary", Text::DiceStationary, DiceStationary},
-       {"mnuDiceCenter", Text::DiceCenter, DiceCenter},
-       {"mnuDiceWindow", Text::DiceWindowed, DiceInWindow}},
-      [] { return Settings.DiceAction; },
-      [&w = window](int32_t action) {
-        const int32_t before = std::exchange(Settings.DiceAction, action);
-        Table.TableDirty = true;
-        if (before == DiceInWindow || action == DiceInWindow)
-          w.ShowSmall(SmallWindowKind::Tray, action == DiceInWindow);
-        FrontEnd.DrawTable();
-      });
-}
-
-void MainMenus::Views() {
-  for (const bool save : {true, false}) {
-    QMenu* outer = std::exchange(menu, Submenu(save ? Text::ViewSave : Text::ViewRestore));
-    for (int view = 0; view <= 9; ++view) {
-      const std::string digit = std::to_string(view);
-      const std::string name = (save ? "mnuSaveView" : "mnuRestoreView") + digit;
-      const std::string keys = (save ? "Shift+" : "Ctrl+") + digit;
-      QAction* entry =
-          Add(name.c_str(), Text::ViewNumber, keys.c_str(),
-              [v = window.View(), save, view] { save ? v->SaveView(view) : v->RestoreView(view); });
-      entry->setProperty("value", view);
-    }
-    menu = outer;
-  }
-}
-
-void MainMenus::Colours() {
-  QMenu* outer = std::exchange(menu, Submenu(Text::ViewColours));
-  const auto offer = [this](std::string_view name, Text caption, auto apply) {
-    Add(std::string(name).c_str(), caption, "", [apply] {
-      apply();
-      Table.TableDirty = true;
-      FrontEnd.DrawTable();
-    });
-  };
-  offer("mnuSetTableStartUp", Text::ViewStartUpColours, RestoreStartUpColours);
-  for (int preset = 0; preset < TablePresetCount; ++preset) {
-    const TablePreset& scheme = At(TablePresets(), preset);
-    offer(scheme.menu, scheme.caption, [preset] { ApplyTablePreset(preset); });
-  }
-  menu = outer;
-}
-
-void MainMenus::View() {
-  Menu(Text::MenuView);
-  const auto option = [this](const char* name, Text caption, const char* keys,
-                             bool TableOptions::*which) {
-    Add(
-        name, caption, keys, [which] { ToggleOption(which); }, {},
-        [which] { return GameViews.Table.*which; });
-  };
-  option("mnuDisplayPropBets", Text::ViewPropositions, "\tC", &TableOptions::DisplayPropBets);
-  option("mnuDisplayBetAmounts", Text::ViewAmounts, "F11", &TableOptions::DisplayBetAmounts);
-  option("mnuFlashBets", Text::ViewFlash, "\tSpace", &TableOptions::FlashBets);
-  Line();
-  option("mnuStatusView", Text::ViewStatus, "", &TableOptions::StatusBox);
-  Choices(
-      Text::ViewStatusSize,
-      {{"mnuStatusboxSize1", Text::StatusSizeSmall, 1},
-       {"mnuStatusboxSize2", Text::StatusSizeMedium, 2},
-       {"mnuStatusboxSize3", Text::StatusSizeLarge, 3}},
-      [] { return GameViews.Table.StatusBoxSize; },
-      [](int32_t size) { GameViews.Table.StatusBoxSize = size; });
-  Line();
-  Colours();
-  Line();
-  TableView* view = window.View();
-  Add("mnuTableMove", Text::ViewMove, "\tZ", [&w = window] { w.ShowMoveWindow(); });
-  Add("mnuZoomIn", Text::ViewZoomIn, "Ctrl++", [view] { view->Zoom(1.25); });
-  Add("mnuZoomOut", Text::ViewZoomOut, "Ctrl+-", [view] { view->Zoom(0.8); });
-  Add("mnuTurnLeft", Text::ViewTurnLeft, "", [view] { view->Rotate(-15); });
-  Add("mnuTurnRight", Text::ViewTurnRight, "", [view] { view->Rotate(15); });
-  Add("mnuWholeTable", Text::ViewWhole, "Home", [view] { view->ResetView(); });
-  Views();
-}
-
-void MainMenus::Notices() {
-  QMenu* outer = std::exchange(menu, Submenu(Text::OptionsNotices));
-  for (size_t row = 0; row < NoticeRows.size(); ++row) {
-    const Notice bit = NoticeRows[row].Bit;
-    const auto shown = [bit] { return (Settings.Notices & bit) != 0; };
-    const std::string name = "chkNotify" + std::to_string(row);
-    Add(
-        name.c_str(), NoticeRows.at(row).Caption, "", [bit, shown] { SetNotice(bit, !shown()); },
-        {}, shown);
-  }
-  menu = outer;
-}
-
-void MainMenus::Options() {
-  Menu(Text::MenuOptions);
-  Choices(
-      Text::OptionsTips,
-      {{"mnuInfoTips0", Text::TipsNone, 0},
-       {"mnuInfoTips1", Text::TipsAmounts, 1},
-       {"mnuInfoTips2", Text::TipsNames, 2},
-       {"mnuInfoTips3", Text::TipsBoth, 3},
-       {"mnuInfoTips4", Text::TipsAll, 4}},
-      [] { return Settings.InfoTipLevel; },
-      [](int32_t level) {
-        Settings.InfoTipLevel = level;
-        Table.TableDirty = true;
-      });
-  Add(
-      "chkSnapMouse", Text::OptionsSnap, "", [] { ToggleSetting(Settings.SnapMouse); }, {},
-      [] { return Settings.SnapMouse; });
-  Add(
-      "chkAutoArrangeChips", Text::OptionsArrange, "",
-      [] {
-        ToggleSetting(Settings.AutoArrangeChips);
-        FrontEnd.DrawTable();
-      },
-      {}, [] { return Settings.AutoArrangeChips; });
-  Notices();
-  Line();
-  Add(
-      "chkDisableAllSound", Text::OptionsSilence, "",
-      [] {
-        ToggleSetting(Settings.DisableAllSound);
-        if (Settings.DisableAllSound) StopSounds();
-      },
-      {}, [] { return Settings.DisableAllSound; });
-  Slider(Text::OptionsVolume, 100, SoundVolume, SetSoundVolume);
-  Line();
-  Choices(
-      Text::OptionsFont,
-      {{"optFontSize9", Text::StatusSizeSmall, 9},
-       {"optFontSize11", Text::StatusSizeMedium, 11},
-       {"optFontSize13", Text::StatusSizeLarge, 13}},
-      [] { return Settings.BasicFontSize; },
-      [&w = window](int32_t size) {
-        Settings.BasicFontSize = size;
-        Table.TableDirty = true;
-        w.TakeUpFontSize();
-      });
-  Add("mnuLanguage", Text::OptionsLanguage, "", [&w = window] { AskLanguage(&w); });
-}
-
-void MainMenus::Auto() {
-  Menu(Text::MenuAuto);
-  Add(
-      "mnuAutoRoll", Text::AutoRoll, "\tR", [&w = window] { w.ToggleRun(false); }, NotDriving,
-      [] { return Table.AutoRollOn && !Table.HyperDriveOn; });
-  Add(
-      "mnuHyperDrive", Text::AutoHyper, "\tH", [&w = window] { w.ToggleRun(true); },
-      [] { return Table.HyperDriveOn || TableIsIdle(); }, [] { return Table.HyperDriveOn; });
-  Line();
-  Add("mnuSetTimeDelay", Text::AutoDelayMenu, "", AskSetTimeDelay);
-  Add("mnuSetAutoStop", Text::AutoStopMenu, "", AskSetAutoStop);
-  Slider(
-      Text::AutoThrottle, MaxThrottle, [] { return static_cast<int>(Settings.Throttle); },
-      [](int position) { Settings.Throttle = position; });
-  Line();
-  Add(
-      "mnuStopAutobetting", Text::AutoStopScripts, "", [] { ConfirmScriptActive(); },
-      [] { return AutoBet.ScriptRunning; });
-}
-
-void MainMenus::Window() {
-  Menu(Text::MenuWindow);
-  Add(
-      "mnuWindowConsole", Text::WindowConsole, "",
-      [&w = window] {
-        w.ShowSmall(SmallWindowKind::Console, !w.IsSmallShown(SmallWindowKind::Console));
-      },
-      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Console); });
-  Add(
-      "mnuWindowDice", Text::WindowDice, "",
-      [&w = window] { w.ShowSmall(SmallWindowKind::Tray, !w.IsSmallShown(SmallWindowKind::Tray)); },
-      {}, [&w = window] { return w.IsSmallShown(SmallWindowKind::Tray); });
-  Add(
-      "mnuWindowStatus", Text::ViewStatus, "", [] { ToggleOption(&TableOptions::StatusBox); }, {},
-      [] { return GameViews.Table.StatusBox; });
-}
-
-void MainMenus::Help() {
-  Menu(Text::MenuHelp);
-  Add("mnuContents", Text::HelpContents, "F1", [&w = window] { ShowHelp(&w, 0); });
-  Add("mnuAbout", Text::HelpAbout, "",
-      [] { ShowMessage(Say(Text::AboutText, TESSAREL_VERSION), "Tessarel", msg::Ok); });
-}
-
-void MainWindow::BuildMenus() {
-  MainMenus menus{*this};
-  menus.Game();
-  menus.Players();
-  menus.Bets();
-  menus.Dice();
-  menus.View();
-  menus.Options();
-  menus.Auto();
-  menus.Window();
-  menus.Help();
-  connect(players_, &QMenu::aboutToShow, this, [this] { ListPlayers(); });
-}
-
-// The players at the end of their menu; the one the mouse bets for is marked.
-void MainWindow::ListPlayers() {
-  for (QAction* old : playerEntries_)
-    delete old;
-  playerEntries_.clear();
-  ForEachPlayer([this](int place) {
-    auto* entry = new QAction(Shown(Table.PlayerName[place]).replace('&', "&&"), this);
-    entry->setCheckable(true);
-    entry->setChecked(place == CurrentPlace());
-    connect(entry, &QAction::triggered, this, [place] { SelectPlace(place); });
-    players_->addAction(entry);
-    playerEntries_.push_back(entry);
-  });
-}
-
-void MainWindow::UpdateEntries() {
-  for (const MenuEntry& entry : entries_) {
-    if (entry.possible) entry.action->setEnabled(entry.possible());
-    if (entry.checked) entry.action->setChecked(entry.checked());
-  }
-}
 
 namespace {
 
@@ -496,21 +50,89 @@ void GiveShortcutLetters(const QMenu& menu) {
 
 }  // namespace
 
-void MainWindow::SetCaptions() {
-  for (const MenuOfWindow& menu : menus_)
-    menu.menu->setTitle(Shown(menu.caption));
-  for (const MenuEntry& entry : entries_) {
-    QString caption = Shown(entry.caption);
-    const QVariant value = entry.action->property("value");
+MainMenus::MainMenus(MainWindow& window) : QObject(&window), window_(window) {
+  AddGameMenu();
+  AddPlayersMenu();
+  AddBetsMenu();
+  AddDiceMenu();
+  AddViewMenu();
+  AddOptionsMenu();
+  AddAutoMenu();
+  AddWindowMenu();
+  AddHelpMenu();
+}
+
+void MainMenus::BeginMenu(Text caption) {
+  menu_ = window_.menuBar()->addMenu(QString());
+  menus_.push_back({menu_, caption});
+}
+
+QMenu* MainMenus::BeginSubmenu(Text caption) {
+  QMenu* inner = menu_->addMenu(QString());
+  menus_.push_back({inner, caption});
+  return inner;
+}
+
+QAction* MainMenus::MakeEntry(const char* name, Text caption, const char* keys) {
+  auto* entry = new QAction(this);
+  entry->setObjectName(name);
+  const QString shown = QString::fromLatin1(keys);
+  if (shown.startsWith('\t')) {
+    entry->setProperty("shownKeys", shown);
+  } else if (!shown.isEmpty()) {
+    entry->setShortcut(QKeySequence(shown));
+  }
+  menu_->addAction(entry);
+  entries_.push_back({entry, caption});
+  return entry;
+}
+
+void MainMenus::AddSlider(Text caption, int most, int (*value)(), void (*change)(int)) {
+  QMenu* inner = BeginSubmenu(caption);
+  auto* slider = new QSlider(Qt::Horizontal, inner);
+  slider->setRange(0, most);
+  slider->setMinimumWidth(180);
+  slider->setAccessibleName(WithoutMark(Shown(caption)));
+  auto* action = new QWidgetAction(inner);
+  action->setDefaultWidget(slider);
+  inner->addAction(action);
+  connect(inner, &QMenu::aboutToShow, slider, [slider, value] {
+    const QSignalBlocker quiet(slider);
+    slider->setValue(value());
+    slider->setFocus();
+  });
+  connect(slider, &QSlider::valueChanged, slider, change);
+}
+
+// The players at the end of their menu; the one the mouse bets for is marked.
+void MainMenus::ListPlayers() {
+  for (QAction* old : playerEntries_)
+    delete old;
+  playerEntries_.clear();
+  ForEachPlayer([this](int place) {
+    auto* entry = new QAction(Shown(Table.PlayerName[place]).replace('&', "&&"), this);
+    entry->setCheckable(true);
+    entry->setChecked(place == CurrentPlace());
+    connect(entry, &QAction::triggered, this, [place] { SelectPlace(place); });
+    players_->addAction(entry);
+    playerEntries_.push_back(entry);
+  });
+}
+
+void MainMenus::SetCaptions() {
+  for (const auto& [menu, caption] : menus_)
+    menu->setTitle(Shown(caption));
+  for (const auto& [entry, caption] : entries_) {
+    QString text = Shown(caption);
+    const QVariant value = entry->property("value");
     if (value.isValid()) {
       const std::string number = std::to_string(value.toInt());
-      caption = Shown(SayChosen(entry.caption, number)).replace(Shown(number), "&" + Shown(number));
+      text = Shown(SayChosen(caption, number)).replace(Shown(number), "&" + Shown(number));
     }
-    entry.action->setText(caption + entry.action->property("shownKeys").toString());
+    entry->setText(text + entry->property("shownKeys").toString());
   }
-  for (const MenuOfWindow& menu : menus_)
-    GiveShortcutLetters(*menu.menu);
-  bar_->SetCaptions();
+  for (const auto& [menu, caption] : menus_)
+    GiveShortcutLetters(*menu);
 }
 
 }  // namespace tessarel

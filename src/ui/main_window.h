@@ -1,25 +1,24 @@
-// The main window: menus, the drawn table, the bar below it and the small windows that float over
-// it. It fills the core's FrontEnd, so that there is one of it, from the start to the end of the
-// program.
+// The main window: menus, the drawn table, the bar below it and the windows that float over it. It
+// answers the core through its bridge, so that there is one main window, from the start to the end
+// of the program.
 #pragma once
 
-#include <QAction>
 #include <QMainWindow>
-#include <QPointer>
-#include <functional>
-#include <vector>
+#include <string>
 
-#include "texts/say.h"
 #include "ui/autosave.h"
 #include "ui/control_bar.h"
+#include "ui/floating_windows.h"
+#include "ui/front_end_bridge.h"
+#include "ui/main_keys.h"
+#include "ui/main_menus.h"
 #include "ui/table_view.h"
+#include "ui/windows/game_dialogs.h"
 
 namespace tessarel {
 
-// The windows that float over the table.
-enum class SmallWindowKind { Console, Tray, Status };
-
 class MainWindow : public QMainWindow {
+  Q_OBJECT
  public:
   explicit MainWindow(const std::string& appFolder);
   ~MainWindow() override;
@@ -30,80 +29,54 @@ class MainWindow : public QMainWindow {
 
   TableView* View() const { return view_; }
   ControlBar* Bar() const { return bar_; }
+  FloatingWindows& Floating() const { return *floating_; }
   // The entry of a menu by its name, as in "mnuRollDice"; null for none.
-  QAction* Entry(const QString& name) const;
+  QAction* Entry(const QString& name) const { return menus_->Entry(name); }
+
+  // Takes the view words, options and window places of a game that was opened.
+  void TakeUpGame();
+  void TakeUpFontSize();
+
+  // Commands.
+  void NewGame();
+  void OpenGameFile();
+  void ChangeLanguage();
+  void ToggleRun(bool hyperDrive);
 
   // Brings bar, small windows, title and entries in step with the table.
   void RefreshAll();
-  void RefreshStatus();
-  // Takes the view words, options and window places of a game that was opened.
-  void TakeUpGame();
-
-  // What the core's RunPendingEvents comes to.
-  void PumpEvents();
+  // The same for all that may be behind the table after a fault has cut a command short.
+  void Recover();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  friend struct MainMenus;
-
-  void BuildMenus();
-  void SetCaptions();
-  void UpdateEntries();
+  void ConnectCore();
+  void ConnectCoreQuestions();
   void ConnectTable();
-  void FillFrontEnd();
 
-  void RightClick();
-  void ShowPlayerMenu(int place, QPoint at);
-  void ToggleRun(bool hyperDrive);
+  void RefreshStatus();
   void ShowHint();
-  void TakeUpLanguage();
-  void TellOtherWindows();
-  void NewGame();
-  void OpenGameFile();
+  void Roll();
+  void RightClick();
+  void ShowPlayerMenu(QPoint at);
   void Animate();
   void HearWins();
+  void SaveIfDue();
+  void TellOtherWindows();
   void OfferUnfinishedTable();
-  void TakePlace();
-  void KeepPlace();
-  QWidget* Small(SmallWindowKind kind) const;
-  void ShowSmall(SmallWindowKind kind, bool shown);
-  bool IsSmallShown(SmallWindowKind kind) const;
-  void ShowDiceWindowIfUsed();
-  void ShowSmallWindows();
-  void ShowMoveWindow();
-  void TakeUpFontSize();
-  void ListPlayers();
-  bool HandleKey(QKeyEvent* event);
-  bool HandleTableKey(int key);
-  bool HandleDigit(int key);
-
-  struct MenuEntry {
-    QAction* action = nullptr;
-    Text caption{};
-    std::function<bool()> possible;
-    std::function<bool()> checked;
-  };
-  struct MenuOfWindow {
-    QMenu* menu = nullptr;
-    Text caption{};
-  };
 
   TableView* view_;
   ControlBar* bar_;
-  Autosave autosave_;
-  QWidget *console_, *diceWindow_, *statusBox_;
-  std::vector<MenuEntry> entries_;
-  std::vector<MenuOfWindow> menus_;
-  QMenu* players_ = nullptr;
-  std::vector<QAction*> playerEntries_;
-  QPointer<QWidget> moveWindow_;
-  QElapsedTimer sincePump_, sinceFigures_;
-  int64_t batch_ = 1, untilLook_ = 1;
+  Autosave* autosave_;
+  FloatingWindows* floating_;
+  MainMenus* menus_;
+  MainKeys* keys_;
+  FrontEndBridge* core_;
+  NewGameChoices newGameChoices_;
   bool thrown_ = false;
 };
 

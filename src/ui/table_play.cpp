@@ -17,7 +17,6 @@
 #include "play/roll_driver.h"
 #include "state/payoffs.h"
 #include "state/settings.h"
-#include "state/view_state.h"
 #include "texts/say.h"
 #include "ui/layout/table_layout.h"
 
@@ -29,18 +28,6 @@ namespace {
 
 std::string NameOf(int place) {
   return Table.PlayerName[place];
-}
-
-bool IsRailSpot(int spot) {
-  return spot >= RailSpot(1, 0) && spot < RailSpot(LastPlace + 1, 0);
-}
-
-int PlaceOfSpot(int spot) {
-  return spot / RailSpot(1, 0);
-}
-
-bool HasBet(int place, int number) {
-  return Bet(place, number) > Money();
 }
 
 // The amount that a bare click adds; with `from` no more than stands on the bet.
@@ -88,10 +75,6 @@ Trial TryOut(int32_t notices, Change&& change) {
 
 // --- Changing bets -----------------------------------------------------------------------------
 
-bool MayChange() {
-  return TableIsOpen() && ConfirmScriptActive();
-}
-
 void ChangeAmount(int place, int number, Money amount) {
   Table.Amount = amount;
   Table.TableDirty = true;
@@ -110,10 +93,6 @@ Money ClickedChange(int place, int number, ClickKind kind) {
   if (const auto entered = TakeEnteredAmount()) return *entered - Bet(place, number);
   const Money check = CheckValue();
   return kind == ClickKind::Add ? check : -std::min(check, Bet(place, number));
-}
-
-void TellNobodyHere() {
-  ShowMessage(Say(Text::ClickOpenPosition), Say(Text::AddPlayerTitle), msg::Ok);
 }
 
 void ClickBet(int spot, ClickKind kind) {
@@ -166,14 +145,6 @@ void ClickRail(int place) {
   if (!TableIsOpen() || !AddPlayer(place)) return;
   Table.TableDirty = true;
   SelectPlace(place);
-}
-
-// The current player, after telling that there is none.
-int PlayerForCommand() {
-  if (!TableIsOpen()) return 0;
-  const int place = CurrentPlace();
-  if (place == 0) TellNobodyHere();
-  return place;
 }
 
 std::string OutlookOnRail(int place) {
@@ -282,64 +253,14 @@ std::string FullTip(int place, int number) {
 
 }  // namespace
 
-// --- Choices -----------------------------------------------------------------------------------
-
-int CurrentPlace() {
-  int32_t& place = GameViews.Players.Table;
-  if (place >= 1 && place <= LastPlace && IsTaken(Table, place)) return place;
-  place = Table.TakenPlaces == 0 ? 0 : std::countr_zero(Table.TakenPlaces);
-  return place;
-}
-
-void SelectPlace(int place) {
-  if (place < 1 || place > LastPlace || !IsTaken(Table, place)) return;
-  GameViews.Players.Table = place;
-  FrontEnd.DrawTable();
-}
-
-int ChosenCheck() {
-  constexpr int AtTheStart = 2;
-  return GameViews.Table.ChosenCheck == 0 ? AtTheStart : GameViews.Table.ChosenCheck;
-}
-
-void ChooseCheck(int denomination) {
-  GameViews.Table.ChosenCheck = std::clamp(denomination, 1, 5);
-  FrontEnd.DrawStatus();
-}
-
-// --- Spots -------------------------------------------------------------------------------------
-
-int SpotOfPixel(int value) {
-  const int place = CurrentPlace();
-  if (place == 0) return value;
-  if (InFamily(value, DontComeOddsFamily)) {
-    const bool neither = !HasBet(place, value) && !HasBet(place, FlatUnder(value));
-    return neither ? FlatUnder(value) : value;
-  }
-  if (value == bet::DontPass || value == bet::DontPassOdds) {
-    if (value == bet::DontPassOdds && HasBet(place, value)) return value;
-    return HasBet(place, bet::DontPass) && Table.Point != 0 ? bet::DontPassOdds : bet::DontPass;
-  }
-  if (InFamily(value, PlaceFamily) && HasBet(place, value + FamilySize)) return value + FamilySize;
-  const int item = value % RailSpot(1, 0);
-  const bool ownStack = IsRailSpot(value) && PlaceOfSpot(value) == place &&
-                        item >= FirstRailStack && item <= LastRailStack;
-  return ownStack ? FirstStack + 1 + item - FirstRailStack : value;
-}
-
-int NumberOfSpot(int spot) {
-  if (IsBet(spot)) return spot;
-  if (spot <= FirstStack || spot > FirstStack + 4) return 0;
-  return Table.VisibleStack[CurrentPlace()][spot - FirstStack];
-}
+// --- Clicks -----------------------------------------------------------------------------------
 
 void ClickSpot(int spot, ClickKind kind) {
   if (TablePlay.DiceInAir) return;
   if (TablePlay.TableAction > ActionMovePlayer) return FinishMove(spot);
   if (IsRailSpot(spot)) return ClickRail(PlaceOfSpot(spot));
   if (spot == PropositionSwitch) {
-    GameViews.Table.DisplayPropBets = !GameViews.Table.DisplayPropBets;
-    return FrontEnd.DrawTable();
+    return ToggleOption(&TableOptions::DisplayPropBets);
   }
   if (TablePlay.TableAction != ActionNormal) {
     const auto action = static_cast<TableActionMode>(TablePlay.TableAction);
@@ -411,48 +332,6 @@ void RemoveAllBets() {
       if (IsOdds(number) == odds && HasBet(place, number)) RemoveBet(place, number);
     }
   }
-}
-
-void RenameCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place != 0 && RenamePlayer(place)) FrontEnd.DrawTable();
-}
-
-void RemoveCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place != 0 && MayChange() && DeletePlayer(place, true)) FrontEnd.DrawTable();
-}
-
-void MoveCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place == 0 || !MayChange()) return;
-  TablePlay.TableAction = ActionMovePlayer + place;
-  FrontEnd.DrawTable();
-}
-
-void BuyInCurrentPlayer() {
-  const int place = PlayerForCommand();
-  if (place == 0) return;
-  const std::string question = Say(Text::AskMoreBuyIn, NameOf(place));
-  const std::string title = Say(Text::BuyInTitle);
-  std::string offered = PlainText(Settings.AtmAmount);
-  while (AskForText(question, title, offered, help::Players)) {
-    offered = Message.MsgInput;
-    const std::optional<Money> amount = ParseTypedMoney(offered);
-    if (amount && *amount > Money()) {
-      ATM(place, false, *amount, true);
-      Table.TableDirty = true;
-      return FrontEnd.DrawTable();
-    }
-    ShowMessage(Say(Text::BuyInRefused), title, msg::OkAlert);
-  }
-}
-
-void PassTheDice() {
-  if (!MayChange()) return;
-  Table.TableDirty = true;
-  GiveUpDice();
-  FrontEnd.DrawTable();
 }
 
 void RollTheDice() {

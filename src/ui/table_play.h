@@ -8,6 +8,7 @@
 
 #include "base/money.h"
 #include "state/table.h"
+#include "ui/table_choices.h"
 
 namespace tessarel {
 
@@ -30,23 +31,6 @@ struct TablePlayState {
 
 extern TablePlayState TablePlay;
 
-// The player for whom the mouse bets, 0 when nobody is there.
-int CurrentPlace();
-void SelectPlace(int place);
-
-// The denomination 1 to 5 that a click bets.
-int ChosenCheck();
-void ChooseCheck(int denomination);
-
-// What the spot of a pixel is for the current player: odds without the bet below them are that bet,
-// Don't Pass with a bet and a point is its odds, Place where he bought is Buy, and his own stacks
-// on the rail are 101 to 104.
-int SpotOfPixel(int value);
-
-// The number of the amount tables that a spot of the current player stands for: 1 to 93, or the
-// check stack 100 to 199 shown at 101 to 104. 0 for other spots.
-int NumberOfSpot(int spot);
-
 enum class ClickKind { Add, TakeOff };
 
 // A click on a spot: completes the action that waits, takes a keyed amount, switches the
@@ -63,6 +47,12 @@ void PickBetFor(TableActionMode action);
 
 void CallAllBets(bool on);
 void RemoveAllBets();
+
+// The current player, 0 after telling that there is none or while nothing may change.
+int PlayerForCommand();
+void TellNobodyHere();
+// Whether bets may change now, after the question that a running script asks for.
+bool MayChange();
 
 // Commands on players; each tells when there is nobody. A click on an open place, or on the place
 // to move to, ends in ClickSpot.

@@ -22,6 +22,7 @@
 #include "dice/probability_file.h"
 #include "dice/roll_file.h"
 #include "engine/bets.h"
+#include "files/file_dialog.h"
 #include "files/game_file.h"
 #include "files/hot_keys.h"
 #include "log/events_log.h"
@@ -388,11 +389,11 @@ TEST_F(Session, LeavingOffersToSaveChangedScripts) {
   EXPECT_FALSE(AskToLeave());  // the untitled one gets no name
   EXPECT_FALSE(Scripts.Places[2].changed);
   EXPECT_TRUE(Scripts.Places[6].changed);
-  FrontEnd.AskSaveFile = [](const std::string& title, const std::string& offered) {
-    return title + "-" + offered;
+  FrontEnd.AskSaveFile = [](FileAction action, const std::string& offered) {
+    return (action == FileAction::SaveScript ? "script-" : "other-") + offered;
   };
   EXPECT_TRUE(AskToLeave());
-  EXPECT_EQ(Scripts.Places[6].ScriptFile, "Save Auto-Bet File As-Bob.bet");
+  EXPECT_EQ(Scripts.Places[6].ScriptFile, "script-Bob.bet");
   std::ifstream saved(Folder.Path() + "ann.bet");
   std::string line;
   std::getline(saved, line);
@@ -414,8 +415,8 @@ TEST_F(Session, LeavingOffersToSaveTheMatrixAndKeepsTheGameWithItsRollFile) {
   EXPECT_FALSE(Leave());
   EXPECT_FALSE(Leave());  // no name for the matrix
   EXPECT_FALSE(exists("default.tsg"));
-  FrontEnd.AskSaveFile = [](const std::string& title, const std::string&) {
-    EXPECT_EQ(title, "Save probability file as");
+  FrontEnd.AskSaveFile = [](FileAction action, const std::string&) {
+    EXPECT_EQ(action, FileAction::SaveProbability);
     return std::string("b.prb");
   };
   EXPECT_TRUE(Leave());
@@ -435,11 +436,12 @@ TEST_F(Session, LeavingOffersToSaveTheMatrixAndKeepsTheGameWithItsRollFile) {
 TEST_F(Session, SavingOffersTheScriptsFirstAndAsksForAName) {
   SeatPlayer(2, "Ann", 100);
   EXPECT_FALSE(SaveGameInUse());
-  FrontEnd.AskSaveFile = [](const std::string& title, const std::string&) {
-    return title + ".tsg";
+  FrontEnd.AskSaveFile = [](FileAction action, const std::string&) {
+    EXPECT_EQ(action, FileAction::SaveSession);
+    return std::string("named.tsg");
   };
   EXPECT_TRUE(SaveGameInUse());
-  EXPECT_EQ(GameFile.GameFileName, Folder.Path() + "Save session file as.tsg");
+  EXPECT_EQ(GameFile.GameFileName, Folder.Path() + "named.tsg");
   Scripts.Places[2] = {{"bet 5 on field"}, "ann.bet", "", true};
   Table.TableDirty = true;
   Answers = {"-"};
@@ -460,9 +462,7 @@ TEST_F(Session, AnotherGameDoesNotReplaceOneThatIsUnsavedWithoutAsking) {
   EXPECT_EQ(Shown, std::vector<std::string>{"Save Session: Your current session has not been "
                                             "saved.\r\rDo you want to save it now?"});
   EXPECT_FALSE(AskToReplaceGame());  // it gets no name
-  FrontEnd.AskSaveFile = [](const std::string&, const std::string&) {
-    return std::string("ann.tsg");
-  };
+  FrontEnd.AskSaveFile = [](FileAction, const std::string&) { return std::string("ann.tsg"); };
   EXPECT_TRUE(AskToReplaceGame());
   EXPECT_FALSE(Table.TableDirty);
   EXPECT_TRUE(std::filesystem::exists(Folder.Path() + "ann.tsg"));

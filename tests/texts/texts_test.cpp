@@ -9,7 +9,6 @@
 #include "engine/rules_fixture.h"
 #include "engine/settle_prompt.h"
 #include "engine/unattended.h"
-#include "files/file_dialog.h"
 #include "play/roll_driver.h"
 #include "state/settings.h"
 #include "state/table.h"
@@ -18,24 +17,6 @@
 
 namespace tessarel {
 namespace {
-
-// Callers of AskSaveFile name the action by its title, which may be the general table's.
-TEST(Texts, TitlesNameTheirActionInEveryLanguage) {
-  std::map<std::string, FileAction> known;
-  for (int32_t language = 0; language < LanguageCount; ++language) {
-    SetLanguage(language);
-    for (int number = 0; number < FileActionCount; ++number) {
-      const auto action = static_cast<FileAction>(number);
-      const std::string title(FileActionTitle(action));
-      EXPECT_EQ(FileActionOfTitle(title), action) << title;
-      EXPECT_EQ(known.emplace(title, action).first->second, action) << title;
-    }
-    EXPECT_EQ(FileActionOfTitle(Wording(Text::SaveSessionFileAs)), FileAction::SaveSession);
-    EXPECT_EQ(FileActionOfTitle(Wording(Text::SaveAutoBetFileAs)), FileAction::SaveScript);
-    EXPECT_EQ(FileActionOfTitle(Wording(Text::SaveProbabilityFileAs)), FileAction::SaveProbability);
-  }
-  SetLanguage(English);
-}
 
 // A table with Ann, whose messages are kept.
 class TextsAtTheTable : public RulesTest {

@@ -102,16 +102,6 @@ TEST(Layout, NoTwoRegionsShareMoreThanAnEdge) {
   }
 }
 
-TEST(Layout, EndsMirrorEachOther) {
-  const TableLayout layout = MakeTableLayout({});
-  const QTransform mirror(-1, 0, 0, 1, LayoutWidth, 0);
-  for (const int spot : {bet::PassLine, bet::Come, bet::DontPass, bet::Field, bet::Big6}) {
-    const QPainterPath outline = OutlineOf(layout, spot);
-    EXPECT_NEAR(outline.boundingRect().center().x(), LayoutWidth / 2, 0.01) << spot;
-    EXPECT_TRUE(mirror.map(outline).contains(CheckPosition(layout, 1, spot))) << spot;
-  }
-}
-
 TEST(Layout, SettingsTakeBetsOffTheLayout) {
   struct Case {
     void (*change)(LayoutOptions&);
@@ -141,15 +131,6 @@ TEST(Layout, SettingsTakeBetsOffTheLayout) {
   }
 }
 
-TEST(Layout, OptionsFollowTheSettings) {
-  Settings = SettingsState{};
-  Settings.UseBig68 = Settings.UseFireBet = false;
-  Settings.BarNumber = 2;
-  const LayoutOptions options = OptionsInForce(false);
-  EXPECT_EQ(options, (LayoutOptions{false, true, true, false, false, 2}));
-  Settings = SettingsState{};
-}
-
 TEST(Layout, ChecksOfEveryPlaceStandApartInsideTheirRegion) {
   const TableLayout layout = MakeTableLayout({});
   for (int number = 1; number <= LastBet; ++number) {
@@ -166,35 +147,22 @@ TEST(Layout, ChecksOfEveryPlaceStandApartInsideTheirRegion) {
   }
 }
 
-TEST(Layout, EndBetsStandAtTheEndOfTheirPlace) {
-  const TableLayout layout = MakeTableLayout({});
-  for (int number = 1; number <= bet::Big8; ++number) {
-    for (int place = 1; place <= LastPlace; ++place)
-      EXPECT_EQ(CheckPosition(layout, place, number).x() > LayoutWidth / 2, place > 4) << number;
-  }
-  // Line bets stand straight before their player.
-  EXPECT_EQ(CheckPosition(layout, 2, bet::PassLine).y(), RailPlaceArea(2).center().y());
-  EXPECT_EQ(CheckPosition(layout, 5, bet::PassLine).x(), RailPlaceArea(5).center().x());
-}
-
-TEST(Layout, HiddenBetsStandOnTheSwitch) {
-  LayoutOptions options;
-  options.propositions = false;
-  const TableLayout layout = MakeTableLayout(options);
-  const QRectF plate = OutlineOf(layout, PropositionSwitch).boundingRect();
-  for (int place = 1; place <= LastPlace; ++place)
-    EXPECT_TRUE(plate.contains(CheckPosition(layout, place, bet::Hop46)));
-}
-
-TEST(Layout, RailStacksLieInTheirGrooves) {
-  const TableLayout layout = MakeTableLayout({});
+TEST(Layout, ChecksStandBeforeTheirPlayerOnTheSwitchOrInTheRail) {
+  LayoutOptions folded;
+  folded.propositions = false;
+  const TableLayout layout = MakeTableLayout({}), small = MakeTableLayout(folded);
+  const QRectF plate = OutlineOf(small, PropositionSwitch).boundingRect();
   for (int place = 1; place <= LastPlace; ++place) {
+    for (int number = 1; number <= bet::Big8; ++number)
+      EXPECT_EQ(CheckPosition(layout, place, number).x() > LayoutWidth / 2, place > 4) << number;
+    EXPECT_TRUE(plate.contains(CheckPosition(small, place, bet::Hop46)));
     for (int stack = 0; stack < 4; ++stack) {
       const QPointF foot = CheckPosition(layout, place, FirstRailNumber + stack);
       EXPECT_TRUE(OutlineOf(layout, RailSpot(place, FirstRailStack + stack)).contains(foot));
-      EXPECT_FALSE(FeltArea().contains(foot));
     }
   }
+  EXPECT_EQ(CheckPosition(layout, 2, bet::PassLine).y(), RailPlaceArea(2).center().y());
+  EXPECT_EQ(CheckPosition(layout, 5, bet::PassLine).x(), RailPlaceArea(5).center().x());
 }
 
 TEST(Layout, TheTransformFitsTheDrawingWhateverItsTurn) {
@@ -220,25 +188,6 @@ TEST(Presets, LetteringIsLegibleInEveryScheme) {
     EXPECT_GE(Contrast(ColourOfTable(colour::Lines), felt), 4.5) << "scheme " << index;
   }
   RestoreStartUpColours();
-}
-
-TEST(Presets, HoldTheColoursTheyAreKnownBy) {
-  const auto row = [](int entry) { return Settings.TableColor[entry]; };
-  ApplyTablePreset(1);
-  EXPECT_EQ(row(colour::Felt), TableRgb(68, 68, 0));
-  EXPECT_EQ(row(colour::Lines), TableRgb(255, 255, 255));
-  EXPECT_EQ(row(colour::LastForm), TableRgb(155, 0, 33));
-  ApplyTablePreset(8);
-  EXPECT_EQ(row(colour::Felt), 0);
-  EXPECT_EQ(row(colour::RailInside), TableRgb(229, 229, 229));
-  EXPECT_EQ(row(colour::RailOutside), TableRgb(127, 127, 127));
-  RestoreStartUpColours();
-  EXPECT_EQ(row(colour::Felt), TableRgb(0, 56, 128));
-  EXPECT_EQ(row(colour::LastForm), TableRgb(0, 56, 128));
-  for (int entry = 17; entry <= 47; ++entry)
-    EXPECT_EQ(row(entry), TableRgb(255, 255, 255));
-  EXPECT_EQ(Settings.TableTexture, (std::array<int32_t, 5>{0, 0, 6, 6, 0}));
-  EXPECT_EQ(Settings.Spotlight, 1);
 }
 
 // How many pixels two pictures differ in within an area of the layout.

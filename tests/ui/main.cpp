@@ -1,12 +1,12 @@
 // Tests of the window run real widgets, by default on the offscreen platform.
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include "ui/trapped_application.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("TESSAREL_REDUCED_MOTION", "1");
-  QApplication application(argc, argv);
+  tessarel::TrappedApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -31,29 +31,21 @@ export DISPLAY=:$number
 "$program" 2>/dev/null &
 window_program=$!
 window=$(timeout 20 xdotool search --sync --onlyvisible --name '^Tessarel' | head -n 1)
-sleep 1
 eval "$(xdotool getwindowgeometry --shell "$window")"
 
-# Points of the window as shares of its width and height.
+# Points of the window as shares of its width and height. The server keeps what comes faster than the
+# program takes it, in its order.
 click() {
-  xdotool mousemove --window "$window" $((WIDTH * $1 / 1000)) $((HEIGHT * $2 / 1000))
-  sleep 0.2
-  xdotool click 1
-  sleep 0.3
+  xdotool mousemove --window "$window" $((WIDTH * $1 / 1000)) $((HEIGHT * $2 / 1000)) click 1
 }
 click 245 700
 click 245 700
 click 245 700
 click 230 955
-sleep 1
 # No window manager gives the window the focus.
 xdotool windowfocus --sync "$window"
 xdotool key ctrl+q
-for _ in $(seq 200); do
-  kill -0 "$window_program" 2>/dev/null || break
-  sleep 0.1
-done
-if kill -0 "$window_program" 2>/dev/null; then
+if ! timeout 30 tail --pid="$window_program" -s 0.1 -f /dev/null; then
   echo "The program did not leave." >&2
   exit 1
 fi

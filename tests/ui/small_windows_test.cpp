@@ -15,17 +15,19 @@
 #include "texts/language.h"
 #include "ui/text.h"
 #include "ui/windows/console_options.h"
+#include "ui/windows/dice_window.h"
 #include "ui/windows/rate_meter.h"
 #include "ui/windows/roll_console.h"
 #include "ui/windows/roll_pad.h"
+#include "ui/windows/status_panel.h"
 
 namespace tessarel {
 namespace {
 
-QWidget* Console = nullptr;
+RollConsole* Console = nullptr;
 
 RollPad* Pad() {
-  return dynamic_cast<RollPad*>(Console->findChild<QWidget*>("RollPad"));
+  return Console->findChild<RollPad*>();
 }
 
 class SmallWindows : public RollTest {
@@ -44,7 +46,7 @@ class SmallWindows : public RollTest {
     RollTest::TearDown();
   }
   void Open() {
-    console_.reset(MakeRollConsole(nullptr));
+    console_ = std::make_unique<RollConsole>(nullptr);
     Console = console_.get();
     Console->show();
     QApplication::processEvents();
@@ -61,7 +63,7 @@ class SmallWindows : public RollTest {
     return Console->findChild<Kind*>(name);
   }
 
-  std::unique_ptr<QWidget> console_;
+  std::unique_ptr<RollConsole> console_;
 };
 
 TEST_F(SmallWindows, CellsOfEachDisplayRollTheirDice) {
@@ -134,7 +136,7 @@ TEST_F(SmallWindows, ConsoleKeepsItsOptionsColoursAndPlace) {
   Console->show();
   Console->close();
   EXPECT_EQ(GameViews.Windows.RollConsole.State, WindowClosed);
-  RestoreSmallWindow(Console);
+  Console->Restore();
   EXPECT_FALSE(Console->isVisible());
   Open();
   EXPECT_EQ(Pad()->Grid().Cells.size(), 36U);
@@ -160,14 +162,14 @@ TEST_F(SmallWindows, ThrottleFollowsTheSettingBothWays) {
   slider->setValue(40);
   EXPECT_EQ(Settings.Throttle, 40);
   Settings.Throttle = 7;
-  RefreshSmallWindow(Console);
+  Console->Refresh();
   EXPECT_EQ(slider->value(), 7);
   EXPECT_EQ(Settings.Throttle, 7);
 }
 
 TEST_F(SmallWindows, DiceWindowCallsTheTotal) {
-  const std::unique_ptr<QWidget> window(MakeDiceWindow(nullptr));
-  EXPECT_EQ(window->accessibleDescription(), "No roll yet");
+  DiceWindow window(nullptr);
+  EXPECT_EQ(window.accessibleDescription(), "No roll yet");
   const struct {
     int die1, die2;
     const char* call;
@@ -176,22 +178,22 @@ TEST_F(SmallWindows, DiceWindowCallsTheTotal) {
                {5, 5, "Ten the hard way"},   {6, 5, "Eleven"},      {1, 3, "Four"}};
   for (const auto& each : cases) {
     Throw(each.die1, each.die2);
-    RefreshSmallWindow(window.get());
-    EXPECT_EQ(window->accessibleDescription(), each.call);
+    window.Refresh();
+    EXPECT_EQ(window.accessibleDescription(), each.call);
   }
 }
 
 TEST_F(SmallWindows, StatusBoxGrowsWithItsSizeAndStaysInItsParent) {
   QWidget table;
   table.resize(1200, 800);
-  QWidget* box = MakeStatusBox(&table);
+  auto* box = new StatusPanel(&table);
   EXPECT_GT(box->width(), box->height()) << "a line for an empty table";
   for (int place = 1; place <= LastPlace; ++place)
     Seat(place);
   QSize last;
   for (GameViews.Table.StatusBoxSize = 1; GameViews.Table.StatusBoxSize <= 3;
        ++GameViews.Table.StatusBoxSize) {
-    RefreshSmallWindow(box);
+    box->Refresh();
     EXPECT_GT(box->width(), last.width());
     EXPECT_GT(box->height(), last.height());
     last = box->size();
@@ -207,27 +209,30 @@ TEST_F(SmallWindows, StatusBoxGrowsWithItsSizeAndStaysInItsParent) {
 
 TEST_F(SmallWindows, RateIsThatOfTheLastHalfSecond) {
   HoldClock({2026, 11, 22});
-  const auto advance = [](int64_t milliseconds, int32_t rolls) {
+  RollRate rate;
+  HyperDriveMeter meter;
+  const auto advance = [&](int64_t milliseconds, int32_t rolls) {
     AdvanceClock(milliseconds);
     Stats.RollCount[CurrentSession][0] += rolls;
-    return RollRate();
+    Table.HyperDriveOn = true;
+    const double shown = rate.PerSecond();
+    const QString text = shown > 0 ? RollRateText(shown) + " rolls/s" : QString();
+    EXPECT_EQ(meter.Text(), text);
+    Table.HyperDriveOn = false;
+    EXPECT_EQ(meter.Text(), "") << "nothing runs";
+    return shown;
   };
   advance(5000, 0);
   EXPECT_EQ(advance(50, 100), 0) << "too short to tell";
   EXPECT_EQ(advance(50, 100), 2000);
   for (int k = 0; k < 20; ++k)
     advance(100, 100'000);
-  EXPECT_EQ(RollRate(), 1'000'000);
-  const HyperDriveMeter meter;
-  EXPECT_EQ(meter.Text(), "") << "nothing runs";
-  Table.HyperDriveOn = true;
-  EXPECT_EQ(meter.Text(), "1,000,000 rolls/s");
-  Table.HyperDriveOn = false;
+  EXPECT_EQ(rate.PerSecond(), 1'000'000);
+  EXPECT_EQ(RollRateText(1'000'000), "1,000,000");
   EXPECT_EQ(advance(200, 0), 600'000);
   EXPECT_EQ(advance(600, 0), 0);
-  EXPECT_EQ(RollRateText(0), "");
   Stats = {};
-  EXPECT_EQ(RollRate(), 0) << "a new session counts from 0";
+  EXPECT_EQ(rate.PerSecond(), 0) << "a new session counts from 0";
 }
 
 // Shortcut letters within a menu; a caption has one.
@@ -247,7 +252,7 @@ TEST_F(SmallWindows, NoTextIsCutInAnyLanguage) {
   for (int language = 0; language < LanguageCount; ++language) {
     SetLanguage(language);
     for (int display = BasicNumbers; display <= SingleDice; ++display) {
-      RefreshSmallWindow(Console);
+      Console->Refresh();
       ShowDisplay(static_cast<RollPadDisplay>(display));
       QApplication::processEvents();
       auto* hint = Part<QLabel>("lblHint");

@@ -23,6 +23,7 @@
 #include "state/table.h"
 #include "state/view_state.h"
 #include "ui/main_window.h"
+#include "ui/trapped_application.h"
 
 namespace tessarel {
 
@@ -37,6 +38,8 @@ class WindowTest : public testing::Test {
 
   void Open() {
     window = std::make_unique<MainWindow>(folder.Path());
+    QObject::connect(static_cast<TrappedApplication*>(qApp), &TrappedApplication::FaultReported,
+                     window.get(), &MainWindow::Recover);
     window->Start();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));

@@ -1,19 +1,19 @@
 // The desktop program: sets the core up, shows the table and leaves in order.
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <cstdio>
 #include <string_view>
 
-#include "base/front_end.h"
 #include "files/hot_keys.h"
 #include "play/roll_pace.h"
 #include "play/start_up.h"
+#include "ui/front_end_bridge.h"
 #include "ui/main_window.h"
 #include "ui/palette.h"
 #include "ui/program_folders.h"
 #include "ui/sound/sounds.h"
+#include "ui/trapped_application.h"
 #include "ui/windows/message_window.h"
 
 namespace {
@@ -53,20 +53,25 @@ bool AnswersShell(int argc, char** argv) {
 int main(int argc, char** argv) {
   using namespace tessarel;
   if (AnswersShell(argc, argv)) return 0;
-  QApplication application(argc, argv);
+  TrappedApplication application(argc, argv);
   QApplication::setApplicationName("Tessarel");
   QApplication::setDesktopFileName("tessarel");
   QApplication::setWindowIcon(ProgramIcon());
   ApplyCasinoStyle();
 
   const std::string folder = ProgramFolder();
-  FrontEnd.ShowMessage = [] { ShowMessageWindow(nullptr); };
-  StartUp(folder);
-  ReadHotKeys();
+  {
+    // What is said before there is a window stands in the middle of the screen.
+    const FrontEndBridge core;
+    QObject::connect(&core, &FrontEndBridge::MessageAsked, [] { ShowMessageWindow(nullptr); });
+    StartUp(folder);
+    ReadHotKeys();
+  }
   LoadSounds(DataFolder(), folder);
   MeasureLoopRate();
   MainWindow window(folder);
+  QObject::connect(&application, &TrappedApplication::FaultReported, &window, &MainWindow::Recover);
   OpenDefaultGame(CommandLine());
   window.Start();
-  return QApplication::exec();
+  return TrappedApplication::exec();
 }

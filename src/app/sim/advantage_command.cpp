@@ -11,6 +11,7 @@
 #include "play/start_up.h"
 #include "state/bet_numbers.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -44,8 +45,9 @@ std::string Line(const std::string& number,
 }
 
 std::string AdvantageTable() {
-  std::string table =
-      Line("#", "Bet", {"EV/Roll", "StDev/Roll", "EV/Dec", "StDev/Dec", "Rolls/Dec"});
+  std::string table = Line("#", Say(Text::BetColumn),
+                           {Say(Text::EvPerRoll), Say(Text::StDevPerRoll), Say(Text::EvPerDec),
+                            Say(Text::StDevPerDec), Say(Text::RollsPerDec)});
   const auto percent = [](double fraction) { return FormatNumber(fraction, "0.0000%"); };
   for (int number = 1; number <= LastBet; ++number) {
     const AdvantageResult result = FigureAdvantage(number);

@@ -69,8 +69,8 @@ void TakeAnswer() {
 
 // Why the Hyper-Drive stopped is part of the result and no message.
 void ShowOnConsole() {
-  if (Message.MsgTitle == Wording(Text::HyperDriveStopped)) return;
-  if (Message.MsgTitle == Message.ErrorTitle) {
+  if (Message.MsgKind == MessageKind::RunStopped) return;
+  if (Message.MsgKind == MessageKind::Error) {
     ++Console.faults;
     Console.lastFault = Message.MsgText;
   }
@@ -90,8 +90,8 @@ void ReportScriptErrorOnConsole(int place, int line, const std::string& text) {
   if (!Console.tableMode) return;
   const std::string& file = Scripts.Places[place].ScriptFile;
   const std::string report = file + ":" + std::to_string(line) + ": " + text;
-  Console.messages.push_back({"Auto-Bet", report});
-  Notice("[Auto-Bet] " + OnOneLine(report));
+  Console.messages.push_back({Say(Text::AutoBet), report});
+  Notice("[" + Say(Text::AutoBet) + "] " + OnOneLine(report));
 }
 
 // "Ann Won", then the rows, each caption with its figure.
@@ -205,10 +205,10 @@ void ProgressBar::Draw(int64_t done) {
   const auto filled = static_cast<int>(std::min(Width, Width * done / total_));
   const std::string bar = std::string(static_cast<size_t>(filled), '#') +
                           std::string(static_cast<size_t>(Width - filled), '.');
-  std::fprintf(stderr, "\r[%s] %3d%%  %s rolls/s  %s left\033[K", bar.c_str(),
-               static_cast<int>(100 * done / total_),
-               FormatNumber(static_cast<int64_t>(rate), "#,#;-#,#;0").c_str(),
-               TimeLeft(left).c_str());
+  std::fprintf(
+      stderr, "\r[%s] %3d%%  %s\033[K", bar.c_str(), static_cast<int>(100 * done / total_),
+      Say(Text::SimProgress, FormatNumber(static_cast<int64_t>(rate), "#,#;-#,#;0"), TimeLeft(left))
+          .c_str());
   std::fflush(stderr);
 }
 

@@ -56,16 +56,15 @@ void WriteWords(int64_t count, Output& output) {
 
 void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
   if (generator < 1 || generator > GeneratorCount) {
-    throw Failure(CannotBeDone, "Reference to RNG out of limits: generators are 1 to 8.");
+    throw Failure(CannotBeDone, Say(Text::SimGeneratorBeyond));
   }
   const auto number = static_cast<int32_t>(generator);
   if (SelectRNG(number) != Selected) {
-    throw Failure(CannotBeDone, "RNG #" + std::to_string(number) + " is not available.");
+    throw Failure(CannotBeDone, Say(Text::SimGeneratorMissing, number));
   }
   if (seed && (*seed < 1 || *seed > SeedLimit(number))) {
-    throw Failure(CannotBeDone, Say(Text::SeedOutOfLimits) + " RNG #" + std::to_string(number) +
-                                    " takes whole numbers from 1 to " +
-                                    std::to_string(SeedLimit(number)) + ".");
+    throw Failure(CannotBeDone, Say(Text::SimSeedLimits, Wording(Text::SeedOutOfLimits), number,
+                                    SeedLimit(number)));
   }
   Dice.SeedRequest = seed ? Money::FromWhole(*seed) : Money();
   try {
@@ -77,13 +76,13 @@ void SelectAndSeed(int64_t generator, std::optional<int64_t> seed) {
 
 void DiceCommand(const DiceOptions& options) {
   if (options.raw && options.generator != 1 && options.generator != 2) {
-    throw Failure(WrongCommandLine, "--raw is for generators 1 and 2 only.");
+    throw Failure(WrongCommandLine, Say(Text::SimRawGenerators));
   }
   if (options.raw && !options.probability.empty()) {
-    throw Failure(WrongCommandLine, "--raw writes the words of a generator: no --probability.");
+    throw Failure(WrongCommandLine, Say(Text::SimRawProbability));
   }
   if (!options.raw && options.count > MaxRolls) {
-    throw Failure(CannotBeDone, "--count: a table makes at most 2,000,000,000 rolls.");
+    throw Failure(CannotBeDone, Say(Text::SimTooManyRolls));
   }
   StartUp(".");
   if (!options.probability.empty()) ActivateProbability(options.probability);

@@ -7,20 +7,20 @@
 #include "base/file_io.h"
 #include "base/message.h"
 #include "files/game_file.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
 void OpenNamedGame(const std::string& name) {
   if (name.empty()) return;
   if (!FileExists(PathOf(name))) {
-    throw Failure(CannotBeDone, "The game \"" + name + "\" does not exist.");
+    throw Failure(CannotBeDone, Say(Text::SimDoesNotExist, Wording(Text::SimGame), name));
   }
   Console.holdsNotices = true;
   const bool opened = OpenGame(PathOf(name));
   Console.holdsNotices = false;
   if (!opened) {
-    throw Failure(CannotBeDone,
-                  "The game \"" + name + "\" cannot be opened: " + OnOneLine(Message.MsgText));
+    throw Failure(CannotBeDone, Say(Text::SimGameNotOpened, name, OnOneLine(Message.MsgText)));
   }
   for (const std::string& notice : Console.heldNotices)
     Notice(notice);
@@ -29,7 +29,7 @@ void OpenNamedGame(const std::string& name) {
 
 void SaveNamedGame(const std::string& name) {
   if (name.empty()) return;
-  WithFile("game", name, "cannot be saved", [&name] { SaveGame(PathOf(name)); });
+  WithFile(Text::SimGame, name, Text::SimCannotSave, [&name] { SaveGame(PathOf(name)); });
 }
 
 }  // namespace tessarel::sim

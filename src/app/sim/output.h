@@ -11,7 +11,7 @@ namespace tessarel::sim {
 void WriteOut(std::string_view text);
 
 // The text at the left or at the right of a column; a longer one stands as it is.
-std::string Left(std::string text, size_t width);
+std::string Left(const std::string& text, size_t width);
 std::string Right(const std::string& text, size_t width);
 
 }  // namespace tessarel::sim

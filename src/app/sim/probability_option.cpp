@@ -8,20 +8,19 @@
 #include "base/front_end.h"
 #include "dice/probability.h"
 #include "dice/probability_file.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
 void ActivateProbability(const std::string& file) {
   if (!FileExists(InFolder(Folders.AppFolder, file))) {
-    throw Failure(CannotBeDone, "The probability file \"" + file + "\" does not exist.");
+    throw Failure(CannotBeDone, Say(Text::SimDoesNotExist, Wording(Text::SimProbability), file));
   }
   const auto show = std::exchange(FrontEnd.ShowMessage, [] {});  // the sentence below tells it all
   const bool opened = OpenProbabilityFile(file);
   FrontEnd.ShowMessage = show;
   if (!opened) {
-    throw Failure(CannotBeDone, "\"" + file +
-                                    "\" is not a true Tessarel Probability File, or it is from an "
-                                    "older version or corrupted.");
+    throw Failure(CannotBeDone, Say(Text::SimNotAProbabilityFile, file));
   }
   Probability.ProbabilityMatrixActive = true;
 }

@@ -9,6 +9,7 @@
 #include "dice/generators.h"
 #include "state/books.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -128,8 +129,8 @@ std::string Signed(Money amount) {
 }
 
 std::string DiceText(const RunFacts& facts) {
-  if (!facts.diceFile.empty()) return "from " + facts.diceFile;
-  return "from RNG #" + std::to_string(Dice.CurrentRNG) + ", seed " + std::to_string(Dice.LastSeed);
+  if (!facts.diceFile.empty()) return Say(Text::SimDiceFromFile, facts.diceFile);
+  return Say(Text::SimDiceFromGenerator, Dice.CurrentRNG, Dice.LastSeed);
 }
 
 std::string BetRows(int place) {
@@ -147,18 +148,20 @@ std::string BetRows(int place) {
             "\n";
   }
   if (rows.empty()) return "";
-  return "  " + Left("Bet", 18) + Right("Resolved", 12) + Right("Won", 12) + Right("Lost", 12) +
-         Right("Amount $", 20) + Right("Net $", 18) + Right("Net %", 11) + "\n" + rows;
+  return "  " + Left(Say(Text::BetColumn), 18) + Right(Say(Text::WagersResolved), 12) +
+         Right(Say(Text::SimWonColumn), 12) + Right(Say(Text::SimLostColumn), 12) +
+         Right(Say(Text::SimAmountColumn), 20) + Right(Say(Text::NetDollarsColumn), 18) +
+         Right(Say(Text::WagersNetPercent), 11) + "\n" + rows;
 }
 
 std::string PlayerSummary(int place) {
   const int slot = place + CurrentSession;
   const Money bankroll = Table.Bankroll[slot];
-  return "\n" + Table.PlayerName[place] + " (place " + std::to_string(place) + ")\n" +
-         "  Bankroll " + Dollars(bankroll) + "  (" +
-         Signed(bankroll - Table.InvestedBankroll[place]) + ")   high " +
-         Dollars(Table.BankrollHigh[slot]) + "   low " + Dollars(Table.BankrollLow[slot]) +
-         "   on the table " + Dollars(Table.MoneyOnTable[place]) + "\n" + BetRows(place);
+  return "\n" + Say(Text::SimPlayerAtPlace, Table.PlayerName[place], place) + "\n  " +
+         Say(Text::SimBankrollLine, Dollars(bankroll),
+             Signed(bankroll - Table.InvestedBankroll[place]), Dollars(Table.BankrollHigh[slot]),
+             Dollars(Table.BankrollLow[slot]), Dollars(Table.MoneyOnTable[place])) +
+         "\n" + BetRows(place);
 }
 
 Json BySessionJson(const RunFacts& facts) {
@@ -200,9 +203,11 @@ std::string ResultJson(const RunFacts& facts) {
 }
 
 std::string ResultSummary(const RunFacts& facts) {
-  const std::string sessions = facts.sessions == 1 ? "" : Count(facts.sessions) + " sessions, ";
-  std::string text = sessions + Count(facts.rolls) + " rolls, " + Count(facts.hands) +
-                     " hands, dice " + DiceText(facts) + "\n";
+  const std::string rolls = Count(facts.rolls), hands = Count(facts.hands), dice = DiceText(facts);
+  std::string text = facts.sessions == 1
+                         ? Say(Text::SimOneSession, rolls, hands, dice)
+                         : Say(Text::SimManySessions, Count(facts.sessions), rolls, hands, dice);
+  text += "\n";
   if (!facts.stopReason.empty()) text += OnOneLine(facts.stopReason) + "\n";
   ForEachPlayer([&text](int place) { text += PlayerSummary(place); });
   return text;

@@ -35,6 +35,7 @@
 #include "play/start_up.h"
 #include "state/books.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -83,11 +84,10 @@ void SeatPlayers(const RunOptions& options) {
 void RequireBettable(int place, int number) {
   const std::string name(BetName[number]);
   if (!IsTaken(Table, place)) {
-    throw Failure(CannotBeDone, "There is no player at place " + std::to_string(place) +
-                                    " to bet on " + name + ".");
+    throw Failure(CannotBeDone, Say(Text::SimNoPlayerToBet, place, name));
   }
   if (!OnLayout(number)) {
-    throw Failure(CannotBeDone, "The settings take " + name + " off the layout.");
+    throw Failure(CannotBeDone, Say(Text::SimOffLayout, name));
   }
 }
 
@@ -190,11 +190,8 @@ std::string StopReason() {
 
 void FailWhenStuck() {
   if (!Session.stuck) return;
-  const std::string reason = Console.faults != 0
-                                 ? Console.lastFault
-                                 : "a script has ended the recording with its own dice roll file.";
-  throw Failure(CannotBeDone,
-                "The run ended after roll " + std::to_string(RollsInSession()) + ": " + reason);
+  const std::string reason = Console.faults != 0 ? Console.lastFault : Say(Text::SimRecordingEnded);
+  throw Failure(CannotBeDone, Say(Text::SimRunEnded, RollsInSession(), reason));
 }
 
 void AddSession(RunFacts& facts) {
@@ -260,9 +257,9 @@ RunFacts Play(const RunOptions& options, const Recording& recording) {
   return facts;
 }
 
-void WriteResultFile(const std::string& what, const std::string& name, const std::string& text) {
+void WriteResultFile(CheckedText<0> what, const std::string& name, const std::string& text) {
   if (name.empty() || name == "-") return;
-  WithFile(what, name, "cannot be written", [&] { WriteFileAtomically(PathOf(name), text); });
+  WithFile(what, name, Text::SimCannotWrite, [&] { WriteFileAtomically(PathOf(name), text); });
 }
 
 // Standard output comes last, so that it stays empty when a file fails.
@@ -271,8 +268,8 @@ void WriteResults(const RunOptions& options, const RunFacts& facts, Recording& r
   SaveNamedGame(options.save);
   const std::string json = options.json.empty() ? "" : ResultJson(facts);
   const std::string report = options.report.empty() ? "" : RunReport(facts.stopReason);
-  WriteResultFile("result", options.json, json);
-  WriteResultFile("report", options.report, report);
+  WriteResultFile(Text::SimResult, options.json, json);
+  WriteResultFile(Text::SimReport, options.report, report);
   recording.Keep();
   if (options.json == "-") return WriteOut(json);
   if (options.report == "-") return WriteOut(report);
@@ -308,7 +305,7 @@ void SetUp(const RunOptions& options) {
 
 void RequireFolder(const std::string& home) {
   if (!std::filesystem::is_directory(home)) {
-    throw Failure(CannotBeDone, "The folder \"" + home + "\" does not exist.");
+    throw Failure(CannotBeDone, Say(Text::SimDoesNotExist, Wording(Text::SimFolder), home));
   }
 }
 
@@ -321,7 +318,7 @@ void RunCommand(const RunOptions& options) {
   Console.tableMode = options.mode == Mode::Table;
   CheckFiles(options);
   if (!options.answers.empty()) {
-    WithFile("answers file", options.answers, "cannot be read",
+    WithFile(Text::SimAnswers, options.answers, Text::SimCannotRead,
              [&options] { LoadAnswers(PathOf(options.answers)); });
   }
   UseSessionsLogs(options.sessionsLog);

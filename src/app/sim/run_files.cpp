@@ -23,16 +23,12 @@ namespace {
 namespace fs = std::filesystem;
 
 struct RunFile {
-  const char* what;
+  CheckedText<0> what;
   const std::string* name;
   bool written;
 };
 
-std::string Quoted(const char* what, const std::string& name) {
-  return std::string("The ") + what + " \"" + name + "\"";
-}
-
-// The file behind links, in one form for each file.
+// The file that links lead to, in one form for each file.
 fs::path Resolved(const std::string& name) {
   std::error_code error;
   const fs::path path = fs::weakly_canonical(fs::absolute(PathOf(name), error), error);
@@ -40,40 +36,40 @@ fs::path Resolved(const std::string& name) {
 }
 
 void RefuseUnwritable(const RunFile& file) {
-  const auto refuse = [&file](const std::string& why) {
-    throw Failure(CannotBeDone, Quoted(file.what, *file.name) + " cannot be written: " + why);
+  const auto refuse = [&file](CheckedText<0> why) {
+    throw Failure(CannotBeDone, Say(Text::SimCannotWrite, Say(file.what), *file.name, Say(why)));
   };
   const fs::path path = Resolved(*file.name);
   std::error_code error;
-  if (fs::is_directory(path, error)) refuse("it is a folder.");
+  if (fs::is_directory(path, error)) refuse(Text::SimIsFolder);
   if (fs::exists(path, error)) {
-    if (!fs::is_regular_file(path, error)) refuse("it is not an ordinary file.");
-    if (access(path.c_str(), W_OK) != 0) refuse("it may not be changed.");
+    if (!fs::is_regular_file(path, error)) refuse(Text::SimIsNotOrdinary);
+    if (access(path.c_str(), W_OK) != 0) refuse(Text::SimMayNotChange);
   }
   const fs::path folder = path.parent_path();
-  if (!fs::is_directory(folder, error)) refuse("its folder does not exist.");
-  if (access(folder.c_str(), W_OK | X_OK) != 0) refuse("its folder may not be changed.");
+  if (!fs::is_directory(folder, error)) refuse(Text::SimNoFolder);
+  if (access(folder.c_str(), W_OK | X_OK) != 0) refuse(Text::SimFolderMayNotChange);
 }
 
 const std::string NoName;
 
 std::vector<RunFile> FilesOf(const RunOptions& options) {
   std::vector<RunFile> files = {
-      {"dice roll file", &options.dice, false},
-      {"answers file", &options.answers, false},
-      {"probability file", &options.probability, false},
-      {"recording", &options.record, true},
-      {"events log", &options.eventsLog, true},
-      {"game to be saved", &options.save, true},
-      {"report", options.report == "-" ? &NoName : &options.report, true},
-      {"result", options.json == "-" ? &NoName : &options.json, true},
+      {Text::SimRollFile, &options.dice, false},
+      {Text::SimAnswers, &options.answers, false},
+      {Text::SimProbability, &options.probability, false},
+      {Text::SimRecording, &options.record, true},
+      {Text::SimEventsLog, &options.eventsLog, true},
+      {Text::SimGameToSave, &options.save, true},
+      {Text::SimReport, options.report == "-" ? &NoName : &options.report, true},
+      {Text::SimResult, options.json == "-" ? &NoName : &options.json, true},
   };
   for (const ScriptArgument& script : options.scripts)
-    files.push_back({"script", &script.file, false});
+    files.push_back({Text::SimScript, &script.file, false});
   // A game may be saved to its own file: it is read before anything is written.
   const bool savedInPlace = !options.save.empty() && !options.game.empty() &&
                             Resolved(options.save) == Resolved(options.game);
-  files.push_back({"game", savedInPlace ? &NoName : &options.game, false});
+  files.push_back({Text::SimGame, savedInPlace ? &NoName : &options.game, false});
   return files;
 }
 
@@ -82,7 +78,7 @@ void RefuseDoubleUse(const RunFile& file, const std::vector<RunFile>& files) {
   for (const RunFile& other : files) {
     if (other.name == file.name || other.name->empty() || Resolved(*other.name) != path) continue;
     throw Failure(CannotBeDone,
-                  Quoted(file.what, *file.name) + " cannot be the " + other.what + " as well.");
+                  Say(Text::SimUsedTwice, Say(file.what), *file.name, Say(other.what)));
   }
 }
 
@@ -92,21 +88,20 @@ std::string PathOf(const std::string& name) {
   return InFolder(Folders.AppFolder, name);
 }
 
-void WithFile(const std::string& what,
+void WithFile(CheckedText<0> what,
               const std::string& name,
-              const std::string& trouble,
+              CheckedText<3> trouble,
               const std::function<void()>& work) {
   try {
     work();
   } catch (const Fault& fault) {
-    throw Failure(CannotBeDone,
-                  Quoted(what.c_str(), name) + " " + trouble + ": " + fault.Description + ".");
+    throw Failure(CannotBeDone, Say(trouble, Say(what), name, fault.Description));
   }
 }
 
 void CheckFiles(const RunOptions& options) {
   if (options.json == "-" && options.report == "-") {
-    throw Failure(WrongCommandLine, "Standard output takes either the result or the report.");
+    throw Failure(WrongCommandLine, Say(Text::SimOneForOutput));
   }
   const std::vector<RunFile> files = FilesOf(options);
   for (const RunFile& file : files) {
@@ -120,17 +115,17 @@ void PlayFrom(const std::string& name) {
   const std::string path = PathOf(name);
   if (!FileExists(path)) {
     const bool there = fs::exists(path);
-    throw Failure(CannotBeDone, Quoted("dice roll file", name) +
-                                    (there ? " is not an ordinary file." : " does not exist."));
+    throw Failure(CannotBeDone, SayChosen(there ? Text::SimNotOrdinaryFile : Text::SimDoesNotExist,
+                                          Wording(Text::SimRollFile), name));
   }
-  WithFile("dice roll file", name, "cannot be read", [&name] { OpenRollFile(name); });
+  WithFile(Text::SimRollFile, name, Text::SimCannotRead, [&name] { OpenRollFile(name); });
   RewindForPlayback();
 }
 
 void OpenEventsLog(const std::string& name) {
   if (name.empty()) return;
   EventsLog.EventLogName = PathOf(name);
-  WithFile("events log", name, "cannot be continued", IndexEventsLog);
+  WithFile(Text::SimEventsLog, name, Text::SimCannotContinue, IndexEventsLog);
   SelectAllEvents(true);
   EventsLog.LogOn = true;
 }
@@ -146,19 +141,18 @@ void CheckSessionsLogs(const RunOptions& options) {
   std::error_code error;
   fs::create_directories(PathOf(options.sessionsLog), error);
   if (error) {
-    throw Failure(CannotBeDone, "The folder \"" + options.sessionsLog + "\" cannot be made.");
+    throw Failure(CannotBeDone, Say(Text::SimFolderNotMade, options.sessionsLog));
   }
   std::vector<RunFile> files = FilesOf(options);
   ForEachPlayer([&files](int place) {
     // Whoever was at the table already may come with a log of his own elsewhere.
     std::string& name = Table.SessionLogName[place];
     name = DefaultSessionsLogName(Table.PlayerName[place]);
-    const RunFile log = {"sessions log", &name, true};
+    const RunFile log = {Text::SimSessionsLog, &name, true};
     RefuseUnwritable(log);
     RefuseDoubleUse(log, files);
     if (FileExists(*log.name) && !IsSessionsLog(*log.name)) {
-      throw Failure(CannotBeDone,
-                    Quoted(log.what, *log.name) + " is not a true Tessarel Sessions Log.");
+      throw Failure(CannotBeDone, Say(Text::SimNotASessionsLog, Say(log.what), *log.name));
     }
     files.push_back(log);
   });
@@ -166,7 +160,7 @@ void CheckSessionsLogs(const RunOptions& options) {
 
 void LogLastSession() {
   ForEachPlayer([](int place) {
-    WithFile("sessions log", SessionsLogNameOf(place), "cannot be continued",
+    WithFile(Text::SimSessionsLog, SessionsLogNameOf(place), Text::SimCannotContinue,
              [place] { WriteSession(place); });
   });
 }
@@ -176,7 +170,7 @@ std::vector<LoggedSession> SessionsLoggedBefore() {
   if (!SessionsLog.KeepLogs || RollsInSession() == 0) return sessions;
   ForEachPlayer([&sessions](int place) {
     const std::string& log = SessionsLogNameOf(place);
-    WithFile("sessions log", log, "cannot be continued", [&] {
+    WithFile(Text::SimSessionsLog, log, Text::SimCannotContinue, [&] {
       if (EndsWithSession(log, SessionRecord(place))) sessions.push_back({log, CountSessions(log)});
     });
   });
@@ -185,7 +179,7 @@ std::vector<LoggedSession> SessionsLoggedBefore() {
 
 void RemoveContinued(const std::vector<LoggedSession>& sessions) {
   for (const auto& [log, number] : sessions) {
-    WithFile("sessions log", log, "cannot be continued", [&log = log, number = number] {
+    WithFile(Text::SimSessionsLog, log, Text::SimCannotContinue, [&log = log, number = number] {
       if (CountSessions(log) > number) DeleteSessions(log, number, number);
     });
   }
@@ -196,7 +190,7 @@ Recording::Recording(const std::string& name) : name_(name) {
   const fs::path target = Resolved(name);
   target_ = target.string();
   part_ = (target.parent_path() / (".tessarel-" + std::to_string(getpid()) + ".rol")).string();
-  WithFile("recording", name_, "cannot be written", [this] {
+  WithFile(Text::SimRecording, name_, Text::SimCannotWrite, [this] {
     DeleteFileIfPresent(part_);
     OpenRollFile(part_);
   });
@@ -216,15 +210,15 @@ bool Recording::Lost() const {
 void Recording::Finish() {
   if (part_.empty()) return;
   if (Lost()) {
-    throw Failure(CannotBeDone, Quoted("recording", name_) + " cannot be written to its end.");
+    throw Failure(CannotBeDone, Say(Text::SimRecordingCutShort, name_));
   }
-  WithFile("recording", name_, "cannot be written", [] { CloseRollFile(); });
+  WithFile(Text::SimRecording, name_, Text::SimCannotWrite, [] { CloseRollFile(); });
 }
 
 void Recording::Keep() {
   if (part_.empty()) return;
   if (std::rename(part_.c_str(), target_.c_str()) != 0) {
-    throw Failure(CannotBeDone, Quoted("recording", name_) + " cannot be put in its place.");
+    throw Failure(CannotBeDone, Say(Text::SimRecordingNotPlaced, name_));
   }
   part_.clear();
 }

@@ -8,16 +8,18 @@
 #include <vector>
 
 #include "app/sim/run_options.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
 // A file of the run as a path: relative names are taken from the program's folder.
 std::string PathOf(const std::string& name);
 
-// Runs `work`; a fault in it becomes the Failure `what`, then the file's name, `trouble` and why.
-void WithFile(const std::string& what,
+// Runs `work`; a fault in it becomes the Failure `trouble`, said of `what` the file is, its name
+// and the reason.
+void WithFile(CheckedText<0> what,
               const std::string& name,
-              const std::string& trouble,
+              CheckedText<3> trouble,
               const std::function<void()>& work);
 
 // Failure when a file to be written cannot be, or stands for two things.

@@ -6,6 +6,7 @@
 #include "base/number_format.h"
 #include "base/single_byte_text.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -16,11 +17,10 @@ int ReadPlace(const std::string& text, const std::string& whole) {
   const char* const end = text.data() + text.size();
   const auto [rest, error] = std::from_chars(text.data(), end, place);
   if (error != std::errc() || rest != end) {
-    throw Failure(WrongCommandLine, "\"" + text + "\" is not a place, in \"" + whole + "\".");
+    throw Failure(WrongCommandLine, Say(Text::SimNotAPlace, text, whole));
   }
   if (place < 1 || place > LastPlace) {
-    throw Failure(CannotBeDone,
-                  "Place " + text + " does not exist, in \"" + whole + "\": places are 1 to 8.");
+    throw Failure(CannotBeDone, Say(Text::SimNoSuchPlace, text, whole));
   }
   return place;
 }
@@ -42,10 +42,9 @@ Money ReadAmount(const std::string& text, const std::string& whole) {
   const std::optional<Money> amount = ParseMoney(text);
   if (amount) return *amount;
   if (LooksLikeNumber(text)) {
-    throw Failure(CannotBeDone, "\"" + text + "\" is no amount of money, in \"" + whole +
-                                    "\": at most four decimals are kept.");
+    throw Failure(CannotBeDone, Say(Text::SimNotMoney, text, whole));
   }
-  throw Failure(WrongCommandLine, "\"" + text + "\" is not an amount, in \"" + whole + "\".");
+  throw Failure(WrongCommandLine, Say(Text::SimNotAnAmount, text, whole));
 }
 
 }  // namespace
@@ -61,8 +60,7 @@ PlayerArgument ReadPlayer(const std::string& text) {
   player.place = CutPlace(player.name, text);
   player.name = TrimSpaces(player.name);
   if (Abs(player.bankroll) > BankrollLimit) {
-    throw Failure(CannotBeDone, "The bankroll in \"" + text +
-                                    "\" is beyond the limits of -9,999,999 to 9,999,999.");
+    throw Failure(CannotBeDone, Say(Text::SimBankrollBeyond, text));
   }
   return player;
 }
@@ -76,7 +74,7 @@ ScriptArgument ReadScript(const std::string& text) {
       at != std::string::npos && text.find_first_of("./", at) == std::string::npos;
   if (hasPlace) script.place = CutPlace(script.file, text);
   if (script.file.empty()) {
-    throw Failure(WrongCommandLine, "A script reads FILE.bet[@PLACE], not \"" + text + "\".");
+    throw Failure(WrongCommandLine, Say(Text::SimScriptReads, text));
   }
   return script;
 }
@@ -87,14 +85,14 @@ BetArgument ReadBet(const std::string& text) {
   bet.place = CutPlace(rest, text);
   const size_t equals = rest.rfind('=');
   if (equals == std::string::npos) {
-    throw Failure(WrongCommandLine, "A bet reads NAME=AMOUNT[@PLACE], not \"" + text + "\".");
+    throw Failure(WrongCommandLine, Say(Text::SimBetReads, text));
   }
   const std::string name = std::string(TrimSpaces(rest.substr(0, equals)));
   bet.number = BetByName(name);
-  if (bet.number == 0) throw Failure(CannotBeDone, "There is no bet named \"" + name + "\".");
+  if (bet.number == 0) throw Failure(CannotBeDone, Say(Text::SimNoBetNamed, name));
   bet.amount = ReadAmount(rest.substr(equals + 1), text);
   if (bet.amount < Money()) {
-    throw Failure(CannotBeDone, "A bet cannot be below zero: \"" + text + "\".");
+    throw Failure(CannotBeDone, Say(Text::SimBetBelowZero, text));
   }
   return bet;
 }
@@ -102,11 +100,11 @@ BetArgument ReadBet(const std::string& text) {
 Mode ReadMode(const std::string& text) {
   if (text == "hyper") return Mode::Hyper;
   if (text == "table") return Mode::Table;
-  throw Failure(WrongCommandLine, "The mode is hyper or table, not \"" + text + "\".");
+  throw Failure(WrongCommandLine, Say(Text::SimModeIs, text));
 }
 
 std::string ReadFileName(const std::string& text) {
-  if (text.empty()) throw Failure(WrongCommandLine, "A file name is empty.");
+  if (text.empty()) throw Failure(WrongCommandLine, Say(Text::SimNameEmpty));
   return text;
 }
 
@@ -116,7 +114,7 @@ int64_t ReadWhole(const std::string& text) {
   int64_t number = 0;
   const auto [rest, error] = std::from_chars(begin, end, number);
   if (error == std::errc::invalid_argument || rest != end) {
-    throw Failure(WrongCommandLine, "\"" + text + "\" is not a whole number.");
+    throw Failure(WrongCommandLine, Say(Text::SimNotWhole, text));
   }
   if (error == std::errc()) return number;
   return *begin == '-' ? INT64_MIN : INT64_MAX;
@@ -125,13 +123,12 @@ int64_t ReadWhole(const std::string& text) {
 int64_t ReadCount(const std::string& text, int64_t limit) {
   const int64_t count = ReadWhole(text);
   if (count >= 0 && count <= limit) return count;
-  throw Failure(CannotBeDone, "The count " + text + " is out of limits: counts are 0 to " +
-                                  FormatNumber(limit, "#,0") + ".");
+  throw Failure(CannotBeDone, Say(Text::SimCountBeyond, text, FormatNumber(limit, "#,0")));
 }
 
 std::string ReadPayoff(const std::string& text) {
   if (text.find('=') == std::string::npos) {
-    throw Failure(WrongCommandLine, "A payoff reads ROW=NUM:DEN, not \"" + text + "\".");
+    throw Failure(WrongCommandLine, Say(Text::SimPayoffReads, text));
   }
   return text;
 }
@@ -139,7 +136,7 @@ std::string ReadPayoff(const std::string& text) {
 FieldArgument ReadField(const std::string& text) {
   const size_t equals = text.find('=');
   if (equals == std::string::npos) {
-    throw Failure(WrongCommandLine, "A setting reads FIELD[@PLACE]=VALUE, not \"" + text + "\".");
+    throw Failure(WrongCommandLine, Say(Text::SimSettingReads, text));
   }
   FieldArgument field;
   field.field = text.substr(0, equals);

@@ -10,6 +10,7 @@
 #include "base/message.h"
 #include "files/game_file.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
@@ -18,14 +19,11 @@ namespace {
 // The place of the script's player; a place has one script.
 int PlaceOf(const ScriptArgument& script) {
   const int place = script.place != 0 ? script.place : std::countr_zero(Table.TakenPlaces);
-  const std::string where = "place " + std::to_string(place);
   if (!IsTaken(Table, place)) {
-    throw Failure(CannotBeDone,
-                  "There is no player at " + where + " for the script \"" + script.file + "\".");
+    throw Failure(CannotBeDone, Say(Text::SimNoPlayerForScript, place, script.file));
   }
   if (Scripts.ScriptActive[place]) {
-    throw Failure(CannotBeDone, "The player at " + where + " has a script already, so \"" +
-                                    script.file + "\" cannot be his.");
+    throw Failure(CannotBeDone, Say(Text::SimPlayerHasScript, place, script.file));
   }
   return place;
 }
@@ -51,8 +49,9 @@ std::string WithoutEmptyLines(std::string text) {
 
 void LoadScript(int slot, const std::string& file) {
   bool there = false;
-  WithFile("script", file, "cannot be read", [&] { there = ReadScriptFile(slot, file); });
-  if (!there) throw Failure(CannotBeDone, "The script \"" + file + "\" does not exist.");
+  WithFile(Text::SimScript, file, Text::SimCannotRead, [&] { there = ReadScriptFile(slot, file); });
+  if (!there)
+    throw Failure(CannotBeDone, Say(Text::SimDoesNotExist, Wording(Text::SimScript), file));
 }
 
 std::string ErrorLine(const std::string& file, const ScriptError& error) {
@@ -76,9 +75,7 @@ void ActivateSavedScripts() {
   ForEachPlayer([](int place) {
     if (At(GameFile.ScriptWasActive, place) == 0) return;
     if (Scripts.Places[place].ScriptFile.empty()) {
-      throw Failure(CannotBeDone, Table.PlayerName[place] +
-                                      "'s script, which was active when the game was saved, is not "
-                                      "there any more.");
+      throw Failure(CannotBeDone, Say(Text::SimScriptGone, Table.PlayerName[place]));
     }
     SetScriptActive(place, true);
   });

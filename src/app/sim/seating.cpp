@@ -6,13 +6,14 @@
 #include "play/players.h"
 #include "play/rail.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
 namespace {
 
 void CheckName(const std::string& name) {
-  if (name.empty()) throw Failure(CannotBeDone, "A player needs a name.");
+  if (name.empty()) throw Failure(CannotBeDone, Say(Text::SimPlayerNeedsName));
   if (const auto refusal = NameRefusal(name, 0)) {
     throw Failure(CannotBeDone, *refusal + (refusal->ends_with('.') ? "" : "."));
   }
@@ -20,13 +21,12 @@ void CheckName(const std::string& name) {
 
 int OpenPlace(int wanted) {
   if (wanted != 0 && IsTaken(Table, wanted)) {
-    throw Failure(CannotBeDone, "Place " + std::to_string(wanted) + " is taken by " +
-                                    Table.PlayerName[wanted] + ".");
+    throw Failure(CannotBeDone, Say(Text::SimPlaceTaken, wanted, Table.PlayerName[wanted]));
   }
   for (int place = wanted != 0 ? wanted : 1; place <= LastPlace; ++place) {
     if (!IsTaken(Table, place)) return place;
   }
-  throw Failure(CannotBeDone, "The table has only eight places.");
+  throw Failure(CannotBeDone, Say(Text::SimOnlyEightPlaces));
 }
 
 }  // namespace

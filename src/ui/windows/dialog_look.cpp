@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "state/settings.h"
-#include "ui/windows/message_window.h"
+#include "ui/windows/help_window.h"
 
 namespace tessarel {
 
@@ -70,9 +70,7 @@ void DressWindow(QWidget& window, const QString& title) {
 }
 
 void HelpOnF1(QWidget& window, int32_t topic) {
-  new QShortcut(Qt::Key_F1, &window, [topic] {
-    if (OpenHelpTopic) OpenHelpTopic(topic);
-  });
+  new QShortcut(Qt::Key_F1, &window, [&window, topic] { ShowHelp(&window, topic); });
 }
 
 QVBoxLayout* MakeColumn(QWidget& window) {

@@ -1,4 +1,5 @@
-// The window in which the dice are shown: both dice large, and the total called below them.
+#include "ui/windows/dice_window.h"
+
 #include <QPainter>
 #include <algorithm>
 
@@ -7,22 +8,20 @@
 #include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
-#include "ui/windows/roll_console.h"
-#include "ui/windows/small_window.h"
 
 namespace tessarel {
 
 namespace {
 
-QColor FeltColor() {
-  const int32_t felt = Settings.TableColor[0];
-  return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
-}
-
 constexpr std::array TotalWords = {Text::TotalTwo,    Text::TotalThree, Text::TotalFour,
                                    Text::TotalFive,   Text::TotalSix,   Text::TotalSeven,
                                    Text::TotalEight,  Text::TotalNine,  Text::TotalTen,
                                    Text::TotalEleven, Text::TotalTwelve};
+
+QColor FeltColor() {
+  const int32_t felt = Settings.TableColor[0];
+  return QColor(felt & 255, felt >> 8 & 255, felt >> 16 & 255);
+}
 
 QString TotalInWords() {
   const int total = Table.Die1 + Table.Die2;
@@ -42,34 +41,28 @@ QString NoteOnTotal() {
   }
 }
 
-class DiceWindow : public FloatingWindow {
- public:
-  explicit DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::Dice) {
-    setObjectName("frmDice");
-    Refresh();
-  }
-  void Refresh() override {
-    setWindowTitle(Shown(Text::DiceTitle));
-    setAccessibleDescription(DiceCall());
-    update();
-  }
-  void SetPhase(double phase) {
-    phase_ = std::clamp(phase, 0.0, 1.0);
-    update();
-  }
-  QSize sizeHint() const override { return {280, 200}; }
-  QSize minimumSizeHint() const override { return {180, 130}; }
+}  // namespace
 
- protected:
-  void paintEvent(QPaintEvent* event) override;
+QString DiceCall() {
+  const QString note = NoteOnTotal();
+  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
+}
 
- private:
-  void PaintFelt(QPainter& painter) const;
-  void PaintBothDice(QPainter& painter, const QRectF& area) const;
-  void PaintCall(QPainter& painter, const QRectF& area) const;
+DiceWindow::DiceWindow(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::Dice) {
+  setObjectName("frmDice");
+  Refresh();
+}
 
-  double phase_ = 1;
-};
+void DiceWindow::Refresh() {
+  setWindowTitle(Shown(Text::DiceTitle));
+  setAccessibleDescription(DiceCall());
+  update();
+}
+
+void DiceWindow::SetPhase(double phase) {
+  phase_ = std::clamp(phase, 0.0, 1.0);
+  update();
+}
 
 void DiceWindow::PaintFelt(QPainter& painter) const {
   const QColor felt = FeltColor();
@@ -124,21 +117,6 @@ void DiceWindow::paintEvent(QPaintEvent*) {
   }
   PaintBothDice(painter, area.adjusted(0, 0, 0, -callHeight));
   if (phase_ == 1) PaintCall(painter, call);
-}
-
-}  // namespace
-
-QString DiceCall() {
-  const QString note = NoteOnTotal();
-  return note.isEmpty() ? TotalInWords() : TotalInWords() + ' ' + note;
-}
-
-QWidget* MakeDiceWindow(QWidget* parent) {
-  return new DiceWindow(parent);
-}
-
-void ShowThrow(QWidget* diceWindow, double phase) {
-  if (auto* window = dynamic_cast<DiceWindow*>(diceWindow)) window->SetPhase(phase);
 }
 
 }  // namespace tessarel

@@ -4,7 +4,6 @@
 
 #include <QWidget>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,29 +17,26 @@ namespace tessarel {
 // then read. Closing the prompt without a button is its first one.
 void AskSettleBet(QWidget* parent, SettlePrompt& prompt);
 
-// The choices of the New dialog as they were left the last time; they last as long as the program
-// runs. At first nothing is given up.
-struct NewGameChoicesState {
+// The choices of the New dialog as they are at first: nothing is given up.
+struct NewGameChoices {
   bool PreserveCheckstacks = true, PreservePrevSessions = true, PreserveSessionsLogs = true,
        PreserveAutoBets = true, PreserveDiceRollFile = true;
   bool Rewind = false;  // of a roll file that is kept; else it goes on as it is
 };
-extern NewGameChoicesState NewGameChoices;
 
 struct NewGameAnswer {
   SessionOptions options;
   bool keepScripts = false;
 };
-// The options of a new session; none on Cancel.
-std::optional<NewGameAnswer> AskNewGame(QWidget* parent);
+// The options of a new session; none on Cancel. The dialog begins with `choices` as they were left
+// the last time and keeps them for the next.
+std::optional<NewGameAnswer> AskNewGame(QWidget* parent, NewGameChoices& choices);
 
 // The file dialog for an action: the full name of the file chosen; empty on Cancel.
 std::string AskFile(QWidget* parent, FileAction action, const std::string& offered);
 
-// Called when another language was put in force: every open window sets its captions again.
-extern std::function<void()> LanguageChanged;
-
-// The list of languages; the one picked takes effect at once.
-void AskLanguage(QWidget* parent);
+// The list of languages; the one picked is put in force at once. Returns whether one was: captions
+// that are shown have to be set again.
+bool AskLanguage(QWidget* parent);
 
 }  // namespace tessarel

@@ -380,14 +380,36 @@ void HelpWindow::changeEvent(QEvent* event) {
   }
 }
 
-QPointer<HelpWindow> OpenWindow;
+// The program has one help, whoever asks for it: the application keeps it.
+class HelpDesk : public QObject {
+ public:
+  static HelpDesk& Get() {
+    const QString name = QStringLiteral("HelpDesk");
+    QObject* desk = qApp->findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
+    if (desk == nullptr) {
+      desk = new HelpDesk(qApp);
+      desk->setObjectName(name);
+    }
+    return static_cast<HelpDesk&>(*desk);
+  }
+
+  HelpWindow& Window() {
+    if (window_ == nullptr) window_ = new HelpWindow;
+    return *window_;
+  }
+
+ private:
+  using QObject::QObject;
+
+  QPointer<HelpWindow> window_;  // deletes itself when it is closed
+};
 
 }  // namespace
 
 void ShowHelp(QWidget* parent, int topic) {
-  if (OpenWindow == nullptr) OpenWindow = new HelpWindow;
-  OpenWindow->ShowTopic(topic);
-  OpenWindow->BringUp(parent);
+  HelpWindow& window = HelpDesk::Get().Window();
+  window.ShowTopic(topic);
+  window.BringUp(parent);
 }
 
 }  // namespace tessarel

@@ -9,8 +9,6 @@
 
 namespace tessarel {
 
-std::function<void()> LanguageChanged;
-
 namespace {
 
 class LanguageWindow : public QDialog {
@@ -46,11 +44,11 @@ class LanguageWindow : public QDialog {
 
 }  // namespace
 
-void AskLanguage(QWidget* parent) {
+bool AskLanguage(QWidget* parent) {
   LanguageWindow window(parent);
-  if (RunDialog(window) != QDialog::Accepted) return;
+  if (RunDialog(window) != QDialog::Accepted) return false;
   SetLanguage(window.Picked());
-  if (LanguageChanged) LanguageChanged();
+  return true;
 }
 
 }  // namespace tessarel

@@ -19,12 +19,10 @@
 #include "texts/say.h"
 #include "ui/text.h"
 #include "ui/windows/dialog_look.h"
+#include "ui/windows/help_window.h"
 #include "ui/windows/message_pictures.h"
 
 namespace tessarel {
-
-std::function<void(int32_t topic)> OpenHelpTopic;
-std::function<void()> NoticesChanged;
 
 namespace {
 
@@ -95,11 +93,6 @@ int32_t HiddenNotices(int32_t flags) {
   return notices;
 }
 
-void HideNotices(int32_t notices) {
-  Settings.Notices &= ~notices;
-  if (NoticesChanged) NoticesChanged();
-}
-
 class MessageBox : public QDialog {
  public:
   explicit MessageBox(QWidget* parent) : QDialog(parent), call_(Message) {
@@ -123,15 +116,15 @@ class MessageBox : public QDialog {
     if (result() == Accepted && cmbUser_ != nullptr) {
       Message.MsgInput = Typed(cmbUser_->currentText());
     }
-    if (chkHide_ != nullptr && chkHide_->isChecked()) HideNotices(notices_);
+    if (chkHide_ != nullptr && chkHide_->isChecked()) Settings.Notices &= ~notices_;
     CreditMessageTime();
-    if (answer_.kind == HelpButton && OpenHelpTopic) OpenHelpTopic(call_.MsgHelpId);
+    if (answer_.kind == HelpButton) ShowHelp(parentWidget(), call_.MsgHelpId);
   }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_F1) {
-      if (call_.MsgHelpId != 0 && OpenHelpTopic) OpenHelpTopic(call_.MsgHelpId);
+      if (call_.MsgHelpId != 0) ShowHelp(this, call_.MsgHelpId);
     } else if (QPushButton* const button = ButtonOfLetter(event->text())) {
       button->click();
     } else {
@@ -263,20 +256,12 @@ class MessageBox : public QDialog {
   QCheckBox* chkHide_ = nullptr;
 };
 
-std::vector<QWidget*> OpenBoxes;
-
 }  // namespace
 
 void ShowMessageWindow(QWidget* parent) {
   MessageBox box(parent);
-  OpenBoxes.push_back(&box);
   RunDialog(box);
-  OpenBoxes.pop_back();
   box.LeaveAnswer();
-}
-
-QWidget* OpenMessageWindow() {
-  return OpenBoxes.empty() ? nullptr : OpenBoxes.back();
 }
 
 }  // namespace tessarel

@@ -10,8 +10,6 @@
 
 namespace tessarel {
 
-NewGameChoicesState NewGameChoices;
-
 namespace {
 
 // How a roll file goes on "as it is": the words of what it does now.
@@ -26,23 +24,22 @@ QString GoingOnCaption() {
 
 class NewGameWindow : public QDialog {
  public:
-  explicit NewGameWindow(QWidget* parent) : QDialog(parent) {
+  NewGameWindow(QWidget* parent, NewGameChoices& choices) : QDialog(parent), choices_(choices) {
     setObjectName(QStringLiteral("frmNew"));
     DressWindow(*this, Shown(Text::NewGameTitle));
     QVBoxLayout* const column = MakeColumn(*this);
     column->addWidget(MakeHeading(Shown(Text::AskWhatToKeep)));
     column->addSpacing(LookStep(1));
-    const NewGameChoicesState& last = NewGameChoices;
-    chkPreserveCheckstacks_ =
-        AddBox(column, "chkPreserveCheckstacks", Text::KeepCheckStacks, last.PreserveCheckstacks);
+    chkPreserveCheckstacks_ = AddBox(column, "chkPreserveCheckstacks", Text::KeepCheckStacks,
+                                     choices_.PreserveCheckstacks);
     chkPreservePrevSessions_ = AddBox(column, "chkPreservePrevSessions", Text::KeepPreviousSessions,
-                                      last.PreservePrevSessions);
+                                      choices_.PreservePrevSessions);
     chkPreserveSessionsLogs_ = AddBox(column, "chkPreserveSessionsLogs", Text::KeepSessionsLogs,
-                                      last.PreserveSessionsLogs);
+                                      choices_.PreserveSessionsLogs);
     chkPreserveAutoBets_ =
-        AddBox(column, "chkPreserveAutoBets", Text::KeepAutoBets, last.PreserveAutoBets);
-    chkPreserveDiceRollFile_ =
-        AddBox(column, "chkPreserveDiceRollFile", Text::KeepRollFile, last.PreserveDiceRollFile);
+        AddBox(column, "chkPreserveAutoBets", Text::KeepAutoBets, choices_.PreserveAutoBets);
+    chkPreserveDiceRollFile_ = AddBox(column, "chkPreserveDiceRollFile", Text::KeepRollFile,
+                                      choices_.PreserveDiceRollFile);
     AddRollFileUses(column);
     QHBoxLayout* const row = AddButtonRow(column);
     QPushButton* const cmdOK = AddButton(row, Shown(Text::StartSession), [this] { accept(); });
@@ -54,13 +51,13 @@ class NewGameWindow : public QDialog {
 
   // What is chosen of a roll file stays as it was when none is open.
   void KeepChoices() const {
-    NewGameChoices.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
-    NewGameChoices.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
-    NewGameChoices.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
-    NewGameChoices.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
+    choices_.PreserveCheckstacks = chkPreserveCheckstacks_->isChecked();
+    choices_.PreservePrevSessions = chkPreservePrevSessions_->isChecked();
+    choices_.PreserveSessionsLogs = chkPreserveSessionsLogs_->isChecked();
+    choices_.PreserveAutoBets = chkPreserveAutoBets_->isChecked();
     if (!hasRollFile_) return;
-    NewGameChoices.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
-    NewGameChoices.Rewind = optRewind_->isChecked();
+    choices_.PreserveDiceRollFile = chkPreserveDiceRollFile_->isChecked();
+    choices_.Rewind = optRewind_->isChecked();
   }
 
  private:
@@ -90,7 +87,7 @@ class NewGameWindow : public QDialog {
     auto* const uses = new QVBoxLayout;
     uses->setContentsMargins(LookStep(6), 0, 0, 0);
     uses->setSpacing(LookStep(2));
-    const bool rewinds = NewGameChoices.Rewind;
+    const bool rewinds = choices_.Rewind;
     optRewind_ = AddUse(uses, "optRewind", Shown(Text::RewindAndPlay), rewinds);
     QRadioButton* const optContinue = AddUse(uses, "optContinue", GoingOnCaption(), !rewinds);
     column->addLayout(uses);
@@ -102,13 +99,14 @@ class NewGameWindow : public QDialog {
     QObject::connect(chkPreserveDiceRollFile_, &QCheckBox::toggled, this, enableUses);
   }
 
+  NewGameChoices& choices_;
   const bool hasRollFile_ = !tessarel::RollFile.RollFileName.empty();
   QCheckBox *chkPreserveCheckstacks_, *chkPreservePrevSessions_, *chkPreserveSessionsLogs_,
       *chkPreserveAutoBets_, *chkPreserveDiceRollFile_;
   QRadioButton* optRewind_;
 };
 
-NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
+NewGameAnswer AnswerOf(const NewGameChoices& choices) {
   NewGameAnswer answer;
   answer.keepScripts = choices.PreserveAutoBets;
   answer.options.keepSessions = choices.PreservePrevSessions ? 1 : 0;
@@ -123,11 +121,11 @@ NewGameAnswer AnswerOf(const NewGameChoicesState& choices) {
 
 }  // namespace
 
-std::optional<NewGameAnswer> AskNewGame(QWidget* parent) {
-  NewGameWindow window(parent);
+std::optional<NewGameAnswer> AskNewGame(QWidget* parent, NewGameChoices& choices) {
+  NewGameWindow window(parent, choices);
   if (RunDialog(window) != QDialog::Accepted) return std::nullopt;
   window.KeepChoices();
-  return AnswerOf(NewGameChoices);
+  return AnswerOf(choices);
 }
 
 }  // namespace tessarel

@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QTimerEvent>
-#include <deque>
 
 #include "base/clock.h"
 #include "base/number_format.h"
@@ -18,35 +17,28 @@ namespace {
 constexpr int64_t Window = 500, Shortest = 100, Longest = 2000;  // milliseconds
 constexpr int RepaintMilliseconds = 100;
 
-struct Sample {
-  int64_t time;
-  int32_t rolls;
-};
-
-std::deque<Sample> Samples;
-
-// Drops what lies before the half second, but for the one sample that begins it.
-void DropOldSamples(const Sample& now) {
-  const auto isUseless = [&now] {
-    const bool otherCount = Samples.front().rolls > now.rolls || Samples.front().time > now.time;
-    if (otherCount || now.time - Samples.front().time > Longest) return true;
-    return Samples.size() > 1 && now.time - Samples[1].time >= Window;
-  };
-  while (!Samples.empty() && isUseless())
-    Samples.pop_front();
-}
-
 }  // namespace
 
-double RollRate() {
+// Drops what lies before the half second, but for the one sample that begins it.
+void RollRate::DropOldSamples(const Sample& now) {
+  const auto isUseless = [this, &now] {
+    const bool otherCount = samples_.front().rolls > now.rolls || samples_.front().time > now.time;
+    if (otherCount || now.time - samples_.front().time > Longest) return true;
+    return samples_.size() > 1 && now.time - samples_[1].time >= Window;
+  };
+  while (!samples_.empty() && isUseless())
+    samples_.pop_front();
+}
+
+double RollRate::PerSecond() {
   const Sample now{TickMilliseconds(), RollsInSession()};
   DropOldSamples(now);
-  if (Samples.empty() || now.time - Samples.back().time >= RepaintMilliseconds / 4) {
-    Samples.push_back(now);
+  if (samples_.empty() || now.time - samples_.back().time >= RepaintMilliseconds / 4) {
+    samples_.push_back(now);
   }
-  const int64_t elapsed = now.time - Samples.front().time;
+  const int64_t elapsed = now.time - samples_.front().time;
   if (elapsed < Shortest) return 0;
-  return 1000.0 * (now.rolls - Samples.front().rolls) / static_cast<double>(elapsed);
+  return 1000.0 * (now.rolls - samples_.front().rolls) / static_cast<double>(elapsed);
 }
 
 QString RollRateText(double rate) {
@@ -63,9 +55,9 @@ QSize HyperDriveMeter::sizeHint() const {
   return {metrics.horizontalAdvance(widest) + 4, metrics.height() + 2};
 }
 
-QString HyperDriveMeter::Text() const {
+QString HyperDriveMeter::Text() {
   if (!Table.HyperDriveOn) return {};
-  const QString rate = RollRateText(RollRate());
+  const QString rate = RollRateText(rate_.PerSecond());
   if (rate.isEmpty()) return {};
   return Shown(Say(Text::RollsPerSecondRate, Typed(rate)));
 }

@@ -3,18 +3,12 @@
 #include <QActionGroup>
 #include <QColorDialog>
 #include <QContextMenuEvent>
-#include <QLabel>
-#include <QMenuBar>
 #include <QPainter>
 #include <QPointer>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QSlider>
 #include <QTimerEvent>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <array>
-#include <functional>
 
 #include "play/auto_roll.h"
 #include "play/roll_pace.h"
@@ -24,71 +18,20 @@
 #include "stats/view_text.h"
 #include "texts/say.h"
 #include "ui/text.h"
-#include "ui/windows/console_options.h"
-#include "ui/windows/rate_meter.h"
-#include "ui/windows/roll_pad.h"
-#include "ui/windows/small_window.h"
 
 namespace tessarel {
 
 namespace {
+
+constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
 constexpr std::array DisplayCaptions = {Text::DisplayBasic, Text::DisplayTriangle, Text::DisplayBox,
                                         Text::DisplaySingleDice};
 constexpr std::array ButtonColorCaptions = {Text::ButtonColorNumbers,  Text::ButtonColorSeven,
                                             Text::ButtonColorCraps,    Text::ButtonColorEleven,
                                             Text::ButtonColorHardWays, Text::ButtonColorSingle};
-constexpr int LookMilliseconds = 250;  // between two looks at what may have changed
 
-// Numbers of the general text table.
-
-class RollConsole : public FloatingWindow {
- public:
-  explicit RollConsole(QWidget* parent);
-  ~RollConsole() override;
-  void Refresh() override;
-
- protected:
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
-  void timerEvent(QTimerEvent* event) override;
-
- private:
-  // What is looked at between two calls of Refresh.
-  struct Seen {
-    int32_t Rolls = -1, AutoRollOn = false, HyperDriveOn = false, Throttle = 0;
-    friend bool operator==(const Seen&, const Seen&) = default;
-  };
-
-  void AddDisplayMenu();
-  void AddColorMenu();
-  void AddRollMenu();
-  void LayOut();
-  QAction* AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides);
-  void ShowChange();
-  void PickColor(RollKind kind);
-  template <class Action>
-  void Run(Action action);
-  void RefreshCaptions();
-  void RefreshColorIcons();
-  void RefreshFigures();
-  void FitToDisplay();
-
-  QMenuBar* bar_;
-  QMenu *displayMenu_, *colorMenu_, *rollMenu_;
-  std::array<QAction*, RollPadDisplays> mnuRYONDisplay_{};
-  std::array<QAction*, RollKinds> mnuButtonColor_{};
-  QAction *mnuRollCounter_, *mnuHyperDriveButton_, *mnuRandomButton_, *mnuHide_, *defaultColors_;
-  QAction *rollAtRandom_, *hyperDrive_, *mnuSetAutoStop_, *mnuSetAutoRollTimeDelay_;
-  RollPad* pad_;
-  QLabel *hint_, *throttleCaption_, *throttleValue_, *lblRollCounter_;
-  QPushButton *cmdRandomRoll_, *cmdHyperDrive_;
-  QSlider* hsbThrottle_;
-  HyperDriveMeter* meter_;
-  QBasicTimer timer_;
-  Seen seen_;
-};
+}  // namespace
 
 RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces::RollConsole) {
   setObjectName("frmRYON");
@@ -110,9 +53,10 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces
   AddDisplayMenu();
   AddRollMenu();
   LayOut();
-  pad_->OnRoll = [this](Faces faces) { Run([faces] { RollChosen(faces); }); };
-  pad_->OnStop = [this] { Run(StopAutoRoll); };
-  pad_->OnHint = [this](const QString& hint) { hint_->setText(hint); };
+  connect(pad_, &RollPad::Chosen, this,
+          [this](Faces faces) { Run([faces] { RollChosen(faces); }); });
+  connect(pad_, &RollPad::StopChosen, this, [this] { Run(StopAutoRoll); });
+  connect(pad_, &RollPad::HintChanged, hint_, &QLabel::setText);
   connect(cmdRandomRoll_, &QPushButton::clicked, this, [this] { Run(RollAtRandom); });
   connect(cmdHyperDrive_, &QPushButton::clicked, this, [this] { Run([] { ToggleAutoRoll(); }); });
   connect(hsbThrottle_, &QSlider::valueChanged, this, [this](int position) {
@@ -125,9 +69,7 @@ RollConsole::RollConsole(QWidget* parent) : FloatingWindow(parent, &WindowPlaces
 
 // The pad may still lose the focus while the window below this one goes.
 RollConsole::~RollConsole() {
-  pad_->OnRoll = nullptr;
-  pad_->OnStop = nullptr;
-  pad_->OnHint = nullptr;
+  pad_->disconnect(this);
 }
 
 void RollConsole::AddDisplayMenu() {
@@ -343,12 +285,6 @@ void RollConsole::hideEvent(QHideEvent*) {
 void RollConsole::timerEvent(QTimerEvent*) {
   const Seen now{RollsInSession(), Table.AutoRollOn, Table.HyperDriveOn, Settings.Throttle};
   if (now != seen_) RefreshFigures();
-}
-
-}  // namespace
-
-QWidget* MakeRollConsole(QWidget* parent) {
-  return new RollConsole(parent);
 }
 
 }  // namespace tessarel

@@ -1,35 +1,70 @@
-// The roll-your-own-numbers console, the window of the dice and the status box: the small windows
-// that float over the table.
+// The floating panel "Dice Rolls", on which the user picks the outcome of the next roll. It keeps
+// its display, options and colours with the game.
 #pragma once
 
-#include <QString>
-#include <QWidget>
+#include <QAction>
+#include <QBasicTimer>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSlider>
+#include <array>
+#include <cstdint>
+
+#include "ui/windows/console_options.h"
+#include "ui/windows/rate_meter.h"
+#include "ui/windows/roll_pad.h"
+#include "ui/windows/small_window.h"
 
 namespace tessarel {
 
-// The floating panel "Dice Rolls", on which the user picks the outcome of the next roll. It keeps
-// its display, options and colours in GameViews.
-QWidget* MakeRollConsole(QWidget* parent);
+class RollConsole : public FloatingWindow {
+  Q_OBJECT
+ public:
+  explicit RollConsole(QWidget* parent);
+  ~RollConsole() override;
+  void Refresh() override;
 
-// The last roll in words, as the stick calls it: "Eight the hard way".
-QString DiceCall();
+ protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
 
-// The window in which the dice are shown with DiceAction 3.
-QWidget* MakeDiceWindow(QWidget* parent);
+ private:
+  // What is looked at between two calls of Refresh.
+  struct Seen {
+    int32_t Rolls = -1, AutoRollOn = false, HyperDriveOn = false, Throttle = 0;
+    friend bool operator==(const Seen&, const Seen&) = default;
+  };
 
-// Shows a moment of the throw in the window of the dice: `phase` from 0 (thrown) to 1 (at rest).
-void ShowThrow(QWidget* diceWindow, double phase);
+  void AddDisplayMenu();
+  void AddColorMenu();
+  void AddRollMenu();
+  void LayOut();
+  QAction* AddSwitch(QMenu* menu, const char* name, bool RollConsoleOptions::*hides);
+  void ShowChange();
+  void PickColor(RollKind kind);
+  template <class Action>
+  void Run(Action action);
+  void RefreshCaptions();
+  void RefreshColorIcons();
+  void RefreshFigures();
+  void FitToDisplay();
 
-// The box with every player's bankroll, rail, bets and win or loss, in three sizes
-// (GameViews.Table.StatusBoxSize). It lies within its parent and can be dragged there; the right
-// button and the wheel go to the parent.
-QWidget* MakeStatusBox(QWidget* parent);
-
-// Bring each of them up to date: new language, new figures, a changed dice picture.
-void RefreshSmallWindow(QWidget* window);
-
-// Shows the console or the window of the dice as GameViews says, as after loading a game: open or
-// closed, and where it was left.
-void RestoreSmallWindow(QWidget* window);
+  QMenuBar* bar_;
+  QMenu *displayMenu_, *colorMenu_, *rollMenu_;
+  std::array<QAction*, RollPadDisplays> mnuRYONDisplay_{};
+  std::array<QAction*, RollKinds> mnuButtonColor_{};
+  QAction *mnuRollCounter_, *mnuHyperDriveButton_, *mnuRandomButton_, *mnuHide_, *defaultColors_;
+  QAction *rollAtRandom_, *hyperDrive_, *mnuSetAutoStop_, *mnuSetAutoRollTimeDelay_;
+  RollPad* pad_;
+  QLabel *hint_, *throttleCaption_, *throttleValue_, *lblRollCounter_;
+  QPushButton *cmdRandomRoll_, *cmdHyperDrive_;
+  QSlider* hsbThrottle_;
+  HyperDriveMeter* meter_;
+  QBasicTimer timer_;
+  Seen seen_;
+};
 
 }  // namespace tessarel

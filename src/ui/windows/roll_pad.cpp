@@ -157,19 +157,19 @@ int RollPad::WidestHint(const QFontMetrics& metrics) {
 }
 
 void RollPad::TellHint() {
-  if (OnHint) OnHint(HintText());
+  Q_EMIT HintChanged(HintText());
 }
 
-// The call is the last thing done: the roll may take long, and the window may be gone after it.
+// The signal is the last thing done: the roll may take long, and the window may be gone after it.
 void RollPad::Choose(int index) {
   if (RollPadStopsRun()) {
-    if (OnStop) OnStop();
+    Q_EMIT StopChosen();
     return;
   }
   const auto faces = choice_.Take(grid_.Cells[static_cast<size_t>(index)]);
   update();
   TellHint();
-  if (faces && OnRoll) OnRoll(*faces);
+  if (faces) Q_EMIT Chosen(*faces);
 }
 
 void RollPad::Mark(int index) {

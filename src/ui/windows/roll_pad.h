@@ -3,22 +3,15 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 
 #include "play/manual_roll.h"
 
 namespace tessarel {
 
 class RollPad : public QWidget {
+  Q_OBJECT
  public:
   explicit RollPad(QWidget* parent);
-
-  // Called with the faces of a complete choice.
-  std::function<void(Faces)> OnRoll;
-  // Called instead while a run is in progress.
-  std::function<void()> OnStop;
-  // Called with what a click at the pointer or on the marked cell would do.
-  std::function<void(const QString&)> OnHint;
 
   void SetDisplay(RollPadDisplay display);
   const RollPadGrid& Grid() const { return grid_; }
@@ -31,6 +24,12 @@ class RollPad : public QWidget {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+
+ Q_SIGNALS:
+  void Chosen(Faces faces);  // a complete choice
+  void StopChosen();         // instead while a run is in progress
+  // What a click at the pointer or on the marked cell would do.
+  void HintChanged(const QString& hint);
 
  protected:
   bool event(QEvent* event) override;

@@ -4,7 +4,6 @@
 #include <QScreen>
 
 #include "state/table.h"
-#include "ui/windows/roll_console.h"
 
 namespace tessarel {
 
@@ -60,14 +59,6 @@ void FloatingWindow::TakePlace() {
 void FloatingWindow::KeepPlace() const {
   if (!isVisible() || isMinimized()) return;
   Kept() = {Kept().State, x(), y(), width(), height()};
-}
-
-void RefreshSmallWindow(QWidget* window) {
-  if (auto* small = dynamic_cast<SmallWindow*>(window)) small->Refresh();
-}
-
-void RestoreSmallWindow(QWidget* window) {
-  if (auto* floating = dynamic_cast<FloatingWindow*>(window)) floating->Restore();
 }
 
 }  // namespace tessarel

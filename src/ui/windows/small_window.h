@@ -9,6 +9,7 @@
 namespace tessarel {
 
 class SmallWindow : public QWidget {
+  Q_OBJECT
  public:
   using QWidget::QWidget;
   // Shows the language, figures and settings now in force.
@@ -18,6 +19,7 @@ class SmallWindow : public QWidget {
 // A window that stays above its parent's. Shown, it stands where it was left, if that place is on a
 // screen; moved, resized, shown or hidden, it writes that place.
 class FloatingWindow : public SmallWindow {
+  Q_OBJECT
  public:
   FloatingWindow(QWidget* parent, WindowPlace WindowPlaces::*place);
 

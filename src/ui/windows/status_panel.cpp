@@ -1,19 +1,16 @@
-// The status box on the table: a block of figures for each player, drawn as text on a dark plate.
+#include "ui/windows/status_panel.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <array>
-#include <vector>
 
 #include "state/table.h"
 #include "state/view_state.h"
-#include "stats/status_box.h"
 #include "texts/say.h"
 #include "ui/paint/check_paint.h"
 #include "ui/text.h"
-#include "ui/windows/roll_console.h"
 #include "ui/windows/small_die.h"
-#include "ui/windows/small_window.h"
 
 namespace tessarel {
 
@@ -27,43 +24,20 @@ const QColor Plate(0x12, 0x16, 0x1E, 0xE6), PlateEdge(0x46, 0x4E, 0x5C);
 const QColor NameInk(0xFF, 0xFF, 0xFF), CaptionInk(0xB9, 0xC2, 0xCF), FigureInk(0xF2, 0xF4, 0xF7);
 const QColor WonInk(0x5F, 0xD6, 0xC4), LostInk(0xFF, 0xA9, 0x4F);
 
-struct Block {
-  int Place = 0;
-  bool Shoots = false;
-  std::string Name;
-  std::vector<StatusRow> Rows;
-};
+// Up for a win, down for a loss, beside the sign and the colour.
+void PaintArrow(QPainter& painter, const QRectF& box, int sign) {
+  const double tip = sign > 0 ? box.top() : box.bottom(),
+               foot = sign > 0 ? box.bottom() : box.top();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(sign > 0 ? WonInk : LostInk);
+  painter.drawPolygon(
+      QPolygonF({{box.left(), foot}, {box.right(), foot}, {box.center().x(), tip}}));
+  painter.restore();
+}
 
-class StatusPanel : public SmallWindow {
- public:
-  explicit StatusPanel(QWidget* parent);
-  void Refresh() override;
-  QSize sizeHint() const override;
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
- private:
-  QFont BlockFont(bool bold) const;
-  int LineHeight() const;
-  int BlockWidth() const;
-  int BlockHeight() const;
-  int Columns() const;
-  int RowsOfBlocks() const;
-  void MoveWithin(QPoint corner);
-  void PaintBlock(QPainter& painter, const Block& block, QPoint corner) const;
-  void PaintName(QPainter& painter, const Block& block, const QRect& line) const;
-  void PaintRow(QPainter& painter, const StatusRow& row, const QRect& line) const;
-
-  std::vector<Block> blocks_;
-  QPoint held_;
-  bool dragging_ = false;
-};
+}  // namespace
 
 StatusPanel::StatusPanel(QWidget* parent) : SmallWindow(parent) {
   setObjectName("picStatus");
@@ -189,19 +163,6 @@ void StatusPanel::PaintName(QPainter& painter, const Block& block, const QRect& 
   PaintSmallDie(painter, corner, die, 5, red);
 }
 
-// Up for a win, down for a loss, beside the sign and the colour.
-void PaintArrow(QPainter& painter, const QRectF& box, int sign) {
-  const double tip = sign > 0 ? box.top() : box.bottom(),
-               foot = sign > 0 ? box.bottom() : box.top();
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(sign > 0 ? WonInk : LostInk);
-  painter.drawPolygon(
-      QPolygonF({{box.left(), foot}, {box.right(), foot}, {box.center().x(), tip}}));
-  painter.restore();
-}
-
 void StatusPanel::PaintRow(QPainter& painter, const StatusRow& row, const QRect& line) const {
   painter.setFont(BlockFont(false));
   painter.setPen(CaptionInk);
@@ -247,12 +208,6 @@ void StatusPanel::paintEvent(QPaintEvent*) {
                         Padding + row * BlockHeight());
     PaintBlock(painter, blocks_[static_cast<size_t>(k)], corner);
   }
-}
-
-}  // namespace
-
-QWidget* MakeStatusBox(QWidget* parent) {
-  return new StatusPanel(parent);
 }
 
 }  // namespace tessarel
