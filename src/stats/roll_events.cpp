@@ -64,23 +64,23 @@ constexpr std::array<RollEvent, LastRollEvent + 1> Events = {{
 constexpr std::optional<CheckedText<1>> GroupName(int code) {
   switch (code) {
     case 17:
-      return Text::EventPointNumbers;
+      return CheckedText<1>(Text::EventPointNumbers);
     case 18:
-      return Text::EventInsideNumbers;
+      return CheckedText<1>(Text::EventInsideNumbers);
     case 19:
-      return Text::EventOutsideNumbers;
+      return CheckedText<1>(Text::EventOutsideNumbers);
     case 20:
-      return Text::EventCraps;
+      return CheckedText<1>(Text::EventCraps);
     case 21:
-      return Text::EventField;
+      return CheckedText<1>(Text::EventField);
     case 65:
-      return Text::EventComeOutDecisions;
+      return CheckedText<1>(Text::EventComeOutDecisions);
     case 66:
-      return Text::EventHorn;
+      return CheckedText<1>(Text::EventHorn);
     case 67:
-      return Text::EventLowPoints;
+      return CheckedText<1>(Text::EventLowPoints);
     case 68:
-      return Text::EventHighPoints;
+      return CheckedText<1>(Text::EventHighPoints);
     default:
       return std::nullopt;
   }

@@ -74,21 +74,15 @@ TEST_F(FileIo, RefusesWhatIsNoOrdinaryFile) {
   WriteFileAtomically(name_, "12345");
   const std::string withNull = name_ + std::string("\0x", 2);
 
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically(folder_.Path(), "x"); }), access);
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically(pipe, "x"); }), access);
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically(folder_.Path() + "none/x", "x"); }), access);
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically(name_ + "/x", "x"); }), access);
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically("", "x"); }), access);
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically(withNull, "x"); }), access);
-  EXPECT_EQ(FaultOf([&] { WriteFileAtomically("/dev/null", "x"); }), access);
-
-  EXPECT_EQ(FaultOf([&] { ReadWholeFile(folder_.Path(), Plenty); }), access);
-  EXPECT_EQ(FaultOf([&] { ReadWholeFile(pipe, Plenty); }), access);
-  EXPECT_EQ(FaultOf([&] { ReadWholeFile("/dev/zero", Plenty); }), access);
+  for (const std::string& name : {folder_.Path(), pipe, folder_.Path() + "none/x", name_ + "/x",
+                                  std::string(), withNull, std::string("/dev/null")})
+    EXPECT_EQ(FaultOf([&] { WriteFileAtomically(name, "x"); }), access) << name;
+  for (const std::string& name : {folder_.Path(), pipe, std::string("/dev/zero")})
+    EXPECT_EQ(FaultOf([&] { ReadWholeFile(name, Plenty); }), access) << name;
+  for (const std::string& name : {name_ + "x", withNull})
+    EXPECT_EQ(FaultOf([&] { ReadWholeFile(name, Plenty); }), notFound) << name;
   EXPECT_EQ(FaultOf([&] { ReadWholeFile(name_, 4); }), access);
   EXPECT_EQ(FaultOf([&] { ReadWholeFile(name_, 5); }), 0);
-  EXPECT_EQ(FaultOf([&] { ReadWholeFile(name_ + "x", Plenty); }), notFound);
-  EXPECT_EQ(FaultOf([&] { ReadWholeFile(withNull, Plenty); }), notFound);
   EXPECT_EQ(FaultOf([&] { DeleteFileIfPresent(folder_.Path()); }), access);
   EXPECT_EQ(ReadWholeFile(name_, Plenty), "12345");
 }

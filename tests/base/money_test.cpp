@@ -39,20 +39,17 @@ TEST(Money, WhatDoesNotFitRaisesTheOverflowFault) {
 
 TEST(Money, FromDoubleRoundsHalfToEven) {
   // Binary fractions that lie exactly between two amounts.
-  const std::pair<double, int64_t> cases[] = {
-      {0.00005, 0},
-      {0.03125, 312},
-      {0.09375, 938},
-      {-0.03125, -312},
-      {-0.09375, -938},
-      {1.0, 10'000},
-      {0.1 + 0.2, 3'000},
-      {922e12, 9'220'000'000'000'000'000},
-      {-0x1p63 / 10'000, INT64_MIN},
-  };
-  for (const auto& [value, raw] : cases) {
+  const std::pair<double, int64_t> cases[] = {{0.00005, 0},
+                                              {0.03125, 312},
+                                              {0.09375, 938},
+                                              {-0.03125, -312},
+                                              {-0.09375, -938},
+                                              {1.0, 10'000},
+                                              {0.1 + 0.2, 3'000},
+                                              {922e12, 9'220'000'000'000'000'000},
+                                              {-0x1p63 / 10'000, INT64_MIN}};
+  for (const auto& [value, raw] : cases)
     EXPECT_EQ(Money::FromDouble(value).Raw(), raw) << value;
-  }
   constexpr double Infinity = std::numeric_limits<double>::infinity();
   for (const double value : {0x1p63 / 10'000, -1e15, Infinity, -Infinity, Infinity - Infinity}) {
     EXPECT_EQ(FaultOf([&] { Money::FromDouble(value); }), OverflowFault) << value;
@@ -103,9 +100,8 @@ TEST(Money, PlainTextComesBack) {
 TEST(Money, OtherSpellingsAreReadOrRefused) {
   const std::pair<const char*, int64_t> good[] = {
       {"+5", 50'000}, {".5", 5'000}, {"5.", 50'000}, {"-.0001", -1}, {"0005.1000", 51'000}};
-  for (const auto& [text, raw] : good) {
+  for (const auto& [text, raw] : good)
     EXPECT_EQ(ParseMoney(text), Money::FromRaw(raw)) << text;
-  }
   for (const char* text :
        {"", "-", ".", "-.", "1.00000", "1.23456", "1.2.3", "1,000", " 1", "1 ", "--1", "1e3", "x",
         "922337203685477.5808", "-922337203685477.5809", "99999999999999999999"}) {
@@ -119,9 +115,8 @@ TEST(Money, TypedAmountsMayLookAsTheyAreShown) {
                                                   {"-$500", -500},
                                                   {"$-9,999,999.00", -9'999'999},
                                                   {"12", 12}};
-  for (const auto& [text, whole] : good) {
+  for (const auto& [text, whole] : good)
     EXPECT_EQ(ParseTypedMoney(text), Money::FromWhole(whole)) << text;
-  }
   for (const char* text : {"", "$", "0,5", "1,5", "1,00", "1000,000", ",500", "1,0000", "1,000,",
                            "1.5,000", "5$", "1,000 000", "1,00.5"}) {
     EXPECT_EQ(ParseTypedMoney(text), std::nullopt) << text;

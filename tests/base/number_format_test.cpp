@@ -25,28 +25,18 @@ constexpr PatternCase PatternCases[] = {
     {"#", "1234568", "-1235", "1", "2", "1000", "", ""},
     {"0", "1234568", "-1235", "1", "2", "1000", "0", "0"},
     {"00", "1234568", "-1235", "01", "02", "1000", "00", "00"},
-    {"00.0", "1234567.9", "-1234.5", "00.5", "02.0", "1000.0", "00.0", "00.0"},
     {"0%", "123456790%", "-123450%", "50%", "200%", "100000%", "0%", "0%"},
     {"0.00", "1234567.90", "-1234.50", "0.50", "2.00", "1000.00", "0.00", "0.00"},
-    {"0.0###", "1234567.895", "-1234.5", "0.5", "2.0", "999.995", "0.0", "0.0"},
     {"#.##", "1234567.9", "-1234.5", ".5", "2.", "1000.", ".", "."},
     {"#,#", "1,234,568", "-1,235", "1", "2", "1,000", "", ""},
     {" #,#;-#,#", " 1,234,568", "-1,235", " 1", " 2", " 1,000", " ", " "},
-    {"#,#;-#,#;0", "1,234,568", "-1,235", "1", "2", "1,000", "0", "0"},
-    {"#,#.##;-#,#.##;0", "1,234,567.9", "-1,234.5", ".5", "2.", "1,000.", "0", "0"},
     {"#,#.00;-#,#;0", "1,234,567.90", "-1,235", ".50", "2.00", "1,000.00", "0", "0"},
-    {"#,#.00;-#,#.00;0.00", "1,234,567.90", "-1,234.50", ".50", "2.00", "1,000.00", "0.00", "0.00"},
     {"#,#.00##;-#,#.00##;0.00", "1,234,567.895", "-1,234.50", ".50", "2.00", "999.995", "0.00", "0.00"},
-    {"#,0.####", "1,234,567.895", "-1,234.5", "0.5", "2.", "999.995", "0.", "0."},
     {"#,0.####;-#,0.####;0", "1,234,567.895", "-1,234.5", "0.5", "2.", "999.995", "0", "0"},
     {"#,0.0#######;-#,0.0#######;0", "1,234,567.895", "-1,234.5", "0.5", "2.0", "999.995", "0", "0"},
-    {"#,0.0##;-#,#;0", "1,234,567.895", "-1,235", "0.5", "2.0", "999.995", "0", "0"},
-    {"#,0.0#%;-#,#%;0%", "123,456,789.5%", "-123,450%", "50.0%", "200.0%", "99,999.5%", "0%", "0%"},
     {"#,0.0#%;;0%", "123,456,789.5%", "-123,450.0%", "50.0%", "200.0%", "99,999.5%", "0%", "0%"},
     {"#,0.0%;-#,#%;0%", "123,456,789.5%", "-123,450%", "50.0%", "200.0%", "99,999.5%", "0%", "0%"},
     {"#,0.0#;-#,0.0#;0", "1,234,567.9", "-1,234.5", "0.5", "2.0", "1,000.0", "0", "0"},
-    {"#,0.00;-#,#;0", "1,234,567.90", "-1,235", "0.50", "2.00", "1,000.00", "0", "0"},
-    {"#,0.00;-#,0.00;0", "1,234,567.90", "-1,234.50", "0.50", "2.00", "1,000.00", "0", "0"},
     {"#,0.00;-#,0.00;0.00", "1,234,567.90", "-1,234.50", "0.50", "2.00", "1,000.00", "0.00", "0.00"},
     {"#.######;-#.######;0.000", "1234567.895", "-1234.5", ".5", "2.", "999.995", "0.000", "0.000"},
     {"0.########;-0.########,0", "1234567.895", "-1234.500000000", "0.5", "2.", "999.995", "0.", "0."},
@@ -69,14 +59,11 @@ TEST(NumberFormat, PatternsInUse) {
 }
 
 TEST(NumberFormat, TiesLeaveZeroOnTheDecimalDigits) {
-  const struct {
-    double Value;
-    const char* Text;
-  } cases[] = {{1.005, "1.01"},   {-1.005, "-1.01"}, {2.675, "2.68"},       {0.005, "0.01"},
-               {0.00499, "0.00"}, {-0.004, "0.00"},  {99.9949999, "99.99"}, {0.1 + 0.2, "0.30"}};
-  for (const auto& row : cases) {
-    EXPECT_EQ(FormatNumber(row.Value, "0.00"), row.Text) << row.Value;
-  }
+  const std::pair<double, const char*> cases[] = {
+      {1.005, "1.01"},   {-1.005, "-1.01"}, {2.675, "2.68"},       {0.005, "0.01"},
+      {0.00499, "0.00"}, {-0.004, "0.00"},  {99.9949999, "99.99"}, {0.1 + 0.2, "0.30"}};
+  for (const auto& [value, text] : cases)
+    EXPECT_EQ(FormatNumber(value, "0.00"), text) << value;
 }
 
 TEST(NumberFormat, ExtremeNumbers) {
@@ -95,13 +82,14 @@ TEST(NumberFormat, ExtremeNumbers) {
 }
 
 TEST(NumberFormat, OddPatternsKeepTheirLiterals) {
-  EXPECT_EQ(FormatNumber(1234.5, ".00"), "1234.50");
-  EXPECT_EQ(FormatNumber(123456, "00:00"), "1234:56");
-  EXPECT_EQ(FormatNumber(7, "00:00"), "00:07");
-  EXPECT_EQ(FormatNumber(1234, "0,000,000"), "0,001,234");
-  EXPECT_EQ(FormatNumber(5, "none; less; zero"), "none");
-  EXPECT_EQ(FormatNumber(0.25, "<0.0.0>"), "<0.25>");
-  EXPECT_EQ(FormatNumber(3, ""), "");
+  // clang-format off
+  const std::tuple<double, const char*, const char*> cases[] = {
+      {1234.5, ".00", "1234.50"}, {123456, "00:00", "1234:56"}, {7, "00:00", "00:07"},
+      {1234, "0,000,000", "0,001,234"}, {5, "none; less; zero", "none"},
+      {0.25, "<0.0.0>", "<0.25>"}, {3, "", ""}};
+  // clang-format on
+  for (const auto& [value, pattern, text] : cases)
+    EXPECT_EQ(FormatNumber(value, pattern), text);
 }
 
 TEST(FormatMoney, DecimalsOnlyWhereThereAreAny) {
@@ -110,19 +98,13 @@ TEST(FormatMoney, DecimalsOnlyWhereThereAreAny) {
       {12500, "1.25"}, {5000, ".50"}, {-12345, "-1.2345"}, {12345678901, "1,234,567.8901"},
       {-1000, "-.10"},
   };
-  for (const auto& [raw, text] : cases) {
+  for (const auto& [raw, text] : cases)
     EXPECT_EQ(FormatMoney(Money::FromRaw(raw)), text);
-  }
 }
 
 TEST(MoneyKeyFilter, LetsThroughWhatMakesAnAmount) {
-  const struct {
-    char32_t Key;
-    int Decimals;
-    const char* Text;
-    size_t Caret, Selected;
-    bool Passes;
-  } cases[] = {
+  // The key, the decimals of the field, its text, the caret, how much is selected.
+  const std::tuple<char32_t, int, const char*, size_t, size_t, bool> cases[] = {
       {'7', 2, "", 0, 0, true},        {'7', 2, "12.34", 2, 0, true},
       {'7', 2, "12.34", 3, 0, false},  {'7', 2, "12.34", 5, 0, false},
       {'7', 2, "12.3", 4, 0, true},    {'7', 2, "12.34", 4, 1, true},
@@ -135,10 +117,9 @@ TEST(MoneyKeyFilter, LetsThroughWhatMakesAnAmount) {
       {'\r', 2, "1.23", 4, 0, true},   {0x7F, 0, "1", 0, 0, true},
       {'5', 2, "1", 99, 99, true},     {'.', 2, "12345", 1, 3, true},
   };
-  for (const auto& row : cases) {
-    EXPECT_EQ(MoneyKeyFilter(row.Key, row.Decimals, row.Text, row.Caret, row.Selected),
-              row.Passes ? row.Key : U'\0')
-        << static_cast<uint32_t>(row.Key) << " in " << row.Text << " at " << row.Caret;
+  for (const auto& [key, decimals, text, caret, selected, passes] : cases) {
+    EXPECT_EQ(MoneyKeyFilter(key, decimals, text, caret, selected), passes ? key : U'\0')
+        << static_cast<uint32_t>(key) << " in " << text << " at " << caret;
   }
 }
 

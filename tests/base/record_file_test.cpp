@@ -37,13 +37,16 @@ TEST(Record, SlotsAreLittleEndian) {
 TEST(Record, SlotsOutsideRaiseTheIndexFault) {
   Record record;
   const auto& reading = record;
-  EXPECT_EQ(FaultOf([&] { reading.Word(64); }), IndexFault);
-  EXPECT_EQ(FaultOf([&] { reading.Word(-1); }), IndexFault);
-  EXPECT_EQ(FaultOf([&] { record.PutWord(INT32_MAX, 1); }), IndexFault);
-  EXPECT_EQ(FaultOf([&] { reading.Amount(32); }), IndexFault);
-  EXPECT_EQ(FaultOf([&] { record.PutAmount(32, 1); }), IndexFault);
-  EXPECT_EQ(FaultOf([&] { reading.Short(128); }), IndexFault);
-  EXPECT_EQ(FaultOf([&] { record.PutShort(-1, 1); }), IndexFault);
+  constexpr std::array<int, 3> Outside[] = {
+      {64, 32, 128}, {-1, -1, -1}, {INT32_MAX, INT32_MAX, INT32_MAX}};
+  for (const auto& [word, amount, number] : Outside) {
+    EXPECT_EQ(FaultOf([&, slot = word] { reading.Word(slot); }), IndexFault);
+    EXPECT_EQ(FaultOf([&, slot = word] { record.PutWord(slot, 1); }), IndexFault);
+    EXPECT_EQ(FaultOf([&, slot = amount] { reading.Amount(slot); }), IndexFault);
+    EXPECT_EQ(FaultOf([&, slot = amount] { record.PutAmount(slot, 1); }), IndexFault);
+    EXPECT_EQ(FaultOf([&, slot = number] { reading.Short(slot); }), IndexFault);
+    EXPECT_EQ(FaultOf([&, slot = number] { record.PutShort(slot, 1); }), IndexFault);
+  }
   EXPECT_EQ(FaultOf([&] { reading.TextField(201, 56); }), IndexFault);
   EXPECT_EQ(FaultOf([&] { record.PutTextField(-1, 5, ""); }), IndexFault);
   EXPECT_EQ(FaultOf([&] { reading.TextField(0, -1); }), IndexFault);
@@ -109,7 +112,7 @@ TEST_F(RecordFiles, ComeBackAsSaved) {
   EXPECT_EQ(RecordFile::Load(name_).At(2).Word(0), 7);
 }
 
-TEST_F(RecordFiles, AShortLastRecordReadsAsZerosBehindItsEnd) {
+TEST_F(RecordFiles, AShortLastRecordReadsAsZerosAfterItsEnd) {
   WriteFileAtomically(name_, std::string(256, 'a') + "  short\x01");
   const RecordFile file = RecordFile::Load(name_);
   ASSERT_EQ(file.Count(), 2);

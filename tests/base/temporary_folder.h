@@ -6,6 +6,8 @@
 #include <stdlib.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "base/fault.h"
@@ -32,6 +34,14 @@ class TemporaryFolder {
     for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(path_))
       ++count;
     return count;
+  }
+  // The bytes of a file of the folder; names may be whole paths.
+  std::string Read(const std::string& name) const {
+    std::ifstream file(std::filesystem::path(path_) / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  void Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(std::filesystem::path(path_) / name, std::ios::binary) << bytes;
   }
 
  private:

@@ -2,7 +2,6 @@
 
 #include <set>
 
-#include "base/fault.h"
 #include "config/configuration_fixture.h"
 
 namespace tessarel {
@@ -24,63 +23,39 @@ void Store(PayoffRow& row, Money num, Money form, Money den) {
 }
 
 TEST_F(PayoffEditor, CaptionsAndNamesOfTheRows) {
-  struct {
+  const struct {
     PayoffCell Cell;
-    std::string Caption, Name;
-  } const cases[] = {
-      {Row(1), "Lay 4", "Lay 4"},
-      {Row(9), "DP/DC 6", "DP/DC 6"},
-      {Row(18), "DP/DC 10 Odds", "DP/DC 10 Odds"},
-      {Row(22), "Pass/Come 8", "Pass/Come 8"},
-      {Row(25), "Pass/Come 4 Odds", "Pass/Come 4 Odds"},
-      {Row(33), "Place 6", "Place 6"},
-      {Row(42), "Buy 10", "Buy 10"},
-      {Row(43), "Passline/Come (c.o.)", "Passline/Come (c.o.)"},
-      {Row(44), "Don't Pass/Come (c.o.)", "Don't Pass/Come (c.o.)"},
-      {Row(45), "Big 6", "Big 6"},
-      {Row(56), "Craps", "Craps"},
-      {Row(57), "Over 7", "Over 7"},
-      {Row(80), "Point 7", "Point 7"},
-      {Row(81), "7 Point 7", ""},
-      {Row(82), "      Comeout 7", "7 Point 7 Comeout 7"},
-      {Row(83), "      Point 7", "7 Point 7 Point 7"},
-      {Row(85), "      Hard 6", "Midway Hard 6"},
-      {Row(87), "      7", "Midway 7"},
-      {Row(92), "      1 point", "Sharp Shooter 1"},
+    std::string Caption, Name = {};  // the name is the caption where it is left out
+    // clang-format off
+  } cases[] = {
+      {Row(1), "Lay 4"}, {Row(9), "DP/DC 6"}, {Row(18), "DP/DC 10 Odds"}, {Row(22), "Pass/Come 8"},
+      {Row(25), "Pass/Come 4 Odds"}, {Row(42), "Buy 10"}, {Row(43), "Passline/Come (c.o.)"},
+      {Row(44), "Don't Pass/Come (c.o.)"}, {Row(57), "Over 7"}, {Row(80), "Point 7"},
+      {Row(81), "7 Point 7", "-"}, {Row(82), "      Comeout 7", "7 Point 7 Comeout 7"},
+      {Row(83), "      Point 7", "7 Point 7 Point 7"}, {Row(85), "      Hard 6", "Midway Hard 6"},
       {Row(101), "      10+ points", "Sharp Shooter 10+"},
-      {Row(104), "      1 pass", "Ride The Line 1"},
-      {Row(114), "      11+ passes", "Ride The Line 11+"},
-      {Row(115), "Fire", ""},
-      {Row(116), "      0 points", "Fire 0"},
-      {Row(122), "      6 points", "Fire 6"},
-      {FieldRow(3), "4    (1.3) (3.1)", "Field 1-3"},
-      {FieldRow(4), "4    (2.2)", "Field 2-2"},
-      {FieldRow(21), "12   (6.6)", "Field 6-6"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(PayoffCaption(c.Cell), c.Caption);
-    EXPECT_EQ(PayoffRowName(c.Cell), c.Name);
+      {Row(104), "      1 pass", "Ride The Line 1"}, {Row(115), "Fire", "-"},
+      {Row(122), "      6 points", "Fire 6"}, {FieldRow(3), "4    (1.3) (3.1)", "Field 1-3"},
+      {FieldRow(21), "12   (6.6)", "Field 6-6"}};
+  // clang-format on
+  for (const auto& [cell, caption, name] : cases) {
+    EXPECT_EQ(PayoffCaption(cell), caption);
+    EXPECT_EQ(PayoffRowName(cell), name.empty() ? caption : name == "-" ? "" : name);
   }
 }
 
 TEST_F(PayoffEditor, EveryRowEditsItsOwnPayoffUnderItsOwnName) {
   std::set<const PayoffRow*> edited;
   std::set<std::string> names;
-  int headings = 0;
-  for (int row = 1; row <= PayoffEditorRowCount; ++row) {
-    if (PayoffEditorRowAt(row).Heading) {
-      ++headings;
-      EXPECT_THROW(SetShownPayoff(Row(row), 1), Fault);
+  for (int row = 1 - FieldRowCount; row <= PayoffEditorRowCount; ++row) {
+    const PayoffCell cell = row > 0 ? Row(row) : FieldRow(1 - row);
+    if (row > 0 && PayoffEditorRowAt(row).Heading) {
+      EXPECT_THROW(SetShownPayoff(cell, 1), Fault);
       continue;
     }
-    edited.insert(&PayoffOf(Row(row)));
-    names.insert(PayoffRowName(Row(row)));
+    edited.insert(&PayoffOf(cell));
+    names.insert(PayoffRowName(cell));
   }
-  for (int row = 1; row <= FieldRowCount; ++row) {
-    edited.insert(&PayoffOf(FieldRow(row)));
-    names.insert(PayoffRowName(FieldRow(row)));
-  }
-  EXPECT_EQ(headings, 5);
   EXPECT_EQ(edited.size(), 138u);
   EXPECT_EQ(names.size(), 138u);
   for (const int number : {bet::PassLineOdds, bet::DontPassOdds, bet::Field, bet::CAndE})
@@ -124,13 +99,16 @@ TEST_F(PayoffEditor, TheBoxesPayLikeTheLinesTheyStandBeside) {
 }
 
 TEST_F(PayoffEditor, KeysOfTheWordColumn) {
-  PayoffRow to, forRow;
-  forRow.PayForm = FormFor;
-  EXPECT_EQ(PayoffFormOfKey('F', to), FormFor);
-  EXPECT_EQ(PayoffFormOfKey('t', forRow), FormTo);
-  EXPECT_EQ(PayoffFormOfKey(' ', to), FormFor);
-  EXPECT_EQ(PayoffFormOfKey(' ', forRow), FormTo);
-  EXPECT_EQ(PayoffFormOfKey('5', to), std::nullopt);
+  const std::tuple<char, int, std::optional<int>> cases[] = {{'F', FormTo, FormFor},
+                                                             {'t', FormFor, FormTo},
+                                                             {' ', FormTo, FormFor},
+                                                             {' ', FormFor, FormTo},
+                                                             {'5', FormTo, std::nullopt}};
+  for (const auto& [key, form, chosen] : cases) {
+    PayoffRow row;
+    row.PayForm = form;
+    EXPECT_EQ(PayoffFormOfKey(key, row), chosen) << key;
+  }
 }
 
 // What the Field wins over all 36 rolls at one unit a roll.
@@ -146,36 +124,32 @@ double FieldSum() {
 }
 
 TEST_F(PayoffEditor, PresetsPayLikeTheBetsTheyAreNamedFor) {
-  // The expectation of a decision, by 36 where one roll decides, else by the rolls that decide.
-  const double sums[FieldPresetCount] = {
-      -2,                              // Field with doubles
-      -36 * 7 / 495.0,                 // Pass Line
-      -36 * 27 / 1980.0,               // Don't Pass
-      -1 / 6.0,                        // Place 6
-      -0.2,                            // Place to Lose 8
-      -3 + 18 / 7.0,                   // Buy 10
-      -0.15,                           // Lay 4
-      -1,                              // Hard 8
-      -4.5,                            // Horn
-      -4.8,                            // World
-      -4,                              // Hop 13
-      -2,                              // Midway
-      6 - 10 / 11.0 - 5.6 - 10 / 7.0,  // Crapless
-  };
+  // The expectation of a decision, by 36 where one roll decides, else by the rolls that decide: of
+  // the Field with doubles, Pass Line, Don't Pass, Place 6, Place to Lose 8, Buy 10, Lay 4, Hard 8,
+  // Horn, World, Hop 13, Midway and Crapless.
+  const double sums[FieldPresetCount] = {-2,
+                                         -36 * 7 / 495.0,
+                                         -36 * 27 / 1980.0,
+                                         -1 / 6.0,
+                                         -0.2,
+                                         -3 + 18 / 7.0,
+                                         -0.15,
+                                         -1,
+                                         -4.5,
+                                         -4.8,
+                                         -4,
+                                         -2,
+                                         6 - 10 / 11.0 - 5.6 - 10 / 7.0};
   for (size_t k = 0; k < FieldPresetCount; ++k) {
     SetFieldPayoffs(FieldPresets[k]);
     EXPECT_NEAR(FieldSum(), sums[k], 1e-12) << FieldPresets[k].Menu;
     EXPECT_FALSE(TestPayoffs()) << FieldPresets[k].Menu;
   }
   SetFieldPayoffs(FieldPresets[0]);
-  const PayoffState original = [] {
-    PayoffState state = Payoffs;
-    DefaultPayoffs();
-    std::swap(state, Payoffs);
-    return state;
-  }();
+  const auto preset = Payoffs.FieldPayoff;
+  DefaultPayoffs();
   for (size_t k = 1; k <= FieldRowCount; ++k)
-    EXPECT_EQ(Payoffs.FieldPayoff[k].PayNum, original.FieldPayoff[k].PayNum) << k;
+    EXPECT_EQ(Payoffs.FieldPayoff[k].PayNum, preset[k].PayNum) << k;
 }
 
 TEST_F(PayoffEditor, RestoringAsksAndKeepsTheOddsOfThePoint) {
@@ -191,6 +165,11 @@ TEST_F(PayoffEditor, RestoringAsksAndKeepsTheOddsOfThePoint) {
   EXPECT_EQ(Shown.front().Title, "Restore Default Payoffs");
 }
 
+void PayEach(auto& rows, Money num) {
+  for (PayoffRow& row : rows)
+    row.PayNum = num;
+}
+
 TEST_F(PayoffEditor, TheFieldsBaseIsWhatItsWinningRowsHaveInCommon) {
   const struct {
     int Preset;
@@ -202,19 +181,18 @@ TEST_F(PayoffEditor, TheFieldsBaseIsWhatItsWinningRowsHaveInCommon) {
     EXPECT_EQ(Payoffs.Payoff[bet::Field].PayDen, base) << preset;
   }
   SetFieldPayoffs(FieldPresets[9]);  // World: 5, with a push on 7
-  for (PayoffRow& row : Payoffs.FieldPayoff)
-    row.PayNum = -1;
+  PayEach(Payoffs.FieldPayoff, -1);
   FigureFieldBase();
   EXPECT_EQ(Payoffs.Payoff[bet::Field].PayDen, Money(1));
 }
 
 TEST_F(PayoffEditor, ClosingTestsNameTheRowAtFault) {
-  struct Case {
+  const struct {
     void (*Break)();
     std::string Text;
     std::optional<PayoffCell> Cell;
-  };
-  const Case cases[] = {
+    // clang-format off
+  } cases[] = {
       {[] { Payoffs.Payoff[bet::Come4].PayNum = 0; }, "The payoff on Pass/Come 4 must be positive.",
        Row(19)},
       {[] { Payoffs.Payoff[bet::Point7].PayNum = -1; }, "The payoff on Point 7 must be positive.",
@@ -225,10 +203,7 @@ TEST_F(PayoffEditor, ClosingTestsNameTheRowAtFault) {
        Row(87)},
       {[] { Payoffs.SharpShooterPayoff[2].PayNum = -2; },
        "Any loss on the Sharp Shooter bet cannot exceed the amount wagered.", Row(92)},
-      {[] {
-         for (PayoffRow& row : Payoffs.SharpShooterPayoff)
-           row.PayNum = -1;
-       },
+      {[] { PayEach(Payoffs.SharpShooterPayoff, -1); },
        "At least one of the Sharp Shooter bet payoffs must be positive.", Row(91)},
       {[] { Payoffs.RideTheLinePayoff[12].PayNum = Money::FromRaw(-10001); },
        "Any loss on the Ride The Line bet cannot exceed the amount wagered.", Row(114)},
@@ -238,14 +213,11 @@ TEST_F(PayoffEditor, ClosingTestsNameTheRowAtFault) {
        "Any loss on the Fire bet cannot exceed the amount wagered.", Row(116)},
       {[] { Payoffs.FieldPayoff[21].PayNum = -2; },
        "Any loss on the Field bet cannot exceed the amount wagered.", FieldRow(21)},
-      {[] {
-         for (PayoffRow& row : Payoffs.FieldPayoff)
-           row.PayNum = 0;
-       },
-       "At least one of the Field bet payoffs must be positive.", FieldRow(1)},
-  };
+      {[] { PayEach(Payoffs.FieldPayoff, 0); },
+       "At least one of the Field bet payoffs must be positive.", FieldRow(1)}};
+  // clang-format on
   EXPECT_FALSE(TestPayoffs());
-  // Broken from the last test to the first, each hides those behind it.
+  // Broken from the last test to the first, each hides those after it.
   for (size_t k = std::size(cases); k-- > 0;) {
     cases[k].Break();
     const std::optional<PayoffRefusal> refusal = TestPayoffs();
@@ -256,8 +228,7 @@ TEST_F(PayoffEditor, ClosingTestsNameTheRowAtFault) {
 }
 
 TEST_F(PayoffEditor, ClosingTestsLetPassWhatIsOnlyOdd) {
-  for (PayoffRow& row : Payoffs.FieldPayoff)
-    row.PayNum = 0;
+  PayEach(Payoffs.FieldPayoff, 0);
   Payoffs.FieldPayoff[1].PayNum = 1;
   Payoffs.SharpShooterPayoff[1].PayNum = -1;
   Settings.UseFireBet = false;
@@ -281,6 +252,8 @@ TEST_F(PayoffEditor, PayoffsAreSetByTheNameOfTheirRow) {
 }
 
 TEST_F(PayoffEditor, WrongPayoffsByNameAreRefusedWithTheReason) {
+  const std::string positive = " must be greater than zero, not ",
+                    numbers = " must be NUM:DEN, two numbers with at most four decimals, not ";
   const std::pair<const char*, std::string> cases[] = {
       {"Place 6", "A payoff is set as ROW=NUM:DEN, not as \"Place 6\"."},
       {"Place 7=7:6", "There is no payoff row named Place 7."},
@@ -289,16 +262,10 @@ TEST_F(PayoffEditor, WrongPayoffsByNameAreRefusedWithTheReason) {
       {"Pass Line Odds=2:1", "The payoff row Pass Line Odds cannot be edited."},
       {"Come=2:1", "The payoff row of Come is named Passline/Come (c.o.)."},
       {"Come 4=2:1", "The payoff row of Come 4 is named Pass/Come 4."},
-      {"Place 6=7:0",
-       "The second number in the payoff of Place 6 must be greater than zero, not 0."},
-      {"Fire 4=1:-1",
-       "The second number in the payoff of Fire 4 must be greater than zero, not -1."},
-      {"Place 6=7",
-       "The payoff of Place 6 must be NUM:DEN, two numbers with at most four decimals, not \"7\"."},
-      {"Place 6=1.00001:1",
-       "The payoff of Place 6 must be NUM:DEN, two numbers with at most four decimals, not "
-       "\"1.00001:1\"."},
-  };
+      {"Place 6=7:0", "The second number in the payoff of Place 6" + positive + "0."},
+      {"Fire 4=1:-1", "The second number in the payoff of Fire 4" + positive + "-1."},
+      {"Place 6=7", "The payoff of Place 6" + numbers + "\"7\"."},
+      {"Place 6=1.00001:1", "The payoff of Place 6" + numbers + "\"1.00001:1\"."}};
   for (const auto& [assignment, text] : cases)
     EXPECT_EQ(SetPayoffByName(assignment), text) << assignment;
   EXPECT_EQ(Payoffs.Payoff[bet::Place6].PayNum, Money(7));

@@ -1,8 +1,6 @@
 #include "dice/popup_roll.h"
 #include "engine/unattended.h"
 
-#include <fstream>
-
 #include "base/clock.h"
 #include "base/file_io.h"
 #include "base/folders.h"
@@ -29,23 +27,20 @@ class PopupRolls : public RollTest {
     Folders = {};
     RollTest::TearDown();
   }
-  static void Drop(const std::string& text) { std::ofstream(Dropped) << text; }
+  static void Drop(const std::string& text) { WriteFileAtomically(Dropped, text); }
 
  private:
   TemporaryFolder folder_;
 };
 
 TEST_F(PopupRolls, FirstTwoDigitsAreTheDiceAndTheFileIsGone) {
-  const struct {
-    std::string text;
-    int32_t die1, die2;
-  } cases[] = {{"x1y2", 1, 2}, {"0 7\r\n6,5 4", 6, 5}, {std::string(70'000, '9') + "34", 3, 4}};
+  const std::tuple<std::string, int32_t, int32_t> cases[] = {
+      {"x1y2", 1, 2}, {"0 7\r\n6,5 4", 6, 5}, {std::string(70'000, '9') + "34", 3, 4}};
   int32_t rolls = 0;
-  for (const auto& each : cases) {
-    Drop(each.text);
+  for (const auto& [text, die1, die2] : cases) {
+    Drop(text);
     MakeRoll();
-    EXPECT_EQ(Table.Die1, each.die1);
-    EXPECT_EQ(Table.Die2, each.die2);
+    EXPECT_EQ(std::pair(Table.Die1, Table.Die2), std::pair(die1, die2));
     EXPECT_EQ(RollsInSession(), ++rolls);
     EXPECT_FALSE(FileExists(Dropped));
   }

@@ -1,36 +1,29 @@
 #include "dice/probability_balance.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
 #include <limits>
 #include <random>
-#include <vector>
 
-#include "base/temporary_folder.h"
 #include "dice/probability.h"
-#include "state/table.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
 
-class BalanceTest : public ::testing::Test {
- protected:
-  void SetUp() override { Probability = {}; }
-  void TearDown() override { Probability = {}; }
-};
+class BalanceTest : public FreshTest {};
 
 int32_t FlagOf(int column, int row) {
   return At(At(Probability.ProbabilityMatrix.Flags, column), row);
+}
+
+bool IsShare(int column, int row) {
+  return IsTotalCell(column, row) || IsPairCell(column, row) || IsFaceCell(column, row);
 }
 
 template <class Visit>
 void ForEachShare(Visit&& visit) {
   for (int column = TotalColumn; column <= LastPairColumn; ++column) {
     for (int row = 1; row <= SecondDieRow; ++row) {
-      if (IsTotalCell(column, row) || IsPairCell(column, row) || IsFaceCell(column, row)) {
-        visit(column, row);
-      }
+      if (IsShare(column, row)) visit(column, row);
     }
   }
 }
@@ -58,161 +51,94 @@ struct Value {
   double value;
 };
 
+struct BalanceCase {
+  const char* name;
+  std::vector<MatrixCell> locks;
+  std::vector<Value> edits, results;
+};
+
+void SetUpLocks(const BalanceCase& test) {
+  Probability = {};
+  for (const MatrixCell& cell : test.locks)
+    LockShare(cell.Column, cell.Row, true);
+}
+
 TEST_F(BalanceTest, SharesGiveWayByTheRules) {
-  struct Case {
-    const char* name;
-    std::vector<MatrixCell> locks;
-    std::vector<Value> edits, results;
-  };
-  const Case Cases[] = {
-      {"a total: 80,000 for the 30 others",
-       {},
-       {{1, 6, 20'000}},
-       {{1, 6, 20'000}, {2, 6, 3333}, {7, 6, 3333}, {2, 5, 2667}, {1, 5, 13'335}, {2, 12, 16'668}}},
-      {"a second total keeps the first",
-       {},
-       {{1, 6, 20'000}, {1, 1, 10'000}},
-       {{1, 6, 20'000},
-        {2, 6, 3333},
-        {2, 1, 10'000},
-        {2, 5, 2414},
-        {1, 5, 12'070},
-        {2, 13, 22'989}}},
-      {"a total around its locked pair",
-       {},
-       {{2, 6, 5000}, {1, 6, 20'000}},
-       {{2, 6, 5000}, {3, 6, 3000}, {7, 6, 3000}, {2, 5, 2667}, {1, 6, 20'000}}},
-      {"a total is not less than its locked pairs",
-       {},
-       {{2, 6, 5000}, {1, 6, 3000}},
-       {{1, 6, 5000}, {2, 6, 5000}, {3, 6, 0}, {2, 5, 3167}}},
-      {"a total gets no more than what is left",
-       {},
-       {{1, 6, 60'000}, {1, 5, 60'000}},
+  // clang-format off
+  const BalanceCase cases[] = {
+      {"a total: 80,000 for the 30 others", {}, {{1, 6, 20'000}}, {{1, 6, 20'000}, {2, 6, 3333},
+       {7, 6, 3333}, {2, 5, 2667}, {1, 5, 13'335}, {2, 12, 16'668}}},
+      {"a second total keeps the first", {}, {{1, 6, 20'000}, {1, 1, 10'000}}, {{1, 6, 20'000},
+       {2, 6, 3333}, {2, 1, 10'000}, {2, 5, 2414}, {1, 5, 12'070}, {2, 13, 22'989}}},
+      {"a total around its locked pair", {}, {{2, 6, 5000}, {1, 6, 20'000}}, {{2, 6, 5000},
+       {3, 6, 3000}, {7, 6, 3000}, {2, 5, 2667}, {1, 6, 20'000}}},
+      {"a total is not less than its locked pairs", {}, {{2, 6, 5000}, {1, 6, 3000}}, {{1, 6, 5000},
+       {2, 6, 5000}, {3, 6, 0}, {2, 5, 3167}}},
+      {"a total gets no more than what is left", {}, {{1, 6, 60'000}, {1, 5, 60'000}},
        {{1, 6, 60'000}, {1, 5, 40'000}, {2, 5, 8000}, {2, 1, 0}, {1, 1, 0}}},
-      {"a remainder of 1 is none",
-       {},
-       {{1, 6, 99'999}},
-       {{1, 6, 99'999}, {2, 6, 16'666}, {2, 5, 0}}},
-      {"halves round to even",
-       {},
-       {{1, 6, 20'007}, {1, 5, 10'002.5}},
-       {{2, 6, 3334}, {1, 5, 10'002}, {2, 5, 2000}}},
-      {"a face of independent dice",
-       {},
-       {{2, 12, 20'000}},
-       {{2, 12, 20'000},
-        {7, 12, 16'000},
-        {2, 6, 3333},
-        {7, 6, 2667},
-        {1, 6, 16'668},
-        {2, 13, 16'667}}},
-      {"three faces of independent dice",
-       {},
-       {{2, 12, 20'000}, {7, 12, 5000}, {3, 13, 0}},
-       {{2, 12, 20'000},
-        {7, 12, 5000},
-        {3, 12, 18'750},
-        {3, 13, 0},
-        {2, 13, 20'000},
-        {2, 6, 4000},
-        {7, 6, 1000},
-        {2, 2, 0},
-        {1, 6, 16'250}}},
-      {"a face cut to what its die has left",
-       {},
-       {{2, 12, 70'000}, {3, 12, 70'000}},
+      {"a remainder of 1 is none", {}, {{1, 6, 99'999}}, {{1, 6, 99'999}, {2, 6, 16'666},
+       {2, 5, 0}}},
+      {"halves round to even", {}, {{1, 6, 20'007}, {1, 5, 10'002.5}}, {{2, 6, 3334},
+       {1, 5, 10'002}, {2, 5, 2000}}},
+      {"a face of independent dice", {}, {{2, 12, 20'000}}, {{2, 12, 20'000}, {7, 12, 16'000},
+       {2, 6, 3333}, {7, 6, 2667}, {1, 6, 16'668}, {2, 13, 16'667}}},
+      {"three faces of independent dice", {}, {{2, 12, 20'000}, {7, 12, 5000}, {3, 13, 0}},
+       {{2, 12, 20'000}, {7, 12, 5000}, {3, 12, 18'750}, {3, 13, 0}, {2, 13, 20'000}, {2, 6, 4000},
+       {7, 6, 1000}, {2, 2, 0}, {1, 6, 16'250}}},
+      {"a face cut to what its die has left", {}, {{2, 12, 70'000}, {3, 12, 70'000}},
        {{2, 12, 70'000}, {3, 12, 30'000}, {4, 12, 0}, {7, 12, 0}, {2, 1, 11'667}, {7, 6, 0}}},
-      {"a face of free-form dice",
-       {},
-       {{2, 1, 5000}, {2, 12, 20'000}},
-       {{2, 1, 5000},
-        {2, 12, 20'000},
-        {2, 2, 3000},
-        {2, 6, 3000},
-        {7, 6, 2667},
-        {7, 12, 16'002},
-        {2, 13, 18'335}}},
-      {"a face of the second die, free form",
-       {{1, 1}},
-       {{2, 13, 20'000}},
-       {{2, 1, 2778}, {1, 1, 2778}, {3, 2, 3444}, {2, 13, 20'000}, {2, 2, 2667}}},
-      {"a face is not less than its locked pairs",
-       {},
-       {{2, 1, 5000}, {2, 12, 4000}},
+      {"a face of free-form dice", {}, {{2, 1, 5000}, {2, 12, 20'000}}, {{2, 1, 5000},
+       {2, 12, 20'000}, {2, 2, 3000}, {2, 6, 3000}, {7, 6, 2667}, {7, 12, 16'002},
+       {2, 13, 18'335}}},
+      {"a face of the second die, free form", {{1, 1}}, {{2, 13, 20'000}}, {{2, 1, 2778},
+       {1, 1, 2778}, {3, 2, 3444}, {2, 13, 20'000}, {2, 2, 2667}}},
+      {"a face is not less than its locked pairs", {}, {{2, 1, 5000}, {2, 12, 4000}},
        {{2, 12, 5000}, {2, 1, 5000}, {2, 2, 0}, {3, 3, 3167}}},
-      {"a pair: 95,000 for the 35 others",
-       {},
-       {{2, 1, 5000}},
-       {{2, 1, 5000}, {2, 6, 2714}, {1, 1, 5000}, {1, 5, 13'570}, {2, 12, 18'570}}},
-      {"a pair of a locked total",
-       {{1, 6}},
-       {{2, 6, 5000}},
-       {{1, 6, 16'667}, {2, 6, 5000}, {3, 6, 2333}, {7, 6, 2333}, {2, 5, 2778}}},
-      {"a pair of a locked total is cut to it",
-       {{1, 6}},
-       {{2, 6, 50'000}},
-       {{1, 6, 16'667}, {2, 6, 16'667}, {3, 6, 0}, {2, 5, 2778}}},
-      {"a pair of a locked face",
-       {{2, 12}},
-       {{2, 6, 6667}},
-       {{2, 12, 16'667}, {2, 6, 6667}, {2, 1, 2000}, {2, 5, 2000}, {3, 6, 2778}}},
-      {"a pair with all three locked",
-       {{1, 6}, {2, 12}, {7, 13}},
-       {{2, 6, 4000}},
-       {{1, 6, 16'667},
-        {2, 12, 16'667},
-        {7, 13, 16'667},
-        {2, 6, 4000},
-        {7, 6, 2533},
-        {2, 5, 2533},
-        {3, 7, 2900}}},
-      {"a pair of a second-die face without a free pair",
-       {{3, 13}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6}},
-       {{6, 7, 5000}},
-       {{6, 7, 5000}, {3, 3, 2778}, {2, 2, 2778}, {3, 13, 16'667}}},
-  };
-  for (const auto& [name, locks, edits, results] : Cases) {
-    Probability = {};
-    for (const MatrixCell& cell : locks)
-      LockShare(cell.Column, cell.Row, true);
-    for (const auto& [column, row, value] : edits)
-      EXPECT_TRUE(BalanceMatrix(column, row, value)) << name;
-    for (const auto& [column, row, share] : results)
-      EXPECT_EQ(ShareOf(column, row), share) << name << ": " << column << ' ' << row;
+      {"a pair: 95,000 for the 35 others", {}, {{2, 1, 5000}}, {{2, 1, 5000}, {2, 6, 2714},
+       {1, 1, 5000}, {1, 5, 13'570}, {2, 12, 18'570}}},
+      {"a pair of a locked total", {{1, 6}}, {{2, 6, 5000}}, {{1, 6, 16'667}, {2, 6, 5000},
+       {3, 6, 2333}, {7, 6, 2333}, {2, 5, 2778}}},
+      {"a pair of a locked total is cut to it", {{1, 6}}, {{2, 6, 50'000}}, {{1, 6, 16'667},
+       {2, 6, 16'667}, {3, 6, 0}, {2, 5, 2778}}},
+      {"a pair of a locked face", {{2, 12}}, {{2, 6, 6667}}, {{2, 12, 16'667}, {2, 6, 6667},
+       {2, 1, 2000}, {2, 5, 2000}, {3, 6, 2778}}},
+      {"a pair with all three locked", {{1, 6}, {2, 12}, {7, 13}}, {{2, 6, 4000}}, {{1, 6, 16'667},
+       {2, 12, 16'667}, {7, 13, 16'667}, {2, 6, 4000}, {7, 6, 2533}, {2, 5, 2533}, {3, 7, 2900}}},
+      {"a pair of a second-die face without a free pair", {{3, 13}, {2, 2}, {3, 3}, {4, 4}, {5, 5},
+       {6, 6}}, {{6, 7, 5000}}, {{6, 7, 5000}, {3, 3, 2778}, {2, 2, 2778}, {3, 13, 16'667}}}};
+  // clang-format on
+  for (const BalanceCase& test : cases) {
+    SetUpLocks(test);
+    for (const auto& [column, row, value] : test.edits)
+      EXPECT_TRUE(BalanceMatrix(column, row, value)) << test.name;
+    for (const auto& [column, row, share] : test.results)
+      EXPECT_EQ(ShareOf(column, row), share) << test.name << ": " << column << ' ' << row;
     EXPECT_TRUE(Probability.ProbabilityChanged);
   }
 }
 
 TEST_F(BalanceTest, EditsFailWhenNothingIsFree) {
-  struct Case {
-    const char* name;
-    std::vector<MatrixCell> locks;
-    Value edit;
-  };
-  const Case Cases[] = {
-      {"a total without a free pair", {{2, 1}}, {1, 1, 5000}},
-      {"the only pair of a locked total", {{1, 1}}, {2, 1, 5000}},
-      {"the last face of a die", {{2, 12}, {3, 12}, {4, 12}, {5, 12}, {6, 12}}, {7, 12, 5000}},
-      {"a face whose pairs are locked",
-       {{2, 1}, {2, 2}, {2, 3}, {2, 4}, {2, 5}, {2, 6}},
-       {2, 12, 5000}},
-      {"the last total",
-       {{1, 1}, {1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 7}, {1, 8}, {1, 9}, {1, 10}, {1, 11}},
-       {1, 6, 5000}},
-      {"the last pair of a locked first-die face",
-       {{2, 12}, {2, 1}, {2, 2}, {2, 3}, {2, 4}, {2, 5}},
-       {2, 6, 5000}},
-  };
-  for (const auto& [name, locks, edit] : Cases) {
-    Probability = {};
-    for (const MatrixCell& cell : locks)
-      LockShare(cell.Column, cell.Row, true);
-    EXPECT_FALSE(BalanceMatrix(edit.column, edit.row, edit.value)) << name;
-    EXPECT_EQ(Probability.ProbabilityMatrix.Shares, TrueMatrix().Shares) << name;
-    EXPECT_FALSE(Probability.ProbabilityChanged) << name;
-    ForEachShare([](int column, int row) { EXPECT_EQ(FlagOf(column, row) % LockFlag, 0); });
-    EXPECT_EQ(FlagOf(edit.column, edit.row), LockFlag) << name;
+  // clang-format off
+  const BalanceCase cases[] = {
+      {"a total without a free pair", {{2, 1}}, {{1, 1, 5000}}, {}},
+      {"the only pair of a locked total", {{1, 1}}, {{2, 1, 5000}}, {}},
+      {"the last face of a die", {{2, 12}, {3, 12}, {4, 12}, {5, 12}, {6, 12}}, {{7, 12, 5000}},
+       {}},
+      {"a face whose pairs are locked", {{2, 1}, {2, 2}, {2, 3}, {2, 4}, {2, 5}, {2, 6}},
+       {{2, 12, 5000}}, {}},
+      {"the last total", {{1, 1}, {1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 7}, {1, 8}, {1, 9}, {1, 10},
+       {1, 11}}, {{1, 6, 5000}}, {}},
+      {"the last pair of a locked first-die face", {{2, 12}, {2, 1}, {2, 2}, {2, 3}, {2, 4},
+       {2, 5}}, {{2, 6, 5000}}, {}}};
+  // clang-format on
+  for (const BalanceCase& test : cases) {
+    SetUpLocks(test);
+    const auto& [column, row, value] = test.edits[0];
+    EXPECT_FALSE(BalanceMatrix(column, row, value)) << test.name;
+    EXPECT_EQ(Probability.ProbabilityMatrix.Shares, TrueMatrix().Shares) << test.name;
+    EXPECT_FALSE(Probability.ProbabilityChanged) << test.name;
+    ForEachShare([](int i, int j) { EXPECT_EQ(FlagOf(i, j) % LockFlag, 0); });
+    EXPECT_EQ(FlagOf(column, row), LockFlag) << test.name;
   }
 }
 
@@ -227,9 +153,7 @@ TEST_F(BalanceTest, SumsAgreeAfterAnyEdits) {
       const int column = static_cast<int>(random() % 7) + 1;
       const int row = static_cast<int>(random() % 13) + 1;
       const double value = static_cast<double>(random() % 20'000);
-      if (!IsTotalCell(column, row) && !IsPairCell(column, row) && !IsFaceCell(column, row)) {
-        continue;
-      }
+      if (!IsShare(column, row)) continue;
       const ProbabilityPlanes before = Probability.ProbabilityMatrix;
       if (!BalanceMatrix(column, row, value)) {
         EXPECT_EQ(Probability.ProbabilityMatrix.Shares, before.Shares);
@@ -266,39 +190,38 @@ TEST_F(BalanceTest, SumsAgreeAfterAnyEdits) {
 
 TEST_F(BalanceTest, FaultsLeaveTheMatrixAlone) {
   const ProbabilityPlanes before = Probability.ProbabilityMatrix;
-  const int index = NumberOf(FaultNumber::IndexOutOfRange);
-  const int overflow = NumberOf(FaultNumber::Overflow);
-  EXPECT_EQ(FaultOf([] { BalanceMatrix(1, 12, 5); }), index);
-  EXPECT_EQ(FaultOf([] { BalanceMatrix(0, 0, 5); }), index);
-  EXPECT_EQ(FaultOf([] { BalanceMatrix(3, 1, 5); }), index);
-  EXPECT_EQ(FaultOf([] { BalanceMatrix(2, 6, std::numeric_limits<double>::quiet_NaN()); }),
-            overflow);
-  EXPECT_EQ(FaultOf([] { BalanceMatrix(2, 6, -1e12); }), overflow);
+  const int index = NumberOf(FaultNumber::IndexOutOfRange),
+            overflow = NumberOf(FaultNumber::Overflow);
+  constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+  const std::pair<Value, int> cases[] = {{{1, 12, 5}, index},
+                                         {{0, 0, 5}, index},
+                                         {{3, 1, 5}, index},
+                                         {{2, 6, NotANumber}, overflow},
+                                         {{2, 6, -1e12}, overflow}};
+  for (const auto& [edit, fault] : cases)
+    EXPECT_EQ(FaultOf([&edit = edit] { BalanceMatrix(edit.column, edit.row, edit.value); }), fault);
   EXPECT_EQ(FaultOf([] { MakePercentageDice({1, 3}, {}); }), index);
   EXPECT_EQ(Probability.ProbabilityMatrix, before);
   EXPECT_FALSE(Probability.ProbabilityChanged);
 }
 
 TEST_F(BalanceTest, PercentageDiceTakeFromAnAxis) {
-  struct Case {
+  const struct {
     DieSkew first, second;
     std::array<int32_t, 6> die1, die2;
-  };
-  constexpr Case Cases[] = {
-      {{10, 0},
-       {0, 2},
-       {15'000, 17'500, 17'500, 17'500, 17'500, 15'000},
-       {16'666, 16'666, 16'667, 16'667, 16'666, 16'666}},
-      {{100, 1},
-       {250, 2},
-       {25'000, 0, 25'000, 25'000, 0, 25'000},
-       {25'000, 25'000, 0, 0, 25'000, 25'000}},
-      {{-50, 2},
-       {-1000, 0},
-       {12'500, 12'500, 25'000, 25'000, 12'500, 12'500},
-       {50'000, 0, 0, 0, 0, 50'000}},
-  };
-  for (const auto& [first, second, die1, die2] : Cases) {
+  } cases[] = {{{10, 0},
+                {0, 2},
+                {15'000, 17'500, 17'500, 17'500, 17'500, 15'000},
+                {16'666, 16'666, 16'667, 16'667, 16'666, 16'666}},
+               {{100, 1},
+                {250, 2},
+                {25'000, 0, 25'000, 25'000, 0, 25'000},
+                {25'000, 25'000, 0, 0, 25'000, 25'000}},
+               {{-50, 2},
+                {-1000, 0},
+                {12'500, 12'500, 25'000, 25'000, 12'500, 12'500},
+                {50'000, 0, 0, 0, 0, 50'000}}};
+  for (const auto& [first, second, die1, die2] : cases) {
     Probability = {};
     BalanceMatrix(2, 1, 30'000);  // earlier locks are gone
     MakePercentageDice(first, second);

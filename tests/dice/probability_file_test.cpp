@@ -1,19 +1,9 @@
 #include "dice/probability_file.h"
 
-#include <gtest/gtest.h>
-
-#include <deque>
 #include <random>
-#include <string>
-#include <vector>
 
-#include "base/file_io.h"
-#include "base/folders.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "base/temporary_folder.h"
 #include "dice/probability_balance.h"
-#include "texts/language.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
@@ -21,34 +11,12 @@ namespace {
 constexpr size_t WrittenBytes = 1280, ContentBytes = 1152;
 constexpr const char* FormatLine = "Tessarel Probability File, Data Format 4.6";
 
-int Messages = 0;
-
-class ProbabilityFileTest : public ::testing::Test {
+class ProbabilityFileTest : public FolderTest {
  protected:
-  void SetUp() override {
-    Reset();
-    SetAppFolder(folder_.Path());
-    FrontEnd.ShowMessage = [] { ++Messages; };
-  }
-  void TearDown() override { Reset(); }
-  static void Reset() {
-    Probability = {};
-    Message = {};
-    FrontEnd = {};
-    Folders = {};
-    SetLanguage(English);
-    Messages = 0;
-  }
-
-  std::string Written() {
+  std::string Written() const {
     SaveProbabilityFile("mine.prb");
-    return ReadWholeFile(folder_.Path() + "mine.prb", 1 << 20);
+    return Read("mine.prb");
   }
-  void Put(const std::string& name, const std::string& bytes) {
-    WriteFileAtomically(folder_.Path() + name, bytes);
-  }
-
-  TemporaryFolder folder_;
 };
 
 int32_t WordAt(const std::string& bytes, size_t word) {
@@ -76,27 +44,26 @@ TEST_F(ProbabilityFileTest, BytesAreInTheirPlaces) {
 
 TEST_F(ProbabilityFileTest, MatrixComesBackAsItStood) {
   std::mt19937 random(7);
-  for (ProbabilityPlane* plane :
+  for (auto* plane :
        {&Probability.ProbabilityMatrix.Flags, &Probability.ProbabilityMatrix.Shares}) {
-    for (auto& column : *plane) {
-      for (int32_t& value : column)
-        value = static_cast<int32_t>(random());
-    }
+    for (auto& column : *plane)
+      std::ranges::generate(column, [&] { return static_cast<int32_t>(random()); });
   }
   const ProbabilityPlanes matrix = Probability.ProbabilityMatrix;
+  const auto expectClean = [this] {
+    EXPECT_FALSE(Probability.ProbabilityChanged);
+    EXPECT_EQ(Probability.ProbabilityFileName, Path("mine.prb"));
+  };
   Probability.ProbabilityChanged = true;
   SaveProbabilityFile("mine.prb");
-  EXPECT_FALSE(Probability.ProbabilityChanged);
-  const std::string path = folder_.Path() + "mine.prb";
-  EXPECT_EQ(Probability.ProbabilityFileName, path);
+  expectClean();
   Probability = {};
   Probability.ProbabilityChanged = true;
   EXPECT_TRUE(OpenProbabilityFile("mine.prb"));
   EXPECT_EQ(Probability.ProbabilityMatrix, matrix);
-  EXPECT_EQ(Probability.ProbabilityFileName, path);
-  EXPECT_FALSE(Probability.ProbabilityChanged);
   EXPECT_FALSE(Probability.ProbabilityMatrixActive);
-  EXPECT_EQ(Messages, 0);
+  expectClean();
+  EXPECT_TRUE(Shown.empty());
 }
 
 TEST_F(ProbabilityFileTest, WholeMatrixIsNeeded) {
@@ -140,60 +107,51 @@ TEST_F(ProbabilityFileTest, RefusedFilesAreReportedAndChangeNothing) {
   const std::string refused[] = {"", "garbage", std::string(5000, '\xFF'),
                                  FormatLine + std::string(300, ' ')};
   for (const std::string& bytes : refused) {
-    Put("bad.prb", bytes);
+    Write("bad.prb", bytes);
     EXPECT_FALSE(OpenProbabilityFile("bad.prb"));
-    EXPECT_EQ(Message.MsgText,
-              "Diese Datei stammt aus einer älteren Version, ist beschädigt oder keine echte "
-              "Wahrscheinlichkeitsdatei von Tessarel.\r\r" +
-                  folder_.Path() + "bad.prb");
-    EXPECT_EQ(Message.MsgTitle, "Fehler");
+    ASSERT_EQ(Shown.size(), 1u);
+    EXPECT_TRUE(
+        Shown[0].Text.ends_with("Wahrscheinlichkeitsdatei von Tessarel.\r\r" + Path("bad.prb")));
+    EXPECT_EQ(std::exchange(Shown, {})[0].Title, "Fehler");
   }
-  EXPECT_EQ(Messages, 4);
+  EXPECT_FALSE(OpenProbabilityFile("nowhere.prb")) << "left to the caller";
+  EXPECT_FALSE(OpenProbabilityFile(Path("")));
+  EXPECT_TRUE(Shown.empty());
+  Write("huge.prb", std::string(2 << 20, ' '));
+  EXPECT_EQ(FaultOf([] { OpenProbabilityFile("huge.prb"); }), NumberOf(FaultNumber::FileAccess));
   EXPECT_EQ(Probability.ProbabilityMatrix, before);
   EXPECT_EQ(Probability.ProbabilityFileName, "/tmp/before.prb");
   EXPECT_TRUE(Probability.ProbabilityChanged);
 }
 
-TEST_F(ProbabilityFileTest, MissingFilesAreLeftToTheCaller) {
-  EXPECT_FALSE(OpenProbabilityFile("nowhere.prb"));
-  EXPECT_FALSE(OpenProbabilityFile(folder_.Path()));
-  EXPECT_EQ(Messages, 0);
-  Put("huge.prb", std::string(2 << 20, ' '));
-  EXPECT_EQ(FaultOf([] { OpenProbabilityFile("huge.prb"); }), NumberOf(FaultNumber::FileAccess));
-}
-
 TEST_F(ProbabilityFileTest, UnsavedMatricesAreAskedAbout) {
-  struct Case {
-    const char* name;
-    int32_t changed, answer;
-    SaveChoice onExit, beforeNew;
-  };
   using enum SaveChoice;
-  constexpr Case Cases[] = {
-      {"/tmp/mine.prb", 0, AnswerYes, GoOn, GoOn},
-      {"", -1, AnswerYes, GoOn, SaveUnderNewName},
-      {"/tmp/mine.prb", -1, AnswerYes, SaveUnderNewName, SaveUnderNewName},
-      {"/tmp/default.prb", -1, AnswerYes, SaveUnderItsName, SaveUnderItsName},
-      {"/tmp/default.prb", -1, AnswerNo, GoOn, GoOn},
-      {"/tmp/mine.prb", -1, AnswerCancel, Cancel, Cancel},
-  };
-  static int32_t answer;
-  FrontEnd.ShowMessage = [] {
-    ++Messages;
-    Message.MsgResult = answer;
-  };
-  for (const auto& [name, changed, pressed, onExit, beforeNew] : Cases) {
+  const struct {
+    const char* name;
+    bool changed;
+    int32_t answer;
+    SaveChoice onExit, beforeNew;
+    // clang-format off
+  } cases[] = {
+      {"/tmp/mine.prb", false, AnswerYes, GoOn, GoOn},
+      {"", true, AnswerYes, GoOn, SaveUnderNewName},
+      {"/tmp/mine.prb", true, AnswerYes, SaveUnderNewName, SaveUnderNewName},
+      {"/tmp/default.prb", true, AnswerYes, SaveUnderItsName, SaveUnderItsName},
+      {"/tmp/default.prb", true, AnswerNo, GoOn, GoOn},
+      {"/tmp/mine.prb", true, AnswerCancel, Cancel, Cancel}};
+  // clang-format on
+  const std::string question =
+      "Save Probabilities?: These probabilities have not been saved.\r\rDo you want to save them "
+      "now?";
+  for (const auto& [name, changed, answer, onExit, beforeNew] : cases) {
     Probability.ProbabilityFileName = name;
     Probability.ProbabilityChanged = changed;
-    answer = pressed;
-    Messages = 0;
+    Always = answer;
     EXPECT_EQ(AskToSaveOnExit(), onExit) << name;
-    EXPECT_EQ(Messages, changed != 0 && *name != '\0' ? 1 : 0);
+    EXPECT_EQ(std::exchange(Shown, {}).size(), changed && *name != '\0' ? 1u : 0u);
     EXPECT_EQ(AskToSaveBeforeNew(), beforeNew) << name;
+    EXPECT_EQ(Said(), changed ? Strings{question} : Strings{});
   }
-  EXPECT_EQ(Message.MsgText,
-            "These probabilities have not been saved.\r\rDo you want to save them now?");
-  EXPECT_EQ(Message.MsgTitle, "Save Probabilities?");
 }
 
 }  // namespace

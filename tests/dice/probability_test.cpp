@@ -1,19 +1,12 @@
 #include "dice/probability.h"
 #include "engine/unattended.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
-#include <utility>
-#include <vector>
 
-#include "base/message.h"
-#include "base/temporary_folder.h"
 #include "log/events_log.h"
-#include "log/events_log_fixture.h"
+#include "log/events_log_reader.h"
 #include "play/roll_driver.h"
-#include "state/books.h"
-#include "state/settings.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
@@ -38,55 +31,32 @@ void OnlyShares(const std::vector<std::pair<Pair, int32_t>>& shares) {
     PairShare(pair) = share;
 }
 
-class ProbabilityMatrixTest : public EventsLogTest {
+class ProbabilityMatrixTest : public FolderTest {
  protected:
-  void SetUp() override {
-    EventsLogTest::SetUp();
-    Reset();
-  }
-  void TearDown() override {
-    Reset();
-    Settings = {};
-    EventsLogTest::TearDown();
-  }
-  static void Reset() {
-    Probability = {};
-    Dice = {};
-    Stats = {};
-    Settings = {};
-    Settings.BetNeededToShoot = 0;
-    Message = {};
-  }
+  ProbabilityMatrixTest() { Settings.BetNeededToShoot = 0; }
 };
 
 TEST_F(ProbabilityMatrixTest, TrueDiceAreRoundedCellByCell) {
-  constexpr std::array<int32_t, 12> Totals = {0,     2778,  5556,  8333, 11111, 13889,
-                                              16667, 13889, 11111, 8333, 5556,  2778};
-  int sum = 0, pairs = 0;
+  constexpr int32_t Totals[] = {2778,  5556,  8333, 11111, 13889, 16667,
+                                13889, 11111, 8333, 5556,  2778};
   for (int row = 1; row <= LastTotalRow; ++row)
-    EXPECT_EQ(ShareOf(TotalColumn, row), At(Totals, row));
+    EXPECT_EQ(ShareOf(TotalColumn, row), Totals[row - 1]);
+  int sum = 0, pairs = 0;
   ForEachPair([&](int column, int row) {
     sum += ShareOf(column, row);
     ++pairs;
   });
   EXPECT_EQ(pairs, PairCount);
   EXPECT_EQ(sum, 100'008);
-  for (int column = FirstPairColumn; column <= LastPairColumn; ++column) {
-    EXPECT_EQ(ShareOf(column, FirstDieRow), 16667);
-    EXPECT_EQ(ShareOf(column, SecondDieRow), 16667);
-  }
-  const ProbabilityPlane& flags = Probability.ProbabilityMatrix.Flags;
-  EXPECT_EQ((std::vector<int32_t>(flags[0].begin(), flags[0].begin() + 4)),
-            (std::vector<int32_t>{0, 1, 6, 0}));
+  EXPECT_EQ(ShareOf(FirstPairColumn, FirstDieRow), 16667);
+  EXPECT_EQ(ShareOf(LastPairColumn, SecondDieRow), 16667);
+  const auto& flags = Probability.ProbabilityMatrix.Flags[0];
+  EXPECT_EQ((std::array{flags[0], flags[1], flags[2], flags[3]}),
+            (std::array<int32_t, 4>{0, 1, 6, 0}));
 }
 
 TEST_F(ProbabilityMatrixTest, CellsStandForTheirFaces) {
-  std::string seventh;
-  for (int column = 2; column <= 7; ++column) {
-    const Faces faces = FacesOfCell(column, 6);
-    seventh += std::to_string(faces.die1) + std::to_string(faces.die2) + " ";
-  }
-  EXPECT_EQ(seventh, "16 25 34 43 52 61 ");
+  EXPECT_EQ(Drawn(FacesOfCell(3, 6)), Pair(2, 5));
   ForEachPair([](int column, int row) {
     const Faces faces = FacesOfCell(column, row);
     EXPECT_EQ(faces.die1 + faces.die2, row + 1);
@@ -103,19 +73,12 @@ TEST_F(ProbabilityMatrixTest, CellsStandForTheirFaces) {
 }
 
 TEST_F(ProbabilityMatrixTest, DrawGoesInRingsFromTheOutside) {
+  // clang-format off
   const std::pair<int32_t, Pair> cases[] = {
-      {1, {1, 1}},
-      {2778, {1, 1}},
-      {2779, {1, 2}},
-      {6 * 2778, {1, 6}},
-      {6 * 2778 + 1, {2, 6}},
-      {11 * 2778, {6, 6}},
-      {11 * 2778 + 1, {2, 1}},
-      {97'230, {6, 2}},
-      {97'231, {6, 1}},
-      {100'000, {6, 1}},
-      {100'001, {6, 1}},
-  };
+      {0, {1, 1}}, {1, {1, 1}}, {2778, {1, 1}}, {2779, {1, 2}}, {6 * 2778, {1, 6}},
+      {6 * 2778 + 1, {2, 6}}, {11 * 2778, {6, 6}}, {11 * 2778 + 1, {2, 1}}, {97'230, {6, 2}},
+      {97'231, {6, 1}}, {100'001, {6, 1}}};
+  // clang-format on
   for (const auto& [n, pair] : cases)
     EXPECT_EQ(Drawn(DrawCell(n)), pair) << n;
 }
@@ -141,8 +104,6 @@ TEST_F(ProbabilityMatrixTest, DrawAboveTheSumFallsOnTheFirstPair) {
   PairShare({1, 2}) = 2 * 2778;
   EXPECT_EQ(Drawn(DrawCell(1)), Pair(1, 2));
   EXPECT_EQ(Drawn(DrawCell(100'001)), Pair(1, 1));
-  // A generator that has run dry asks for number 0.
-  EXPECT_EQ(Drawn(DrawCell(0)), Pair(1, 1));
 }
 
 TEST_F(ProbabilityMatrixTest, SmallSumsAreScannedUntilTheyReachTheNumber) {
@@ -206,34 +167,23 @@ int32_t HalfToEven() {
   return whole + (rest > 0.5 || (rest == 0.5 && whole % 2 == 1) ? 1 : 0) + 1;
 }
 
-int32_t FirstTwister() {
-  return Floored(TwisterReal1());
-}
-int32_t SecondTwister() {
-  return Floored(TwisterReal2());
-}
-int32_t Quick() {
-  return QuickRan(100'000);
-}
-
 TEST_F(ProbabilityMatrixTest, GeneratorsGiveOneNumberARoll) {
-  struct Case {
-    int32_t generator;
-    int32_t (*odd)();
-    int32_t (*even)();
-  };
-  constexpr Case Cases[] = {
-      {1, FirstTwister, FirstTwister},
-      {2, SecondTwister, SecondTwister},
-      {3, Quick, Quick},
-      {4, HalfToEven<Ran2>, HalfToEven<Ran2>},
-      {5, HalfToEven<Ran1>, HalfToEven<Ran1>},
-      {6, FirstTwister, HalfToEven<Ran1>},
-      {7, SecondTwister, HalfToEven<Ran2>},
-      {8, FirstTwister, FirstTwister},
-  };
+  using Source = int32_t (*)();
+  const Source first = [] { return Floored(TwisterReal1()); },
+               second = [] { return Floored(TwisterReal2()); },
+               quick = [] { return QuickRan(100'000); };
+  const std::pair<Source, Source> cases[] = {{first, first},
+                                             {second, second},
+                                             {quick, quick},
+                                             {HalfToEven<Ran2>, HalfToEven<Ran2>},
+                                             {HalfToEven<Ran1>, HalfToEven<Ran1>},
+                                             {first, HalfToEven<Ran1>},
+                                             {second, HalfToEven<Ran2>},
+                                             {first, first}};
   constexpr int Rolls = 300;
-  for (const auto& [generator, odd, even] : Cases) {
+  int32_t generator = 0;
+  for (const auto& [odd, even] : cases) {
+    ++generator;
     Probability.ProbabilityMatrixActive = true;
     Seed(generator);
     std::vector<Pair> rolled, expected;
@@ -246,17 +196,11 @@ TEST_F(ProbabilityMatrixTest, GeneratorsGiveOneNumberARoll) {
   }
 }
 
+// 1562.5 and 4687.5 and the ends.
 TEST_F(ProbabilityMatrixTest, ShuffledGeneratorsRoundHalfToEven) {
-  struct Case {
-    float real;
-    int32_t n;
-  };
-  constexpr Case Cases[] = {{1.0F / 64, 1563},
-                            {3.0F / 64, 4689},
-                            {0, 1},
-                            {1, 100'001}};  // 1562.5 and 4687.5 and the ends
-  Probability.ProbabilityMatrixActive = true;
-  for (const auto& [real, n] : Cases) {
+  const std::pair<float, int32_t> cases[] = {
+      {1.0F / 64, 1563}, {3.0F / 64, 4689}, {0, 1}, {1, 100'001}};
+  for (const auto& [real, n] : cases) {
     for (const int32_t generator : {5, 6}) {
       Seed(generator);
       Dice.Ran1.table.fill(real);
@@ -268,33 +212,25 @@ TEST_F(ProbabilityMatrixTest, ShuffledGeneratorsRoundHalfToEven) {
 }
 
 TEST_F(ProbabilityMatrixTest, NoGeneratorDrawsNothing) {
-  Probability.ProbabilityMatrixActive = true;
   SelectRNG(0);
-  EXPECT_EQ(Drawn(MakeDice(0)), Pair(0, 0));
+  for (const bool active : {false, true}) {
+    Probability.ProbabilityMatrixActive = active;
+    EXPECT_EQ(Drawn(MakeDice(0)), Pair(0, 0));
+  }
 }
 
 TEST_F(ProbabilityMatrixTest, RollLineNamesTheMatrix) {
-  struct Case {
-    int32_t active;
-    const char* name;
-    const char* end;
-  };
-  constexpr Case Cases[] = {
-      {0, "/tmp/loaded.prb", " from RNG #8"},
-      {-1, "", " from RNG #8 using untitled probability matrix"},
-      {-1, "/tmp/loaded.prb", " from RNG #8 using probability matrix: /tmp/loaded.prb"},
-  };
-  EventsLog.LogRolls = true;
+  const std::tuple<bool, const char*, const char*> cases[] = {
+      {false, "/tmp/loaded.prb", " from RNG #8"},
+      {true, "", " from RNG #8 using untitled probability matrix"},
+      {true, "/tmp/loaded.prb", " from RNG #8 using probability matrix: /tmp/loaded.prb"}};
+  EventsLog.LogOn = EventsLog.LogRolls = EventsLog.KeepLatestRollOnTop = true;
   SelectRNG(8);
-  for (const auto& [active, name, end] : Cases) {
+  for (const auto& [active, name, end] : cases) {
     Probability.ProbabilityMatrixActive = active;
     Probability.ProbabilityFileName = name;
     MakeRoll();
-    std::string line;
-    for (const std::string& any : Lines()) {
-      if (any.find(" Roll #") != std::string::npos) line = any;
-    }
-    EXPECT_TRUE(line.ends_with(end)) << line;
+    EXPECT_TRUE(EventLine(EventsLog.LatestRollLine).ends_with(end));
   }
 }
 
@@ -310,27 +246,23 @@ TEST_F(ProbabilityMatrixTest, EmptyMatrixEndsTheHyperDrive) {
 // --- Shown and typed ---------------------------------------------------------------------------
 
 TEST_F(ProbabilityMatrixTest, SharesAreShownInFourForms) {
-  struct Case {
+  const struct {
     int32_t display;
     double base;
     int column, row;
     const char* text;
-  };
-  constexpr Case Cases[] = {
-      {ShownAsPercentages, 36, 2, 6, "3.000"},
-      {ShownAsPercentages, 36, 1, 6, "16.667"},
+    // clang-format off
+  } cases[] = {
+      {ShownAsPercentages, 36, 2, 6, "3.000"}, {ShownAsPercentages, 36, 1, 6, "16.667"},
       {ShownAsPercentagesFromTrue, 36, 2, 6, "+0.222"},
       {ShownAsPercentagesFromTrue, 36, 2, 1, "-0.778"},
-      {ShownAsPercentagesFromTrue, 36, 1, 6, "0.000"},
-      {ShownAsRolls, 36, 2, 6, "1.080"},
-      {ShownAsRolls, 100'000, 1, 6, "16,667.000"},
-      {ShownAsRolls, 1000, 3, 12, "166.670"},
-      {ShownAsRollsFromTrue, 36, 2, 6, "+0.080"},
-      {ShownAsRollsFromTrue, 36'000, 2, 1, "-280.000"},
-  };
+      {ShownAsPercentagesFromTrue, 36, 1, 6, "0.000"}, {ShownAsRolls, 36, 2, 6, "1.080"},
+      {ShownAsRolls, 100'000, 1, 6, "16,667.000"}, {ShownAsRolls, 1000, 3, 12, "166.670"},
+      {ShownAsRollsFromTrue, 36, 2, 6, "+0.080"}, {ShownAsRollsFromTrue, 36'000, 2, 1, "-280.000"}};
+  // clang-format on
   PairShare({1, 6}) = 3000;
   PairShare({1, 1}) = 2000;
-  for (const auto& [display, base, column, row, text] : Cases) {
+  for (const auto& [display, base, column, row, text] : cases) {
     Probability.optProbability = display;
     Probability.RollsOutOf = base;
     EXPECT_EQ(ShownShareText(column, row), text);
@@ -339,24 +271,22 @@ TEST_F(ProbabilityMatrixTest, SharesAreShownInFourForms) {
 }
 
 TEST_F(ProbabilityMatrixTest, TypedValuesBecomeShares) {
-  struct Case {
+  const struct {
     int32_t display;
     double base;
     int column, row;
     double typed, share;
-  };
-  constexpr Case Cases[] = {
-      {ShownAsPercentages, 36, 2, 6, 12.5, 12'500},
-      {ShownAsPercentages, 36, 2, 6, -1, 0},
+    // clang-format off
+  } cases[] = {
+      {ShownAsPercentages, 36, 2, 6, 12.5, 12'500}, {ShownAsPercentages, 36, 2, 6, -1, 0},
       {ShownAsPercentagesFromTrue, 36, 1, 6, 1, 1000 + 600'000.0 / 36},
       {ShownAsPercentagesFromTrue, 36, 1, 11, 1, 1000 + 100'000.0 / 36},
       {ShownAsPercentagesFromTrue, 36, 7, 13, -1, 600'000.0 / 36 - 1000},
-      {ShownAsPercentagesFromTrue, 36, 2, 2, -50, 0},
-      {ShownAsRolls, 36, 2, 2, 9, 25'000},
+      {ShownAsPercentagesFromTrue, 36, 2, 2, -50, 0}, {ShownAsRolls, 36, 2, 2, 9, 25'000},
       {ShownAsRolls, 8, 1, 2, 1, 12'500},
-      {ShownAsRollsFromTrue, 200, 2, 2, 1, 500 + 100'000.0 / 36},
-  };
-  for (const auto& [display, base, column, row, typed, share] : Cases) {
+      {ShownAsRollsFromTrue, 200, 2, 2, 1, 500 + 100'000.0 / 36}};
+  // clang-format on
+  for (const auto& [display, base, column, row, typed, share] : cases) {
     Probability.optProbability = display;
     Probability.RollsOutOf = base;
     EXPECT_NEAR(ShareOfShown(column, row, typed), share, 1e-6);
@@ -366,14 +296,15 @@ TEST_F(ProbabilityMatrixTest, TypedValuesBecomeShares) {
 }
 
 TEST_F(ProbabilityMatrixTest, FormsAreNamedWithTheirBase) {
-  Probability.RollsOutOf = 1000;
-  EXPECT_EQ(ProbabilityDisplayText(ShownAsPercentagesFromTrue, true),
-            "Shown as +/- from true percentages");
-  EXPECT_EQ(ProbabilityDisplayText(ShownAsRolls, false), "Shown as number of rolls out of ");
-  EXPECT_EQ(ProbabilityDisplayText(ShownAsRolls, true), "Shown as number of rolls out of 1000");
-  Probability.RollsOutOf = 36.5;
-  EXPECT_EQ(ProbabilityDisplayText(ShownAsRollsFromTrue, true),
-            "Shown as +/- from true number of rolls out of 36.5");
+  const std::tuple<double, int32_t, bool, const char*> cases[] = {
+      {1000, ShownAsPercentagesFromTrue, true, "Shown as +/- from true percentages"},
+      {1000, ShownAsRolls, false, "Shown as number of rolls out of "},
+      {1000, ShownAsRolls, true, "Shown as number of rolls out of 1000"},
+      {36.5, ShownAsRollsFromTrue, true, "Shown as +/- from true number of rolls out of 36.5"}};
+  for (const auto& [base, display, withBase, text] : cases) {
+    Probability.RollsOutOf = base;
+    EXPECT_EQ(ProbabilityDisplayText(display, withBase), text);
+  }
 }
 
 TEST_F(ProbabilityMatrixTest, NewKeepsUseAndForm) {

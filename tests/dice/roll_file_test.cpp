@@ -1,18 +1,8 @@
 #include "dice/roll_file.h"
-#include "engine/unattended.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <iterator>
-
-#include "base/fault.h"
 #include "base/file_io.h"
-#include "base/folders.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "base/temporary_folder.h"
-#include "state/table.h"
+#include "engine/unattended.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
@@ -20,37 +10,8 @@ namespace {
 constexpr const char* EndReason = "Stopped due to end of Dice Roll File reached.";
 constexpr const char* InvalidReason = "Stopped due to Dice Roll File value out of limits.";
 
-int MessagesShown = 0;
-
-class RollFiles : public ::testing::Test {
+class RollFiles : public FolderTest {
  protected:
-  void SetUp() override {
-    SetAppFolder(folder_.Path());
-    RollFile = {};
-    Table.Stop = StopCause::None;
-    Table.AutoRollOn = Table.HyperDriveOn = false;
-    MessagesShown = 0;
-    FrontEnd = {};
-    FrontEnd.ShowMessage = [] { ++MessagesShown; };
-  }
-  void TearDown() override {
-    RollFile = {};
-    FrontEnd = {};
-    Folders = {};
-    Table.Stop = StopCause::None;
-    Table.AutoRollOn = Table.HyperDriveOn = false;
-  }
-
-  std::string Path(const std::string& name) const { return folder_.Path() + name; }
-
-  void Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(Path(name), std::ios::binary) << bytes;
-  }
-  std::string Read(const std::string& name) const {
-    std::ifstream file(Path(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
   // Opens a file of these bytes for playback.
   void Play(const std::string& bytes) const {
     Write("play.rol", bytes);
@@ -73,15 +34,13 @@ class RollFiles : public ::testing::Test {
     RollFile.RollFileMode = RollFileRecord;
     RollFile.NextRoll = from;
   }
-
- private:
-  TemporaryFolder folder_;
 };
 
 TEST_F(RollFiles, RollsAreBytesInTheFile) {
   StartRecording("new.rol");
-  for (const Faces faces : {Faces{1, 1}, Faces{1, 2}, Faces{2, 1}, Faces{6, 6}})
-    RecordToRollFile(faces);
+  for (const Faces faces : {Faces{1, 1}, Faces{7, 1}, Faces{1, 2}, Faces{1, 7}, Faces{2, 1},
+                            Faces{0, 3}, Faces{6, 6}, Faces{3, -1}})
+    RecordToRollFile(faces);  // faces that are none are never written
   EXPECT_EQ(RollFile.LastRoll, 4);
   EXPECT_EQ(RollFile.NextRoll, 5);
   EXPECT_EQ(RollFile.DisplayRoll, 5);
@@ -92,55 +51,37 @@ TEST_F(RollFiles, RollsAreBytesInTheFile) {
   EXPECT_EQ(RollFile.NextRoll, 1);
 }
 
-TEST_F(RollFiles, FacesThatAreNoneAreNeverWritten) {
-  StartRecording("new.rol");
-  for (const Faces faces : {Faces{7, 1}, Faces{1, 7}, Faces{0, 3}, Faces{3, -1}})
-    RecordToRollFile(faces);
-  CloseRollFile();
-  EXPECT_EQ(Read("new.rol"), "");
-}
-
-TEST_F(RollFiles, PlaybackEndsBehindTheLastRoll) {
+TEST_F(RollFiles, PlaybackEndsAfterTheLastRoll) {
   Play("\x24\x44\xD8");
-  Table.HyperDriveOn = 1;
+  Table.HyperDriveOn = true;
   EXPECT_EQ(PlayAll(), "11 12 66");
   EXPECT_TRUE(RollFile.EndReached);
   EXPECT_EQ(StopText(Table.Stop), EndReason);
   EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
   EXPECT_EQ(RollFile.LastRoll, 3);
   EXPECT_EQ(RollFile.NextRoll, 4);
-  EXPECT_EQ(MessagesShown, 0);
+  EXPECT_TRUE(Shown.empty());
   RewindForPlayback();
   EXPECT_FALSE(RollFile.EndReached);
   EXPECT_EQ(PlayAll(), "11 12 66");
-}
-
-TEST_F(RollFiles, OnlyTheFacesAreTestedOnPlayback) {
   Play("\x25\x47");
-  EXPECT_EQ(PlayAll(), "11 12");
-  EXPECT_TRUE(RollFile.EndReached);
+  EXPECT_EQ(PlayAll(), "11 12") << "only the faces are tested";
 }
 
 TEST_F(RollFiles, InvalidRollStopsAndSwitchesOff) {
-  const std::string invalid[] = {std::string(1, '\0'), "\x20", "\x04", "\x3C", "\xE4"};
-  for (const std::string& byte : invalid) {
-    for (const int32_t hyper : {0, 1}) {
-      SCOPED_TRACE(::testing::PrintToString(byte));
-      Play("\x24" + byte + "\x24");
+  for (const char byte : {'\0', '\x20', '\x04', '\x3C', '\xE4'}) {
+    for (const bool hyper : {false, true}) {
+      Play("\x24" + std::string(1, byte) + "\x24");
       Table.HyperDriveOn = hyper;
-      MessagesShown = 0;
       EXPECT_EQ(PlayAll(), "11");
       EXPECT_FALSE(RollFile.EndReached);
       EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
       EXPECT_EQ(RollFile.NextRoll, 2);
       EXPECT_EQ(StopText(Table.Stop), InvalidReason);
-      EXPECT_EQ(MessagesShown, hyper == 0 ? 1 : 0);
+      EXPECT_EQ(std::exchange(Shown, {}).size(), hyper ? 0u : 1u);
     }
   }
   EXPECT_EQ(Message.MsgTitle, "Dice Roll File Error");
-  EXPECT_EQ(Message.MsgText,
-            "A dice roll value has been found to be out of limits. \r\rPlayback of this Dice Roll "
-            "File has stopped so that you can check the file or continue without it.");
 }
 
 TEST_F(RollFiles, LongRecordingReplaysTheSameRolls) {
@@ -187,7 +128,7 @@ TEST_F(RollFiles, PlaybackSeesWhatWasJustRecorded) {
   EXPECT_EQ(PlayAll(), "11 66 11");
 }
 
-TEST_F(RollFiles, RecordingGoesOnBehindPlayback) {
+TEST_F(RollFiles, RecordingGoesOnAfterPlayback) {
   Play("\x24\x44");
   PlayBackRoll();
   RollFile.RollFileMode = RollFileRecord;
@@ -242,7 +183,6 @@ TEST_F(RollFiles, FilesBeyondTheLimitStopAtIt) {
 }
 
 TEST_F(RollFiles, OpeningCreatesTheFileInTheProgramsFolder) {
-  EXPECT_FALSE(FileExists(Path("new.rol")));
   OpenRollFile("new.rol");
   EXPECT_TRUE(FileExists(Path("new.rol")));
   EXPECT_EQ(RollFile.RollFileName, Path("new.rol"));
@@ -294,18 +234,14 @@ TEST_F(RollFiles, ReadOnlyFileIsNotRecordedTo) {
 
 TEST_F(RollFiles, RollFileTestLooksAtEveryByte) {
   const std::string full(70'000, '\xD8');
-  struct Case {
-    std::string bytes;
-    bool passes;
-  };
-  const Case Cases[] = {{"", true},
-                        {std::string(1, '\0'), true},
-                        {"\x24", true},
-                        {"\x25", false},
-                        {"\x24\x26", false},
-                        {full, true},
-                        {full + "\x01", false}};
-  for (const auto& [bytes, passes] : Cases) {
+  const std::pair<std::string, bool> cases[] = {{"", true},
+                                                {std::string(1, '\0'), true},
+                                                {"\x24", true},
+                                                {"\x25", false},
+                                                {"\x24\x26", false},
+                                                {full, true},
+                                                {full + "\x01", false}};
+  for (const auto& [bytes, passes] : cases) {
     Write("test.rol", bytes);
     EXPECT_EQ(IsRollFile("test.rol"), passes) << bytes.size();
   }

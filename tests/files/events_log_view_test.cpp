@@ -1,47 +1,12 @@
 #include "files/events_log_view.h"
 
-#include "base/clock.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "files/file_dialog.h"
 #include "log/events_log_fixture.h"
 
 namespace tessarel {
 namespace {
 
 using namespace std::string_literals;
-using Strings = std::vector<std::string>;
-
-Strings Shown;
-int32_t Answer = AnswerYes;
-std::string SaveName, Typed;
-
-class EventsLogWindow : public EventsLogTest {
- protected:
-  void SetUp() override {
-    EventsLogTest::SetUp();
-    EventsLogView = {};
-    Shown.clear();
-    Answer = AnswerYes;
-    SaveName.clear();
-    FrontEnd.ShowMessage = [] {
-      Shown.push_back(Message.MsgTitle + ": " + Message.MsgText);
-      Message.MsgResult = Answer;
-      Message.MsgInput = Typed;
-    };
-    FrontEnd.AskSaveFile = [](FileAction action, const std::string&) {
-      Shown.emplace_back(FileActionTitle(action));
-      return SaveName;
-    };
-  }
-  void TearDown() override {
-    EventsLogTest::TearDown();
-    EventsLogView = {};
-    FrontEnd = {};
-    Message = {};
-  }
-  std::string Path(const std::string& name) const { return Folders.AppFolder + name; }
-};
+using EventsLogWindow = EventsLogTest;
 
 TEST_F(EventsLogWindow, PagesAgreeWithTheLogInAnyOrder) {
   std::string log;
@@ -50,7 +15,7 @@ TEST_F(EventsLogWindow, PagesAgreeWithTheLogInAnyOrder) {
     lines.push_back(std::string(n * 37 % 211, 'x') + std::to_string(n));
     log += lines.back() + "\r\n";
   }
-  Put(DefaultEventLogName(), log);
+  Write(DefaultEventLogName(), log);
   RebuildEventsIndex();
   EventsLogReader reader;
   for (int32_t n = 9000; n >= 1; --n)
@@ -64,8 +29,8 @@ TEST_F(EventsLogWindow, PagesAgreeWithTheLogInAnyOrder) {
 TEST_F(EventsLogWindow, AnIndexThatDoesNotFitIsMadeAnewWhenTheWindowOpens) {
   for (const auto& index : {""s, "\1\0\0\0\4\0\0\0"s, "\1\0\0\0\x0f\0\0\0"s, "\4\0\0\0\x0e\0\0\0"s,
                             "\1\0\0\0\x0e\0\0\0\x0e"s, "\1\0\0\0\xff\xff\xff\xff"s}) {
-    Put(DefaultEventLogName(), "a\r\n Roll #1\r\nc\r\n");
-    Put(EventsIndexName(), index);
+    Write(DefaultEventLogName(), "a\r\n Roll #1\r\nc\r\n");
+    Write(EventsIndexName(), index);
     EventsLog.KeepLatestRollOnTop = true;
     LoadEventsLogView();
     EXPECT_EQ(IndexBytes(), "\1\0\0\0\4\0\0\0\x0e\0\0\0"s);
@@ -95,7 +60,7 @@ TEST_F(EventsLogWindow, FindsLineByLineWithoutRegardToCase) {
   for (const auto* line : {"x", "Caf\xc3\xa9 one", "y", "CAF\xc3\x89 two"})
     WriteEvent(line);
   EXPECT_EQ(LogBytes().substr(3, 8), "Caf\xe9 one");
-  Typed = "caf\xc3\xa9";
+  Answers = {"caf\xc3\xa9"};
   EXPECT_TRUE(FindNextEvent());  // nothing was looked for yet
   EXPECT_EQ(EventsLogView.TopLine, 2);
   EXPECT_TRUE(FindNextEvent());
@@ -105,11 +70,10 @@ TEST_F(EventsLogWindow, FindsLineByLineWithoutRegardToCase) {
   EXPECT_FALSE(FindPreviousEvent());
   EXPECT_EQ(EventsLogView.TopLine, 2);
   const std::string miss = "Search Results: Text not found.";
-  EXPECT_EQ(Shown, (Strings{"Find: Enter the text you'd like to find.\r\rIf found, the line will "
-                            "scroll to the top of the events log.",
-                            miss, miss}));
-  Answer = AnswerCancel;
-  Typed = "y";
+  EXPECT_EQ(Said(), (Strings{"Find: Enter the text you'd like to find.\r\rIf found, the line will "
+                             "scroll to the top of the events log.",
+                             miss, miss}));
+  Always = AnswerCancel;
   EXPECT_FALSE(FindEvent());
   EXPECT_EQ(EventsLogView.FindText, "caf\xc3\xa9");
 }
@@ -119,15 +83,16 @@ TEST_F(EventsLogWindow, NewLogLosesNothingTheUserWants) {
       "Save Events Log?: This log needs to be re-named if you want to save it.\r\rDo you want to "
       "re-name it now?";
   WriteEvent("one");
-  Answer = AnswerCancel;
-  EXPECT_FALSE(NewEventsLog());
-  Answer = AnswerYes;
-  EXPECT_FALSE(NewEventsLog());  // gave up in the dialog
+  Answers = {AnswerCancel};
+  Always = AnswerYes;
+  EXPECT_FALSE(NewEventsLog() || NewEventsLog());  // gave up, then in the dialog
   EXPECT_EQ(LogBytes(), "one\r\n");
-  EXPECT_EQ(Shown, (Strings{question, question, "Save events log as"}));
+  ASSERT_EQ(Shown.size(), 3u);
+  EXPECT_EQ(Shown[2].Title, "Save events log as");
+  EXPECT_EQ(Said()[1], question);
   SaveName = Path("kept.txt");
   EXPECT_TRUE(NewEventsLog());
-  EXPECT_EQ(BytesOf(SaveName), "one\r\n");
+  EXPECT_EQ(Read(SaveName), "one\r\n");
   EXPECT_TRUE(EventsLogExists());
   EXPECT_EQ(LogBytes() + IndexBytes(), "");
   Shown.clear();
@@ -135,10 +100,10 @@ TEST_F(EventsLogWindow, NewLogLosesNothingTheUserWants) {
   EXPECT_EQ(EventsLogTitle(), "Events Log (kept.txt)");
   EXPECT_TRUE(NewEventsLog());  // the named log stays, and the default one is empty
   EXPECT_TRUE(Shown.empty());
-  EXPECT_EQ(BytesOf(SaveName), "one\r\n");
+  EXPECT_EQ(Read(SaveName), "one\r\n");
   EXPECT_EQ(EventsLogTitle(), "Events Log");
   WriteEvent("two");
-  Answer = AnswerNo;
+  Always = AnswerNo;
   EXPECT_TRUE(NewEventsLog());
   EXPECT_EQ(LogBytes(), "");
 }
@@ -149,7 +114,7 @@ TEST_F(EventsLogWindow, LogGoesOnUnderTheNameItIsSavedAs) {
   SaveName = Path("as.txt");
   EXPECT_TRUE(SaveEventsLogAs());
   WriteEvent("two");
-  EXPECT_EQ(BytesOf(SaveName), "one\r\ntwo\r\n");
+  EXPECT_EQ(Read(SaveName), "one\r\ntwo\r\n");
   EXPECT_EQ(LogBytes(), "one\r\n");
   EXPECT_EQ(Lines(), (Strings{"one", "two"}));
   for (const std::string& name : {Path("missing.txt"), Folders.AppFolder, "/dev/zero"s})
@@ -168,7 +133,7 @@ TEST_F(EventsLogWindow, PrintsTheHeadingAndEveryLine) {
     return rows.size() < 5;
   };
   EXPECT_FALSE(PrintEventsLog("", print));
-  EXPECT_EQ(Shown, Strings{"Print Events Log: There are no logged events to print."});
+  EXPECT_EQ(Said(), Strings{"Print Events Log: There are no logged events to print."});
   for (const auto* line : {" New session started", " Roll #1:  7", "more"})
     WriteEvent(line);
   EXPECT_TRUE(PrintEventsLog("/games/x.tsg", print));
@@ -177,7 +142,6 @@ TEST_F(EventsLogWindow, PrintsTheHeadingAndEveryLine) {
   EXPECT_EQ(KindOfEventLine(rows[3]), EventLineKind::SessionLine);
   EXPECT_EQ(KindOfEventLine(rows[4]), EventLineKind::RollLine);
   EXPECT_EQ(KindOfEventLine("    Roll"), EventLineKind::Plain);
-  ReleaseClock();
 }
 
 }  // namespace

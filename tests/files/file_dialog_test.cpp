@@ -1,56 +1,28 @@
 #include "files/file_dialog.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <set>
 
 #include "base/file_io.h"
-#include "base/folders.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "base/temporary_folder.h"
 #include "dice/roll_file.h"
 #include "log/events_log.h"
-#include "play/start_up.h"
-#include "state/table.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
 
 using enum FileAction;
-using Strings = std::vector<std::string>;
-
-Strings Shown;
-int32_t Answer = AnswerYes;
-
-class FileDialogRules : public ::testing::Test {
+class FileDialogRules : public FolderTest {
  protected:
-  void SetUp() override {
-    StartUp(folder_.Path());
-    Shown.clear();
-    Answer = AnswerYes;
-    FrontEnd.ShowMessage = [] {
-      Shown.push_back(Message.MsgTitle + ": " + Message.MsgText);
-      Message.MsgResult = Answer;
-    };
+  FileDialogRules() {
+    EventsLog.LogOn = true;
     std::filesystem::create_directory(Path("sub"));
   }
-  void TearDown() override {
-    FrontEnd = {};
-    StartUp(folder_.Path());
-    Folders = {};
-    Table = {};
-  }
-  std::string Path(const std::string& name) const { return folder_.Path() + name; }
-  void Make(const std::string& name) const { WriteFileAtomically(Path(name), "x"); }
+  void Make(const std::string& name) const { Write(name, "x"); }
   void Seat(int place, const std::string& name, const std::string& log) const {
     Table.PlayerName[place] = name;
     Table.TakenPlaces |= static_cast<decltype(Table.TakenPlaces)>(1 << place);
     Table.SessionLogName[place] = log;
   }
-
-  TemporaryFolder folder_;
 };
 
 TEST_F(FileDialogRules, EveryActionHasATitleOfItsOwnAndShowsFiles) {
@@ -91,23 +63,18 @@ TEST_F(FileDialogRules, EachKindKeepsItsFolder) {
 TEST_F(FileDialogRules, ExtensionOfTheFilterIsAddedWhereNoneIsTyped) {
   Make("bare");
   Make("old.bet");
-  const struct {
-    FileAction action;
-    int32_t filter;
-    const char *typed, *taken;
-  } cases[] = {
-      {SaveScript, 0, " a ", "a.bet"},    {SaveScript, 1, "a", "a.bet"},
-      {SaveScript, 2, "a", "a.txt"},      {SaveScript, 3, "a", "a"},
-      {SaveScript, 99, "a.b", "a.b"},     {SaveScript, -1, "bare", "bare.bet"},
-      {OpenScript, 0, "old", "old.bet"},  {OpenScript, 0, "bare", "bare"},
-      {OpenRolls, 0, "new", "new.rol"},   {SaveSession, 0, "sub/../t.x", "sub/../t.x"},
-      {SaveProbability, 0, "p", "p.prb"},
-  };
-  for (const auto& c : cases) {
-    LoadFileDialog(c.action, "");
-    FileDialog.Filter = c.filter;
-    EXPECT_TRUE(AcceptFileName(c.typed)) << c.typed;
-    EXPECT_EQ(FileDialog.FileDialogFileName, Path(c.taken));
+  const std::tuple<FileAction, int32_t, const char*, const char*> cases[] = {
+      {SaveScript, 0, " a ", "a.bet"},   {SaveScript, 1, "a", "a.bet"},
+      {SaveScript, 2, "a", "a.txt"},     {SaveScript, 3, "a", "a"},
+      {SaveScript, 99, "a.b", "a.b"},    {SaveScript, -1, "bare", "bare.bet"},
+      {OpenScript, 0, "old", "old.bet"}, {OpenScript, 0, "bare", "bare"},
+      {OpenRolls, 0, "new", "new.rol"},  {SaveSession, 0, "sub/../t.x", "sub/../t.x"},
+      {SaveProbability, 0, "p", "p.prb"}};
+  for (const auto& [action, filter, typed, taken] : cases) {
+    LoadFileDialog(action, "");
+    FileDialog.Filter = filter;
+    EXPECT_TRUE(AcceptFileName(typed)) << typed;
+    EXPECT_EQ(FileDialog.FileDialogFileName, Path(taken));
   }
   EXPECT_TRUE(Shown.empty());
 }
@@ -115,26 +82,20 @@ TEST_F(FileDialogRules, ExtensionOfTheFilterIsAddedWhereNoneIsTyped) {
 TEST_F(FileDialogRules, SaysWhatAFileMayNotBeTakenFor) {
   Make("a.tsg");
   OpenRollFile("open.rol");
-  const struct {
-    FileAction action;
-    const char* typed;
-    std::string said;  // the beginning
-  } cases[] = {
-      {SaveSession, "a",
-       "Save session file as: " + Path("a.tsg") + "\r\rDo you want to overwrite it?"},
+  const std::tuple<FileAction, const char*, std::string> cases[] = {
+      // how the message begins
+      {SaveSession, "a", "Save session file as: " + Path("a.tsg") + "\r\rDo you want to overwrite"},
       {OpenSession, "b", "Unable to Open File: File not found.\r\r" + Path("b.tsg")},
       {CopyRolls, "open", "Copy To Dice Roll File: Can't copy rolls to a file that's open"},
-      {CopyRollsAsText, "sub/../open.rol", "Copy Dice Rolls To Text File: Can't use the Copy To"},
-  };
-  Answer = AnswerNo;
-  for (const auto& c : cases) {
-    Shown.clear();
-    LoadFileDialog(c.action, "");
-    EXPECT_FALSE(AcceptFileName(c.typed));
+      {CopyRollsAsText, "sub/../open.rol", "Copy Dice Rolls To Text File: Can't use the Copy To"}};
+  Always = AnswerNo;
+  for (const auto& [action, typed, said] : cases) {
+    LoadFileDialog(action, "");
+    EXPECT_FALSE(AcceptFileName(typed));
     ASSERT_EQ(Shown.size(), 1u);
-    EXPECT_TRUE(Shown[0].starts_with(c.said)) << Shown[0];
+    EXPECT_TRUE(Said()[0].starts_with(said)) << typed;
   }
-  Answer = AnswerYes;
+  Always = AnswerYes;
   LoadFileDialog(SaveSession, "");
   EXPECT_TRUE(AcceptFileName("a.tsg"));
   EXPECT_FALSE(AcceptFileName("  "));
@@ -146,24 +107,23 @@ TEST_F(FileDialogRules, DeletingAsksAndGivesUpWhatIsInUse) {
   Seat(5, "Bob", "Own.slg");
   Seat(7, "Cid", Path("cid.slg"));
   LoadFileDialog(OpenSessionsLog, "");
-  Answer = AnswerNo;
+  Always = AnswerNo;
   EXPECT_FALSE(DeleteListedFile("Own.slg"));
   EXPECT_FALSE(DeleteListedFile("missing.slg"));
   EXPECT_FALSE(DeleteListedFile("sub"));
   EXPECT_TRUE(FileExists(Path("Own.slg")));
-  Answer = AnswerYes;
+  Always = AnswerYes;
   Make("bob.slg");
   EXPECT_TRUE(DeleteListedFile("Own.slg"));
   EXPECT_FALSE(FileExists(Path("Own.slg")));
   EXPECT_EQ(Table.SessionLogName[2], Path("ann.slg"));
   EXPECT_EQ(Table.SessionLogName[5], Path("bob.slg"));
-  ASSERT_EQ(Shown.size(), 4u);
-  EXPECT_EQ(Shown[1], "Delete Sessions File: Are you sure you want to delete:\r\rOwn.slg");
-  EXPECT_EQ(Shown[2],
-            "Sessions Log (Ann): The following new Sessions Log will be created and opened "
-            "instead:\r\r" +
-                Path("ann.slg"));
-  EXPECT_NE(Shown[3].find("existing"), std::string::npos);
+  const Strings said = Said();
+  ASSERT_EQ(said.size(), 4u);
+  EXPECT_EQ(said[1], "Delete Sessions File: Are you sure you want to delete:\r\rOwn.slg");
+  EXPECT_TRUE(said[2].starts_with("Sessions Log (Ann): The following new Sessions Log"));
+  EXPECT_TRUE(said[2].ends_with("\r\r" + Path("ann.slg")));
+  EXPECT_NE(said[3].find("existing"), std::string::npos);
 
   OpenRollFile("open.rol");
   LoadFileDialog(OpenRolls, "");
@@ -173,7 +133,7 @@ TEST_F(FileDialogRules, DeletingAsksAndGivesUpWhatIsInUse) {
   LoadFileDialog(FileAction::OpenEventsLog, "");
   EXPECT_TRUE(DeleteListedFile("Events Log.txt"));
   EXPECT_FALSE(FileExists(EventsIndexName()));
-  EXPECT_EQ(Shown.back().substr(0, 13), "Delete File: ");
+  EXPECT_EQ(Shown.back().Title, "Delete File");
 }
 
 }  // namespace

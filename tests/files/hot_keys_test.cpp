@@ -1,29 +1,15 @@
 #include "files/hot_keys.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include "base/file_io.h"
-#include "base/folders.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "base/temporary_folder.h"
-#include "play/start_up.h"
+#include "base/record_file.h"
+#include "reset.h"
 #include "state/scripts.h"
 
 namespace tessarel {
 namespace {
 
-class HotKeyTable : public ::testing::Test {
+class HotKeyTable : public FolderTest {
  protected:
-  void SetUp() override { StartUp(folder_.Path()); }
-  void TearDown() override {
-    StartUp(folder_.Path());
-    Folders = {};
-  }
-  std::string FileName() const { return folder_.Path() + "HotKeys.dta"; }
-  std::string Bytes() const { return ReadWholeFile(FileName(), 1 << 20); }
+  std::string Bytes() const { return Read("HotKeys.dta"); }
   static std::string Padded(std::string text, size_t width) {
     text.resize(width, ' ');
     return text;
@@ -33,13 +19,11 @@ class HotKeyTable : public ::testing::Test {
     bytes += std::string(static_cast<size_t>(records * Record::Size), 'a');
     return HotKeysOfRecords(RecordFile::OfBytes(bytes)).size();
   }
-
-  TemporaryFolder folder_;
 };
 
 TEST_F(HotKeyTable, FileToTheByte) {
   const std::string longNote(150, 'n');
-  EXPECT_EQ(AddHotKey('f', folder_.Path() + "lay/sys.bet", "caf\xc3\xa9"), 1);
+  EXPECT_EQ(AddHotKey('f', Path("lay/sys.bet"), "caf\xc3\xa9"), 1);
   EXPECT_EQ(AddHotKey('Q', "/else/x.bet", longNote), 2);
   WriteHotKeys();
   const std::string unused(55, '\0');
@@ -52,7 +36,7 @@ TEST_F(HotKeyTable, FileToTheByte) {
                                                {"Q", "/else/x.bet", longNote.substr(50)}}));
 }
 
-TEST_F(HotKeyTable, RecordsBehindAShorterTableStay) {
+TEST_F(HotKeyTable, RecordsAfterAShorterTableStay) {
   for (const char key : {'A', 'B', 'C'})
     AddHotKey(key, "s.bet", "");
   WriteHotKeys();
@@ -70,7 +54,7 @@ TEST_F(HotKeyTable, WithoutAFileTheTableIsEmptyAndTheFileIsMade) {
   EXPECT_EQ(HotKeyCount(), 0);
   WriteHotKeys();
   EXPECT_EQ(Bytes().size(), size_t{Record::Size});
-  WriteFileAtomically(FileName(), std::string(1024, 'x'));
+  Write("HotKeys.dta", std::string(1024, 'x'));
   ReadHotKeys();
   EXPECT_EQ(HotKeyCount(), 0);
   WriteHotKeys();  // of a foreign file nothing is kept
@@ -104,7 +88,7 @@ TEST_F(HotKeyTable, AKeyHasOneRowAndRunsItsFile) {
   EXPECT_EQ(Message.MsgTitle + ": " + Message.MsgText,
             "Hot-Key: Please enter an Auto-Bet filename to define this Hot-Key.");
   EXPECT_EQ(HotKeyCount(), 1);
-  WriteFileAtomically(folder_.Path() + "b.bet", "' nothing\n");
+  Write("b.bet", "' nothing\n");
   EXPECT_FALSE(RunHotKey('b'));
   EXPECT_EQ(Scripts.Places[0].ScriptFile, "");
   EXPECT_TRUE(RunHotKey('a'));

@@ -1,64 +1,28 @@
 #include "files/sessions_log.h"
 
-#include <gtest/gtest.h>
-
-#include <deque>
-#include <fstream>
-#include <iterator>
-
-#include "base/folders.h"
-#include "base/front_end.h"
-#include "base/message.h"
-#include "base/temporary_folder.h"
-#include "files/file_dialog.h"
+#include "base/record_file.h"
 #include "files/sessions_commands.h"
 #include "play/new_session.h"
 #include "play/players.h"
 #include "play/rail.h"
 #include "play/start_up.h"
-#include "state/books.h"
-#include "state/table.h"
+#include "reset.h"
 #include "stats/selection.h"
 
 namespace tessarel {
 namespace {
 
-using Strings = std::vector<std::string>;
 using Counts = std::vector<int64_t>;
 
-// Ann at place 2 in a folder of its own. Questions are answered from a list of "yes", "no",
-// "cancel" and texts.
-class SessionsLogTest : public ::testing::Test {
+// Ann at place 2 in a folder of its own.
+class SessionsLogTest : public FolderTest {
  protected:
-  void SetUp() override {
-    Shown.clear();
-    Answers.clear();
-    Chosen.clear();
-    StartUp(Folder.Path());
+  SessionsLogTest() {
+    StartUp(folder_.Path());
     SeatPlayer(2, "Ann B", 1000);
-    FrontEnd.ShowMessage = [] {
-      Shown.push_back(Message.MsgTitle + ": " + Message.MsgText);
-      if (Answers.empty()) return;
-      const std::string answer = Answers.front();
-      Answers.pop_front();
-      Message.MsgInput = answer;
-      Message.MsgResult = answer == "yes"      ? AnswerYes
-                          : answer == "no"     ? AnswerNo
-                          : answer == "cancel" ? AnswerCancel
-                                               : 0;
-    };
-    FrontEnd.AskSaveFile = [](FileAction action, const std::string& offered) {
-      Shown.push_back(std::string(FileActionTitle(action)) + ": " + offered);
-      return Chosen;
-    };
-  }
-  void TearDown() override {
-    FrontEnd = {};
-    StartUp(Folder.Path());
-    Folders = {};
   }
 
-  std::string Log() const { return Folder.Path() + "ann b.slg"; }
+  std::string Log() const { return Path("ann b.slg"); }
   // Ends sessions of `rolls` rolls each.
   static void Play(const std::vector<int>& rolls) {
     for (const int count : rolls) {
@@ -74,30 +38,18 @@ class SessionsLogTest : public ::testing::Test {
       rolls.push_back(session[SessionRolls].Floor());
     return rolls;
   }
-  static std::string BytesOf(const std::string& name) {
-    std::ifstream file(name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  static void Put(const std::string& name, const std::string& bytes) {
-    std::ofstream(name, std::ios::binary) << bytes;
-  }
-
-  TemporaryFolder Folder;
-  inline static Strings Shown;
-  inline static std::deque<std::string> Answers;
-  inline static std::string Chosen;
 };
 
 TEST_F(SessionsLogTest, HeaderAndRecordToTheByte) {
   Play({0});
-  EXPECT_EQ(Folder.EntryCount(), 0);
+  EXPECT_EQ(folder_.EntryCount(), 0);
   SetBetAmount(2, FirstStack, 5);
   SetBetAmount(2, FirstStack + 19, 6);
   SetBetAmount(2, FirstStack + 20, 7);
   for (int k = 0; k < 3; ++k)
     RecordBetResult(2, bet::Field, 10, -10);
   Play({258});
-  const std::string bytes = BytesOf(Log());
+  const std::string bytes = Read(Log());
   ASSERT_EQ(bytes.size(), 512u);
   const std::string text = "Tessarel Sessions Log, Data Format 5.0";
   EXPECT_EQ(bytes.substr(0, 252), text + std::string(252 - text.size(), ' '));
@@ -110,7 +62,7 @@ TEST_F(SessionsLogTest, HeaderAndRecordToTheByte) {
 
 TEST_F(SessionsLogTest, TheHeaderDecidesAfterAnInterruptedWrite) {
   Play({1, 2});
-  Put(Log(), BytesOf(Log()) + std::string(300, 'x'));
+  Write(Log(), Read(Log()) + std::string(300, 'x'));
   EXPECT_EQ(RollsIn(Log()), (Counts{1, 2}));
   Play({3});
   EXPECT_EQ(RollsIn(Log()), (Counts{1, 2, 3}));
@@ -118,38 +70,34 @@ TEST_F(SessionsLogTest, TheHeaderDecidesAfterAnInterruptedWrite) {
 
 TEST_F(SessionsLogTest, CountsBeyondTheFileAreCutAndForeignFilesStayAsTheyAre) {
   Play({1, 2});
-  const std::string good = BytesOf(Log());
+  const std::string good = Read(Log());
   const struct {
     size_t At;
     std::string Bytes;
     size_t Size;
     bool IsLog;
     Counts Rolls;
+    // clang-format off
   } cases[] = {
-      {252, "\x05", 768, true, {1, 2}},
-      {252, "\xFF\xFF\xFF\x7F", 768, true, {1, 2}},
-      {252, "\xFF\xFF\xFF\xFF", 768, true, {}},
-      {252, "\x01", 768, true, {1}},
-      {0, "", 767, true, {1}},
-      {0, "", 256, true, {}},
-      {0, "Anything with Data Format 5.0 ", 768, true, {1, 2}},
-      {35, "4", 768, false, {}},
-      {0, "", 255, false, {}},
-      {0, "", 0, false, {}},
-  };
+      {252, "\x05", 768, true, {1, 2}}, {252, "\xFF\xFF\xFF\x7F", 768, true, {1, 2}},
+      {252, "\xFF\xFF\xFF\xFF", 768, true, {}}, {252, "\x01", 768, true, {1}},
+      {0, "", 767, true, {1}}, {0, "", 256, true, {}},
+      {0, "Anything with Data Format 5.0 ", 768, true, {1, 2}}, {35, "4", 768, false, {}},
+      {0, "", 255, false, {}}, {0, "", 0, false, {}}};
+  // clang-format on
   for (const auto& test : cases) {
     std::string bytes = good;
-    Put(Log(), bytes.replace(test.At, test.Bytes.size(), test.Bytes).substr(0, test.Size));
-    bytes = BytesOf(Log());
+    Write(Log(), bytes.replace(test.At, test.Bytes.size(), test.Bytes).substr(0, test.Size));
+    bytes = Read(Log());
     EXPECT_EQ(IsSessionsLog(Log()), test.IsLog) << test.At;
     EXPECT_EQ(RollsIn(Log()), test.Rolls);
     const int fault = test.IsLog ? 0 : NumberOf(FaultNumber::FileAccess);
     EXPECT_EQ(FaultOf([] { Play({9}); }), fault);
-    EXPECT_EQ(FaultOf([&] { AppendSessions(Folder.Path() + "new.slg", Log()); }), fault);
+    EXPECT_EQ(FaultOf([&] { AppendSessions(Path("new.slg"), Log()); }), fault);
     if (!test.IsLog) {
       EXPECT_EQ(FaultOf([&] { ClearSessionsLog(Log()); }), fault);
       DeleteSessionsLog(2);
-      EXPECT_EQ(BytesOf(Log()), bytes);
+      EXPECT_EQ(Read(Log()), bytes);
     } else {
       EXPECT_EQ(RollsIn(Log()).back(), 9);
     }
@@ -157,34 +105,30 @@ TEST_F(SessionsLogTest, CountsBeyondTheFileAreCutAndForeignFilesStayAsTheyAre) {
 }
 
 TEST_F(SessionsLogTest, DeletedSessionsCloseUpAndTheFileKeepsItsLength) {
-  const struct {
-    std::string Entry;
-    Counts Rolls;
-    bool Deleted = true;
-  } cases[] = {
-      {"1", {2, 3, 4, 5}}, {"5", {1, 2, 3, 4}},        {" 2 - 4 ", {1, 5}}, {"2 to 3", {1, 4, 5}},
-      {"1,5", {}},         {"0", {}, false},           {"6", {}, false},    {"4-6", {}, false},
-      {"4-3", {}, false},  {"-1", {}, false},          {"two", {}, false},  {"1-2-3", {}, false},
-      {"", {}, false},     {"99999999999", {}, false},
-  };
-  for (const auto& test : cases) {
+  const Counts all = {1, 2, 3, 4, 5};
+  // clang-format off
+  const std::pair<std::string, Counts> cases[] = {
+      {"1", {2, 3, 4, 5}}, {"5", {1, 2, 3, 4}}, {" 2 - 4 ", {1, 5}}, {"2 to 3", {1, 4, 5}},
+      {"1,5", {}}, {"0", all}, {"6", all}, {"4-6", all}, {"4-3", all}, {"-1", all}, {"two", all},
+      {"1-2-3", all}, {"", all}, {"99999999999", all}};
+  // clang-format on
+  for (const auto& [entry, rolls] : cases) {
     ClearSessionsLog(Log());
     Play({1, 2, 3, 4, 5});
-    Shown.clear();
-    Answers = {test.Entry};
-    EXPECT_EQ(AskToDeleteSessions(2), test.Deleted) << test.Entry;
-    EXPECT_EQ(RollsIn(Log()), test.Deleted ? test.Rolls : (Counts{1, 2, 3, 4, 5}));
-    EXPECT_EQ(BytesOf(Log()).size(), 6u * 256);
-    if (!test.Deleted && !test.Entry.empty()) {
-      EXPECT_EQ(Shown.back(), "Delete Sessions: No sessions deleted.  Entry out of range.");
+    Answers = {entry};
+    EXPECT_EQ(AskToDeleteSessions(2), rolls != all) << entry;
+    EXPECT_EQ(RollsIn(Log()), rolls);
+    EXPECT_EQ(Read(Log()).size(), 6u * 256);
+    if (rolls == all && !entry.empty()) {
+      EXPECT_EQ(Said().back(), "Delete Sessions: No sessions deleted.  Entry out of range.");
     }
   }
-  Answers = {"yes"};
+  Answers = {AnswerYes};
   EXPECT_TRUE(AskToDeleteAllSessions(2));
-  EXPECT_EQ(Shown.back(),
+  EXPECT_EQ(Said().back(),
             "Delete All Sessions: Are you sure you want to delete ALL of Ann B's recorded "
             "sessions?");
-  EXPECT_EQ(BytesOf(Log()).size(), 256u);
+  EXPECT_EQ(Read(Log()).size(), 256u);
 }
 
 TEST_F(SessionsLogTest, ANewSessionClosesTheOldOneInEveryLogOrDeletesTheLogs) {
@@ -193,12 +137,12 @@ TEST_F(SessionsLogTest, ANewSessionClosesTheOldOneInEveryLogOrDeletesTheLogs) {
   NewSession({.keepLogs = true});
   NewSession({.keepLogs = true});
   EXPECT_EQ(RollsIn(Log()), (Counts{12}));
-  EXPECT_EQ(RollsIn(Folder.Path() + "a_.._c.slg"), (Counts{12}));
-  Table.SessionLogName[5] = Folder.Path() + "precious.txt";
-  Put(Table.SessionLogName[5], "not a log");
+  EXPECT_EQ(RollsIn(Path("a_.._c.slg")), (Counts{12}));
+  Table.SessionLogName[5] = Path("precious.txt");
+  Write(Table.SessionLogName[5], "not a log");
   NewSession({});
   EXPECT_FALSE(std::filesystem::exists(Log()));
-  EXPECT_EQ(BytesOf(Table.SessionLogName[5]), "not a log");
+  EXPECT_EQ(Read(Table.SessionLogName[5]), "not a log");
 }
 
 TEST_F(SessionsLogTest, ALeavingPlayersSessionIsClosedAndAMovedOneTakesHisLogAlong) {
@@ -212,46 +156,43 @@ TEST_F(SessionsLogTest, ALeavingPlayersSessionIsClosedAndAMovedOneTakesHisLogAlo
 }
 
 TEST_F(SessionsLogTest, OpeningTakesTrueLogsOnly) {
-  Put(Folder.Path() + "b.slg", "Tessarel Sessions Log, Data Format 4.0" + std::string(300, ' '));
+  Write(Path("b.slg"), "Tessarel Sessions Log, Data Format 4.0" + std::string(300, ' '));
   EXPECT_FALSE(OpenSessionsLog(2, "b.slg"));
-  EXPECT_EQ(Shown.back(),
-            "Error: This file is either from an older version, has been corrupted, or is not a "
-            "true Tessarel Sessions Log.");
+  EXPECT_TRUE(Said().back().ends_with("is not a true Tessarel Sessions Log."));
   EXPECT_FALSE(OpenSessionsLog(2, "missing.slg"));
   EXPECT_EQ(SessionsLogNameOf(2), Log());
-  ClearSessionsLog(Folder.Path() + "c.slg");
+  ClearSessionsLog(Path("c.slg"));
   EXPECT_TRUE(OpenSessionsLog(2, "c.slg"));
-  EXPECT_EQ(SessionsLogNameOf(2), Folder.Path() + "c.slg");
+  EXPECT_EQ(SessionsLogNameOf(2), Path("c.slg"));
 }
 
 TEST_F(SessionsLogTest, ANewLogLetsTheOldOneBeKept) {
   Play({1});
   Stats.RollCount[CurrentSession][0] = 8;
-  Answers = {"no"};
+  Answers = {AnswerNo};
   EXPECT_FALSE(NewSessionsLogs());
-  EXPECT_TRUE(Shown.back().starts_with(
-      "Session in progress will be added to new Sessions Logs: There's currently"));
-  Answers = {"yes", "yes"};
+  EXPECT_EQ(Shown.back().Title, "Session in progress will be added to new Sessions Logs");
+  Answers = {AnswerYes, AnswerYes};
   EXPECT_FALSE(NewSessionsLog(2)) << "the file dialog was given up";
   EXPECT_EQ(RollsIn(Log()), (Counts{1}));
   Shown.clear();
-  Answers = {"yes", "yes"};
-  Chosen = "kept.slg";
+  Answers = {AnswerYes, AnswerYes};
+  SaveName = "kept.slg";
   EXPECT_TRUE(NewSessionsLog(2));
-  EXPECT_EQ(Shown[1],
+  EXPECT_EQ(Said()[1],
             "Save Sessions Log: Ann B's log needs to be re-named if you want to save it.\r\rDo you "
             "want to re-name it now?");
-  EXPECT_EQ(RollsIn(Folder.Path() + Chosen), (Counts{1}));
-  EXPECT_EQ(BytesOf(Log()).size(), 256u);
+  EXPECT_EQ(RollsIn(Path(SaveName)), (Counts{1}));
+  EXPECT_EQ(Read(Log()).size(), 256u);
 }
 
 TEST_F(SessionsLogTest, MergingAppendsAndNeverCostsTheOpenLog) {
   Play({1, 2});
-  const std::string other = Folder.Path() + "other.slg";
+  const std::string other = Path("other.slg");
   AppendSessions(other, Log());
   EXPECT_TRUE(MergeSessionsLog(2, "other.slg"));
   EXPECT_EQ(RollsIn(Log()), (Counts{1, 2, 1, 2}));
-  Put(other, "nothing");
+  Write(other, "nothing");
   EXPECT_FALSE(MergeSessionsLog(2, "other.slg"));
   EXPECT_FALSE(MergeSessionsLog(2, "ann b.slg"));
   EXPECT_EQ(RollsIn(Log()), (Counts{1, 2, 1, 2}));
@@ -261,17 +202,18 @@ TEST_F(SessionsLogTest, ARenamedPlayerMayRenameHisLogButNotToThatOfAnother) {
   SeatPlayer(5, "Bob", 500);
   Play({1});
   for (const auto* name : {"bob.slg", "cleo.slg"}) {
-    Chosen = name;
-    Answers = {std::string(name).substr(0, 4) + "x", "yes"};
+    SaveName = name;
+    Answers = {std::string(name).substr(0, 4) + "x", AnswerYes};
     EXPECT_TRUE(RenamePlayer(2));
   }
-  EXPECT_EQ(Shown[1],
+  const Strings said = Said();
+  EXPECT_EQ(said[1],
             "Rename Sessions Log: Would you also like to change bob.x's sessions log "
             "filename?\r\rCurrently:\r\r" +
                 Log());
-  EXPECT_EQ(Shown[3], "Rename sessions log: This file is the sessions log of another player.");
-  EXPECT_EQ(RollsIn(Folder.Path() + "cleo.slg"), (Counts{1}));
-  EXPECT_EQ(SessionsLogNameOf(2), Folder.Path() + "cleo.slg");
+  EXPECT_EQ(said[3], "Rename sessions log: This file is the sessions log of another player.");
+  EXPECT_EQ(RollsIn(Path("cleo.slg")), (Counts{1}));
+  EXPECT_EQ(SessionsLogNameOf(2), Path("cleo.slg"));
   EXPECT_FALSE(std::filesystem::exists(Log()));
 }
 

@@ -2,29 +2,20 @@
 
 #include <functional>
 
-#include "base/clock.h"
 #include "log/events_log_fixture.h"
 #include "state/scripts.h"
 
 namespace tessarel {
 namespace {
 
-using Strings = std::vector<std::string>;
-
 const Money Cents = Money::FromRaw(12500);  // 1.25
 
 class EventLines : public EventsLogTest {
  protected:
-  void SetUp() override {
-    EventsLogTest::SetUp();
+  EventLines() {
     HoldClock({.year = 2026, .month = 11, .day = 22});
-    Scripts = {};
     Seat(2, "Ann", 500);
     Seat(8, "Bob", 1000);
-  }
-  void TearDown() override {
-    ReleaseClock();
-    EventsLogTest::TearDown();
   }
 
   static void Seat(int place, const std::string& name, Money bankroll) {
@@ -74,7 +65,7 @@ TEST_F(EventLines, NothingIsWrittenWhileTheLogIsOff) {
   SetBetAmount(2, FirstStack, 5);
   EventsLog.LogOn = false;
   EveryOccasion();
-  EXPECT_TRUE(std::filesystem::is_empty(folder_));
+  EXPECT_EQ(folder_.EntryCount(), 0);
 }
 
 TEST_F(EventLines, EachKindHasItsSwitch) {
@@ -83,10 +74,7 @@ TEST_F(EventLines, EachKindHasItsSwitch) {
   SetBetAmount(2, bet::Field, 5);
   SetBetAmount(2, FirstStack, 5);
   SetBankrollSlots(2, 600);
-  const struct {
-    bool State::*kind;
-    Strings lines;
-  } cases[] = {
+  const std::pair<bool State::*, Strings> cases[] = {
       {&State::LogRolls, {" Roll #1:  7 (3.4) from RNG #2"}},
       {&State::LogBets,
        {"    Bets:", "      Ann bet $5 on Field", "    Ann's Come bet moved to Come 4"}},
@@ -100,17 +88,18 @@ TEST_F(EventLines, EachKindHasItsSwitch) {
       {&State::LogDecisions, {"    Pass (natural)"}},
       {&State::LogBankroll,
        {"    Bankroll:", "      Ann increased to $600 ($100 ATM withdrawal)",
-        "    Bankroll:", "      Ann increased to $600 ($100 gain)"}},
-  };
+        "    Bankroll:", "      Ann increased to $600 ($100 gain)"}}};
   SelectAllEvents(false);
   const Strings always = Written(EveryOccasion);
-  for (const auto& test : cases) {
+  for (const auto& [kind, expected] : cases) {
     SelectAllEvents(false);
-    EventsLog.*test.kind = -1;
+    EventsLog.*kind = true;
     Strings lines = Written(EveryOccasion);
     for (const auto& line : always)
       std::erase(lines, line);
-    EXPECT_EQ(lines, test.lines);
+    EXPECT_EQ(lines, expected);
+    SelectAllEvents(true);
+    EXPECT_TRUE(EventsLog.*kind);
   }
 }
 
@@ -163,24 +152,20 @@ TEST_F(EventLines, OnlyCallsOfAStandingBetAreLogged) {
   const std::string off = "      Ann called OFF Place 6 bet",
                     on = "      Ann called ON Place 6 bet",
                     normal = "      Ann called Place 6 bet working normally again";
-  const struct {
-    int32_t before, now;
-    std::string line;
-  } cases[] = {
+  const std::tuple<int32_t, int32_t, std::string> cases[] = {
       {IsWorking, CalledOff, off},     {NotWorking, CalledOff, off},  {CalledOn, CalledOff, off},
       {NotWorking, CalledOn, on},      {IsWorking, CalledOn, on},     {CalledOff, CalledOn, on},
       {CalledOff, NotWorking, normal}, {CalledOn, IsWorking, normal}, {NotWorking, IsWorking, ""},
-      {IsWorking, NotWorking, ""},     {CalledOff, CalledOff, ""},
-  };
-  for (const auto& test : cases) {
+      {IsWorking, NotWorking, ""},     {CalledOff, CalledOff, ""}};
+  for (const auto& [before, now, line] : cases) {
     for (const Money amount : {12, 0}) {
       SetBetAmount(2, bet::Place6, amount);
-      SetBetWorking(2, bet::Place6, test.before);
+      SetBetWorking(2, bet::Place6, before);
       TakeSnapshots();
-      SetBetWorking(2, bet::Place6, test.now);
-      Strings expected;
-      if (amount != Money() && !test.line.empty()) expected = {"    Bets:", test.line};
-      EXPECT_EQ(Written(LogChangesSinceLastRoll), expected) << test.before << " to " << test.now;
+      SetBetWorking(2, bet::Place6, now);
+      const bool told = amount != Money() && !line.empty();
+      EXPECT_EQ(Written(LogChangesSinceLastRoll), (told ? Strings{"    Bets:", line} : Strings{}))
+          << before << " to " << now;
     }
   }
 }
@@ -219,30 +204,24 @@ TEST_F(EventLines, ARollFromItsLineToTheNextHand) {
 }
 
 TEST_F(EventLines, PlayersAndSeeds) {
-  const struct {
-    std::function<void()> action;
-    std::string line;
-  } cases[] = {
-      {[] { LogDicePassed(8); }, "    The dice were passed to Bob"},
-      {[] { LogPlayerJoined(2, Cents); }, "    Ann joined the game at stick 3-left with $1.25"},
-      {[] { LogPlayerJoined(8, 9); }, "    Bob joined the game at stick 4-right with $9"},
-      {[] { LogPlayerMoved(2); }, "    Ann moved to stick 3-left"},
-      {[] { LogPlayerRenamed("Ann", "Eve"); }, "    Ann's name changed to Eve"},
-      {[] { LogCashOut(2, 0); }, "    Ann cashed out with $500 (broke even)"},
-      {[] {
-         SetBankrollSlots(2, 520);
-         LogCashOut(2, 0);
-       },
-       "    Ann cashed out with $520 ($20 win)"},
-      {[] {
-         SetBankrollSlots(2, 400);
-         LogCashOut(2, 10);
-       },
-       "    Ann cashed out with $400 ($100 loss after $10 abandoned)"},
-      {[] { LogSeed(6, -3); }, "    RNG #6 seeded: -3"},
+  const auto cashOut = [](Money bankroll, Money abandoned) {
+    return [=] {
+      SetBankrollSlots(2, bankroll);
+      LogCashOut(2, abandoned);
+    };
   };
-  for (const auto& test : cases)
-    EXPECT_EQ(Written(test.action), Strings{test.line});
+  const std::pair<std::function<void()>, std::string> cases[] = {
+      {[] { LogDicePassed(8); }, "The dice were passed to Bob"},
+      {[] { LogPlayerJoined(2, Cents); }, "Ann joined the game at stick 3-left with $1.25"},
+      {[] { LogPlayerJoined(8, 9); }, "Bob joined the game at stick 4-right with $9"},
+      {[] { LogPlayerMoved(2); }, "Ann moved to stick 3-left"},
+      {[] { LogPlayerRenamed("Ann", "Eve"); }, "Ann's name changed to Eve"},
+      {cashOut(500, 0), "Ann cashed out with $500 (broke even)"},
+      {cashOut(520, 0), "Ann cashed out with $520 ($20 win)"},
+      {cashOut(400, 10), "Ann cashed out with $400 ($100 loss after $10 abandoned)"},
+      {[] { LogSeed(6, -3); }, "RNG #6 seeded: -3"}};
+  for (const auto& [action, line] : cases)
+    EXPECT_EQ(Written(action), Strings{"    " + line});
 }
 
 TEST_F(EventLines, ANewSession) {
@@ -250,22 +229,18 @@ TEST_F(EventLines, ANewSession) {
   HoldClock({2026, 11, 22, 19, 4, 5, 0, 1});
   Seat(5, "Cid", -Cents);
   Table.LastShooter = 5;
-  const Strings opening = {
-      " New session started 2026-11-22 @ 19:04:05",
-      rule,
-      "    Players:",
-      "      Ann at stick 3-left with $500",
-      "      Cid at stick 1-right with $-1.25",
-      "      Bob at stick 4-right with $1000",
-  };
+  const Strings opening = {" New session started 2026-11-22 @ 19:04:05",
+                           rule,
+                           "    Players:",
+                           "      Ann at stick 3-left with $500",
+                           "      Cid at stick 1-right with $-1.25",
+                           "      Bob at stick 4-right with $1000"};
   EXPECT_EQ(Written(LogNewSession), opening);
   Strings again = opening;
   again.push_back(rule);
   again.insert(again.end(), opening.begin(), opening.end());
   LogNewSession();
   EXPECT_EQ(Lines(), again);
-  ReleaseClock();
-
   SetScriptActive(8, true);
   EXPECT_EQ(Written([] { LogFirstHand("night.rll"); }),
             (Strings{"    Dice roll file playback actived (night.rll)",

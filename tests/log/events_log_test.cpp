@@ -1,24 +1,14 @@
 #include "log/events_log.h"
 
-#include "base/fault.h"
 #include "log/events_log_fixture.h"
 
 namespace tessarel {
 namespace {
 
 using namespace std::string_literals;
-using Strings = std::vector<std::string>;
-
-int FaultOf(void (*action)()) {
-  try {
-    action();
-  } catch (const Fault& fault) {
-    return fault.Number;
-  }
-  return 0;
-}
-
 constexpr auto WriteOne = [] { WriteEvent("one"); };
+const int Overflow = NumberOf(FaultNumber::Overflow),
+          FileAccess = NumberOf(FaultNumber::FileAccess);
 
 TEST_F(EventsLogTest, LinesAndPositionsToTheByte) {
   WriteEvent("    Bets:");
@@ -31,9 +21,9 @@ TEST_F(EventsLogTest, LinesAndPositionsToTheByte) {
 
 TEST_F(EventsLogTest, PositionsAreLowestByteFirst) {
   WriteEvent(std::string(0x010203 - 1 - 2, 'x'));
-  WriteEvent("behind");
+  WriteEvent("after it");
   EXPECT_EQ(IndexBytes(), "\x01\0\0\0\x03\x02\x01\0"s);
-  EXPECT_EQ(EventLine(2), "behind");
+  EXPECT_EQ(EventLine(2), "after it");
   EXPECT_EQ(EventLine(1).size(), 65536u);
 }
 
@@ -54,21 +44,6 @@ TEST_F(EventsLogTest, SectionHeadingsStandOnceUntilTheyEnd) {
   EXPECT_EQ(Lines(), (Strings{"A:", "B:", "A:", "A:"}));
 }
 
-TEST_F(EventsLogTest, SelectingAllSetsAndClearsTheEightKinds) {
-  using State = EventsLogState;
-  constexpr bool State::*Kinds[] = {
-      &State::LogRolls, &State::LogBets,   &State::LogCheckStacks, &State::LogShooters,
-      &State::LogWins,  &State::LogLosses, &State::LogDecisions,   &State::LogBankroll};
-  for (const bool on : {false, true}) {
-    SelectAllEvents(on);
-    for (const auto kind : Kinds)
-      EXPECT_EQ(Logs(kind), on);
-  }
-  EventsLog.LogOn = false;
-  for (const auto kind : Kinds)
-    EXPECT_FALSE(Logs(kind));
-}
-
 TEST_F(EventsLogTest, ALostIndexStartsAtOneAndARebuildCoversTheWholeLog) {
   for (const auto* line : {"first", " Roll #1", "third"})
     WriteEvent(line);
@@ -80,29 +55,29 @@ TEST_F(EventsLogTest, ALostIndexStartsAtOneAndARebuildCoversTheWholeLog) {
   RebuildEventsIndex();
   EXPECT_EQ(IndexBytes(), index + "\x19\0\0\0"s);
   EXPECT_EQ(EventsLog.LatestRollLine, 2);
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_), {}), 2);
+  EXPECT_EQ(folder_.EntryCount(), 2);
 }
 
 TEST_F(EventsLogTest, RebuildReadsWhatOthersWrote) {
   // The long line puts the start of a roll, and its word, on the border of the blocks read.
   for (const size_t before : {65533u, 65534u, 65535u, 65536u, 65537u}) {
     const std::string first(before - 1, 'R');
-    Put(DefaultEventLogName(), first + "\n  Roll #1\n\r\nno end\0 here"s);
+    Write(DefaultEventLogName(), first + "\n  Roll #1\n\r\nno end\0 here"s);
     RebuildEventsIndex();
     EXPECT_EQ(Lines(), (Strings{first, "  Roll #1", "", "no end\0 here"s})) << before;
     EXPECT_EQ(EventsLog.LatestRollLine, 2) << before;
   }
-  Put(DefaultEventLogName(), "");
+  Write(DefaultEventLogName(), "");
   RebuildEventsIndex();
   EXPECT_EQ(EventLineCount(), 0);
   EXPECT_EQ(EventsLog.LatestRollLine, 0);
 }
 
 TEST_F(EventsLogTest, AForeignIndexShowsNothingThatIsNotThere) {
-  Put(DefaultEventLogName(), "abc\r\nlast");
-  // Positions 0, -1, behind the end, in the middle of a line, 32-bit ends, and half a record.
-  Put(EventsIndexName(),
-      "\0\0\0\0\xff\xff\xff\xff\x0b\0\0\0\x08\0\0\0\0\0\0\x80\xff\xff\xff\x7f\1\0"s);
+  Write(DefaultEventLogName(), "abc\r\nlast");
+  // Positions 0, -1, after the end, in the middle of a line, 32-bit ends, and half a record.
+  Write(EventsIndexName(),
+        "\0\0\0\0\xff\xff\xff\xff\x0b\0\0\0\x08\0\0\0\0\0\0\x80\xff\xff\xff\x7f\1\0"s);
   EXPECT_EQ(Lines(), (Strings{"", "", "", "st", "", ""}));
   for (const int32_t number : {INT32_MIN, -1, 0, 7, INT32_MAX})
     EXPECT_EQ(EventLine(number), "") << number;
@@ -113,30 +88,26 @@ TEST_F(EventsLogTest, AForeignIndexShowsNothingThatIsNotThere) {
   EXPECT_EQ(EventLine(7), "next");
 }
 
-TEST_F(EventsLogTest, WithoutFilesThereAreNoLines) {
-  EXPECT_EQ(EventLineCount(), 0);
-  EXPECT_EQ(EventLine(1), "");
-  EXPECT_EQ(FaultOf(RebuildEventsIndex), static_cast<int>(FaultNumber::FileNotFound));
-}
-
 TEST_F(EventsLogTest, ClearingTakesAwayTheLogOfAnyNameAndItsIndex) {
-  EventsLog.EventLogName = Folders.AppFolder + "Friday.txt";
+  EventsLog.EventLogName = Path("Friday.txt");
   EventsLog.KeepLatestRollOnTop = true;
   WriteSection("Roll");
   EXPECT_TRUE(EventsLogExists());
   for (int time = 1; time <= 2; ++time)
     ClearEventsLog();
-  EXPECT_TRUE(std::filesystem::is_empty(folder_));
+  EXPECT_EQ(folder_.EntryCount(), 0);
   EXPECT_FALSE(EventsLogExists());
   EXPECT_EQ(EventsLog.LatestRollLine, 0);
+  EXPECT_EQ(EventLine(1), "");
+  EXPECT_EQ(FaultOf(RebuildEventsIndex), NumberOf(FaultNumber::FileNotFound));
   WriteSection("Roll");
   EXPECT_EQ(Lines(), Strings{"Roll"});
 }
 
-TEST_F(EventsLogTest, ALineBehindTheLastPositionIsRefused) {
+TEST_F(EventsLogTest, ALineAfterTheLastPositionIsRefused) {
   WriteOne();
   std::filesystem::resize_file(DefaultEventLogName(), INT32_MAX);
-  EXPECT_EQ(FaultOf(WriteOne), static_cast<int>(FaultNumber::Overflow));
+  EXPECT_EQ(FaultOf(WriteOne), Overflow);
   EXPECT_EQ(std::filesystem::file_size(DefaultEventLogName()), uintmax_t{INT32_MAX});
   EXPECT_EQ(EventLineCount(), 1);
 
@@ -147,14 +118,12 @@ TEST_F(EventsLogTest, ALineBehindTheLastPositionIsRefused) {
 }
 
 TEST_F(EventsLogTest, FilesThatCannotBeWrittenRaiseTheirFault) {
-  std::filesystem::create_directory(folder_ / "Events Log.txt");
-  EXPECT_EQ(FaultOf(WriteOne), static_cast<int>(FaultNumber::FileAccess));
-  Put(Folders.AppFolder + "Events Log.txt/kept", "");
-  EXPECT_EQ(FaultOf(ClearEventsLog), static_cast<int>(FaultNumber::FileAccess));
-#ifdef __linux__
+  std::filesystem::create_directory(Path("Events Log.txt"));
+  EXPECT_EQ(FaultOf(WriteOne), FileAccess);
+  Write("Events Log.txt/kept", "");
+  EXPECT_EQ(FaultOf(ClearEventsLog), FileAccess);
   EventsLog.EventLogName = "/dev/full";
-  EXPECT_EQ(FaultOf(WriteOne), static_cast<int>(FaultNumber::DeviceFull));
-#endif
+  EXPECT_EQ(FaultOf(WriteOne), NumberOf(FaultNumber::DeviceFull));
 }
 
 }  // namespace

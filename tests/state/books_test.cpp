@@ -1,12 +1,13 @@
 #include "state/books.h"
-#include "engine/seats.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <sstream>
+#include <span>
+#include <vector>
 
 #include "base/message.h"
+#include "engine/seats.h"
 #include "play/players.h"
 #include "play/roll_fixture.h"
 #include "state/books_check.h"
@@ -17,210 +18,122 @@ namespace {
 
 using Store = RollTest;
 
-// --- Roll codes --------------------------------------------------------------------------------
-
-std::vector<int> Numbers(const char* text) {
-  std::istringstream in(text);
-  return {std::istream_iterator<int>(in), std::istream_iterator<int>()};
-}
-
-TEST_F(Store, EveryPairReportsItsCodes) {
-  constexpr int PairCode[6][6] = {{2, 22, 24, 27, 33, 39},  {23, 13, 29, 35, 41, 48},
-                                  {25, 30, 14, 43, 50, 54}, {28, 36, 44, 15, 56, 60},
-                                  {34, 42, 51, 57, 16, 63}, {40, 49, 55, 61, 64, 12}};
-  const struct {
-    int low, high;
-    const char* codes;
-  } pairs[] = {
-      {1, 1, "21 65 66 20 69 74"},
-      {1, 2, "3 21 65 66 20 70 74 75"},
-      {1, 3, "4 26 21 17 19 67 71"},
-      {2, 2, "4 21 17 19 67 71"},
-      {1, 4, "5 31 17 18 19 67 72"},
-      {2, 3, "5 32 17 18 19 67 72"},
-      {1, 5, "6 37 17 18 67 73"},
-      {2, 4, "6 38 17 18 67 73"},
-      {3, 3, "6 17 18 67 73"},
-      {1, 6, "7 45 65 76"},
-      {2, 5, "7 46 65 76"},
-      {3, 4, "7 47 65 76"},
-      {2, 6, "8 52 17 18 68 73"},
-      {3, 5, "8 53 17 18 68 73"},
-      {4, 4, "8 17 18 68 73"},
-      {3, 6, "9 58 21 17 18 19 68 72"},
-      {4, 5, "9 59 21 17 18 19 68 72"},
-      {4, 6, "10 62 21 17 19 68 71"},
-      {5, 5, "10 21 17 19 68 71"},
-      {5, 6, "11 21 65 66 70 76 77"},
-      {6, 6, "21 65 66 20 69 75 77"},
-  };
-  for (const auto& pair : pairs) {
-    for (const auto& [die1, die2] : {std::pair(pair.low, pair.high), {pair.high, pair.low}}) {
-      std::vector<int> expected = {die1 + 77, die2 + 83, PairCode[die1 - 1][die2 - 1]};
-      for (const int code : Numbers(pair.codes))
-        expected.push_back(code);
-      const RollCodeList& list = CodesOfRoll(die1, die2);
-      const auto end = std::find(list.begin(), list.end(), 0);
-      ASSERT_NE(end, list.end());
-      EXPECT_EQ(std::vector<int>(list.begin(), end), expected) << die1 << "-" << die2;
-    }
-  }
-}
-
 // --- A long game, counted again from its history -----------------------------------------------
 
 struct PlayedRoll {
   int die1, die2;
-  int session, hand;  // from 0
-  int shooter;        // who is credited
   bool comeOut, pass, miss;
 };
 
 struct PlayedBet {
-  int place, number, session, hand;
+  int place, number;
   Money stake, result;
   int sessionRoll, gameRoll;
 };
 
-struct History {
-  std::vector<PlayedRoll> rolls;
-  std::vector<PlayedBet> bets;
-  int session = 0, hand = 0;
+struct PlayedHand {
+  int shooter;  // who is credited
+  bool ended = false;
+  std::vector<PlayedRoll> rolls{};
+  std::vector<PlayedBet> bets{};
 };
 
-// The entries of a scope: which session and hand count into it; -1 for any.
-struct Span {
-  int session, hand;
-  bool Has(int s, int h) const { return (session < 0 || s == session) && (hand < 0 || h == hand); }
-};
+using Hands = std::span<const PlayedHand>;
 
-BetMeasures Remeasure(const std::vector<std::pair<Money, int>>& entries) {
-  BetMeasures m;
-  for (const auto& [amount, roll] : entries) {
-    m.Sum += amount;
-    m.High = std::max(m.High, amount);
-    m.LastRoll = roll;
-    m.Last = amount;
-  }
-  m.Count = std::ssize(entries);
-  if (!entries.empty()) {
-    m.Low = std::min_element(entries.begin(), entries.end(), [](auto& a, auto& b) {
-              return a.first < b.first;
-            })->first;
-  }
-  return m;
+void Enter(BetMeasures& m, Money amount, int roll) {
+  m.Low = m.Count == 0 ? amount : std::min(m.Low, amount);
+  m.High = std::max(m.High, amount);
+  ++m.Count;
+  m.Sum += amount;
+  m.LastRoll = roll;
+  m.Last = amount;
 }
 
-bool operator==(const BetMeasures& a, const BetMeasures& b) {
+void ExpectSame(const BetMeasures& a, const BetMeasures& b) {
   const auto fields = [](const BetMeasures& m) {
     return std::tuple{m.Count, m.Sum, m.High, m.Low, m.LastRoll, m.Last};
   };
-  return fields(a) == fields(b);
+  EXPECT_EQ(fields(a), fields(b));
 }
 
-void CheckBets(const History& history, Scope scope, const Span& span) {
-  const bool game = scope == AllSessions;
+void CheckBets(Hands hands, Scope scope) {
+  Indexed<Indexed<BetRecord, LastBet + 1>, 9> records{};
+  for (const PlayedHand& hand : hands) {
+    for (const PlayedBet& bet : hand.bets) {
+      const int roll = scope == AllSessions ? bet.gameRoll : bet.sessionRoll;
+      BetRecord& record = At(At(records, bet.place), bet.number);
+      Enter(record.Tendered, bet.stake, roll);
+      Enter(bet.result > Money() ? record.Won : record.Lost, Abs(bet.result), roll);
+    }
+  }
   for (int place = 1; place <= LastPlace; ++place) {
     for (int number = 1; number <= LastBet; ++number) {
-      std::vector<std::pair<Money, int>> tendered, won, lost;
-      for (const PlayedBet& bet : history.bets) {
-        if (bet.place != place || bet.number != number || !span.Has(bet.session, bet.hand))
-          continue;
-        const int roll = game ? bet.gameRoll : bet.sessionRoll;
-        tendered.emplace_back(bet.stake, roll);
-        (bet.result > Money() ? won : lost).emplace_back(Abs(bet.result), roll);
-      }
-      const BetRecord& record = Stats.Bets[place + scope][number];
-      EXPECT_TRUE(record.Tendered == Remeasure(tendered)) << place << " " << BetName[number];
-      EXPECT_TRUE(record.Won == Remeasure(won)) << place << " " << BetName[number];
-      EXPECT_TRUE(record.Lost == Remeasure(lost)) << place << " " << BetName[number];
+      SCOPED_TRACE(std::to_string(place) + " " + std::string(BetName[number]));
+      const BetRecord &record = Stats.Bets[place + scope][number],
+                      &expected = At(At(records, place), number);
+      ExpectSame(record.Tendered, expected.Tendered);
+      ExpectSame(record.Won, expected.Won);
+      ExpectSame(record.Lost, expected.Lost);
     }
   }
 }
 
-// The longest of a kind in one hand of the slot's shooter.
-template <class Counts>
-int Most(const History& history, const Span& span, int place, Counts&& counts) {
-  int most = 0, run = 0, session = -1, hand = -1;
-  for (const PlayedRoll& roll : history.rolls) {
-    if (roll.session != session || roll.hand != hand) run = 0;
-    session = roll.session;
-    hand = roll.hand;
-    run += counts(roll) ? 1 : 0;
-    const bool credited = place == 0 || roll.shooter == place;
-    if (credited && span.Has(session, hand)) most = std::max(most, run);
-  }
-  return most;
-}
-
-void CheckRolls(const History& history, Scope scope, const Span& span) {
-  for (int place = 0; place <= LastPlace; ++place) {
-    SCOPED_TRACE("place " + std::to_string(place) + ", scope " + std::to_string(scope));
-    Indexed<int32_t, RollCodes> counts{};
-    Indexed<Indexed<int32_t, 4>, 13> table{};
-    int rollTotal = 0;
-    for (const PlayedRoll& roll : history.rolls) {
-      if (!span.Has(roll.session, roll.hand)) continue;
-      if (place == 0 || IsTaken(Table, place)) ++rollTotal;
-      if (place != 0 && place != roll.shooter) continue;
+void CheckRolls(Hands hands, Scope scope, int place) {
+  SCOPED_TRACE("place " + std::to_string(place) + ", scope " + std::to_string(scope));
+  Indexed<int32_t, RollCodes> counts{};
+  Indexed<Indexed<int32_t, 4>, 13> table{};
+  int rollTotal = 0, handCount = 0;
+  std::array<int32_t, 4> most{};  // rolls, come-outs, passes and misses of one hand
+  for (const PlayedHand& hand : hands) {
+    if (place == 0 || IsTaken(Table, place)) rollTotal += static_cast<int>(hand.rolls.size());
+    if (place != 0 && place != hand.shooter) continue;
+    handCount += hand.ended ? 1 : 0;
+    std::array<int32_t, 4> now{};
+    for (const PlayedRoll& roll : hand.rolls) {
       ++counts[0];
       for (const uint8_t code : CodesOfRoll(roll.die1, roll.die2))
         counts[code] += code != 0 ? 1 : 0;
-      auto& rows = At(table, roll.die1 + roll.die2);
-      rows[1] += roll.comeOut ? 1 : 0;
-      rows[2] += roll.pass ? 1 : 0;
-      rows[3] += roll.miss ? 1 : 0;
+      const std::array<int32_t, 4> kinds = {1, roll.comeOut, roll.pass, roll.miss};
+      for (size_t kind = 0; kind < 4; ++kind) {
+        if (kind != 0) At(table, roll.die1 + roll.die2)[kind] += kinds[kind];
+        most[kind] = std::max(most[kind], now[kind] += kinds[kind]);
+      }
     }
-    const size_t slot = static_cast<size_t>(scope + place);
-    EXPECT_EQ(Stats.RollCount[slot], counts);
-    EXPECT_EQ(Stats.HandTable[slot], table);
-    const HandFigures& hands = Stats.Hands[slot];
-    EXPECT_EQ(hands.RollTotal, rollTotal);
-    EXPECT_EQ(hands.MostRolls, Most(history, span, place, [](auto&) { return true; }));
-    EXPECT_EQ(hands.MostComeoutRolls,
-              Most(history, span, place, [](auto& r) { return r.comeOut; }));
-    EXPECT_EQ(hands.MostPasses, Most(history, span, place, [](auto& r) { return r.pass; }));
-    EXPECT_EQ(hands.MostMisses, Most(history, span, place, [](auto& r) { return r.miss; }));
   }
+  const size_t slot = static_cast<size_t>(scope + place);
+  EXPECT_EQ(Stats.RollCount[slot], counts);
+  EXPECT_EQ(Stats.HandTable[slot], table);
+  const HandFigures& figures = Stats.Hands[slot];
+  EXPECT_EQ(figures.HandCount, handCount);
+  EXPECT_EQ(figures.RollTotal, rollTotal);
+  EXPECT_EQ((std::array<int32_t, 4>{figures.MostRolls, figures.MostComeoutRolls, figures.MostPasses,
+                                    figures.MostMisses}),
+            most);
 }
 
-int HandsOf(const History& history, const Span& span, int place) {
-  int hands = 0, session = -1, hand = -1;
-  for (const PlayedRoll& roll : history.rolls) {
-    const bool begins = roll.session != session || roll.hand != hand;
-    session = roll.session;
-    hand = roll.hand;
-    const bool ended = session < history.session || hand < history.hand;
-    const bool credited = place == 0 || roll.shooter == place;
-    hands += begins && ended && credited && span.Has(session, hand) ? 1 : 0;
-  }
-  return hands;
-}
-
-void CheckScope(const History& history, Scope scope, const Span& span) {
-  CheckBets(history, scope, span);
-  CheckRolls(history, scope, span);
+void CheckScope(Hands hands, Scope scope) {
+  CheckBets(hands, scope);
   for (int place = 0; place <= LastPlace; ++place)
-    EXPECT_EQ(Stats.Hands[scope + place].HandCount, HandsOf(history, span, place));
+    CheckRolls(hands, scope, place);
 }
 
-void CheckGaps(const History& history) {
+void CheckGaps(Hands session) {
   Indexed<int, RollCodes> last{};
   Indexed<Indexed<int32_t, 201>, RollCodes> gaps{};
   int count = 0;
-  for (const PlayedRoll& roll : history.rolls) {
-    if (roll.session != history.session) continue;
-    ++count;
-    for (const uint8_t code : CodesOfRoll(roll.die1, roll.die2)) {
-      if (code == 0) break;
-      if (last[code] != 0) ++At(gaps[code], std::min(count - last[code] - 1, 200));
-      last[code] = count;
+  for (const PlayedHand& hand : session) {
+    for (const PlayedRoll& roll : hand.rolls) {
+      ++count;
+      for (const uint8_t code : CodesOfRoll(roll.die1, roll.die2)) {
+        if (code == 0) break;
+        if (last[code] != 0) ++At(gaps[code], std::min(count - last[code] - 1, 200));
+        last[code] = count;
+      }
     }
   }
   EXPECT_EQ(Stats.GapCount, gaps);
   for (int code = 1; code < RollCodes; ++code)
-    EXPECT_EQ(RollsSince(code),
-              last[static_cast<size_t>(code)] == 0 ? count : count - At(last, code));
+    EXPECT_EQ(RollsSince(code), count - At(last, code));
 }
 
 class LongGame : public RollTest {
@@ -241,7 +154,7 @@ class LongGame : public RollTest {
   }
 
   void PlayOne() {
-    const int roll = static_cast<int>(history_.rolls.size()) + 1;
+    const int roll = ++rolls_;
     if (roll % 97 == 0) PassDice(PlayerAsked);
     const int point = Table.Point, credited = Table.LastShooter;
     Indexed<Money, 9> before{}, stake{};
@@ -261,22 +174,37 @@ class LongGame : public RollTest {
     const int total = Table.DiceTotal;
     const bool comeOut = point == 0, natural = total == 7 || total == 11;
     const bool craps = total < 4 || total == 12;
-    history_.rolls.push_back({Table.Die1, Table.Die2, history_.session, history_.hand, credited,
-                              comeOut, comeOut ? natural : total == point,
-                              comeOut ? craps : total == 7});
+    if (hands_.size() == sessionStart_ || hands_.back().ended) hands_.push_back({credited});
+    hands_.back().rolls.push_back({Table.Die1, Table.Die2, comeOut,
+                                   comeOut ? natural : total == point,
+                                   comeOut ? craps : total == 7});
     for (const int place : Places) {
       const Money result = BankrollOf(place) - At(before, place);
       if (result == Money()) continue;
-      history_.bets.push_back({place, At(number, place), history_.session, history_.hand,
-                               At(stake, place), result, RollsInSession(), roll});
+      hands_.back().bets.push_back(
+          {place, At(number, place), At(stake, place), result, RollsInSession(), roll});
       PutDown(place, At(number, place), 0);
       Table.LayVig[place] = Table.BuyVig[place] = {};
       Table.MoneyOnTable[place] = Money();
     }
-    if (point != 0 && total == 7) ++history_.hand;
+    hands_.back().ended = point != 0 && total == 7;
+  }
+  void PlayOn(int rolls) {
+    for (int roll = 0; roll < rolls || RollsInHand() == 0; ++roll)
+      PlayOne();
+    const Hands all = hands_, session = all.subspan(sessionStart_);
+    CheckScope(all.last(1), CurrentHand);
+    CheckScope(all.last(2).first(1), LastHand);
+    CheckScope(session, CurrentSession);
+    CheckScope(all.first(sessionStart_), LastSession);
+    CheckScope(all, AllSessions);
+    CheckGaps(session);
+    EXPECT_EQ(CheckBooks(), "");
   }
 
-  History history_;
+  std::vector<PlayedHand> hands_;
+  size_t sessionStart_ = 0;  // where the hands of the session begin
+  int rolls_ = 0;
 };
 
 TEST_F(LongGame, CountsWhatWasPlayedInEveryScope) {
@@ -286,34 +214,19 @@ TEST_F(LongGame, CountsWhatWasPlayedInEveryScope) {
   Dice.CurrentRNG = 1;
   Dice.SeedRequest = 2718;
   ASSERT_TRUE(SeedRNG(-1));
-  for (int roll = 0; roll < 2000 || RollsInHand() == 0; ++roll)
-    PlayOne();
-  CheckScope(history_, CurrentHand, {0, history_.hand});
-  CheckScope(history_, LastHand, {0, history_.hand - 1});
-  CheckScope(history_, CurrentSession, {0, -1});
-  CheckScope(history_, AllSessions, {-1, -1});
-  CheckGaps(history_);
-  EXPECT_EQ(CheckBooks(), "");
+  PlayOn(2000);
 
   // A new session ends the hand that runs.
   EndHand();
+  hands_.back().ended = true;
   StartSessionStatistics();
   for (const int place : Places)
     SetBankroll(place, BankrollOf(place));
   Table.Point = Table.LastPoint = 0;
   Table.LastShooter = Table.Shooter;
-  const int lastHand = history_.hand;
-  ++history_.session;
-  history_.hand = 0;
-  CheckScope(history_, LastHand, {0, lastHand});
-  for (int roll = 0; roll < 1000 || RollsInHand() == 0; ++roll)
-    PlayOne();
-  CheckScope(history_, CurrentHand, {1, history_.hand});
-  CheckScope(history_, LastHand, {1, history_.hand - 1});
-  CheckScope(history_, CurrentSession, {1, -1});
-  CheckScope(history_, LastSession, {0, -1});
-  CheckScope(history_, AllSessions, {-1, -1});
-  CheckGaps(history_);
+  sessionStart_ = hands_.size();
+  CheckScope(Hands(hands_).last(1), LastHand);
+  PlayOn(1000);
 }
 
 // --- Single facts ------------------------------------------------------------------------------
@@ -369,7 +282,7 @@ TEST_F(Store, ClearingAPlaceLeavesTheOthers) {
   EXPECT_EQ(RollsInSession(), 3);
 }
 
-TEST_F(Store, ClearingAllSessionsKeepsTheSession) {
+TEST_F(Store, ClearingAllSessionsKeepsTheSessionAndOneWithoutRollsTheLast) {
   Seat(1);
   PutDown(1, bet::Field, 10);
   Throw(1, 1);
@@ -378,40 +291,31 @@ TEST_F(Store, ClearingAllSessionsKeepsTheSession) {
   EXPECT_EQ(Stats.Bets[1 + AllSessions][bet::Field].Won.Count, 0);
   EXPECT_EQ(RollsInSession(), 1);
   EXPECT_EQ(Stats.Bets[1 + CurrentSession][bet::Field].Won.Count, 1);
+  for (int time = 1; time <= 2; ++time) {
+    StartSessionStatistics();
+    EXPECT_EQ(Stats.RollCount[LastSession][0], 1);
+  }
 }
 
 TEST_F(Store, AFullFigureIsReportedAndTheRollGoesOn) {
   constexpr int64_t Full = std::numeric_limits<int64_t>::max();
-  struct {
-    const char* Place;
-    void (*Fill)();
-  } const cases[] = {
+  const std::pair<const char*, void (*)()> cases[] = {
       {"RecordRoll", [] { Stats.RollCount[AllSessions][0] = std::numeric_limits<int32_t>::max(); }},
       {"RecordBetResult",
        [] { Stats.Bets[1 + AllSessions][bet::Field].Lost.Sum = Money::FromRaw(Full); }},
-      {"RecordBankrolls", [] { Table.BankrollSum[1] = Money::FromRaw(Full); }},
-  };
-  for (const auto& c : cases) {
+      {"RecordBankrolls", [] { Table.BankrollSum[1] = Money::FromRaw(Full); }}};
+  for (const auto& [routine, fill] : cases) {
     SetUp();
     Seat(1, 100);
     Throw(2, 2);
-    c.Fill();
+    fill();
     PutDown(1, bet::Field, 10);
     Throw(3, 4);
-    EXPECT_EQ(Message.MsgText, "Overflow, Error #6 occurred at: " + std::string(c.Place));
+    EXPECT_EQ(Message.MsgText, "Overflow, Error #6 occurred at: " + std::string(routine));
     EXPECT_EQ(Table.Point, 0);
     EXPECT_EQ(BankrollOf(1), Money(90));
     EXPECT_EQ(RollsInHand(), 0) << "the seven ends the hand";
   }
-}
-
-TEST_F(Store, SessionWithoutRollsKeepsTheLastOne) {
-  Seat(1);
-  Throw(1, 1);
-  StartSessionStatistics();
-  EXPECT_EQ(Stats.RollCount[LastSession][0], 1);
-  StartSessionStatistics();
-  EXPECT_EQ(Stats.RollCount[LastSession][0], 1);
 }
 
 }  // namespace

@@ -1,40 +1,12 @@
 #include "stats/bankroll_graph.h"
 #include "engine/seats.h"
 
-#include <deque>
-
 #include "stats/stats_fixture.h"
 
 namespace tessarel {
 namespace {
 
-class BankrollGraphTest : public StatsTest {
- protected:
-  void SetUp() override {
-    StatsTest::SetUp();
-    BankrollGraph = {};
-    Answers.clear();
-    Asked.clear();
-  }
-  void TearDown() override {
-    BankrollGraph = {};
-    StatsTest::TearDown();
-  }
-
-  static void Answer(std::deque<std::string> answers) {
-    Answers = std::move(answers);
-    FrontEnd.ShowMessage = [] {
-      Asked.push_back(Message.MsgText);
-      Message.MsgResult = Answers.empty() ? AnswerCancel : 0;
-      if (Answers.empty()) return;
-      Message.MsgInput = Answers.front();
-      Answers.pop_front();
-    };
-  }
-
-  inline static std::deque<std::string> Answers;
-  inline static std::vector<std::string> Asked;
-};
+using BankrollGraphTest = StatsTest;
 
 TEST_F(BankrollGraphTest, AveragesAreThoseOfThePointsAlsoWhenTheRingHasTurned) {
   SeatPlayer(1, "Ann", 9000);
@@ -83,27 +55,18 @@ TEST_F(BankrollGraphTest, ALateComersLineBeginsWhenHeJoins) {
 }
 
 TEST_F(BankrollGraphTest, TheWindowShowsPagesOrTheNewestRolls) {
-  const struct {
-    int32_t rolls, held, plot, back;
-    RollSpan window;
-  } cases[] = {
+  const std::tuple<int32_t, int32_t, int32_t, int32_t, RollSpan> cases[] = {
       {0, 0, PlotByPage, 0, {1, 150}},          {150, 150, PlotByPage, 0, {1, 150}},
       {151, 151, PlotByPage, 0, {151, 300}},    {151, 151, PlotByPage, 100, {51, 200}},
       {151, 151, PlotByPage, 999, {1, 150}},    {10, 10, PlotByScrolling, 0, {1, 150}},
-      {151, 151, PlotByScrolling, 0, {2, 151}}, {5000, 1050, PlotByScrolling, 9999, {3951, 4100}},
-  };
+      {151, 151, PlotByScrolling, 0, {2, 151}}, {5000, 1050, PlotByScrolling, 9999, {3951, 4100}}};
   for (const auto& [rolls, held, plot, back, window] : cases)
     EXPECT_EQ(GraphWindow(rolls, held, 150, plot, back), window) << rolls << " " << back;
 }
 
 TEST_F(BankrollGraphTest, TheScaleFollowsTheLine) {
   const GraphRange base{0, 100};
-  const struct {
-    int32_t type;
-    GraphRange now;
-    VisibleLine line;
-    GraphRange then;
-  } cases[] = {
+  const std::tuple<int32_t, GraphRange, VisibleLine, GraphRange> cases[] = {
       {AdjustByHand, base, {-50, 500, 500}, base},
       {AutoShift, base, {0, 100, 50}, base},
       {AutoShift, base, {60, 130, 130}, {30, 130}},
@@ -153,28 +116,28 @@ TEST_F(BankrollGraphTest, Labels) {
 }
 
 TEST_F(BankrollGraphTest, TheMovingAverageIsAWholeNumberUpTo525) {
-  Answer({"526", "-1", "1.5", "x", "525"});
+  Answers = {"526", "-1", "1.5", "x", "525"};
   EXPECT_TRUE(SetMovingAverage());
   EXPECT_EQ(BankrollGraph.MovingAverageRolls, 525);
-  ASSERT_EQ(Asked.size(), 5u);
-  EXPECT_EQ(Asked[4], "The number of rolls must be a whole number from 0 to 525.\r\r" + Asked[0]);
-  Answer({"526"});
+  ASSERT_EQ(Shown.size(), 5u);
+  EXPECT_EQ(Shown[4].Text,
+            "The number of rolls must be a whole number from 0 to 525.\r\r" + Shown[0].Text);
+  Answers = {"526", AnswerCancel};
   EXPECT_FALSE(SetMovingAverage());
   EXPECT_EQ(BankrollGraph.MovingAverageRolls, 525);
-  Answer({"0"});
+  Answers = {"0"};
   EXPECT_TRUE(SetMovingAverage());
   EXPECT_EQ(BankrollGraph.MovingAverageRolls, 0);
 }
 
 TEST_F(BankrollGraphTest, AutoPrintIsConfirmed) {
-  FrontEnd.ShowMessage = [] { Message.MsgResult = AnswerNo; };
-  EXPECT_FALSE(SetAutoPrint(true));
-  EXPECT_FALSE(BankrollGraph.AutoPrint);
-  FrontEnd.ShowMessage = [] { Message.MsgResult = AnswerYes; };
-  EXPECT_TRUE(SetAutoPrint(true));
-  EXPECT_TRUE(BankrollGraph.AutoPrint);
-  EXPECT_TRUE(SetAutoPrint(false));
-  EXPECT_FALSE(BankrollGraph.AutoPrint);
+  const std::tuple<int32_t, bool, bool> cases[] = {
+      {AnswerNo, true, false}, {AnswerYes, true, true}, {AnswerNo, false, true}};
+  for (const auto& [answer, on, done] : cases) {
+    Always = answer;
+    EXPECT_EQ(SetAutoPrint(on), done);
+    EXPECT_EQ(BankrollGraph.AutoPrint, on && done);
+  }
 }
 
 }  // namespace

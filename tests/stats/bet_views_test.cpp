@@ -9,8 +9,7 @@ namespace {
 
 class BetViews : public StatsTest {
  protected:
-  void SetUp() override {
-    StatsTest::SetUp();
+  BetViews() {
     SeatPlayer(1, "Ann", 5000);
     SeatPlayer(4, "Bob", 5000);
   }

@@ -41,15 +41,10 @@ TEST(ChiSquare, TailAgreesWithAnIndependentIncompleteGamma) {
 }
 
 TEST(ChiSquare, TailHasItsEnds) {
-  const struct {
-    double chi;
-    int degrees;
-    double p;
-  } cases[] = {
+  const std::tuple<double, int, double> cases[] = {
       {0, 10, 1},        {-3, 10, 1},       {5, 0, 1},           // nothing to test
       {1491, 5, 0.001},  {1e9, 35, 0.001},  {1e-30, 35, 0.001},  // the first term underflows
-      {1420, 35, 1e-18}, {1488, 35, 1e-18}, {200, 10, 1e-18},    // and where it nearly does
-  };
+      {1420, 35, 1e-18}, {1488, 35, 1e-18}, {200, 10, 1e-18}};   // and where it nearly does
   for (const auto& [chi, degrees, p] : cases)
     EXPECT_EQ(ChiSquareTail(chi, degrees), p) << chi << " " << degrees;
 }
@@ -70,23 +65,12 @@ TEST(ChiSquare, PAsText) {
 }
 
 TEST(Significant, ShowsNoMoreThanNeeded) {
-  const struct {
-    double value;
-    int digits;
-    const char* text;
-  } cases[] = {
-      {0, 4, "0"},
-      {-0.00001, 4, "0"},
-      {0.00001, 4, "<0.0001"},
-      {0.00005, 4, "0.0001"},
-      {0.004, 2, "<0.01"},
-      {12, 4, "12"},
-      {1234.99996, 4, "1,235"},
-      {1.25, 1, "1.3"},
-      {-1.25, 1, "-1.2"},
-      {99.99994, 4, "99.9999"},
-      {1234.5, 4, "1,234.5"},
-  };
+  // clang-format off
+  const std::tuple<double, int, const char*> cases[] = {
+      {0, 4, "0"}, {-0.00001, 4, "0"}, {0.00001, 4, "<0.0001"}, {0.00005, 4, "0.0001"},
+      {0.004, 2, "<0.01"}, {12, 4, "12"}, {1234.99996, 4, "1,235"}, {1.25, 1, "1.3"},
+      {-1.25, 1, "-1.2"}, {99.99994, 4, "99.9999"}, {1234.5, 4, "1,234.5"}};
+  // clang-format on
   for (const auto& [value, digits, text] : cases)
     EXPECT_EQ(FormatSignificant(value, digits), text);
 }

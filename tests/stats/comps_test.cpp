@@ -1,37 +1,21 @@
 #include "stats/comps.h"
 
-#include <gtest/gtest.h>
-
-#include "base/fault.h"
-#include "config/advantage.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
-#include "state/books.h"
-#include "state/payoffs.h"
-#include "state/settings.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
 
 constexpr int Slot = CurrentSession + 3;
 
-class Comps : public ::testing::Test {
+class Comps : public FreshTest {
  protected:
-  void SetUp() override {
-    Reset();
+  Comps() {
     Enter(bet::PassLine, 4, 100);
     Enter(bet::Seven, 6, 60);
     Enter(bet::PassLineOdds, 3, 500);  // odds count for nothing
     Stats.Hands[Slot].RollTotal = 60;
-  }
-  void TearDown() override { Reset(); }
-
-  static void Reset() {
-    Stats = {};
-    Settings = {};
-    Advantage = {};
-    Probability = {};
-    DefaultPayoffs();
   }
   static void Enter(int number, int64_t count, Money sum) {
     BetMeasures& wagered = Stats.Bets[Slot][number].Tendered;
@@ -42,16 +26,11 @@ class Comps : public ::testing::Test {
 
 TEST_F(Comps, AreFiguredFromTheBaseOfTheConfiguration) {
   constexpr double Loss = 100 * -0.014141 + 60 * -0.166667;
-  const struct {
-    int32_t Base;
-    double Expected;
-  } cases[] = {
-      {0, 0.30 * -Loss}, {1, 0.30 * 160}, {2, 0.30 * 8},  // 160 over 10 wagers in half an hour
-  };
-  for (const auto& c : cases) {
-    Settings.CompBase = c.Base;
+  const double expected[] = {0.30 * -Loss, 0.30 * 160, 0.30 * 8};  // 160 over half an hour of ten
+  for (int32_t base = 0; base < 3; ++base) {
+    Settings.CompBase = base;
     const CompFigures figures = FigureComps(Slot);
-    EXPECT_DOUBLE_EQ(figures.Comps, c.Expected);
+    EXPECT_DOUBLE_EQ(figures.Comps, expected[base]);
     EXPECT_EQ(figures.Decisions, 10);
     EXPECT_EQ(figures.Action, Money(160));
     EXPECT_EQ(figures.AverageAction, Money(8));
@@ -63,7 +42,7 @@ TEST_F(Comps, UseTheSkewedDiceOnlyIfAskedTo) {
   BalanceMatrix(TotalColumn, 6, 30'000);  // which favours the bet on seven
   Probability.ProbabilityMatrixActive = true;
   Settings.CompBet[bet::PassLine] = false;
-  const std::pair<int32_t, double> cases[] = {{-1, 60 * -0.166667}, {0, 60 * 0.50015}};
+  const std::pair<bool, double> cases[] = {{true, 60 * -0.166667}, {false, 60 * 0.50015}};
   for (const auto& [useTrue, loss] : cases) {
     Settings.CompsUseTrueProbs = useTrue;
     const CompFigures figures = FigureComps(Slot);

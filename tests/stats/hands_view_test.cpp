@@ -5,8 +5,7 @@
 namespace tessarel {
 namespace {
 
-using Strings = std::vector<std::string>;
-class HandsViewTest : public StatsTest {};
+using HandsViewTest = StatsTest;
 
 // A natural, a craps, a point made in two rolls and another one lost.
 void PlayOneHand() {

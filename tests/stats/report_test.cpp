@@ -1,8 +1,5 @@
 #include "stats/report.h"
 
-#include <sstream>
-
-#include "base/clock.h"
 #include "stats/stats_fixture.h"
 #include "stats/text_table.h"
 #include "texts/say.h"
@@ -12,14 +9,7 @@ namespace {
 
 class ReportTest : public StatsTest {
  protected:
-  void SetUp() override {
-    StatsTest::SetUp();
-    HoldClock({.year = 2026, .month = 11, .day = 22});
-  }
-  void TearDown() override {
-    ReleaseClock();
-    StatsTest::TearDown();
-  }
+  ReportTest() { HoldClock({.year = 2026, .month = 11, .day = 22}); }
 };
 
 TEST_F(ReportTest, Headers) {
@@ -48,30 +38,17 @@ TEST_F(ReportTest, TheReportHoldsEveryBlockInOrder) {
   inputs.StopReason = "Shooter has no bet.";
   const std::string text = TextReport(inputs);
   size_t at = 0;
-  for (const char* part : {"Tessarel Summary\n22-Nov-26\nGame file:  untitled\nCurrent session\n",
-                           "All players selected\nShooter has no bet.\n\n",
-                           "Total rolls     300",
-                           "Wagers\n",
-                           "\nExpected value $  ",
-                           "Tessarel Bet Results\n",
-                           "Player:  Ann\n",
-                           "\nPass Line  ",
-                           "\nTotal  ",
-                           "Expected value $-",
-                           "Player:  Bob\nNo bets were resolved.\n",
-                           "Tessarel Hands\n",
-                           "Avg rolls per hand",
-                           "Tessarel Roll Totals\n",
-                           "\nAny 7  ",
-                           "with 10 degrees of freedom, p=",
-                           "\nNumber 7 (1.6)",
-                           "with 35 degrees of freedom, p=",
-                           "\nDie 1, face 1  ",
-                           "\nDie 2, face 6  ",
-                           "Tessarel Bankroll\n",
-                           "Beginning bankroll  ",
-                           "Comps\n",
-                           "Comps $              1.25     0"}) {
+  // clang-format off
+  for (const char* part : {
+      "Tessarel Summary\n22-Nov-26\nGame file:  untitled\nCurrent session\n",
+      "All players selected\nShooter has no bet.\n\n", "Total rolls     300", "Wagers\n",
+      "\nExpected value $  ", "Tessarel Bet Results\n", "Player:  Ann\n", "\nPass Line  ",
+      "\nTotal  ", "Expected value $-", "Player:  Bob\nNo bets were resolved.\n",
+      "Tessarel Hands\n", "Avg rolls per hand", "Tessarel Roll Totals\n", "\nAny 7  ",
+      "with 10 degrees of freedom, p=", "\nNumber 7 (1.6)", "with 35 degrees of freedom, p=",
+      "\nDie 1, face 1  ", "\nDie 2, face 6  ", "Tessarel Bankroll\n", "Beginning bankroll  ",
+      "Comps\n", "Comps $              1.25     0"}) {
+    // clang-format on
     at = text.find(part, at);
     ASSERT_NE(at, std::string::npos) << part << "\n" << text;
   }

@@ -1,18 +1,17 @@
 #include "stats/roll_events.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cctype>
 #include <set>
 
-#include "base/fault.h"
 #include "dice/probability.h"
 #include "dice/probability_balance.h"
-#include "state/books.h"
+#include "reset.h"
 
 namespace tessarel {
 namespace {
+
+class RollEvents : public FreshTest {};
 
 // Whether the event's name, as a reader takes it, says that the roll is one of it.
 bool NameCovers(const std::string& name, int die1, int die2) {
@@ -52,7 +51,7 @@ SkewedDice OddDice() {
   return dice;
 }
 
-TEST(RollEvents, NameProbabilityAndCountedRollsAgreeForEveryCode) {
+TEST_F(RollEvents, NameProbabilityAndCountedRollsAgreeForEveryCode) {
   const SkewedDice dice = OddDice();
   std::set<std::string> names;
   for (int code = FirstRollEvent; code <= LastRollEvent; ++code) {
@@ -73,58 +72,34 @@ TEST(RollEvents, NameProbabilityAndCountedRollsAgreeForEveryCode) {
   }
 }
 
-TEST(RollEvents, SharesAreReadWhereTheyAreKept) {
-  SkewedDice dice{.active = true};
-  dice.total[7] = 1000;
-  dice.pair[1][6] = 20;
-  dice.die1[3] = 3;
-  EXPECT_DOUBLE_EQ(EventProbability(CodeOfTotal(7), dice), 1);
-  EXPECT_DOUBLE_EQ(EventProbability(45, dice), 0.02);
-  EXPECT_DOUBLE_EQ(EventProbability(CodeOfFace(1, 3), dice), 0.003);
-  EXPECT_DOUBLE_EQ(EventProbability(CodeOfFace(2, 3), dice), 0);
-}
-
-TEST(RollEvents, AnActiveMatrixGivesTheChances) {
+TEST_F(RollEvents, AnActiveMatrixGivesTheChances) {
   BalanceMatrix(TotalColumn, 6, 30'000);
-  const struct {
-    int code;
-    double truePercent, skewedPercent;
-  } cases[] = {
-      {CodeOfTotal(7), 100.0 / 6, 30},       {45, 100.0 / 18, 10},     // 1.6 or 6.1
-      {CodeOfPair(2, 2), 100.0 / 36, 2.333}, {76, 200.0 / 9, 34.666},  // 7 or 11
-      {CodeOfFace(1, 3), 100.0 / 6, 16.665},
-  };
-  for (const auto& c : cases) {
-    EXPECT_DOUBLE_EQ(EventProbability(c.code, false), c.truePercent) << "not active yet";
-    Probability.ProbabilityMatrixActive = true;
-    EXPECT_DOUBLE_EQ(EventProbability(c.code, false), c.skewedPercent);
-    EXPECT_DOUBLE_EQ(EventProbability(c.code, true), c.truePercent);
-    Probability.ProbabilityMatrixActive = false;
+  const std::tuple<int, double, double> cases[] = {{CodeOfTotal(7), 100.0 / 6, 30},
+                                                   {45, 100.0 / 18, 10},  // 1.6 or 6.1
+                                                   {CodeOfPair(2, 2), 100.0 / 36, 2.333},
+                                                   {76, 200.0 / 9, 34.666},  // 7 or 11
+                                                   {CodeOfFace(1, 3), 100.0 / 6, 16.665}};
+  for (const auto& [code, truePercent, skewedPercent] : cases) {
+    for (const bool active : {false, true}) {
+      Probability.ProbabilityMatrixActive = active;
+      EXPECT_DOUBLE_EQ(EventProbability(code, false), active ? skewedPercent : truePercent);
+      EXPECT_DOUBLE_EQ(EventProbability(code, true), truePercent);
+    }
   }
-  Probability = {};
 }
 
-TEST(RollEvents, NamesReadAsInTheLists) {
+TEST_F(RollEvents, NamesReadAsInTheLists) {
+  // clang-format off
   const std::pair<int, const char*> cases[] = {
-      {2, "Number 2 (1.1)"},
-      {3, "Number 3 (1.2) or (2.1)"},
-      {4, "Any 4"},
-      {10, "Any 10"},
-      {13, "Hard 4 (2.2)"},
-      {16, "Hard 10 (5.5)"},
-      {60, "Number 10 (4.6)"},
-      {61, "Number 10 (6.4)"},
-      {62, "Number 10 (4.6) or (6.4)"},
-      {20, "Craps (2, 3, 12)"},
-      {76, "7 or 11"},
-      {78, "Die 1, face 1"},
-      {89, "Die 2, face 6"},
-  };
+      {2, "Number 2 (1.1)"}, {3, "Number 3 (1.2) or (2.1)"}, {10, "Any 10"}, {16, "Hard 10 (5.5)"},
+      {61, "Number 10 (6.4)"}, {62, "Number 10 (4.6) or (6.4)"}, {20, "Craps (2, 3, 12)"},
+      {76, "7 or 11"}, {78, "Die 1, face 1"}, {89, "Die 2, face 6"}};
+  // clang-format on
   for (const auto& [code, name] : cases)
     EXPECT_EQ(RollEventName(code), name);
 }
 
-TEST(RollEvents, CodesOutsideTheTableAreFaults) {
+TEST_F(RollEvents, CodesOutsideTheTableAreFaults) {
   for (const int code : {-1, 0, 1, 90, 91})
     EXPECT_THROW(EventProbability(code, true), Fault) << code;
 }

@@ -10,7 +10,7 @@ namespace {
 
 using enum RollTotalsDisplay;
 
-class RollTotalsTest : public StatsTest {};
+using RollTotalsTest = StatsTest;
 
 const RollTotalsRow& RowOf(const RollTotalsView& view, int event) {
   for (const RollTotalsRow& row : view.Rows) {
@@ -103,7 +103,6 @@ TEST_F(RollTotalsTest, SelectionsReadTheirSlots) {
 }
 
 TEST_F(RollTotalsTest, FrequenciesOfAnEvent) {
-  using Strings = std::vector<std::string>;
   EXPECT_EQ(Lines(RollFrequencies(7, {})),
             (Strings{"# rolls since last rolled:=0", "Average # of rolls:=0", "Actual % rolled:=0",
                      "Average # of rolls to achieve:=6.0"}));

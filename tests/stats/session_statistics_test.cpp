@@ -1,7 +1,5 @@
 #include "stats/session_statistics.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
 #include "stats/stats_fixture.h"
@@ -32,9 +30,9 @@ std::vector<std::string> RowsOf(const SessionStatistics& statistics) {
   return rows;
 }
 
-using Strings = std::vector<std::string>;
+using SessionStatisticsTest = StatsTest;
 
-TEST(SessionStatistics, FiguresOfSessionsBesideTheirValuesByHand) {
+TEST_F(SessionStatisticsTest, FiguresOfSessionsBesideTheirValuesByHand) {
   const Money half = Money::FromRaw(5000);
   const SessionStatistics four = Figures({-20, 1200, 0, 100 + half});
   EXPECT_EQ(Lines(SessionStatLines(four)),
@@ -45,7 +43,7 @@ TEST(SessionStatistics, FiguresOfSessionsBesideTheirValuesByHand) {
   EXPECT_EQ(Lines(SessionStatLines(Figures({}))), (Strings{"Sessions=0"}));
 }
 
-TEST(SessionStatistics, EveryStatisticReadsItsOwnFigure) {
+TEST_F(SessionStatisticsTest, EveryStatisticReadsItsOwnFigure) {
   const Session session{1234, 1235, 1236, 1237,  -1238,
                         1239, 1240, 1241, -1242, Money::FromRaw(-141)};
   const char* const texts[] = {"1,234", "1,235", "1,236", "1,237", "-1,238", "1239",
@@ -54,13 +52,10 @@ TEST(SessionStatistics, EveryStatisticReadsItsOwnFigure) {
     EXPECT_EQ(SessionValueText(SessionValue(session, stat), stat), texts[stat]) << stat;
 }
 
-TEST(SessionStatistics, IncludedAreTheSessionsOfTheChosenKinds) {
+TEST_F(SessionStatisticsTest, IncludedAreTheSessionsOfTheChosenKinds) {
   const std::vector<Session> finished = WithNets({5, -3, 0, 8});
   const Session running = WithNets({-20}).front();
-  const struct {
-    int32_t Include, Display;
-    Strings Rows;
-  } cases[] = {
+  const std::tuple<int32_t, int32_t, Strings> cases[] = {
       {include::All, AsPlayed, {"1: 5", "2: -3", "3: 0", "4: 8", "5: -20 *"}},
       {include::All, LowestFirst, {"5: -20 *", "2: -3", "3: 0", "1: 5", "4: 8"}},
       {include::All, HighestFirst, {"4: 8", "1: 5", "3: 0", "2: -3", "5: -20 *"}},
@@ -68,19 +63,18 @@ TEST(SessionStatistics, IncludedAreTheSessionsOfTheChosenKinds) {
       {include::Losing, AsPlayed, {"2: -3"}},
       {include::Even, AsPlayed, {"3: 0"}},
       {include::InProgress, AsPlayed, {"5: -20 *"}},
-      {0, AsPlayed, {}},
-  };
-  for (const auto& test : cases) {
+      {0, AsPlayed, {}}};
+  for (const auto& [included, display, rows] : cases) {
     SessionsViewState view;
-    view.Include = test.Include;
-    view.Display = test.Display;
+    view.Include = included;
+    view.Display = display;
     const SessionStatistics statistics = FigureSessions(finished, running, view);
-    EXPECT_EQ(RowsOf(statistics), test.Rows);
+    EXPECT_EQ(RowsOf(statistics), rows);
     EXPECT_EQ(statistics.Current, Money(-20));
   }
 }
 
-TEST(SessionStatistics, SharesCountTheEndsThatBelongToThem) {
+TEST_F(SessionStatisticsTest, SharesCountTheEndsThatBelongToThem) {
   const SessionStatistics statistics = Figures({1, 2, 2, 3, 12});  // mean 4, deviation 4.52...
   EXPECT_EQ(SessionsBelow(statistics, 2).Count, 1);
   EXPECT_EQ(SessionsAtOrAbove(statistics, 2).Count, 4);
@@ -93,7 +87,7 @@ TEST(SessionStatistics, SharesCountTheEndsThatBelongToThem) {
   EXPECT_EQ(SessionsBelow(Figures({}), 2).Share, 0);
 }
 
-TEST(SessionStatistics, BarsAreOfRoundWidthWithAnEdgeAtZero) {
+TEST_F(SessionStatisticsTest, BarsAreOfRoundWidthWithAnEdgeAtZero) {
   const SessionHistogram bars = BarsOfSessions(Figures({-130, -1, 0, 99, 100, 470}), ExtraWideBars);
   EXPECT_EQ(bars.Width, Money(50));
   EXPECT_EQ(bars.LowerEdge(0), -150);
@@ -106,7 +100,7 @@ TEST(SessionStatistics, BarsAreOfRoundWidthWithAnEdgeAtZero) {
     EXPECT_EQ(BarsOfSessions(Figures({-5'000, 5'000}), width).Width, widths[width]);
 }
 
-TEST(SessionStatistics, AmountsOfAnySizeDoNoHarm) {
+TEST_F(SessionStatisticsTest, AmountsOfAnySizeDoNoHarm) {
   const SessionStatistics statistics =
       Figures({Money::FromRaw(Greatest), Money::FromRaw(Greatest), Money::FromRaw(Least)});
   EXPECT_EQ(statistics.Total.Raw(), Greatest - 1);
@@ -118,7 +112,7 @@ TEST(SessionStatistics, AmountsOfAnySizeDoNoHarm) {
   }
 }
 
-TEST_F(StatsTest, TheSessionSoFarIsThatOfThePlaceAlone) {
+TEST_F(SessionStatisticsTest, TheSessionSoFarIsThatOfThePlaceAlone) {
   SeatPlayer(3, "Ann", 1000);
   SeatPlayer(4, "Bob", 1000);
   EXPECT_EQ(SessionSoFar(3)[SessionAdvantage], Money());

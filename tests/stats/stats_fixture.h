@@ -1,41 +1,26 @@
 // A table with a store of statistics that a test fills by hand or by playing.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <utility>
-#include <vector>
-
-#include "base/folders.h"
-#include "base/front_end.h"
-#include "base/message.h"
 #include "dice/generators.h"
 #include "engine/bets.h"
+#include "play/new_session.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
 #include "play/start_up.h"
-#include "state/books.h"
-#include "state/settings.h"
-#include "state/table.h"
+#include "reset.h"
 
 namespace tessarel {
 
-class StatsTest : public ::testing::Test {
+class StatsTest : public FreshTest {
  protected:
   struct Wager {
     int place, number;
     Money amount;
   };
 
-  void SetUp() override { Reset(); }
-  void TearDown() override { Reset(); }
-
-  static void Reset() {
+  StatsTest() {
     StartUp(::testing::TempDir());
-    FrontEnd = {};
-    Message = {};
-    Wagers.clear();
+    Shown.clear();
   }
 
   static void Roll(int die1, int die2) {

@@ -2,17 +2,13 @@
 
 #include "stats/stats_fixture.h"
 #include "stats/status_box.h"
-#include "texts/language.h"
 
 namespace tessarel {
 namespace {
 
-using Strings = std::vector<std::string>;
-
 class SummaryTest : public StatsTest {
  protected:
-  void SetUp() override {
-    StatsTest::SetUp();
+  SummaryTest() {
     SeatPlayer(1, "Ann", 1000);
     SeatPlayer(2, "Bob", 500);
   }
@@ -88,7 +84,6 @@ TEST_F(SummaryTest, StatusBox) {
   PlaceBet({1, bet::Big6, 25});
   EXPECT_EQ(Lines(StatusBox(1)), (Strings{"Guthaben:  =1,001.00", "Tischrand:  =951.00",
                                           "2 Wetten:  =50.00", "Gewonnen:  =1.00"}));
-  SetLanguage(English);
 }
 
 }  // namespace

@@ -18,6 +18,7 @@
 #include "base/single_byte_text.h"
 #include "engine/settle_prompt.h"
 #include "state/scripts.h"
+#include "texts/say.h"
 
 namespace tessarel::sim {
 
