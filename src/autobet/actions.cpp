@@ -24,38 +24,20 @@ constinit ScriptHostCallbacks ScriptHost;
 
 namespace {
 
-enum ActionNumber : int32_t {
-  PreserveStacks = 101,
-  PreserveRollFile = 102,
-  PreserveBoth = 103,
-  AtmDeposit = 225,
-  CallOffAction = 451,
-  CallOnAction = 452,
-  BetAction = 481,
-  MultiplyAction = 482,
-  DivideAction = 483,
-  AddAction = 484,
-  SubtractAction = 485,
-  RoundAction = 487,
-  RoundDownAction = 488,
-  RoundUpAction = 489,
-};
-
-constexpr int32_t NoValue = 9997, NoString = 9998, DivisionByZero = 9999;
-
 // Whether the statement has a value; else the error.
-bool HasValue(const ScriptCommand& command, int32_t error = NoValue) {
-  if (command.arguments.empty()) FailScript(error);
+bool HasValue(const ScriptCommand& command, ScriptFault fault = ScriptFault::NoValue) {
+  if (command.arguments.empty()) FailScript(fault);
   return !command.arguments.empty();
 }
 
 // A stop that the script has asked for in this cycle outlives the session.
 void StartSession(const ScriptCommand& command) {
-  if (!HasRight(Scripts.AllowReset, 853)) return;
+  if (!HasRight(Scripts.AllowReset, ScriptFault::NoNewSessions)) return;
   const bool stops = Table.Stop == StopCause::ScriptCommand;
   const int32_t form = command.action;
-  ScriptHost.StartSession(form == PreserveStacks || form == PreserveBoth,
-                          form == PreserveRollFile || form == PreserveBoth);
+  const bool both = form == action::NewSessionKeepBoth;
+  ScriptHost.StartSession({.Stacks = both || form == action::NewSessionKeepStacks,
+                           .RollFile = both || form == action::NewSessionKeepRollFile});
   if (stops) Table.Stop = StopCause::ScriptCommand;
   AutoBet.TableWasReset = AutoBet.NewSessionBegins = true;
   AutoBet.Initializing = false;
@@ -75,7 +57,7 @@ void TurnStepsOn(const ScriptCommand&) {
 
 void PassTheDice(const ScriptCommand&) {
   const bool shoots = AutoBet.CurrentScriptPlayer == Table.Shooter;
-  if (!shoots && !HasRight(Scripts.AllowAct4Others, 855)) return;
+  if (!shoots && !HasRight(Scripts.AllowAct4Others, ScriptFault::NotTheShooter)) return;
   ScriptHost.PassDice();
 }
 
@@ -85,20 +67,19 @@ void SeedFromClock(const ScriptCommand&) {
 }
 
 void SeedWith(const ScriptCommand& command) {
-  constexpr int32_t SeedOutOfLimits = 905;
   if (!HasValue(command)) return;
   const double seed = NumberOf(command.arguments[0]);
   const bool inLimits = seed >= 1 && seed <= SeedLimit(Dice.CurrentRNG);
-  if (!inLimits) return FailScript(SeedOutOfLimits);
+  if (!inLimits) return FailScript(ScriptFault::Seed);
   Dice.SeedRequest = static_cast<int64_t>(std::nearbyint(seed));
-  if (!SeedRNG(-1)) FailScript(SeedOutOfLimits);
+  if (!SeedRNG(-1)) FailScript(ScriptFault::Seed);
 }
 
 // Shows the text of a message or question; false, with the error, when it cannot be shown.
 bool ShowText(const ScriptCommand& command, int32_t flags) {
-  if (!HasValue(command, NoString)) return false;
+  if (!HasValue(command, ScriptFault::NoString)) return false;
   if (!ScriptMessagesShown()) {
-    FailScript(990);
+    FailScript(ScriptFault::MessagesOff);
     return false;
   }
   ShowMessage(MessageLines(TextOf(command.arguments[0])), ScriptMessageTitle(),
@@ -122,7 +103,8 @@ void UseAtm(const ScriptCommand& command) {
   constexpr double Most = (BankrollLimit + BankrollLimit).ToDouble();
   const double amount = NumberOf(command.arguments[0]);
   if (amount > 0) {
-    ATM(place, command.action == AtmDeposit, Money::FromDouble(std::min(amount, Most)), false);
+    ATM(place, command.action == action::AtmDeposit, Money::FromDouble(std::min(amount, Most)),
+        false);
   }
 }
 
@@ -138,25 +120,23 @@ void ExchangeValues(const Reference& a,
                     const Reference& b,
                     const ScriptValue& valueOfB) {
   SetVariable(a, valueOfB);
-  if (AutoBet.ScriptError != 0) return;
+  if (StatementFailed()) return;
   SetVariable(b, valueOfA);
-  if (AutoBet.ScriptError == 0) return;
-  const int32_t error = std::exchange(AutoBet.ScriptError, 0);
+  if (!StatementFailed()) return;
+  const ScriptFault fault = std::exchange(AutoBet.Fault, ScriptFault::None);
   SetVariable(a, valueOfA);
-  AutoBet.ScriptError = error;
+  AutoBet.Fault = fault;
 }
 
 void Swap(const ScriptCommand& command) {
-  // Above are the variables of the table as a whole.
-  constexpr int32_t LastPlayerVariable = 1999;
-  if (command.targets.size() != 2) return FailScript(NoValue);
+  if (command.targets.size() != 2) return FailScript(ScriptFault::NoValue);
   for (const Reference& target : command.targets) {
-    const bool ofPlayer = target.number <= LastPlayerVariable;
+    const bool ofPlayer = target.number <= variable::LastOfPlayer;
     if (ofPlayer && !MayActFor(ResolvePlayer(target.player))) return;
   }
   const Reference &a = command.targets[0], &b = command.targets[1];
   const ScriptValue valueOfA = PresentValue(a), valueOfB = PresentValue(b);
-  if (AutoBet.ScriptError != 0) return;
+  if (StatementFailed()) return;
   // The side that falls is set first, so that its money is there for the one that rises.
   const bool rises = !IsText(valueOfA) && NumberOf(valueOfB) > valueOfA.value;
   if (rises) {
@@ -173,13 +153,13 @@ void ForEachTarget(const ScriptCommand& command, Visit&& visit) {
     const int place = ResolvePlayer(target.player);
     if (!MayActFor(place)) return;
     visit(place, target);
-    if (AutoBet.ScriptError != 0) return;
+    if (StatementFailed()) return;
   }
 }
 
 void BuyPlaceBets(const ScriptCommand& command) {
   ForEachTarget(command, [](int place, const Reference& target) {
-    if (!InFamily(target.number, PlaceFamily)) return FailScript(12);
+    if (!InFamily(target.number, PlaceFamily)) return FailScript(ScriptFault::NotAPlaceBet);
     BuyPlaceBet(place, target.number, Telling::Silent);
   });
 }
@@ -187,9 +167,9 @@ void BuyPlaceBets(const ScriptCommand& command) {
 void CallBets(const ScriptCommand& command) {
   ForEachTarget(command, [&](int place, const Reference& target) {
     if (!IsBet(target.number)) return;
-    if (command.action == CallOffAction) {
+    if (command.action == action::CallOff) {
       CallBet(place, target.number, CallOff, Telling::Silent);
-    } else if (command.action == CallOnAction) {
+    } else if (command.action == action::CallOn) {
       CallBet(place, target.number, CallOn, Telling::Silent);
     } else {
       ResetBetWorking(place, target.number);
@@ -200,7 +180,7 @@ void CallBets(const ScriptCommand& command) {
 void ClearTargets(const ScriptCommand& command) {
   for (const Reference& target : command.targets) {
     SetVariable(target, Number(0));
-    if (AutoBet.ScriptError != 0) return;
+    if (StatementFailed()) return;
   }
 }
 
@@ -211,23 +191,23 @@ double RoundedTo(int32_t action, double value, double step) {
   const bool negative = value < 0;
   const Money below = FloorToMultiple(amount, unit);
   const Money above = CeilingToMultiple(amount, unit);
-  const bool outward = action == RoundAction ? amount - below >= above - amount
-                                             : (action == RoundUpAction) != negative;
+  const bool outward = action == action::Round ? amount - below >= above - amount
+                                               : (action == action::RoundUp) != negative;
   const Money rounded = outward ? above : below;
   return (negative ? -rounded : rounded).ToDouble();
 }
 
 double NewAmount(int32_t action, double present, double operand) {
   switch (action) {
-    case BetAction:
+    case action::Bet:
       return operand;
-    case MultiplyAction:
+    case action::Multiply:
       return present * operand;
-    case DivideAction:
+    case action::Divide:
       return present / operand;
-    case AddAction:
+    case action::Add:
       return present + operand;
-    case SubtractAction:
+    case action::Subtract:
       return present - operand;
     default:
       return RoundedTo(action, present, operand);
@@ -235,21 +215,21 @@ double NewAmount(int32_t action, double present, double operand) {
 }
 
 bool DividesByZero(int32_t action, double operand) {
-  if (action == DivideAction) return operand == 0;
-  return action >= RoundAction && Money::FromDouble(operand) == Money();
+  if (action == action::Divide) return operand == 0;
+  return action >= action::Round && Money::FromDouble(operand) == Money();
 }
 
 void ChangeTargets(const ScriptCommand& command) {
   if (!HasValue(command)) return;
   const double operand = NumberOf(command.arguments[0]);
-  if (DividesByZero(command.action, operand)) return FailScript(DivisionByZero);
+  if (DividesByZero(command.action, operand)) return FailScript(ScriptFault::DivisionByZero);
   for (const Reference& target : command.targets) {
-    const bool anew = command.action == BetAction;
+    const bool anew = command.action == action::Bet;
     const double present = anew ? 0 : NumberOf(ReadVariable(target));
-    if (AutoBet.ScriptError == 0) {
+    if (!StatementFailed()) {
       SetVariable(target, Number(NewAmount(command.action, present, operand)));
     }
-    if (AutoBet.ScriptError != 0) return;
+    if (StatementFailed()) return;
   }
 }
 
@@ -261,25 +241,22 @@ struct ActionRow {
 // By number, ascending.
 // clang-format off
 constexpr ActionRow ActionRows[] = {
-    {100, StartSession}, {101, StartSession}, {102, StartSession}, {103, StartSession},
-    {114, SwitchOffProbabilities},
-    {115, StopRolling}, {116, TurnStepsOn},
-    {118, PassTheDice},
-    {119, SwitchOffRollFile},
-    {130, SeedFromClock},
-    {210, ShowScriptMessage}, {211, AskQuestion},
-    {212, PlayScriptSound},
-    {213, ActivateProbabilities},
-    {220, OpenOutputFile}, {221, OpenOutputFile}, {223, WriteToOutputFile},
-    {225, UseAtm}, {226, UseAtm},
-    {230, SeedWith},
-    {300, Swap},
-    {310, PlayBackRollFile},
-    {450, BuyPlaceBets},
-    {451, CallBets}, {452, CallBets}, {453, CallBets},
-    {460, ClearTargets},
-    {481, ChangeTargets}, {482, ChangeTargets}, {483, ChangeTargets}, {484, ChangeTargets},
-    {485, ChangeTargets}, {487, ChangeTargets}, {488, ChangeTargets}, {489, ChangeTargets},
+    {action::NewSession, StartSession}, {action::NewSessionKeepStacks, StartSession},
+    {action::NewSessionKeepRollFile, StartSession}, {action::NewSessionKeepBoth, StartSession},
+    {action::ProbabilitiesOff, SwitchOffProbabilities}, {action::StopRolling, StopRolling},
+    {action::ShowSteps, TurnStepsOn}, {action::PassDice, PassTheDice},
+    {action::RollFileOff, SwitchOffRollFile}, {action::SeedFromClock, SeedFromClock},
+    {action::ShowMessage, ShowScriptMessage}, {action::AskQuestion, AskQuestion},
+    {action::PlaySound, PlayScriptSound}, {action::ProbabilitiesOn, ActivateProbabilities},
+    {action::AppendOutput, OpenOutputFile}, {action::ClearOutput, OpenOutputFile},
+    {action::WriteOutput, WriteToOutputFile}, {action::AtmDeposit, UseAtm},
+    {action::AtmWithdraw, UseAtm}, {action::SeedWith, SeedWith}, {action::Swap, Swap},
+    {action::PlayBackRollFile, PlayBackRollFile}, {action::BuyPlaceBet, BuyPlaceBets},
+    {action::CallOff, CallBets}, {action::CallOn, CallBets}, {action::RemoveButton, CallBets},
+    {action::TakeDown, ClearTargets}, {action::Bet, ChangeTargets},
+    {action::Multiply, ChangeTargets}, {action::Divide, ChangeTargets},
+    {action::Add, ChangeTargets}, {action::Subtract, ChangeTargets}, {action::Round, ChangeTargets},
+    {action::RoundDown, ChangeTargets}, {action::RoundUp, ChangeTargets},
 };
 // clang-format on
 static_assert(std::ranges::is_sorted(ActionRows, {}, &ActionRow::Action));

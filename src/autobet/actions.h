@@ -15,7 +15,7 @@ struct ScriptCommand {
   std::span<const Reference> targets{};      // bets and variables, those that pass its qualifiers
 };
 
-// Performs an action. On a run-time error AutoBet.ScriptError is set; the targets before the one at
+// Performs an action. On a run-time error AutoBet.Fault is set; the targets before the one at
 // fault are done. Faults of files are run-time errors, other faults come through.
 void RunCommand(const ScriptCommand& command);
 

@@ -13,9 +13,6 @@ namespace tessarel {
 
 namespace {
 
-enum EmptyError : int32_t { NoResolvedWagers = 300, NoWins = 301, NoLosses = 302 };
-constexpr int32_t NoVigError = 1000;
-
 // A place's row of the statistics, and what tells how long ago something in it was.
 struct Period {
   int slot = 0;
@@ -41,14 +38,14 @@ Period PeriodOf(int place, int hand) {
   return {scope + place, Stats.RollCount[scope][0], LastRollOf(scope)};
 }
 
-// 0, with the script's error set.
-double Fail(int32_t error) {
-  FailScript(error);
+// 0, with the statement failed.
+double Fail(ScriptFault fault) {
+  FailScript(fault);
   return 0;
 }
 
-double Quotient(Money amount, double divisor, EmptyError error) {
-  return divisor > 0 ? amount.ToDouble() / divisor : Fail(error);
+double Quotient(Money amount, double divisor, ScriptFault fault) {
+  return divisor > 0 ? amount.ToDouble() / divisor : Fail(fault);
 }
 
 bool CameLast(const BetMeasures& measures, const Period& period) {
@@ -64,15 +61,15 @@ double RollsSinceEntry(const BetMeasures& measures, const Period& period) {
   return static_cast<double>(std::max<int64_t>(period.lastRoll - measures.LastRoll, 0));
 }
 
-double PerHour(Money amount, int64_t count, const Period& period, EmptyError error) {
-  if (count == 0) return Fail(error);
-  return Quotient(amount, SimHours(Stats.Hands[period.slot].RollTotal), error);
+double PerHour(Money amount, int64_t count, const Period& period, ScriptFault fault) {
+  if (count == 0) return Fail(fault);
+  return Quotient(amount, SimHours(Stats.Hands[period.slot].RollTotal), fault);
 }
 
 double MeasureFigure(const BetMeasures& measures,
                      int modifier,
                      const Period& period,
-                     EmptyError error) {
+                     ScriptFault fault) {
   switch (modifier) {
     case ModTotal:
     case ModTotalAmount:
@@ -84,7 +81,7 @@ double MeasureFigure(const BetMeasures& measures,
     case ModLow:
       return measures.Low.ToDouble();
     case ModAverage:
-      return Quotient(measures.Sum, static_cast<double>(measures.Count), error);
+      return Quotient(measures.Sum, static_cast<double>(measures.Count), fault);
     case ModLastAmount:
       return measures.Last.ToDouble();
     case ModRollsSinceLast:
@@ -94,9 +91,9 @@ double MeasureFigure(const BetMeasures& measures,
     case ModLastRollAmount:
       return AmountOnLastRoll(measures, period).ToDouble();
     case ModNumberPerHour:
-      return PerHour(Money::FromWhole(measures.Count), measures.Count, period, error);
+      return PerHour(Money::FromWhole(measures.Count), measures.Count, period, fault);
     case ModAmountPerHour:
-      return PerHour(measures.Sum, measures.Count, period, error);
+      return PerHour(measures.Sum, measures.Count, period, fault);
     default:
       return 0;
   }
@@ -126,7 +123,7 @@ double NetFigure(const BetRecord& record, int modifier, const Period& period) {
     case ModLow:
       return -BestResult(lost, won).ToDouble();
     case ModAverage:
-      return Quotient(net, static_cast<double>(count), NoResolvedWagers);
+      return Quotient(net, static_cast<double>(count), ScriptFault::NoResolvedWagers);
     case ModLastAmount:
       return LastResult(record).ToDouble();
     case ModLastRollNumber:
@@ -134,9 +131,9 @@ double NetFigure(const BetRecord& record, int modifier, const Period& period) {
     case ModLastRollAmount:
       return (AmountOnLastRoll(won, period) - AmountOnLastRoll(lost, period)).ToDouble();
     case ModNumberPerHour:
-      return PerHour(Money::FromWhole(decided), count, period, NoResolvedWagers);
+      return PerHour(Money::FromWhole(decided), count, period, ScriptFault::NoResolvedWagers);
     case ModAmountPerHour:
-      return PerHour(net, count, period, NoResolvedWagers);
+      return PerHour(net, count, period, ScriptFault::NoResolvedWagers);
     default:
       return 0;
   }
@@ -144,8 +141,9 @@ double NetFigure(const BetRecord& record, int modifier, const Period& period) {
 
 double NetPercent(const BetRecord& record, int modifier, const Period& period) {
   if (modifier == ModHigh || modifier == ModLow || modifier == ModRollsSinceLast) return 0;
-  const double resolved = MeasureFigure(record.Tendered, modifier, period, NoResolvedWagers);
-  if (!(resolved > 0)) return Fail(NoResolvedWagers);
+  const double resolved =
+      MeasureFigure(record.Tendered, modifier, period, ScriptFault::NoResolvedWagers);
+  if (!(resolved > 0)) return Fail(ScriptFault::NoResolvedWagers);
   return 100 * NetFigure(record, modifier, period) / resolved;
 }
 
@@ -154,11 +152,7 @@ double ExpectedValue(int number, bool percent, Money wagered) {
 }
 
 double VigFigure(int place, int number) {
-  return CarriesVig(number) ? VigOf(place, number).ToDouble() : Fail(NoVigError);
-}
-
-double Flag(bool truth) {
-  return truth ? TrueValue : FalseValue;
+  return CarriesVig(number) ? VigOf(place, number).ToDouble() : Fail(ScriptFault::NoVig);
 }
 
 double AmountOrCount(Money amount, bool count) {
@@ -172,9 +166,9 @@ double RecordFigure(int place, const Reference& reference) {
   const BetRecord& record = Stats.Bets[period.slot][reference.number];
   switch (reference.first) {
     case ModWins:
-      return MeasureFigure(record.Won, reference.second, period, NoWins);
+      return MeasureFigure(record.Won, reference.second, period, ScriptFault::NoWins);
     case ModLosses:
-      return MeasureFigure(record.Lost, reference.second, period, NoLosses);
+      return MeasureFigure(record.Lost, reference.second, period, ScriptFault::NoLosses);
     case ModNet:
     case ModNetPercent: {
       const bool percent = reference.first == ModNetPercent;
@@ -190,7 +184,8 @@ double RecordFigure(int place, const Reference& reference) {
       return line ? LineBetCount(place, reference) : 0;
     }
     default:
-      return MeasureFigure(record.Tendered, reference.second, period, NoResolvedWagers);
+      return MeasureFigure(record.Tendered, reference.second, period,
+                           ScriptFault::NoResolvedWagers);
   }
 }
 
@@ -213,11 +208,11 @@ double BetFigure(int place, const Reference& reference) {
     case ModPriorNumber:
       return AmountOrCount(before(), reference.second == ModPriorNumber);
     case ModWorking:
-      return Flag(working() > NotWorking);
+      return TruthNumber(working() > NotWorking);
     case ModCalledOn:
-      return Flag(working() == CalledOn);
+      return TruthNumber(working() == CalledOn);
     case ModCalledOff:
-      return Flag(working() == CalledOff);
+      return TruthNumber(working() == CalledOff);
     case ModVig:
       return VigFigure(place, number);
     case ModLastRollAmount:

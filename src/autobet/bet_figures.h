@@ -11,8 +11,7 @@ namespace tessarel {
 int SlotOf(int place, int hand);
 
 // The figure of bet 1 to 93 of a taken place by the modifiers of `reference`; 0 where none is kept.
-// Averages and shares of nothing are run-time errors 300 to 302, the vig of a bet that has none is
-// 1000; AutoBet.ScriptError is set then.
+// Averages and shares of nothing and the vig of a bet that has none fail the statement.
 double BetFigure(int place, const Reference& reference);
 
 }  // namespace tessarel

@@ -10,15 +10,13 @@ namespace tessarel {
 
 namespace {
 
-constexpr int32_t DivisionByZeroError = 9999;
-
 double Finite(double value) {
   if (!std::isfinite(value)) RaiseOverflow();
   return value;
 }
 
 double DividedByZero() {
-  FailScript(DivisionByZeroError);
+  FailScript(ScriptFault::DivisionByZero);
   return 0;
 }
 

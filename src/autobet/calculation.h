@@ -6,7 +6,7 @@
 
 namespace tessarel {
 
-// a op b for Power to Subtract. A division by zero is run-time error 9999 with the result 0;
+// a op b for Power to Subtract. A division by zero fails the statement with the result 0;
 // overflow fault for what no number holds.
 double Calculate(Operation operation, double a, double b);
 

@@ -1,30 +1,36 @@
 #include <string>
 
 #include "autobet/checker.h"
-#include "autobet/functions.h"
 #include "autobet/token_names.h"
 #include "autobet/token_walk.h"
+#include "autobet/word_numbers.h"
 #include "state/bet_numbers.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
-struct NumberRange {
-  int32_t First, Last;
-};
-// clang-format off
-constexpr NumberRange WritableVariables[] = {
-    {1, 93}, {100, 199}, {670, 671}, {700, 703}, {800, 899}, {1300, 1301}, {5006, 5006},
-    {5603, 5603}, {5612, 5617}, {5655, 5655}, {5672, 5672}, {5691, 5691},
-};
-// clang-format on
-
-bool IsWritable(int32_t variable) {
-  for (const NumberRange& range : WritableVariables) {
-    if (variable >= range.First && variable <= range.Last) return true;
+bool IsWritable(int32_t number) {
+  if (IsBet(number) || IsStack(number) || IsStackName(number)) return true;
+  switch (number) {
+    case variable::WinHandling:
+    case variable::LossHandling:
+    case variable::AutoTakeOdds:
+    case variable::AutoLayOdds:
+    case variable::AutoDownPlaceBets:
+    case variable::AutoPassDice:
+    case variable::BeginningBankroll:
+    case variable::Bankroll:
+    case variable::RollFileNext:
+    case variable::RollsPerHour:
+    case variable::Seed:
+    case variable::Generator:
+    case variable::CompRate:
+      return true;
+    default:
+      return number >= variable::OddsFactor4 && number <= variable::OddsFactor10;
   }
-  return false;
 }
 
 // What a statement does to the bets it names.
@@ -40,14 +46,13 @@ struct ActionRow {
   Use Targets;
   bool HasAmount;  // beside the targets, divided by "on", "to" or "from"
 };
-constexpr int32_t SwapAction = 300;
 // clang-format off
 constexpr ActionRow ActionRows[] = {
-    {SwapAction, SwapAction, Use::Amounts, false},
-    {450, 450, Use::Any, false},
-    {451, 453, Use::Bets, false},
-    {460, 460, Use::Bets, false},
-    {481, 489, Use::Amounts, true},
+    {action::Swap, action::Swap, Use::Amounts, false},
+    {action::BuyPlaceBet, action::BuyPlaceBet, Use::Any, false},
+    {action::CallOff, action::RemoveButton, Use::Bets, false},
+    {action::TakeDown, action::TakeDown, Use::Bets, false},
+    {action::Bet, action::RoundUp, Use::Amounts, true},
 };
 // clang-format on
 
@@ -86,9 +91,7 @@ class TargetMarker {
     } else if (first.code == LogicThen) {
       inCondition = false;
     } else if (inCondition && first.code == LabelToken) {
-      return ErrorAt(script_, from,
-                     "Improper placement of label.\r\rLabels cannot appear within condition "
-                     "statements (between If and Then).");
+      return ErrorAt(script_, from, Say(Text::ScriptLabelInCondition));
     } else if (!inCondition && first.code == ActionToken) {
       return CheckAction(NumberIn(first), from + 1, to);
     } else if (!inCondition && (IsHead(first.code) || first.code == ListToken)) {
@@ -116,7 +119,7 @@ class TargetMarker {
       }
     }
     if (FindTargets(from, to) != to) return {};
-    if (action != SwapAction) return Mark(row->Targets);
+    if (action != action::Swap) return Mark(row->Targets);
     for (const size_t target : targets_) {
       if (auto error = CheckTarget(target, row->Targets)) return error;
     }
@@ -189,15 +192,14 @@ class TargetMarker {
   }
 
   std::optional<ScriptError> CheckTarget(size_t target, Use use) const {
-    constexpr int32_t LastBetFunction = 10;
     const ScriptToken& token = stream_[target];
     const int32_t number = NumberIn(token);
     std::string text;
     if (token.code == FunctionToken && !NamesVariable(number)) {
-      text = FunctionName(number) + " is a read-only function and cannot be assigned a value.";
+      text = Say(Text::ScriptReadOnlyFunction, FunctionName(number));
     } else if (token.code == VariableToken && !IsWritable(number)) {
-      text = VariableName(number) + " is a read-only variable and cannot be assigned a value.";
-    } else if (token.code == VariableToken ? IsBet(number) : number <= LastBetFunction) {
+      text = Say(Text::ScriptReadOnlyVariable, VariableName(number));
+    } else if (token.code == VariableToken ? IsBet(number) : NamesBet(number)) {
       text = BetFault(target, use);
     }
     if (text.empty()) return {};
@@ -210,12 +212,10 @@ class TargetMarker {
     const int32_t first = NumberIn(stream_[qualifiers + 1]);
     const int32_t second = NumberIn(stream_[qualifiers + 2]);
     if (use == Use::Any) return {};
-    if (hand != HandCurrent && hand != HandCurrentSession)
-      return "Unable to set the value of a bet that's not in the current hand or session.";
+    if (hand != HandCurrent && hand != HandCurrentSession) return Say(Text::ScriptBetOfPast);
     if (use == Use::Bets) return {};
-    if (first != ModTendered && first != ModWagered)
-      return "Only able to set the value of current wagers.";
-    if (second != ModCurrentAmount) return "Only able to set the current $ value of a bet.";
+    if (first != ModTendered && first != ModWagered) return Say(Text::ScriptNoCurrentWager);
+    if (second != ModCurrentAmount) return Say(Text::ScriptNoCurrentAmount);
     return {};
   }
 

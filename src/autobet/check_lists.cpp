@@ -2,10 +2,12 @@
 #include <unordered_map>
 
 #include "autobet/checker.h"
+#include "autobet/function_table.h"
 #include "autobet/number_text.h"
 #include "autobet/token_names.h"
 #include "autobet/token_walk.h"
 #include "base/single_byte_text.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -19,7 +21,7 @@ std::optional<ScriptError> CheckBrackets(const CompiledScript& script) {
     if (code == LogicOpen) ++depth;
     if (code == LogicClose) --depth;
     if (depth < 0 || (depth > 0 && IsMarker(code)))
-      return ErrorAt(script, k - 1, "Missing or improperly placed parenthesis.");
+      return ErrorAt(script, k - 1, Say(Text::ScriptBracketMissing));
   }
   return {};
 }
@@ -48,18 +50,10 @@ std::optional<ScriptError> EnterLabels(CompiledScript& script) {
     const int32_t line = stream[k - 1].code - MarkerToken;
     const auto [other, isNew] = lines.try_emplace(LowerCase(TrimSpaces(name)), line);
     if (isNew) continue;
-    const std::string what = isNumber ? "A duplicate line number" : "A duplicate label";
-    return ErrorAt(script, k, what + " exists in line " + std::to_string(other->second));
+    const Text text = isNumber ? Text::ScriptDoubleLineNumber : Text::ScriptDoubleLabel;
+    return ErrorAt(script, k, SayChosen(text, other->second));
   }
   return {};
-}
-
-std::string UnbracketedListText(int32_t word) {
-  const bool any = word == ListAny;
-  return std::string("Lists defined by ") + (any ? "\"Any\"" : "\"All\"") +
-         " must be enclosed in brackets.\r\rFor example:\r" +
-         (any ? "      Any(Big6, Field, Checkstacks)\r      Any[4,5,6,8,9,10]"
-              : "      All(inside place bets)\r      All[Field, PassLine, Hard4]");
 }
 
 // Lists get their end behind the closing bracket.
@@ -69,8 +63,11 @@ std::optional<ScriptError> CloseLists(CompiledScript& script) {
   std::vector<bool> endsList(stream.size());
   for (size_t k = 1; k < stream.size(); ++k) {
     if (stream[k].code != ListToken) continue;
-    if (k + 1 == stream.size() || stream[k + 1].code != LogicOpen)
-      return ErrorAt(script, k, UnbracketedListText(NumberIn(stream[k])));
+    if (k + 1 == stream.size() || stream[k + 1].code != LogicOpen) {
+      const bool any = NumberIn(stream[k]) == ListAny;
+      return ErrorAt(script, k,
+                     SayChosen(any ? Text::ScriptAnyLacksBrackets : Text::ScriptAllLacksBrackets));
+    }
     endsList[walk.Match(k + 1)] = true;
   }
   std::vector<ScriptToken> closed;
@@ -104,15 +101,14 @@ bool HasOperand(const std::vector<ScriptToken>& stream, const TokenWalk& walk, s
 }
 
 std::optional<ScriptError> CheckFunctionOperands(const CompiledScript& script) {
-  constexpr int32_t LastBetFunction = 10;
   const auto& stream = script.TokenStream;
   const TokenWalk walk(stream);
   for (size_t k = 1; k < stream.size(); ++k) {
     if (stream[k].code != FunctionToken || HasOperand(stream, walk, k)) continue;
     const int32_t function = NumberIn(stream[k]);
-    return ErrorAt(script, k,
-                   "Missing or inappropriate reference to " + FunctionName(function) +
-                       (function <= LastBetFunction ? " bet." : "."));
+    const Text text =
+        NamesBet(function) ? Text::ScriptBetLacksNumber : Text::ScriptFunctionLacksOperand;
+    return ErrorAt(script, k, SayChosen(text, FunctionName(function)));
   }
   return {};
 }

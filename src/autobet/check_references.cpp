@@ -5,6 +5,7 @@
 #include "autobet/reference_rules.h"
 #include "autobet/token_walk.h"
 #include "autobet/values.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -14,9 +15,8 @@ using TokenStream = std::vector<ScriptToken>;
 
 // A seat word that stands for nobody's figure is a value.
 ScriptToken SeatValue(int32_t player) {
-  constexpr int32_t ShooterVariable = 5200;
   if (player < PlayerShooter) return Number(player);
-  return {VariableToken, static_cast<double>(ShooterVariable + player - PlayerShooter)};
+  return {VariableToken, static_cast<double>(variable::Shooter + player - PlayerShooter)};
 }
 
 // Checks the groups of a script and writes it in the normal form.
@@ -59,11 +59,11 @@ class ReferenceWriter {
   };
 
   static std::string Ambiguity(const ReferenceGroup& group) {
-    if (group.heads > 1) return "Ambiguous variable references";
-    if (group.counts[PlayerKind] > 1) return "Ambiguous player references";
-    if (group.counts[HandKind] > 1) return "Ambiguous hand references";
+    if (group.heads > 1) return Say(Text::ScriptTwoVariables);
+    if (group.counts[PlayerKind] > 1) return Say(Text::ScriptTwoPlayers);
+    if (group.counts[HandKind] > 1) return Say(Text::ScriptTwoHands);
     if (group.counts[FirstKind] > 1 || group.counts[SecondKind] > 1)
-      return "Ambiguous variable modifiers";
+      return Say(Text::ScriptTwoModifiers);
     return {};
   }
 
@@ -84,10 +84,10 @@ class ReferenceWriter {
     qualifiers = WithDefaults(head, written, owner_);
     std::string misuse = QualifierMisuse(head, qualifiers);
     if (misuse.empty() && NamesBet(head) && IsHouse(group.written[PlayerKind]))
-      misuse = HouseWagerMisuse();
-    if (misuse.empty() && IsRollStatistic(head) && !HasGoodRolls(group, qualifiers.first))
-      misuse = RollLimitsText();
-    if (!misuse.empty()) return "Ambiguous variable references\r\r" + misuse;
+      misuse = Say(Text::ScriptHouseWager);
+    if (misuse.empty() && CountsRollsOfSet(head) && !HasGoodRolls(group, qualifiers.first))
+      misuse = Say(Text::ScriptRollLimits);
+    if (!misuse.empty()) return Say(Text::ScriptMisuse, misuse);
 
     for (const size_t element : group.written) {
       if (element != 0) groups_.fates[element] = ElementFate::Goes;

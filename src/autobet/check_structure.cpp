@@ -6,6 +6,7 @@
 #include "autobet/number_text.h"
 #include "autobet/token_walk.h"
 #include "base/single_byte_text.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -87,7 +88,7 @@ class StructureWalk {
   }
 
   Result TakeIf(size_t k) {
-    if (condition_ != 0) return Error(k, "IF out of position.");
+    if (condition_ != 0) return Error(k, Say(Text::ScriptWordMisplaced, "IF"));
     condition_ = k;
     ifs_.push_back({.element = k});
     ++level_;
@@ -95,7 +96,7 @@ class StructureWalk {
   }
 
   Result TakeThen(size_t k) {
-    if (condition_ == 0) return Error(k, "THEN out of position.");
+    if (condition_ == 0) return Error(k, Say(Text::ScriptWordMisplaced, "THEN"));
     condition_ = 0;
     ifs_.back().waiting = k;
     return {};
@@ -103,7 +104,7 @@ class StructureWalk {
 
   Result TakeElse(size_t k) {
     if (ifs_.empty() || condition_ != 0 || ifs_.back().hasElse)
-      return Error(k, "Expected THEN before ELSE.");
+      return Error(k, Say(Text::ScriptElseWithoutThen));
     if (auto error = CheckLoopsClosed()) return error;
     BeginBranch(k);
     ifs_.back().waiting = k;
@@ -112,12 +113,8 @@ class StructureWalk {
   }
 
   Result TakeElseIf(size_t k) {
-    if (ifs_.empty() || condition_ != 0) return Error(k, "ELSEIF out of position.");
-    if (ifs_.back().hasElse) {
-      return Error(k,
-                   "ELSEIF out of position.\r\rCannot be placed after ELSE within the same IF/THEN "
-                   "statement.");
-    }
+    if (ifs_.empty() || condition_ != 0) return Error(k, Say(Text::ScriptWordMisplaced, "ELSEIF"));
+    if (ifs_.back().hasElse) return Error(k, Say(Text::ScriptElseIfAfterElse));
     if (auto error = CheckLoopsClosed()) return error;
     BeginBranch(k);
     condition_ = k;
@@ -130,8 +127,8 @@ class StructureWalk {
   }
 
   Result TakeEndIf(size_t k) {
-    if (condition_ != 0) return Error(k, "Missing THEN between IF and ENDIF.");
-    if (ifs_.empty()) return Error(k, "Unassociated ENDIF.");
+    if (condition_ != 0) return Error(k, Say(Text::ScriptThenBeforeEndIf));
+    if (ifs_.empty()) return Error(k, Say(Text::ScriptEndIfAlone));
     if (auto error = CheckLoopsClosed()) return error;
     JumpTo(ifs_.back().waiting, k);
     for (const size_t branch : ifs_.back().branches)
@@ -144,22 +141,22 @@ class StructureWalk {
   // A branch of an if cannot end within a loop that began in it.
   Result CheckLoopsClosed() const {
     if (dos_.empty() || dos_.back().element < ifs_.back().element) return {};
-    return Error(dos_.back().element, "Missing or out of position LOOP statement.");
+    return Error(dos_.back().element, Say(Text::ScriptLoopUnclosed));
   }
 
   Result TakeDo(size_t k) {
-    if (condition_ != 0) return Error(k, "DO statement out of position.");
+    if (condition_ != 0) return Error(k, Say(Text::ScriptStatementMisplaced, "DO"));
     dos_.push_back({.element = k});
     ++level_;
     return {};
   }
 
   Result TakeLoop(size_t k) {
-    if (dos_.empty()) return Error(k, "Missing DO statement or LOOP statement out of position.");
+    if (dos_.empty()) return Error(k, Say(Text::ScriptLoopWithoutDo));
     const OpenDo& loop = dos_.back();
     if (!ifs_.empty() && ifs_.back().element > loop.element)
-      return Error(k, "ENDIF missing or out of position, or LOOP statement out of position.");
-    if (condition_ != 0) return Error(k, "Missing DO statement or LOOP statement out of position.");
+      return Error(k, Say(Text::ScriptLoopInIf));
+    if (condition_ != 0) return Error(k, Say(Text::ScriptLoopWithoutDo));
     JumpTo(k, loop.element);
     JumpTo(loop.element, k);
     for (const size_t exit : loop.exits)
@@ -170,35 +167,36 @@ class StructureWalk {
   }
 
   Result TakeExitDo(size_t k) {
-    if (dos_.empty()) return Error(k, "EXIT DO statement outside of DO/LOOP.");
-    if (condition_ != 0) return Error(k, "EXIT DO statement out of position.");
+    if (dos_.empty()) return Error(k, Say(Text::ScriptExitDoOutside));
+    if (condition_ != 0) return Error(k, Say(Text::ScriptStatementMisplaced, "EXIT DO"));
     dos_.back().exits.push_back(k);
     return {};
   }
 
   Result TakeJump(size_t k) {
-    const std::string word = stream_[k].code == LogicGoto ? "GOTO" : "GOSUB";
-    if (condition_ != 0) return Error(k, word + " out of position.");
+    const std::string_view word = stream_[k].code == LogicGoto ? "GOTO" : "GOSUB";
+    if (condition_ != 0) return Error(k, Say(Text::ScriptWordMisplaced, word));
     const size_t end = StatementEnd(stream_, k);
-    if (k + 1 >= end) return Error(k, word + " missing reference.");
+    if (k + 1 >= end) return Error(k, Say(Text::ScriptJumpLacksLabel, word));
     const auto& [code, value] = stream_[k + 1];
     if (code != NumberToken && (code != StringToken || value < 0))
-      return Error(k, "Improper reference after " + word);
+      return Error(k, Say(Text::ScriptJumpUnfit, word));
     if (k + 2 < end && stream_[k + 2].code == ActionToken)
-      return Error(k, word + " here should be preceded with a colon :");
+      return Error(k, Say(Text::ScriptJumpLacksColon, word));
     const std::string name = code == NumberToken
                                  ? NumberText(value)
                                  : script_.ScriptStringTable[static_cast<size_t>(value)].text;
     const auto label = labels_.find(LowerCase(TrimSpaces(name)));
-    if (label == labels_.end()) return Error(k, "Label \"" + name + "\" not found.");
+    if (label == labels_.end()) return Error(k, Say(Text::ScriptLabelNotFound, name));
     JumpTo(k, label->second);
     return {};
   }
 
   Result CheckEnd() const {
-    if (condition_ != 0) return Error(condition_, "Missing THEN statement.");
-    if (!ifs_.empty()) return Error(ifs_.back().waiting, "Missing ENDIF statement.");
-    if (!dos_.empty()) return Error(dos_.back().element, "Missing LOOP statement.");
+    if (condition_ != 0) return Error(condition_, Say(Text::ScriptStatementMissing, "THEN"));
+    if (!ifs_.empty())
+      return Error(ifs_.back().waiting, Say(Text::ScriptStatementMissing, "ENDIF"));
+    if (!dos_.empty()) return Error(dos_.back().element, Say(Text::ScriptStatementMissing, "LOOP"));
     return {};
   }
 

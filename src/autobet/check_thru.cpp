@@ -3,11 +3,12 @@
 #include <string>
 
 #include "autobet/checker.h"
-#include "autobet/functions.h"
 #include "autobet/token_walk.h"
+#include "autobet/word_numbers.h"
 #include "base/fault.h"
 #include "engine/bet_limits.h"
 #include "state/bet_numbers.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -15,15 +16,26 @@ namespace {
 
 using TokenStream = std::vector<ScriptToken>;
 
-// The family of a variable for "thru". The functions have their own numbers as families, so a range
-// from a named Place bet to a numbered one is refused, and so is one of Buy bets.
+// The family of a variable for "thru", by the function that names its bets or stacks. Place and Buy
+// bets stand crosswise, so a range from a named Place bet to a numbered one is refused, and so is
+// one of Buy bets: scripts have always been told so.
 struct FamilyRow {
   int32_t First, Last, Family;
 };
 // clang-format off
 constexpr FamilyRow Families[] = {
-    {1, 6, 1}, {7, 12, 2}, {13, 18, 3}, {19, 24, 4}, {25, 30, 5}, {31, 36, 7}, {37, 42, 6},
-    {50, 51, 8}, {52, 55, 9}, {67, 83, 10}, {100, 199, 21}, {800, 899, 800},
+    {bet::Lay4, bet::Lay10, function::Lay},
+    {bet::DontCome4, bet::DontCome10, function::DontCome},
+    {bet::DontCome4Odds, bet::DontCome10Odds, function::DontComeOdds},
+    {bet::Come4, bet::Come10, function::Come},
+    {bet::Come4Odds, bet::Come10Odds, function::ComeOdds},
+    {bet::Place4, bet::Place10, function::Buy},
+    {bet::Buy4, bet::Buy10, function::Place},
+    {bet::Big6, bet::Big8, function::Big},
+    {bet::Hard4, bet::Hard10, function::Hard},
+    {bet::Hop13, bet::Hop55, function::Hop},
+    {FirstStack, FirstStack + StackCount - 1, function::Stack},
+    {variable::FirstStackName, variable::FirstStackName + StackCount - 1, function::StackName},
 };
 // clang-format on
 
@@ -42,69 +54,91 @@ int32_t FamilyOf(const ScriptToken& head) {
   return 0;
 }
 
-// What is wrong with the operand that begins (behind) or ends (in front) with a token.
-std::string OperandFault(int32_t code, const std::string& where) {
-  if (IsMarker(code)) return "Missing operand " + where + " 'thru'.";
-  return (code >= EmptyToken ? "Missing or incompatible operand " : "Incompatible operand ") +
-         where + " 'thru'.";
+// What is wrong with the operand of one side of a "thru", by the token there.
+struct SideTexts {
+  Text Missing, Unclear, Unfit;
+};
+constexpr SideTexts Front = {Text::ScriptThruLacksFront, Text::ScriptThruFrontUnclear,
+                             Text::ScriptThruFrontUnfit};
+constexpr SideTexts Back = {Text::ScriptThruLacksBack, Text::ScriptThruBackUnclear,
+                            Text::ScriptThruBackUnfit};
+
+std::string OperandFault(int32_t code, const SideTexts& side) {
+  if (IsMarker(code)) return SayChosen(side.Missing);
+  return SayChosen(code >= EmptyToken ? side.Unclear : side.Unfit);
 }
 
 // What is wrong with the "thru" at an element; `front` is the head of the reference that ends in
 // front of it, 0 without one.
 std::string ThruFault(const TokenStream& stream, size_t thru, size_t front) {
   const int32_t before = stream[thru - 1].code, behind = stream[thru + 1].code;
-  if (IsMarker(behind)) return OperandFault(behind, "following");
-  if (IsMarker(before)) return OperandFault(before, "preceding");
-  if (!IsOperand(stream[thru + 1])) return OperandFault(behind, "following");
-  if (front == 0) return OperandFault(before, "preceding");
-  if (!IsOperand(stream[front])) return OperandFault(FunctionToken, "preceding");
+  if (IsMarker(behind)) return OperandFault(behind, Back);
+  if (IsMarker(before)) return OperandFault(before, Front);
+  if (!IsOperand(stream[thru + 1])) return OperandFault(behind, Back);
+  if (front == 0) return OperandFault(before, Front);
+  if (!IsOperand(stream[front])) return OperandFault(FunctionToken, Front);
   const int32_t family = FamilyOf(stream[front]);
   if (family != 0 && family == FamilyOf(stream[thru + 1])) return {};
-  return "Incompatible operands surrounding 'thru'.\r\rVariables to the left and right of 'thru' "
-         "should be similar bet types, checkstacks, or checkstack names.\r\rFor example:\r"
-         "      Place4 thru Place10";
+  return Say(Text::ScriptThruSidesDiffer);
 }
 
-// The members of the group words.
-struct GroupRow {
+std::vector<int> Range(int first, int last) {
+  std::vector<int> numbers(static_cast<size_t>(last - first + 1));
+  std::iota(numbers.begin(), numbers.end(), first);
+  return numbers;
+}
+
+// The word for all bets of a family, which those for the inside and outside ones follow.
+struct FamilyWord {
   int32_t Word;
-  std::array<int, FamilySize> Members;  // of one family; 0 at the end: fewer
+  Family FirstBet;
 };
-// clang-format off
-constexpr GroupRow FamilyGroups[] = {
-    {4000, {1, 2, 3, 4, 5, 6}},       {4001, {2, 3, 4, 5}},     {4002, {1, 2, 5, 6}},
-    {4010, {7, 8, 9, 10, 11, 12}},    {4011, {8, 9, 10, 11}},   {4012, {7, 8, 11, 12}},
-    {4020, {13, 14, 15, 16, 17, 18}}, {4021, {14, 15, 16, 17}}, {4022, {13, 14, 17, 18}},
-    {4030, {19, 20, 21, 22, 23, 24}}, {4031, {20, 21, 22, 23}}, {4032, {19, 20, 23, 24}},
-    {4040, {25, 26, 27, 28, 29, 30}}, {4041, {26, 27, 28, 29}}, {4042, {25, 26, 29, 30}},
-    {4050, {31, 32, 33, 34, 35, 36}}, {4051, {32, 33, 34, 35}}, {4052, {31, 32, 35, 36}},
-    {4060, {37, 38, 39, 40, 41, 42}}, {4061, {38, 39, 40, 41}}, {4062, {37, 38, 41, 42}},
-    {4070, {50, 51}},                 {4071, {52, 53, 54, 55}},
+constexpr FamilyWord FamilyWords[] = {
+    {variable::LayBets, LayFamily},
+    {variable::DontComeBets, DontComeFamily},
+    {variable::DontComeOddsBets, DontComeOddsFamily},
+    {variable::ComeBets, ComeFamily},
+    {variable::ComeOddsBets, ComeOddsFamily},
+    {variable::PlaceBets, PlaceFamily},
+    {variable::BuyBets, BuyFamily},
 };
-struct RangeRow {
-  int32_t Word;
-  int First, Last;
-};
-constexpr int32_t AllBets = 4100;
-constexpr RangeRow RangeGroups[] = {
-    {4072, 67, 83}, {AllBets, 1, LastBet}, {980, 100, 199}, {990, 800, 899},
-};
-// clang-format on
+
+// The bets on 5, 6, 8, 9 are inside, those on 4, 5, 9, 10 outside.
+std::vector<int> MembersOfFamily(Family family, int32_t side) {
+  if (side == variable::InsideOfGroup) return Range(BetOn(family, 5), BetOn(family, 9));
+  if (side == variable::OutsideOfGroup)
+    return {BetOn(family, 4), BetOn(family, 5), BetOn(family, 9), BetOn(family, 10)};
+  return Range(BetOn(family, 4), BetOn(family, 10));
+}
+
+std::vector<int> BetsOnLayout() {
+  std::vector<int> bets = Range(1, LastBet);
+  std::erase_if(bets, [](int number) { return !OnLayout(number); });
+  return bets;
+}
 
 // The variables a group word stands for; none for another variable.
 std::vector<int> MembersOf(int32_t word) {
-  std::vector<int> members;
-  for (const GroupRow& row : FamilyGroups) {
-    if (row.Word == word) members.assign(row.Members.begin(), row.Members.end());
+  for (const auto& [first, family] : FamilyWords) {
+    if (word >= first && word <= first + variable::OutsideOfGroup)
+      return MembersOfFamily(family, word - first);
   }
-  std::erase(members, 0);
-  for (const RangeRow& row : RangeGroups) {
-    if (row.Word != word) continue;
-    members.resize(static_cast<size_t>(row.Last - row.First + 1));
-    std::iota(members.begin(), members.end(), row.First);
+  switch (word) {
+    case variable::BigBets:
+      return {bet::Big6, bet::Big8};
+    case variable::HardBets:
+      return Range(bet::Hard4, bet::Hard10);
+    case variable::HopBets:
+      return Range(bet::Hop13, bet::Hop55);
+    case variable::AllBets:
+      return BetsOnLayout();
+    case variable::AllStacks:
+      return Range(FirstStack, FirstStack + StackCount - 1);
+    case variable::AllStackNames:
+      return Range(variable::FirstStackName, variable::FirstStackName + StackCount - 1);
+    default:
+      return {};
   }
-  if (word == AllBets) std::erase_if(members, [](int number) { return !OnLayout(number); });
-  return members;
 }
 
 // A group word whose qualifiers are being written: where they end in the script and where the word

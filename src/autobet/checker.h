@@ -5,7 +5,7 @@
 // In the normal form a variable is followed by its qualifiers in the order player, hand, first
 // modifier, second modifier, as many as QualifierCount says; likewise a function that names a bet,
 // stack or statistic, with its argument behind them. The player of a reference is a player token or
-// the function 50 with its operand. Group words are lists of their members; targets are marked;
+// the player function with its operand. Group words are lists of their members; targets are marked;
 // control words carry the element they jump to.
 #pragma once
 
@@ -18,11 +18,6 @@
 #include "autobet/translation.h"
 
 namespace tessarel {
-
-// How many qualifier tokens follow a variable or function: 0, 1 player, 2 player and hand,
-// 3 player, hand and second modifier, 4 all.
-int QualifierCount(int32_t variable);
-int FunctionQualifierCount(int32_t function);
 
 // The whole chain for the script of a slot (its lines are those of the script store). On success
 // `script` is ready to be compiled to a program; `lineLevels`, if given, holds the indentation of
@@ -46,7 +41,7 @@ void ExpandGroups(CompiledScript& script);
 std::optional<ScriptError> CheckAssignments(CompiledScript& script);
 std::optional<ScriptError> CheckStructure(CompiledScript& script,
                                           std::vector<int32_t>* lineLevels = nullptr);
-// A dry run of every statement by the rules of the interpreter (autobet/expressions.h).
+// A dry run of every statement by the rules of the interpreter (autobet/statements.h).
 std::optional<ScriptError> CheckExpressions(CompiledScript& script);
 
 // The error of the statement that holds `element`: from its marker to the next one.

@@ -22,8 +22,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr int32_t OpenEmptyAction = 221;
-
 std::string TrimmedText(const ScriptCommand& command, size_t k) {
   if (k >= command.arguments.size()) return {};
   return std::string(TrimSpaces(TextOf(command.arguments[k])));
@@ -46,7 +44,7 @@ std::optional<PlaybackRequest> ReadPlaybackRequest(const ScriptCommand& command)
   if (k < arguments.size() && !IsFromRoll(arguments[k])) request.Name = TrimmedText(command, k++);
   if (k < arguments.size() && IsFromRoll(arguments[k])) {
     if (++k == arguments.size()) {
-      FailScript(9997);
+      FailScript(ScriptFault::NoValue);
       return std::nullopt;
     }
     request.FromRoll = NumberOf(arguments[k]);
@@ -56,20 +54,19 @@ std::optional<PlaybackRequest> ReadPlaybackRequest(const ScriptCommand& command)
 
 // Everything is tested before the file that is open now is given up.
 bool OpenForPlayback(const std::string& name) {
-  constexpr int32_t UnableToOpen = 1005, NoRollFile = 1007;
   try {
     FlushRollFile();
     if (!FileExists(InFolder(Folders.AppFolder, name))) {
-      FailScript(UnableToOpen);
+      FailScript(ScriptFault::FileNotOpened);
     } else if (!IsRollFile(name)) {
-      FailScript(NoRollFile);
+      FailScript(ScriptFault::NotARollFile);
     } else {
       OpenRollFile(name);
       RewindForPlayback();
       return true;
     }
   } catch (const Fault&) {
-    FailScript(UnableToOpen);
+    FailScript(ScriptFault::FileNotOpened);
   }
   return false;
 }
@@ -117,59 +114,61 @@ bool AddToOutputFile(std::ios::openmode mode, const std::string& bytes) {
 
 }  // namespace
 
-bool HasRight(const PerPlace<bool>& right, int32_t error) {
-  if (At(right, AutoBet.CurrentScriptPlayer) != 0) return true;
-  FailScript(error);
+bool HasRight(const PerPlace<bool>& right, ScriptFault fault) {
+  if (At(right, AutoBet.CurrentScriptPlayer)) return true;
+  FailScript(fault);
   return false;
 }
 
 void PlayBackRollFile(const ScriptCommand& command) {
-  if (!HasRight(Scripts.AllowActProb, 856)) return;
+  if (!HasRight(Scripts.AllowActProb, ScriptFault::NoRollFiles)) return;
   const auto request = ReadPlaybackRequest(command);
   if (!request) return;
   if (!request->Name.empty() && !OpenForPlayback(request->Name)) return;
-  if (RollFile.RollFileName.empty()) return FailScript(1003);
+  if (RollFile.RollFileName.empty()) return FailScript(ScriptFault::RollFileNotOpen);
   RollFile.RollFileMode = RollFilePlay;
   RollFile.EndReached = false;
   if (request->FromRoll) MoveToRoll(*request->FromRoll);
 }
 
 void SwitchOffRollFile(const ScriptCommand&) {
-  if (!HasRight(Scripts.AllowActProb, 856)) return;
-  if (RollFile.RollFileName.empty()) return FailScript(1003);
+  if (!HasRight(Scripts.AllowActProb, ScriptFault::NoRollFiles)) return;
+  if (RollFile.RollFileName.empty()) return FailScript(ScriptFault::RollFileNotOpen);
   RollFile.RollFileMode = RollFileOff;
 }
 
 void ActivateProbabilities(const ScriptCommand& command) {
-  if (!HasRight(Scripts.AllowActProb, 854)) return;
+  if (!HasRight(Scripts.AllowActProb, ScriptFault::NoProbabilityFiles)) return;
   const std::string name = TrimmedText(command, 0);
-  if (!name.empty() && !LoadProbabilities(name)) return FailScript(1008);
+  if (!name.empty() && !LoadProbabilities(name))
+    return FailScript(ScriptFault::NotAProbabilityFile);
   Probability.ProbabilityMatrixActive = true;
 }
 
 void SwitchOffProbabilities(const ScriptCommand&) {
-  if (!HasRight(Scripts.AllowActProb, 854)) return;
+  if (!HasRight(Scripts.AllowActProb, ScriptFault::NoProbabilityFiles)) return;
   Probability.ProbabilityMatrixActive = false;
 }
 
 void PlayScriptSound(const ScriptCommand& command) {
-  if (Settings.DisableAutoBetSounds || Settings.DisableAllSound) return FailScript(992);
+  if (Settings.DisableAutoBetSounds || Settings.DisableAllSound)
+    return FailScript(ScriptFault::SoundsOff);
   const std::string name = TrimmedText(command, 0);
-  if (name.empty()) return FailScript(9998);
+  if (name.empty()) return FailScript(ScriptFault::NoString);
   if (!Table.HyperDriveOn) FrontEnd.PlaySoundFile(InFolder(Folders.AppFolder, name));
 }
 
 void OpenOutputFile(const ScriptCommand& command) {
   OutputFileOfScript() = TrimmedText(command, 0);
-  const auto mode = command.action == OpenEmptyAction ? std::ios::trunc : std::ios::app;
-  if (!AddToOutputFile(mode, {})) FailScript(1006);
+  const auto mode = command.action == action::ClearOutput ? std::ios::trunc : std::ios::app;
+  if (!AddToOutputFile(mode, {})) FailScript(ScriptFault::BadFileName);
 }
 
 void WriteToOutputFile(const ScriptCommand& command) {
-  if (command.arguments.empty()) return FailScript(9997);
-  if (OutputFileOfScript().empty()) return FailScript(1004);
+  if (command.arguments.empty()) return FailScript(ScriptFault::NoValue);
+  if (OutputFileOfScript().empty()) return FailScript(ScriptFault::OutputFileNotOpen);
   const std::string line = ToSingleByte(TextOf(command.arguments[0])) + "\n";
-  if (!AddToOutputFile(std::ios::app, line)) FailScript(1006);
+  if (!AddToOutputFile(std::ios::app, line)) FailScript(ScriptFault::BadFileName);
 }
 
 }  // namespace tessarel

@@ -7,15 +7,15 @@
 
 namespace tessarel {
 
-// Whether the running script has a right (a row of the script store); else the run-time error.
-bool HasRight(const PerPlace<bool>& right, int32_t error);
+// Whether the running script has a right (a row of the script store); else the statement fails.
+bool HasRight(const PerPlace<bool>& right, ScriptFault fault);
 
-void PlayBackRollFile(const ScriptCommand& command);        // A310
-void SwitchOffRollFile(const ScriptCommand& command);       // A119
-void ActivateProbabilities(const ScriptCommand& command);   // A213
-void SwitchOffProbabilities(const ScriptCommand& command);  // A114
-void PlayScriptSound(const ScriptCommand& command);         // A212
-void OpenOutputFile(const ScriptCommand& command);          // A220 appends, A221 empties
-void WriteToOutputFile(const ScriptCommand& command);       // A223
+void PlayBackRollFile(const ScriptCommand& command);
+void SwitchOffRollFile(const ScriptCommand& command);
+void ActivateProbabilities(const ScriptCommand& command);
+void SwitchOffProbabilities(const ScriptCommand& command);
+void PlayScriptSound(const ScriptCommand& command);
+void OpenOutputFile(const ScriptCommand& command);  // appending to it or emptying it
+void WriteToOutputFile(const ScriptCommand& command);
 
 }  // namespace tessarel

@@ -17,7 +17,7 @@ std::string FunctionCall::BytesAt(size_t k) const {
 }
 
 ScriptValue Refused(const FunctionCall& call) {
-  FailScript(call.Number);
+  FailScript(FaultOfFunction(call.Number));
   return Number(0);
 }
 

@@ -19,21 +19,6 @@ namespace tessarel {
 
 namespace {
 
-enum FunctionNumber : int32_t {
-  FunctionLay = 1,
-  FunctionBuy = 7,
-  FunctionBig = 8,
-  FunctionHard = 9,
-  FunctionHop = 10,
-  FunctionStack = 21,
-  FunctionStackName = 800,
-  FunctionHighest = 126,
-  FunctionLowest = 127,
-  FunctionMean = 128,
-  FunctionDeviation = 129,
-  FunctionSum = 130,
-  FunctionHighestText = 132,
-};
 
 // A whole number from -1000 to 1000 as it stands; 0 for any other number.
 int ExactWhole(double number) {
@@ -51,15 +36,16 @@ int HopBet(double number) {
 
 // The bet of a family by the number behind its word; 0 where it has none.
 int BetOfFamily(int32_t function, double number) {
-  if (function == FunctionHop) return HopBet(number);
+  if (function == function::Hop) return HopBet(number);
   const int total = ExactWhole(number);
   const bool even = total == 4 || total == 6 || total == 8 || total == 10;
-  if (function == FunctionHard) return even ? bet::Hard4 + (total - 4) / 2 : 0;
+  if (function == function::Hard) return even ? bet::Hard4 + (total - 4) / 2 : 0;
   if (!IsPointNumber(total)) return 0;
-  if (function != FunctionBig) return 1 + (function - FunctionLay) * FamilySize + PointIndex(total);
+  if (function != function::Big)
+    return 1 + (function - function::Lay) * FamilySize + PointIndex(total);
   return total == 6 ? bet::Big6 : total == 8 ? bet::Big8 : 0;
 }
-static_assert(1 + (FunctionBuy - FunctionLay) * FamilySize == BuyFamily);
+static_assert(1 + (function::Buy - function::Lay) * FamilySize == BuyFamily);
 
 ScriptValue AverageOfBankroll(const FunctionCall& call) {
   constexpr int32_t MostRolls = 525;
@@ -82,8 +68,7 @@ ScriptValue PlaceOfPlayer(const FunctionCall& call) {
 
 ScriptValue NameOfPlayer(const FunctionCall& call) {
   const auto place = PlaceArgument(call);
-  return place ? ScriptValue{StringToken, static_cast<double>(PlayerNameString - *place)}
-               : Refused(call);
+  return place ? TextValue(PlayerNameString - *place) : Refused(call);
 }
 
 ScriptValue SquareRoot(const FunctionCall& call) {
@@ -130,7 +115,7 @@ ScriptValue OddsAllowed(const FunctionCall& call) {
 bool Prompt(const FunctionCall& call, StringValue standing) {
   const ScriptValue text = call.Argument(0);
   const bool own = IsText(text) && !TextOf(text).empty();
-  const ScriptValue shown = own ? text : ScriptValue{StringToken, static_cast<double>(standing)};
+  const ScriptValue shown = own ? text : TextValue(standing);
   return AskForText(MessageLines(TextOf(shown)), ScriptMessageTitle(), "");
 }
 
@@ -141,7 +126,7 @@ ScriptValue AskForNumber(const FunctionCall& call) {
 ScriptValue AskForLine(const FunctionCall& call) {
   if (!Prompt(call, InputTextPromptString)) return MakeText({});
   if (Message.MsgInput.size() > MaxTextLength) {
-    FailScript(998);
+    FailScript(ScriptFault::TextTooLong);
     return Number(0);
   }
   return MakeText(Message.MsgInput);
@@ -181,15 +166,15 @@ double PopulationDeviation(std::span<const ListItem> list, const ListFigures& fi
 ScriptValue NumberOfList(const FunctionCall& call) {
   const ListFigures figures = FiguresOf(call.Arguments);
   switch (call.Number) {
-    case FunctionHighest:
+    case function::Highest:
       return Number(figures.Highest);
-    case FunctionLowest:
+    case function::Lowest:
       return Number(figures.Lowest);
-    case FunctionMean:
+    case function::Mean:
       return Number(figures.Mean());
-    case FunctionDeviation:
+    case function::Deviation:
       return Number(PopulationDeviation(call.Arguments, figures));
-    case FunctionSum:
+    case function::Sum:
       return Number(figures.Sum);
     default:
       return Number(static_cast<double>(figures.Count));
@@ -200,7 +185,8 @@ ScriptValue TextOfList(const FunctionCall& call) {
   std::optional<std::string> best;
   ForEachMember(call.Arguments, [&](const ScriptValue& member) {
     std::string text = TextOf(member);
-    const bool better = !best || (call.Number == FunctionHighestText ? text > *best : text < *best);
+    const bool better =
+        !best || (call.Number == function::HighestText ? text > *best : text < *best);
     if (better) best = std::move(text);
     return true;
   });
@@ -215,45 +201,41 @@ struct FunctionRow {
 // By number, ascending. The statistics of the rolls are called apart.
 // clang-format off
 constexpr FunctionRow FunctionRows[] = {
-    {22, AverageOfBankroll},
-    {50, PlaceOfPlayer},
-    {100, SquareRoot}, {101, WholePart}, {102, AbsoluteValue},
-    {104, CodeOfText}, {117, ValueOfText}, {118, LengthOfText},
-    {125, AskForNumber},
-    {126, NumberOfList}, {127, NumberOfList}, {128, NumberOfList}, {129, NumberOfList},
-    {130, NumberOfList}, {131, NumberOfList}, {132, TextOfList}, {133, TextOfList},
-    {139, RoundToPrecision},
-    {190, DieFace}, {191, OddsAllowed},
-    {203, FindInText},
-    {801, KeepStretch}, {802, KeepStretch}, {803, RemoveStretch}, {804, RemoveStretch},
-    {805, KeepStretch}, {806, RemoveStretch}, {809, InsertText},
-    {810, TextOfNumber}, {811, TextOfCode}, {812, BlankText},
-    {825, AskForLine},
-    {850, NameOfPlayer},
+    {function::AverageBankroll, AverageOfBankroll}, {function::Player, PlaceOfPlayer},
+    {function::SquareRoot, SquareRoot}, {function::WholePart, WholePart},
+    {function::AbsoluteValue, AbsoluteValue}, {function::CodeOfText, CodeOfText},
+    {function::ValueOfText, ValueOfText}, {function::LengthOfText, LengthOfText},
+    {function::Input, AskForNumber}, {function::Highest, NumberOfList},
+    {function::Lowest, NumberOfList}, {function::Mean, NumberOfList},
+    {function::Deviation, NumberOfList}, {function::Sum, NumberOfList},
+    {function::Count, NumberOfList}, {function::HighestText, TextOfList},
+    {function::LowestText, TextOfList}, {function::Round, RoundToPrecision},
+    {function::Die, DieFace}, {function::OddsFactor, OddsAllowed},
+    {function::FindInText, FindInText}, {function::Left, KeepStretch},
+    {function::Right, KeepStretch}, {function::RemoveLeft, RemoveStretch},
+    {function::RemoveRight, RemoveStretch}, {function::Mid, KeepStretch},
+    {function::RemoveMid, RemoveStretch}, {function::Insert, InsertText},
+    {function::TextOfNumber, TextOfNumber}, {function::TextOfCode, TextOfCode},
+    {function::Blanks, BlankText}, {function::InputText, AskForLine},
+    {function::PlayerName, NameOfPlayer},
 };
 // clang-format on
 static_assert(std::ranges::is_sorted(FunctionRows, {}, &FunctionRow::Number));
-
-constexpr bool IsRollStatistic(int32_t function) {
-  return (function >= 25 && function <= 34) || (function >= 40 && function <= 47) ||
-         function == 137;
-}
 
 }  // namespace
 
 int32_t NamedVariable(int32_t function, const ScriptValue& argument) {
   const double number = NumberOf(argument);
   int32_t variable = 0;
-  if (function == FunctionStack || function == FunctionStackName) {
-    constexpr int32_t FirstStackName = 800;
+  if (function == function::Stack || function == function::StackName) {
     const int32_t stack = WholeOf(number);
     if (stack >= 0 && stack < StackCount) {
-      variable = stack + (function == FunctionStack ? FirstStack : FirstStackName);
+      variable = stack + (function == function::Stack ? FirstStack : variable::FirstStackName);
     }
   } else {
     variable = BetOfFamily(function, number);
   }
-  if (variable == 0) FailScript(function);
+  if (variable == 0) FailScript(FaultOfFunction(function));
   return variable;
 }
 

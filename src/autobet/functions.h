@@ -9,17 +9,12 @@
 
 namespace tessarel {
 
-// The functions that name a variable by its number: the bet families, cs, csn.
-constexpr bool NamesVariable(int32_t function) {
-  return (function >= 1 && function <= 10) || function == 21 || function == 800;
-}
-
-// The number of the variable that such a function names with its argument. On a run-time error
-// AutoBet.ScriptError is set and the number is 0.
+// The number of the variable that a function names with its argument (NamesVariable of
+// autobet/word_numbers.h). On a run-time error AutoBet.Fault is set and the number is 0.
 int32_t NamedVariable(int32_t function, const ScriptValue& argument);
 
 // The result of any other function; `reference` carries the qualifiers of those that take them
-// (F022, F025 to F047, F137). On a run-time error AutoBet.ScriptError is set and the result is 0.
+// (autobet/function_table.h). On a run-time error AutoBet.Fault is set and the result is 0.
 ScriptValue CallFunction(int32_t function,
                          const Reference& reference,
                          std::span<const ListItem> arguments);

@@ -5,8 +5,9 @@
 #include <utility>
 
 #include "autobet/checker.h"
-#include "autobet/expressions.h"
+#include "autobet/statements.h"
 #include "autobet/vocabulary.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -55,11 +56,6 @@ constexpr bool OpensCondition(StatementKind kind) {
   return kind == StatementKind::If || kind == StatementKind::ElseIf;
 }
 
-std::string GotoHelp() {
-  return "Unable to resolve elements.\r\rThe GoTo command must be followed by the name of a single "
-         "label. \r\rFor example:\r      GoTo \"Make bets\"";
-}
-
 class ScriptCompiler {
  public:
   ScriptCompiler(const CompiledScript& script,
@@ -99,11 +95,11 @@ class ScriptCompiler {
 
 std::optional<std::string> ScriptCompiler::AddExpression(std::span<const ScriptToken> tokens,
                                                          Statement& added) {
-  if (inCondition_ && !std::exchange(conditionFollows_, false))
-    return "Unable to resolve elements.";
+  if (inCondition_ && !std::exchange(conditionFollows_, false)) return Say(Text::ScriptLeftOver);
   added.kind = inCondition_ ? StatementKind::Condition : StatementKind::Action;
   added.code = static_cast<int32_t>(program_.code.size());
-  std::optional<std::string> fault = CompileStatement(tokens, inCondition_, shift_, program_);
+  std::optional<std::string> fault =
+      (inCondition_ ? CompileCondition : CompileOrder)(tokens, shift_, program_);
   added.codeEnd = static_cast<int32_t>(program_.code.size());
   return fault;
 }
@@ -114,7 +110,7 @@ std::optional<std::string> ScriptCompiler::Add(size_t begin, size_t end) {
   added.target = TargetOf(added.kind, tokens.front());
   std::optional<std::string> fault;
   if (added.kind == StatementKind::Then) {
-    if (conditionFollows_) fault = "Missing expression between IF and THEN.";
+    if (conditionFollows_) fault = Say(Text::ScriptConditionMissing);
     inCondition_ = conditionFollows_ = false;
   }
   if (OpensCondition(added.kind)) inCondition_ = conditionFollows_ = true;
@@ -123,7 +119,7 @@ std::optional<std::string> ScriptCompiler::Add(size_t begin, size_t end) {
   if (added.kind == StatementKind::Action)
     fault = AddExpression(tokens, added);
   else if (!fault && tokens.size() != length)
-    fault = jumps ? GotoHelp() : "Unable to resolve elements.";
+    fault = SayChosen(jumps ? Text::ScriptGotoHelp : Text::ScriptLeftOver);
   std::fill(statementOf_.begin() + static_cast<std::ptrdiff_t>(begin),
             statementOf_.begin() + static_cast<std::ptrdiff_t>(end),
             static_cast<int32_t>(program_.statements.size()));

@@ -102,8 +102,7 @@ class GroupReader {
   }
 
   bool IsSince(size_t k) const {
-    constexpr int32_t RollsSinceLast = 4505;
-    return stream_[k].code == VariableToken && NumberIn(stream_[k]) == RollsSinceLast;
+    return stream_[k].code == VariableToken && NumberIn(stream_[k]) == variable::RollsSinceLast;
   }
 
   void TakeVariable(size_t k) {
@@ -184,7 +183,7 @@ class GroupReader {
       if (set == 0 || group.argumentOf == 0 || !IsRollSet(NumberIn(stream_[set]))) continue;
       if (group.head != 0 && TakesQualifier(QualifiersOf(stream_[group.head]), FirstKind)) continue;
       Group& statistic = groups_[group.argumentOf];
-      if (!IsRollStatistic(stream_[statistic.head])) continue;
+      if (!CountsRollsOfSet(stream_[statistic.head])) continue;
       size_t& written = statistic.written[FirstKind];
       if (written == 0) written = set;
       if (written == set || stream_[written] != stream_[set]) ++statistic.counts[FirstKind];

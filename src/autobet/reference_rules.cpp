@@ -4,41 +4,40 @@
 
 #include "autobet/token_names.h"
 #include "autobet/token_walk.h"
+#include "autobet/word_numbers.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 namespace {
 
-// Variables and functions that share a rule.
-struct HeadRange {
-  int32_t Code, First, Last;
-};
-// clang-format off
-constexpr HeadRange Bets[] = {
-    {VariableToken, 1, 93}, {VariableToken, 4000, 4100}, {FunctionToken, 1, 10},
-};
-constexpr HeadRange RollStatistics[] = {
-    {VariableToken, 4501, 4512}, {FunctionToken, 25, 34}, {FunctionToken, 137, 137},
-};
-constexpr HeadRange PointStatistics[] = {{VariableToken, 4606, 4607}, {FunctionToken, 46, 47}};
-// Figures of the table, not of one player.
-constexpr HeadRange TableFigures[] = {
-    {VariableToken, 4501, 4512}, {VariableToken, 4606, 4607}, {VariableToken, 1501, 1508},
-    {VariableToken, 1200, 1200}, {FunctionToken, 25, 47}, {FunctionToken, 137, 137},
-};
-constexpr HeadRange HandRecords[] = {{VariableToken, 1501, 1508}};
-constexpr HeadRange SessionFigures[] = {
-    {VariableToken, 1100, 1100}, {VariableToken, 1200, 1200}, {FunctionToken, 22, 22},
-};
-// clang-format on
+constexpr bool IsWithin(int32_t number, int32_t first, int32_t last) {
+  return number >= first && number <= last;
+}
 
-template <size_t N>
-bool IsIn(const HeadRange (&ranges)[N], const ScriptToken& head) {
-  for (const HeadRange& range : ranges) {
-    if (head.code == range.Code && head.value >= range.First && head.value <= range.Last)
-      return true;
-  }
-  return false;
+// Variables and functions that share a rule.
+bool CountsPoints(const ScriptToken& head) {
+  const int32_t number = NumberIn(head);
+  return IsFunction(head.code) ? IsWithin(number, function::PointCount, function::PointPercent)
+                               : IsWithin(number, variable::PointCount, variable::PointPercent);
+}
+
+bool IsHandRecord(const ScriptToken& head) {
+  return IsVariable(head.code) &&
+         IsWithin(NumberIn(head), variable::MostRolls, variable::MissesPerHand);
+}
+
+// Figures of the table, not of one player.
+bool IsTableFigure(const ScriptToken& head) {
+  if (IsFunction(head.code)) return IsRollStatistic(NumberIn(head));
+  return CountsRollsOfSet(head) || CountsPoints(head) || IsHandRecord(head) ||
+         NumberIn(head) == variable::SimulatedHours;
+}
+
+bool IsSessionFigure(const ScriptToken& head) {
+  const int32_t number = NumberIn(head);
+  if (IsFunction(head.code)) return number == function::AverageBankroll;
+  return number == variable::Comps || number == variable::SimulatedHours;
 }
 
 // A set of modifiers or scopes.
@@ -59,37 +58,34 @@ constexpr uint64_t OnTable = Set({ModTendered, ModWagered});
 constexpr uint64_t ThisSession = Set({HandCurrent, HandCurrentSession});
 constexpr uint64_t Running = Set({HandCurrent, HandCurrentSession, HandAllSessions});
 
-// With which other qualifiers the second modifiers of a bet go.
+// With which other qualifiers the second modifiers of a bet go, and how a misuse of the modifier,
+// which is `Word`, is told.
 struct BetRule {
   int32_t FirstSecond, LastSecond;
   uint64_t Firsts, Hands;
-  std::string_view Text;
+  Text Misuse;
+  std::string_view Word;
 };
+constexpr uint64_t Counted = Set({ModWagered, ModWins, ModLosses});
+constexpr uint64_t Net = Set({ModNet, ModNetPercent});
 // clang-format off
 constexpr BetRule BetRules[] = {
-    {ModTotalNumber, ModTotalAmount, Decided, AnyHand, "'Total' only applies to resolved wagers."},
-    {ModHigh, ModHigh, Decided, AnyHand, "'High' only applies to resolved wagers."},
-    {ModLow, ModLow, Decided, AnyHand, "'Low' only applies to resolved wagers."},
-    {ModAverage, ModAverage, Decided, AnyHand, "'Average' only applies to resolved wagers."},
-    {ModLastAmount, ModLastAmount, Decided, AnyHand, "'Last' only applies to resolved wagers."},
-    {ModRollsSinceLast, ModRollsSinceLast, Set({ModWagered, ModWins, ModLosses}), AnyHand,
-     "'# rolls since last'\ronly applies to wagers, wins, and losses."},
-    {ModExpectedValue, ModExpectedValue, Set({ModNet, ModNetPercent}), AnyHand,
-     "'Expected value'\ronly available as net or net %"},
-    {ModCurrentNumber, ModCurrentAmount, OnTable, AnyHand,
-     "'Current' only applies to tendered wagers."},
-    {ModCurrentNumber, ModCurrentAmount, AnyFirst, Running,
-     "'Current' only applies to\rcurrent hand, current session, or all sessions."},
-    {ModPriorNumber, ModPriorAmount, OnTable, AnyHand, "'Prior' only applies to tendered wagers."},
-    {ModPriorNumber, ModPriorAmount, AnyFirst, Running,
-     "'Prior' only applies to current hand, current session, or all sessions."},
-    {ModWorking, ModWorking, AnyFirst, ThisSession,
-     "'Working' only applies to current hand or session."},
-    {ModCalledOn, ModCalledOn, AnyFirst, ThisSession,
-     "'Called on' only applies to current hand or session."},
-    {ModCalledOff, ModCalledOff, AnyFirst, ThisSession,
-     "'Called off' only applies to current hand or session."},
-    {ModVig, ModVig, AnyFirst, ThisSession, "'Vig' only applies to current hand or session."},
+    {ModTotalNumber, ModTotalAmount, Decided, AnyHand, Text::ScriptResolvedOnly, "Total"},
+    {ModHigh, ModHigh, Decided, AnyHand, Text::ScriptResolvedOnly, "High"},
+    {ModLow, ModLow, Decided, AnyHand, Text::ScriptResolvedOnly, "Low"},
+    {ModAverage, ModAverage, Decided, AnyHand, Text::ScriptResolvedOnly, "Average"},
+    {ModLastAmount, ModLastAmount, Decided, AnyHand, Text::ScriptResolvedOnly, "Last"},
+    {ModRollsSinceLast, ModRollsSinceLast, Counted, AnyHand, Text::ScriptResultsOnly,
+     "# rolls since last"},
+    {ModExpectedValue, ModExpectedValue, Net, AnyHand, Text::ScriptNetOnly, "Expected value"},
+    {ModCurrentNumber, ModCurrentAmount, OnTable, AnyHand, Text::ScriptTenderedOnly, "Current"},
+    {ModCurrentNumber, ModCurrentAmount, AnyFirst, Running, Text::ScriptCurrentScopes, "Current"},
+    {ModPriorNumber, ModPriorAmount, OnTable, AnyHand, Text::ScriptTenderedOnly, "Prior"},
+    {ModPriorNumber, ModPriorAmount, AnyFirst, Running, Text::ScriptPriorScopes, "Prior"},
+    {ModWorking, ModWorking, AnyFirst, ThisSession, Text::ScriptPresentOnly, "Working"},
+    {ModCalledOn, ModCalledOn, AnyFirst, ThisSession, Text::ScriptPresentOnly, "Called on"},
+    {ModCalledOff, ModCalledOff, AnyFirst, ThisSession, Text::ScriptPresentOnly, "Called off"},
+    {ModVig, ModVig, AnyFirst, ThisSession, Text::ScriptPresentOnly, "Vig"},
 };
 // clang-format on
 
@@ -98,11 +94,11 @@ std::string NameOf(const ScriptToken& head) {
 }
 
 std::string BetMisuse(const Qualifiers& qualifiers) {
-  if (IsRollSet(qualifiers.first)) return RollLimitsText();
+  if (IsRollSet(qualifiers.first)) return Say(Text::ScriptRollLimits);
   for (const BetRule& rule : BetRules) {
     if (qualifiers.second < rule.FirstSecond || qualifiers.second > rule.LastSecond) continue;
     if (!Has(rule.Firsts, qualifiers.first) || !Has(rule.Hands, qualifiers.hand))
-      return std::string(rule.Text);
+      return SayChosen(rule.Misuse, rule.Word);
   }
   return {};
 }
@@ -110,20 +106,17 @@ std::string BetMisuse(const Qualifiers& qualifiers) {
 }  // namespace
 
 bool NamesBet(const ScriptToken& head) {
-  return IsIn(Bets, head);
+  const int32_t number = NumberIn(head);
+  if (IsFunction(head.code)) return NamesBet(number);
+  return IsVariable(head.code) &&
+         (IsBet(number) || IsWithin(number, variable::LayBets, variable::AllBets));
 }
 
-bool IsRollStatistic(const ScriptToken& head) {
-  return IsIn(RollStatistics, head);
-}
-
-int32_t RollFunctionOf(int32_t variable) {
-  constexpr int32_t FirstVariable = 4501, LastVariable = 4510, FirstFunction = 25;
-  constexpr int32_t PValue = 4511, PValueFunction = 137;
-  if (variable == PValue) return PValueFunction;
-  return variable >= FirstVariable && variable <= LastVariable
-             ? variable - FirstVariable + FirstFunction
-             : 0;
+bool CountsRollsOfSet(const ScriptToken& head) {
+  const int32_t number = NumberIn(head);
+  if (IsFunction(head.code)) return CountsRollsOfSet(number);
+  return IsVariable(head.code) &&
+         IsWithin(number, variable::ProbablePercent, variable::DegreesOfFreedom);
 }
 
 bool IsRollSet(int32_t modifier) {
@@ -149,19 +142,8 @@ bool IsRollOf(int32_t set, double roll) {
   return false;
 }
 
-std::string RollLimitsText() {
-  return "Reference to rolls out of limits.";
-}
-
-std::string HouseWagerMisuse() {
-  return "Wagers must be referenced by individual players.  If all players are desired \r\rthen "
-         "include the separate players in an expression or function.  For example, \r\r"
-         "Expression: passline player1 + passline player2\r"
-         "Function: sum(passline player4, passline player6)";
-}
-
 Qualifiers WithDefaults(const ScriptToken& head, const WrittenQualifiers& written, int owner) {
-  const bool rolls = IsRollStatistic(head), points = IsIn(PointStatistics, head);
+  const bool rolls = CountsRollsOfSet(head), points = CountsPoints(head);
   const bool expectedValue = written.second == ModExpectedValue;
   const int32_t first = points          ? ModEstablished
                         : rolls         ? 0
@@ -170,7 +152,7 @@ Qualifiers WithDefaults(const ScriptToken& head, const WrittenQualifiers& writte
   const int32_t second = !NamesBet(head)  ? ModTotal
                          : !written.first ? ModCurrentAmount
                                           : ModLastRollAmount;
-  return {.player = written.player.value_or(IsIn(TableFigures, head) ? PlayerNobody : owner),
+  return {.player = written.player.value_or(IsTableFigure(head) ? PlayerNobody : owner),
           .hand = written.hand.value_or(HandCurrentSession),
           .first = written.first.value_or(first),
           .second = written.second.value_or(second)};
@@ -179,13 +161,13 @@ Qualifiers WithDefaults(const ScriptToken& head, const WrittenQualifiers& writte
 std::string QualifierMisuse(const ScriptToken& head, const Qualifiers& qualifiers) {
   constexpr uint64_t Sessions = Set({HandCurrentSession, HandLastSession, HandAllSessions});
   constexpr uint64_t CountedSessions = Set({HandCurrentSession, HandAllSessions});
-  if (IsIn(HandRecords, head) && !Has(Sessions, qualifiers.hand))
-    return NameOf(head) + " only applies to\rcurrent session, last session, or all sessions.";
-  if (IsIn(SessionFigures, head) && !Has(CountedSessions, qualifiers.hand))
-    return NameOf(head) + " only applies to\rcurrent session or all sessions.";
-  if (IsRollStatistic(head) && qualifiers.first != 0 && !IsRollSet(qualifiers.first))
-    return RollLimitsText();
-  if (IsIn(PointStatistics, head) && IsRollSet(qualifiers.first)) return RollLimitsText();
+  if (IsHandRecord(head) && !Has(Sessions, qualifiers.hand))
+    return Say(Text::ScriptSessionsOnly, NameOf(head));
+  if (IsSessionFigure(head) && !Has(CountedSessions, qualifiers.hand))
+    return Say(Text::ScriptCountedSessionsOnly, NameOf(head));
+  if (CountsRollsOfSet(head) && qualifiers.first != 0 && !IsRollSet(qualifiers.first))
+    return Say(Text::ScriptRollLimits);
+  if (CountsPoints(head) && IsRollSet(qualifiers.first)) return Say(Text::ScriptRollLimits);
   return NamesBet(head) ? BetMisuse(qualifiers) : std::string();
 }
 

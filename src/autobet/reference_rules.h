@@ -8,6 +8,7 @@
 #include <string>
 
 #include "autobet/translation.h"
+#include "autobet/word_numbers.h"
 
 namespace tessarel {
 
@@ -27,25 +28,17 @@ Qualifiers WithDefaults(const ScriptToken& head, const WrittenQualifiers& writte
 // What is wrong with a reference, as the second part of its message; empty when nothing is.
 std::string QualifierMisuse(const ScriptToken& head, const Qualifiers& qualifiers);
 
-// A wager of the house, which has none, as it is reported when someone asks for it.
-std::string HouseWagerMisuse();
-
 // Whether a token stands for a bet: by name, by family and number, or a group of bets.
 bool NamesBet(const ScriptToken& head);
 
-// Whether a token stands for a statistic of the totals and combinations rolled.
-bool IsRollStatistic(const ScriptToken& head);
-
-// The function that gives a roll statistic for one roll, by the variable that gives it for the roll
-// in play; 0 for another variable.
-int32_t RollFunctionOf(int32_t variable);
+// Whether a token stands for a statistic of the totals and combinations rolled, which a set of
+// rolls qualifies.
+bool CountsRollsOfSet(const ScriptToken& head);
 
 // Whether a modifier names a set of rolls.
 bool IsRollSet(int32_t modifier);
 
 // Whether a roll can be asked for in a set of rolls (0: no set named). 0 stands for all rolls.
 bool IsRollOf(int32_t set, double roll);
-
-std::string RollLimitsText();
 
 }  // namespace tessarel

@@ -17,23 +17,6 @@ namespace tessarel {
 
 namespace {
 
-// The functions of this module.
-enum RollFunction : int32_t {
-  // clang-format off
-  ProbablePercent = 25, ProbableCount = 26, RolledPercent = 27, RolledCount = 28,
-  RollsSinceLast = 29, TruePercent = 30, TrueCount = 31, SkewedCount = 32, SkewedPercent = 33,
-  ChiSquare = 34, ComeoutCount = 40, ComeoutPercent = 41, PassCount = 42, PassPercent = 43,
-  MissCount = 44, MissPercent = 45, PointCount = 46, PointPercent = 47, PValue = 137,
-  // clang-format on
-};
-
-enum RangeError : int32_t {
-  NoTotal = 1001,
-  NoPair = 1009,
-  NoFace = 1010,
-  NoPoint = 1002,
-};
-
 // One roll of a set: how scripts write it, and the codes under which it is counted.
 struct RollOfSet {
   double value = 0;
@@ -44,7 +27,7 @@ struct RollOfSet {
 struct RollSet {
   std::array<RollOfSet, 36> rolls{};
   int count = 0;
-  RangeError rangeError = NoTotal;
+  ScriptFault outOfRange = ScriptFault::RollTotal;
 
   void Add(double value, int code, int other = 0) { At(rolls, count++) = {value, {code, other}}; }
 };
@@ -69,7 +52,7 @@ RollSet BasicNumbers() {
 
 RollSet PointSet() {
   RollSet set;
-  set.rangeError = NoPoint;
+  set.outOfRange = ScriptFault::PointNumber;
   for (const int point : PointNumbers)
     set.Add(point, CodeOfTotal(point));
   return set;
@@ -77,7 +60,7 @@ RollSet PointSet() {
 
 RollSet Combinations(bool ordered) {
   RollSet set;
-  set.rangeError = NoPair;
+  set.outOfRange = ScriptFault::RollPair;
   for (int die1 = 1; die1 <= 6; ++die1) {
     for (int die2 = ordered ? 1 : die1; die2 <= 6; ++die2) {
       const int mirrored = ordered || die1 == die2 ? 0 : CodeOfPair(die2, die1);
@@ -89,7 +72,7 @@ RollSet Combinations(bool ordered) {
 
 RollSet Faces(int die) {
   RollSet set;
-  set.rangeError = NoFace;
+  set.outOfRange = ScriptFault::RollFace;
   for (int face = 1; face <= 6; ++face)
     set.Add(face, CodeOfFace(die, face));
   return set;
@@ -127,10 +110,10 @@ double Mirrored(double pair) {
 // does not tell it apart.
 RollMask Named(const RollSet& set, double number) {
   RollMask mask = WithValue(set, number);
-  if (mask == 0 && set.rangeError == NoPair) mask = WithValue(set, Mirrored(number));
+  if (mask == 0 && set.outOfRange == ScriptFault::RollPair) mask = WithValue(set, Mirrored(number));
   // No two dice make a one, which yet is within the limits.
-  const bool one = set.rangeError == NoTotal && number == 1;
-  if (mask == 0 && !one) FailScript(set.rangeError);
+  const bool one = set.outOfRange == ScriptFault::RollTotal && number == 1;
+  if (mask == 0 && !one) FailScript(set.outOfRange);
   return mask;
 }
 
@@ -201,11 +184,11 @@ double SinceAny(const RollSet& set, RollMask mask, int slot) {
 
 SkewedDice DiceFor(int32_t function) {
   switch (function) {
-    case TruePercent:
-    case TrueCount:
+    case function::TruePercent:
+    case function::TrueCount:
       return {};
-    case SkewedPercent:
-    case SkewedCount:
+    case function::SkewedPercent:
+    case function::SkewedCount:
       return SkewedDiceOfMatrix();
     default:
       return SkewedDiceInForce();
@@ -225,20 +208,20 @@ double DiceFigure(int32_t function, const RollSet& set, RollMask mask, int slot)
   const auto count = [slot](const RollOfSet& roll) {
     return static_cast<double>(CountOf(roll, slot));
   };
-  if (function == RollsSinceLast) return SinceAny(set, mask, slot);
-  if (function == RolledCount) return SumOver(set, mask, count);
-  if (function == RolledPercent) return Percent(SumOver(set, mask, count), rolls);
+  if (function == function::RollsSinceLast) return SinceAny(set, mask, slot);
+  if (function == function::RolledCount) return SumOver(set, mask, count);
+  if (function == function::RolledPercent) return Percent(SumOver(set, mask, count), rolls);
   const SkewedDice dice = DiceFor(function);
-  if (function == ChiSquare || function == PValue) {
+  if (function == function::ChiSquare || function == function::PValue) {
     const double chi = SumOver(set, mask, [&](const RollOfSet& roll) {
       return ChiSquareTerm(count(roll), ProbabilityOf(roll, dice) * rolls / 100);
     });
-    return function == ChiSquare ? chi : ChiSquareTail(chi, std::popcount(mask) - 1);
+    return function == function::ChiSquare ? chi : ChiSquareTail(chi, std::popcount(mask) - 1);
   }
   const double percent =
       SumOver(set, mask, [&](const RollOfSet& roll) { return ProbabilityOf(roll, dice); });
-  const bool asCount =
-      function == ProbableCount || function == TrueCount || function == SkewedCount;
+  const bool asCount = function == function::ProbableCount || function == function::TrueCount ||
+                       function == function::SkewedCount;
   return asCount ? percent * rolls / 100 : percent;
 }
 
@@ -293,13 +276,14 @@ double ComeoutFigure(int32_t function,
                      const Reference& reference,
                      std::span<const ListItem> arguments,
                      int slot) {
-  const int pair = (function - ComeoutCount) / 2;
+  const int pair = (function - function::ComeoutCount) / 2;
   const HandRow row = pair == 0 ? HandComeoutRolls : pair == 1 ? HandPasses : HandMisses;
   const RollMask kind = TotalsOfKind(row, reference.second);
   const RollSet set = BasicNumbers();
   const RollMask totals = kind & TotalsOf(set, Select(set, arguments));
   const auto count = static_cast<double>(RowSum(slot, row, totals));
-  const bool asCount = function == ComeoutCount || function == PassCount || function == MissCount;
+  const bool asCount = function == function::ComeoutCount || function == function::PassCount ||
+                       function == function::MissCount;
   return asCount ? count
                  : Percent(count, WholeOf(row, arguments.empty() && kind == AllTotals, slot));
 }
@@ -343,7 +327,7 @@ double PointFigure(int32_t function,
     return static_cast<double>(PointsOf(slot, modifier, of));
   };
   const double count = figure(reference.first, points);
-  if (function == PointCount) return count;
+  if (function == function::PointCount) return count;
   const bool decided = reference.first == ModPassed || reference.first == ModMissed;
   return Percent(count, decided ? figure(ModPassed, points) + figure(ModMissed, points)
                                 : figure(ModEstablished, PointTotals));
@@ -370,15 +354,15 @@ ScriptValue RollStatistic(int32_t function,
   if (place < 0 || (place > 0 && !IsTaken(Table, place))) return Number(0);
   const int slot = SlotOf(place, reference.hand);
   double figure = 0;
-  if (function >= ComeoutCount && function <= MissPercent) {
+  if (function >= function::ComeoutCount && function <= function::MissPercent) {
     figure = ComeoutFigure(function, reference, arguments, slot);
-  } else if (function == PointCount || function == PointPercent) {
+  } else if (function == function::PointCount || function == function::PointPercent) {
     figure = PointFigure(function, reference, arguments, slot);
   } else {
     const RollSet set = SetOf(reference.first);
     figure = DiceFigure(function, set, Select(set, arguments), slot);
   }
-  return Number(AutoBet.ScriptError == 0 ? figure : 0);
+  return Number(StatementFailed() ? 0 : figure);
 }
 
 }  // namespace tessarel

@@ -4,10 +4,15 @@
 
 namespace tessarel {
 
+// What a new session takes over from the one before.
+struct KeptBySession {
+  bool Stacks = false;    // the check stacks
+  bool RollFile = false;  // the dice roll file, where it stands
+};
+
 struct ScriptHostCallbacks {
-  // Starts a new session that keeps the data of former ones and the sessions logs, and as asked the
-  // check stacks and the roll file where it stands.
-  void (*StartSession)(bool keepStacks, bool keepRollFile) = [](bool, bool) {};
+  // Starts a new session that keeps the data of former ones, the sessions logs and what is asked.
+  void (*StartSession)(const KeptBySession& kept) = [](const KeptBySession&) {};
   // The shooter hands the dice on.
   void (*PassDice)() = [] {};
 };

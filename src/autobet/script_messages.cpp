@@ -2,12 +2,13 @@
 
 #include "autobet/values.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
 std::string ScriptMessageTitle() {
   const std::string& name = Table.PlayerName[AutoBet.CurrentScriptPlayer];
-  return AutoBet.CurrentScriptPlayer == 0 ? "Auto-Bet" : "Auto-Bet (" + name + ")";
+  return AutoBet.CurrentScriptPlayer == 0 ? Say(Text::AutoBet) : Say(Text::ScriptMessageOf, name);
 }
 
 std::string MessageLines(std::string_view text) {

@@ -10,20 +10,13 @@ namespace tessarel {
 
 namespace {
 
-enum TextFunction : int32_t {
-  FunctionRight = 802,
-  FunctionRemoveRight = 804,
-  FunctionMid = 805,
-  FunctionRemoveMid = 806,
-};
-
 struct Stretch {
   size_t Start, Length;
 };
 
 ScriptValue TextResult(const std::string& bytes) {
   if (bytes.size() > MaxTextLength) {
-    FailScript(998);
+    FailScript(ScriptFault::TextTooLong);
     return Number(0);
   }
   return MakeText(FromSingleByte(bytes));
@@ -32,8 +25,8 @@ ScriptValue TextResult(const std::string& bytes) {
 // The stretch of a text of `size` characters that a call names, as far as the text has it. Nothing
 // for a position below 1 and a count below 0.
 std::optional<Stretch> StretchOf(const FunctionCall& call, size_t size) {
-  const bool middle = call.Number == FunctionMid || call.Number == FunctionRemoveMid;
-  const bool right = call.Number == FunctionRight || call.Number == FunctionRemoveRight;
+  const bool middle = call.Number == function::Mid || call.Number == function::RemoveMid;
+  const bool right = call.Number == function::Right || call.Number == function::RemoveRight;
   const int32_t position = middle ? call.WholeAt(1) : 1;
   const bool toTheEnd = middle && call.Arguments.size() < 3;
   const int32_t count = toTheEnd ? MaxTextLength : call.WholeAt(middle ? 2 : 1);

@@ -1,9 +1,10 @@
 #include "autobet/token_names.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
+#include "autobet/function_table.h"
+#include "autobet/word_numbers.h"
 #include "base/single_byte_text.h"
 #include "state/bet_numbers.h"
 
@@ -16,29 +17,8 @@ struct NamedNumber {
   std::string_view Name;
 };
 
-// By number, ascending. 44 counts misses, yet scripts have always been told of "% misses".
+// By number, ascending.
 // clang-format off
-constexpr NamedNumber FunctionNames[] = {
-    {1, "Lay"}, {2, "DontCome"}, {3, "DontComeOdds"}, {4, "Come"}, {5, "ComeOdds"}, {6, "Place"},
-    {7, "Buy"}, {8, "Big"}, {9, "Hardway"}, {10, "Hop"},
-    {21, "Checkstack"}, {22, "Average bankroll"},
-    {25, "% of rolls probable"}, {26, "# of rolls probable"}, {27, "% of rolls"},
-    {28, "# of rolls"}, {29, "# of rolls since last"}, {30, "% of rolls probable true"},
-    {31, "# of rolls probable true"}, {32, "# of rolls probable skew"},
-    {33, "% of rolls probable skew"}, {34, "chisquare"},
-    {40, "# comeout rolls"}, {41, "% comeout rolls"}, {42, "# passes"}, {43, "% passes"},
-    {44, "% misses"}, {45, "% misses"}, {46, "# of points"}, {47, "% of points"},
-    {50, "Player"},
-    {100, "Sqr"}, {101, "Int"}, {102, "Abs"}, {104, "Asc"}, {110, "Average Bankroll"},
-    {117, "Val"}, {118, "Len"}, {125, "Input"}, {126, "Highest"}, {127, "Lowest"},
-    {128, "Average"}, {129, "StdDev"}, {130, "Sum"}, {131, "Count"}, {132, "Highest$"},
-    {133, "Lowest$"}, {137, "Pvalue"}, {139, "Round"}, {190, "Die"}, {191, "Odds allowed factor"},
-    {203, "Instr"},
-    {800, "Checkstack Name"}, {801, "Left$"}, {802, "Right$"}, {803, "RemoveLeft$"},
-    {804, "RemoveRight$"}, {805, "Mid$"}, {806, "RemoveMid$"}, {809, "Insert$"}, {810, "Str$"},
-    {811, "Chr$"}, {812, "Space$"}, {825, "Input$"}, {850, "Playername"},
-};
-
 constexpr NamedNumber VariableNames[] = {
     {651, "Available bankroll"}, {670, "Autohandle winning bets"},
     {671, "Autohandle losing bets"}, {700, "Autotake full odds"}, {701, "Autolay full odds"},
@@ -80,31 +60,23 @@ constexpr NamedNumber VariableNames[] = {
     {5707, "Last roll was not a comeout roll"}, {5708, "Seven out"},
 };
 // clang-format on
-static_assert(std::ranges::is_sorted(FunctionNames, {}, &NamedNumber::Number));
 static_assert(std::ranges::is_sorted(VariableNames, {}, &NamedNumber::Number));
-
-template <size_t N>
-std::string_view Find(const NamedNumber (&names)[N], int32_t number) {
-  const auto* const row = std::ranges::lower_bound(names, number, {}, &NamedNumber::Number);
-  return row != std::end(names) && row->Number == number ? row->Name : std::string_view();
-}
 
 }  // namespace
 
 std::string FunctionName(int32_t number) {
-  const std::string_view name = Find(FunctionNames, number);
-  return name.empty() ? std::string() : Quoted(name);
+  const FunctionTraits* const traits = FindFunction(number);
+  return traits == nullptr ? std::string() : Quoted(traits->Name);
 }
 
 std::string VariableName(int32_t number) {
-  constexpr int32_t FirstStackName = 800;
-  if (number >= 1 && number <= LastBet) return Quoted(BetName[static_cast<size_t>(number)]);
+  if (IsBet(number)) return Quoted(BetName[static_cast<size_t>(number)]);
   if (IsStack(number)) return Quoted("Checkstack" + std::to_string(number - FirstStack));
-  if (number >= FirstStackName && number < FirstStackName + StackCount) {
-    return Quoted("Checkstackname" + std::to_string(number - FirstStackName));
-  }
-  const std::string_view name = Find(VariableNames, number);
-  return Quoted(name.empty() ? "Variable" : name);
+  if (IsStackName(number))
+    return Quoted("Checkstackname" + std::to_string(number - variable::FirstStackName));
+  const auto* const row = std::ranges::lower_bound(VariableNames, number, {}, &NamedNumber::Number);
+  const bool named = row != std::end(VariableNames) && row->Number == number;
+  return Quoted(named ? row->Name : "Variable");
 }
 
 }  // namespace tessarel

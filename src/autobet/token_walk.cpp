@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-#include "autobet/checker.h"
-#include "autobet/functions.h"
+#include "autobet/function_table.h"
 
 namespace tessarel {
 
 bool TakesBareOperand(int32_t function) {
-  constexpr int32_t AverageBankroll = 22;
-  return NamesVariable(function) || function == AverageBankroll || function == PlayerFunction;
+  return NamesVariable(function) || function == function::AverageBankroll ||
+         function == function::Player;
 }
 
 int QualifiersOf(const ScriptToken& head) {

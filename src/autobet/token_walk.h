@@ -9,11 +9,9 @@
 
 #include "autobet/translation.h"
 #include "autobet/vocabulary.h"
+#include "autobet/word_numbers.h"
 
 namespace tessarel {
-
-// Functions that stand for a player, not for a value, beside a variable.
-inline constexpr int32_t PlayerFunction = 50;
 
 // The number of a token of one of the word classes.
 constexpr int32_t NumberIn(const ScriptToken& token) {
@@ -33,8 +31,9 @@ constexpr bool IsRelation(int32_t code) {
   return code >= LogicEqual && code <= LogicGreaterOrEqual;
 }
 
+// The function that stands for a player, not for a value, beside a variable.
 constexpr bool IsPlayerFunction(const ScriptToken& token) {
-  return IsFunction(token.code) && NumberIn(token) == PlayerFunction;
+  return IsFunction(token.code) && NumberIn(token) == function::Player;
 }
 
 // Whether the argument of a function may be a number or variable without brackets.

@@ -11,6 +11,7 @@
 #include "autobet/vocabulary.h"
 #include "base/single_byte_text.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -92,7 +93,7 @@ std::optional<ScriptError> LiftStrings(std::string_view line,
     if (close == std::string_view::npos) {
       return ScriptError{.startColumn = static_cast<int32_t>(open),
                          .endColumn = static_cast<int32_t>(line.size()),
-                         .text = "Missing quotation mark."};
+                         .text = Say(Text::ScriptQuoteMissing)};
     }
     prepared.working += LowerCase(line.substr(from, open - from));
     if (close == open + 1) {
@@ -204,16 +205,10 @@ int32_t NumberOf(std::string_view word) {
 
 // What is wrong with a word that no phrase has taken.
 std::string UnknownWordText(std::string_view word) {
-  if (word == "playername") {
-    return "Unknown player\r\rPlease enter actual name of player or refer to player's position "
-           "such "
-           "as player1, player2, etc.";
-  }
-  if (word == "session") {
-    return "Please specify:\r\rcurrent session, last session, or all sessions.";
-  }
-  if (word == "hand") return "Please specify:\r\rcurrent hand, last hand, or all hands.";
-  return "Unknown or misplaced element:\r\r" + std::string(word);
+  if (word == "playername") return Say(Text::ScriptUnknownPlayer);
+  if (word == "session") return Say(Text::ScriptWhichSession);
+  if (word == "hand") return Say(Text::ScriptWhichHand);
+  return Say(Text::ScriptUnknownWord, word);
 }
 
 // Writes the token stream word by word.

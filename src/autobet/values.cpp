@@ -7,6 +7,7 @@
 #include "base/clock.h"
 #include "state/scripts.h"
 #include "state/table.h"
+#include "texts/say.h"
 
 namespace tessarel {
 
@@ -45,18 +46,18 @@ int ResolvePlayer(int player) {
   return place > 0 ? place : -1;
 }
 
-void FailScript(int32_t error) {
-  if (AutoBet.ScriptError == 0) AutoBet.ScriptError = error;
+void FailScript(ScriptFault fault) {
+  if (!StatementFailed()) AutoBet.Fault = fault;
 }
 
 bool MayActFor(int place) {
   if (place < 1 || place > LastPlace || !IsTaken(Table, place)) {
-    FailScript(851);
+    FailScript(ScriptFault::NoPlayer);
     return false;
   }
   const int owner = AutoBet.CurrentScriptPlayer;
   if (place == owner || Scripts.AllowAct4Others[owner]) return true;
-  FailScript(852);
+  FailScript(ScriptFault::OtherPlayer);
   return false;
 }
 
@@ -69,15 +70,16 @@ std::string TextOfSpecial(int32_t value) {
     case TimeString:
       return TimeText(Now());
     case InputPromptString:
-      return "Please enter a value";
+      return Say(Text::ScriptAskNumber);
     case InputTextPromptString:
-      return "Please enter a string";
+      return Say(Text::ScriptAskText);
     default:
       break;
   }
-  const int key = -value;
-  if (key > 900 && key <= 900 + LastPlace) return Table.PlayerName[key - 900];
-  const int place = key / 1000, stack = key % 1000 - 800;
+  const int named = PlayerNameString - value;
+  if (named >= 1 && named <= LastPlace) return Table.PlayerName[named];
+  const int place = -value / StackNameStep;
+  const int stack = -value % StackNameStep - variable::FirstStackName;
   if (place >= 1 && place <= LastPlace && stack >= 0 && stack < StackCount)
     return Table.CheckStackName[place][stack];
   return {};
@@ -124,9 +126,9 @@ double NumberOf(const ScriptValue& value) {
 }
 
 ScriptValue MakeText(std::string text) {
-  if (text.empty()) return {StringToken, EmptyString};
+  if (text.empty()) return TextValue(EmptyString);
   AutoBet.Strings.push_back({std::move(text), 0});
-  return {StringToken, static_cast<double>(AutoBet.Strings.size() - 1)};
+  return TextValue(static_cast<int32_t>(AutoBet.Strings.size() - 1));
 }
 
 namespace {

@@ -9,8 +9,10 @@
 #include <string_view>
 #include <vector>
 
+#include "autobet/script_faults.h"
 #include "autobet/translation.h"
 #include "autobet/vocabulary.h"
+#include "autobet/word_numbers.h"
 
 namespace tessarel {
 
@@ -23,8 +25,11 @@ inline constexpr double TrueValue = -1, FalseValue = 0;
 constexpr ScriptValue Number(double value) {
   return {NumberToken, value};
 }
+constexpr double TruthNumber(bool truth) {
+  return truth ? TrueValue : FalseValue;
+}
 constexpr ScriptValue Truth(bool truth) {
-  return {NumberToken, truth ? TrueValue : FalseValue};
+  return Number(TruthNumber(truth));
 }
 constexpr bool IsText(const ScriptValue& value) {
   return value.code == StringToken;
@@ -40,15 +45,19 @@ enum StringValue : int32_t {
   FromRollString = -15,     // empty: marks the words "from roll"
   PlayerNameString = -900,  // less the place
 };
+constexpr ScriptValue TextValue(int32_t index) {
+  return {StringToken, static_cast<double>(index)};
+}
 // The name of a check stack (0 to 99) of a place.
+inline constexpr int32_t StackNameStep = 1000;  // from place to place
 constexpr ScriptValue StackNameValue(int place, int stack) {
-  return {StringToken, -(place * 1000.0 + 800 + stack)};
+  return TextValue(-(place * StackNameStep + variable::FirstStackName + stack));
 }
 
 // A variable with its qualifiers as they are written: a bet, a check stack, a statistic. What a
 // number has no use for is 0.
 struct Reference {
-  int32_t number = 0;  // 1 to 93 bets, 100 to 199 and 800 to 899 check stacks, ...
+  int32_t number = 0;  // of autobet/word_numbers.h
   int8_t player = 0;   // a PlayerWord or place; ResolvePlayer tells the place
   int8_t hand = 0;     // HandScope
   int8_t first = 0;    // FirstModifier
@@ -76,9 +85,9 @@ struct AutoBetState {
   bool HotKeyRun = false;
   bool TableWasReset = false;  // a statement has started a new session
   bool ShowSteps = false;
-  int32_t ScriptError = 0;   // of the running statement; 0 none
-  std::string FaultText;     // of error 10000
-  int32_t Answer = 0;        // to the last question of any script: 6 yes, 7 no
+  ScriptFault Fault = ScriptFault::None;  // of the running statement
+  std::string FaultText;                  // of ScriptFault::Machinery
+  int32_t Answer = 0;        // to the last question of any script: AnswerYes or AnswerNo
   int32_t BettorOnView = 0;  // the place a window has selected; 0 without a window
   uint64_t RandomState = 0;  // behind the random values of scripts; 0 not begun
 };
@@ -91,12 +100,15 @@ int SelectedBettor();
 // The place a player qualifier stands for now: 0 the house, 1 to 8; -1 for nobody.
 int ResolvePlayer(int player);
 
-// Whether the running script may act for a place: sets error 851 for an open place and 852 for
+// Whether the running script may act for a place; fails the statement for an open place, and for
 // another player's without the right.
 bool MayActFor(int place);
 
-// The running statement ends with this error, unless it has one already.
-void FailScript(int32_t error);
+// The running statement ends with this fault, unless it has one already.
+void FailScript(ScriptFault fault);
+inline bool StatementFailed() {
+  return AutoBet.Fault != ScriptFault::None;
+}
 
 // The text of a text value; a number's text form.
 std::string TextOf(const ScriptValue& value);

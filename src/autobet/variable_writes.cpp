@@ -19,21 +19,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr int32_t FirstStackName = 800, LastStackName = 899;
-
-enum WriteError : int32_t {
-  BadWinHandling = 860,
-  BadLossHandling = 861,
-  SessionHasBegun = 870,
-  BadRollRate = 900,
-  BadSeed = 905,
-  GeneratorMissing = 910,
-  NoGenerator = 911,
-  BadCompRate = 912,
-  BadOddsFactor = 914,
-  NoRollFile = 1003,
-};
-
 // --- Numbers -----------------------------------------------------------------------------------
 
 // Far more than any rule leaves standing, and still with room to be added up.
@@ -45,21 +30,21 @@ Money MoneyToCut(double value) {
   return Money::FromDouble(std::clamp(value, -BoundOfMoney, BoundOfMoney));
 }
 
-// Money within limits; empty, with the script's error set, outside of them.
-std::optional<Money> MoneyWithin(double value, Money low, Money high, WriteError error) {
+// Money within limits; empty, with the statement failed, outside of them.
+std::optional<Money> MoneyWithin(double value, Money low, Money high, ScriptFault fault) {
   if (std::abs(value) <= BoundOfMoney) {
     const Money amount = Money::FromDouble(value);
     if (amount >= low && amount <= high) return amount;
   }
-  FailScript(error);
+  FailScript(fault);
   return std::nullopt;
 }
 
 // The nearest whole number within limits, else the same.
-std::optional<int32_t> WholeWithin(double value, int32_t low, int32_t high, WriteError error) {
+std::optional<int32_t> WholeWithin(double value, int32_t low, int32_t high, ScriptFault fault) {
   const double whole = std::nearbyint(value);
   if (whole >= low && whole <= high) return static_cast<int32_t>(whole);
-  FailScript(error);
+  FailScript(fault);
   return std::nullopt;
 }
 
@@ -79,21 +64,15 @@ struct HandlingVariable {
   std::optional<HandlingChoice> (*choiceOf)(std::string_view words);
   int32_t modifyMode;
   int modifySlot, setSlot;
-  WriteError error;
+  ScriptFault fault;
 };
 
-constexpr HandlingVariable WinVariable = {&TableState::HandleWinningBets,
-                                          WinHandlingOf,
-                                          WinModify,
-                                          AutoWinModify,
-                                          AutoWinSet,
-                                          BadWinHandling};
-constexpr HandlingVariable LossVariable = {&TableState::HandleLosingBets,
-                                           LossHandlingOf,
-                                           LossModify,
-                                           AutoLossModify,
-                                           AutoLossSet,
-                                           BadLossHandling};
+constexpr HandlingVariable WinVariable = {
+    &TableState::HandleWinningBets, WinHandlingOf, WinModify, AutoWinModify, AutoWinSet,
+    ScriptFault::WinHandling};
+constexpr HandlingVariable LossVariable = {
+    &TableState::HandleLosingBets, LossHandlingOf, LossModify, AutoLossModify, AutoLossSet,
+    ScriptFault::LossHandling};
 
 void TakeChoice(const HandlingVariable& variable, int place, const HandlingChoice& choice) {
   (Table.*variable.mode)[place] = choice.mode;
@@ -108,8 +87,8 @@ void WriteHandling(const HandlingVariable& variable, int place, const ScriptValu
   if (IsText(value)) {
     const auto choice = variable.choiceOf(TextOf(value));
     if (choice) return TakeChoice(variable, place, *choice);
-    FailScript(variable.error);
-  } else if (const auto mode = WholeWithin(value.value, 1, 8, variable.error)) {
+    FailScript(variable.fault);
+  } else if (const auto mode = WholeWithin(value.value, 1, 8, variable.fault)) {
     (Table.*variable.mode)[place] = *mode - 1;
   }
 }
@@ -119,11 +98,11 @@ void WriteSwitch(int place, int32_t number, bool on) {
   constexpr std::array<PerPlace<bool> TableState::*, 4> Switches = {
       &TableState::AutoTakeFullOdds, &TableState::AutoLayFullOdds, &TableState::AutoDownPlaceBets,
       &TableState::DeclinesDice};
-  (Table.*At(Switches, number - 700))[place] = on;
+  (Table.*At(Switches, number - variable::AutoTakeOdds))[place] = on;
   if (!on) return;
-  if (number == 700) BetFullOdds(place);
-  if (number == 701) BetFullLay(place);
-  if (number != 702) return;
+  if (number == variable::AutoTakeOdds) BetFullOdds(place);
+  if (number == variable::AutoLayOdds) BetFullLay(place);
+  if (number != variable::AutoDownPlaceBets) return;
   for (int bet = bet::Place4; bet <= bet::Place10; ++bet) {
     if (Bet(place, bet) > Money()) RemoveBet(place, bet, Telling::Silent);
   }
@@ -131,7 +110,7 @@ void WriteSwitch(int place, int32_t number, bool on) {
 
 // The bankroll of a session that has not begun, cut to what the table allows.
 void WriteBankroll(int place, double value) {
-  if (RollsInSession() > 0) return FailScript(SessionHasBegun);
+  if (RollsInSession() > 0) return FailScript(ScriptFault::SessionHasBegun);
   const bool mayBeNegative = Table.AllowNegBankroll[place];
   const Money lowest =
       mayBeNegative ? -BankrollLimit : std::max(Table.MoneyOnTable[place], Money());
@@ -143,36 +122,36 @@ void WriteBankroll(int place, double value) {
 
 void WriteOwn(int place, int32_t number, const ScriptValue& value) {
   switch (number) {
-    case 670:
+    case variable::WinHandling:
       return WriteHandling(WinVariable, place, value);
-    case 671:
+    case variable::LossHandling:
       return WriteHandling(LossVariable, place, value);
-    case 700:
-    case 701:
-    case 702:
-    case 703:
+    case variable::AutoTakeOdds:
+    case variable::AutoLayOdds:
+    case variable::AutoDownPlaceBets:
+    case variable::AutoPassDice:
       return WriteSwitch(place, number, NumberOf(value) != 0);
-    case 1300:
-    case 1301:
+    case variable::BeginningBankroll:
+    case variable::Bankroll:
       return WriteBankroll(place, NumberOf(value));
     default:
       break;
   }
   if (IsStack(number)) return WriteStack(place, number, NumberOf(value));
-  if (number >= FirstStackName && number <= LastStackName)
-    return SetStackName(place, number - FirstStackName, TextOf(value));
+  if (IsStackName(number))
+    return SetStackName(place, number - variable::FirstStackName, TextOf(value));
   if (IsBet(number)) WriteBet(place, number, NumberOf(value));
 }
 
 // --- The table ---------------------------------------------------------------------------------
 
 void WriteSetting(
-    Money SettingsState::*setting, double value, Money low, Money high, WriteError error) {
+    Money SettingsState::*setting, double value, Money low, Money high, ScriptFault fault) {
   if (const auto amount = MoneyWithin(value, low, high, error)) Settings.*setting = *amount;
 }
 
 void WriteNextRoll(double value) {
-  if (RollFile.RollFileName.empty()) return FailScript(NoRollFile);
+  if (RollFile.RollFileName.empty()) return FailScript(ScriptFault::RollFileNotOpen);
   const double behindLast = RollFile.RollCountInFile + 1.0;
   const double roll = std::nearbyint(value);
   RollFile.NextRoll = RollFile.DisplayRoll =
@@ -180,40 +159,41 @@ void WriteNextRoll(double value) {
 }
 
 void WriteSeed(double value) {
-  const auto seed = MoneyWithin(value, 1, Money::FromWhole(SeedLimit(Dice.CurrentRNG)), BadSeed);
+  const auto seed =
+      MoneyWithin(value, 1, Money::FromWhole(SeedLimit(Dice.CurrentRNG)), ScriptFault::Seed);
   if (!seed) return;
   Dice.SeedRequest = static_cast<int64_t>(std::nearbyint(seed->ToDouble()));
   SeedRNG(-1);
 }
 
 void WriteGenerator(double value) {
-  const auto number = WholeWithin(value, 0, GeneratorCount, NoGenerator);
-  if (number && SelectRNG(*number) == Unavailable) FailScript(GeneratorMissing);
+  const auto number = WholeWithin(value, 0, GeneratorCount, ScriptFault::Generator);
+  if (number && SelectRNG(*number) == Unavailable) FailScript(ScriptFault::GeneratorMissing);
 }
 
 void WriteTable(int32_t number, double value) {
   using S = SettingsState;
   constexpr Money FineStep = Money::FromRaw(1), FastestRate = 36'000'000, LargestFactor = 9999;
   switch (number) {
-    case 5006:
+    case variable::RollFileNext:
       return WriteNextRoll(value);
-    case 5603:
-      return WriteSetting(&S::SimRollRate, value, FineStep, FastestRate, BadRollRate);
-    case 5612:
-    case 5617:
-      return WriteSetting(&S::OddsAllowed410, value, 0, LargestFactor, BadOddsFactor);
-    case 5613:
-    case 5616:
-      return WriteSetting(&S::OddsAllowed59, value, 0, LargestFactor, BadOddsFactor);
-    case 5614:
-    case 5615:
-      return WriteSetting(&S::OddsAllowed68, value, 0, LargestFactor, BadOddsFactor);
-    case 5655:
+    case variable::RollsPerHour:
+      return WriteSetting(&S::SimRollRate, value, FineStep, FastestRate, ScriptFault::RollRate);
+    case variable::OddsFactor4:
+    case variable::OddsFactor10:
+      return WriteSetting(&S::OddsAllowed410, value, 0, LargestFactor, ScriptFault::OddsFactor);
+    case variable::OddsFactor5:
+    case variable::OddsFactor9:
+      return WriteSetting(&S::OddsAllowed59, value, 0, LargestFactor, ScriptFault::OddsFactor);
+    case variable::OddsFactor6:
+    case variable::OddsFactor8:
+      return WriteSetting(&S::OddsAllowed68, value, 0, LargestFactor, ScriptFault::OddsFactor);
+    case variable::Seed:
       return WriteSeed(value);
-    case 5672:
+    case variable::Generator:
       return WriteGenerator(value);
-    case 5691:
-      return WriteSetting(&S::CompRate, value * 100, 0, 100, BadCompRate);
+    case variable::CompRate:
+      return WriteSetting(&S::CompRate, value * 100, 0, 100, ScriptFault::CompRate);
     default:
       return;
   }
@@ -222,15 +202,14 @@ void WriteTable(int32_t number, double value) {
 }  // namespace
 
 void SetVariable(const Reference& reference, const ScriptValue& value) {
-  constexpr int32_t FirstTableVariable = 5000;
-  if (reference.number >= FirstTableVariable) {
+  if (reference.number >= variable::FirstOfTable) {
     WriteTable(reference.number, NumberOf(value));
   } else {
     const int place = ResolvePlayer(reference.player);
     if (!MayActFor(place)) return;
     WriteOwn(place, reference.number, value);
   }
-  if (AutoBet.ScriptError == 0) Table.TableDirty = true;
+  if (!StatementFailed()) Table.TableDirty = true;
 }
 
 }  // namespace tessarel

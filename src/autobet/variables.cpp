@@ -18,33 +18,26 @@ namespace tessarel {
 
 namespace {
 
-double Flag(bool truth) {
-  return truth ? TrueValue : FalseValue;
-}
-
-constexpr int32_t FirstStackName = 800, LastStackName = 899;
-constexpr int32_t FirstStatistic = 1000, FirstTableVariable = 5000;
-
 // --- What belongs to a player ------------------------------------------------------------------
 
 double OwnFigure(int place, int32_t number) {
   switch (number) {
-    case 651:
+    case variable::AvailableBankroll:
       return (BankrollOf(place) - Table.MoneyOnTable[place]).ToDouble();
-    case 655:
+    case variable::LastAvailableBankroll:
       return Table.AvailableBankroll[place].ToDouble();
-    case 670:
+    case variable::WinHandling:
       return Table.HandleWinningBets[place] + 1;
-    case 671:
+    case variable::LossHandling:
       return Table.HandleLosingBets[place] + 1;
-    case 700:
-      return Flag(Table.AutoTakeFullOdds[place]);
-    case 701:
-      return Flag(Table.AutoLayFullOdds[place]);
-    case 702:
-      return Flag(Table.AutoDownPlaceBets[place]);
-    case 703:
-      return Flag(Table.DeclinesDice[place]);
+    case variable::AutoTakeOdds:
+      return TruthNumber(Table.AutoTakeFullOdds[place]);
+    case variable::AutoLayOdds:
+      return TruthNumber(Table.AutoLayFullOdds[place]);
+    case variable::AutoDownPlaceBets:
+      return TruthNumber(Table.AutoDownPlaceBets[place]);
+    case variable::AutoPassDice:
+      return TruthNumber(Table.DeclinesDice[place]);
     default:
       return 0;
   }
@@ -54,9 +47,9 @@ ScriptValue PlayerVariable(const Reference& reference) {
   const int32_t number = reference.number;
   const int place = ResolvePlayer(reference.player);
   const bool seated = place > 0 && IsTaken(Table, place);
-  if (number >= FirstStackName && number <= LastStackName) {
-    if (!seated) return {StringToken, EmptyString};
-    return StackNameValue(place, number - FirstStackName);
+  if (IsStackName(number)) {
+    if (!seated) return TextValue(EmptyString);
+    return StackNameValue(place, number - variable::FirstStackName);
   }
   if (!seated) return Number(0);
   if (IsStack(number)) return Number(Bet(place, number).ToDouble());
@@ -97,23 +90,23 @@ double RollsPerHand(int slot) {
 double HandFigure(int32_t number, int slot, int hand) {
   const HandFigures& hands = Stats.Hands[slot];
   switch (number) {
-    case 1500:
+    case variable::Hands:
       return HandsBegun(slot, hand);
-    case 1501:
+    case variable::MostRolls:
       return hands.MostRolls;
-    case 1502:
+    case variable::RollsPerHand:
       return RollsPerHand(slot);
-    case 1503:
+    case variable::MostComeouts:
       return hands.MostComeoutRolls;
-    case 1504:
+    case variable::ComeoutsPerHand:
       return RowPerHand(slot, HandComeoutRolls);
-    case 1505:
+    case variable::MostPasses:
       return hands.MostPasses;
-    case 1506:
+    case variable::PassesPerHand:
       return RowPerHand(slot, HandPasses);
-    case 1507:
+    case variable::MostMisses:
       return hands.MostMisses;
-    case 1508:
+    case variable::MissesPerHand:
       return RowPerHand(slot, HandMisses);
     default:
       return 0;
@@ -123,19 +116,19 @@ double HandFigure(int32_t number, int slot, int hand) {
 double SlotFigure(int32_t number, int place, int hand) {
   const int slot = SlotOf(place, hand);
   switch (number) {
-    case 1100:
+    case variable::Comps:
       return CompsOf(slot);
-    case 1200:
+    case variable::SimulatedHours:
       return SimHours(Stats.Hands[slot].RollTotal);
-    case 1300:
+    case variable::BeginningBankroll:
       return Table.BankrollBegin[slot].ToDouble();
-    case 1301:
+    case variable::Bankroll:
       return Table.Bankroll[slot].ToDouble();
-    case 1302:
+    case variable::HighBankroll:
       return Table.BankrollHigh[slot].ToDouble();
-    case 1303:
+    case variable::LowBankroll:
       return Table.BankrollLow[slot].ToDouble();
-    case 1304:
+    case variable::AverageBankroll:
       return AverageBankroll(place, 0);
     default:
       return HandFigure(number, slot, hand);
@@ -144,22 +137,22 @@ double SlotFigure(int32_t number, int place, int hand) {
 
 // The function that gives a roll statistic for chosen rolls; without arguments it takes them all.
 int32_t FunctionOf(int32_t number) {
-  if (number >= 4501 && number <= 4510) return number - 4501 + 25;
-  if (number == 4511) return 137;
-  if (number >= 2600 && number <= 2605) return number - 2600 + 40;
-  if (number == 4606 || number == 4607) return number - 4606 + 46;
-  return 0;
+  if (number >= variable::ComeoutCount && number <= variable::MissPercent)
+    return number - variable::ComeoutCount + function::ComeoutCount;
+  if (number == variable::PointCount || number == variable::PointPercent)
+    return number - variable::PointCount + function::PointCount;
+  return RollFunctionOf(number);
 }
 
 ScriptValue RollVariable(const Reference& reference) {
-  constexpr int32_t DegreesVariable = 4512;
-  if (reference.number == DegreesVariable) return Number(DegreesOfFreedom(reference.first));
+  if (reference.number == variable::DegreesOfFreedom)
+    return Number(DegreesOfFreedom(reference.first));
   const int32_t function = FunctionOf(reference.number);
   return function == 0 ? Number(0) : RollStatistic(function, reference, {});
 }
 
 ScriptValue StatisticVariable(const Reference& reference) {
-  if (reference.number >= 2000) return RollVariable(reference);
+  if (reference.number >= variable::FirstRollFigure) return RollVariable(reference);
   const int place = ResolvePlayer(reference.player);
   if (place < 0 || (place > 0 && !IsTaken(Table, place))) return Number(0);
   return Number(SlotFigure(reference.number, place, reference.hand));
@@ -195,12 +188,12 @@ int32_t AfterRoll(int32_t figure) {
 
 double SeatFigure(int32_t number) {
   switch (number) {
-    case 5200:
+    case variable::Shooter:
       return Table.Shooter;
-    case 5201:
-    case 5202:  // the original shooter: the hand is credited to who began it
+    case variable::LastShooter:
+    case variable::OriginalShooter:  // the hand is credited to who began it
       return Table.LastShooter;
-    case 5203:
+    case variable::Bettor:
       return SelectedBettor();
     default:
       return AutoBet.CurrentScriptPlayer;
@@ -210,9 +203,9 @@ double SeatFigure(int32_t number) {
 double RollFileFigure(int32_t number) {
   if (RollFile.RollFileName.empty()) return 0;
   switch (number) {
-    case 5005:
-      return Flag(RollFile.NextRoll > RollFile.RollCountInFile);
-    case 5006:
+    case variable::RollFileEnded:
+      return TruthNumber(RollFile.NextRoll > RollFile.RollCountInFile);
+    case variable::RollFileNext:
       return RollFile.NextRoll;
     default:
       return RollFile.RollCountInFile;
@@ -221,28 +214,28 @@ double RollFileFigure(int32_t number) {
 
 double SettingFigure(int32_t number) {
   switch (number) {
-    case 5603:
+    case variable::RollsPerHour:
       return Settings.SimRollRate.ToDouble();
-    case 5610:
+    case variable::MinimumBet:
       return Settings.MinPlacardBet.ToDouble();
-    case 5611:
+    case variable::MaximumBet:
       return Settings.MaxPlacardBet.ToDouble();
-    case 5612:
-    case 5617:
+    case variable::OddsFactor4:
+    case variable::OddsFactor10:
       return Settings.OddsAllowed410.ToDouble();
-    case 5613:
-    case 5616:
+    case variable::OddsFactor5:
+    case variable::OddsFactor9:
       return Settings.OddsAllowed59.ToDouble();
-    case 5614:
-    case 5615:
+    case variable::OddsFactor6:
+    case variable::OddsFactor8:
       return Settings.OddsAllowed68.ToDouble();
-    case 5630:
+    case variable::BarNumber:
       return Settings.BarNumber;
-    case 5655:
+    case variable::Seed:
       return Dice.LastSeed;
-    case 5672:
+    case variable::Generator:
       return Dice.CurrentRNG;
-    case 5691:
+    case variable::CompRate:
       return Settings.CompRate.ToDouble() * 0.01;
     default:
       return 0;
@@ -266,61 +259,61 @@ double FreshRandom() {
 
 double TableVariable(int32_t number) {
   switch (number) {
-    case 5000:
-      return Flag(AutoBet.Initializing);
-    case 5001:
-      return Flag(AutoBet.NewSessionBegins);
-    case 5002:
-      return Flag(RollsInHand() == 0);
-    case 5005:
-    case 5006:
-    case 5007:
+    case variable::Initializing:
+      return TruthNumber(AutoBet.Initializing);
+    case variable::NewSession:
+      return TruthNumber(AutoBet.NewSessionBegins);
+    case variable::NewHand:
+      return TruthNumber(RollsInHand() == 0);
+    case variable::RollFileEnded:
+    case variable::RollFileNext:
+    case variable::RollFileLength:
       return RollFileFigure(number);
-    case 5200:
-    case 5201:
-    case 5202:
-    case 5203:
-    case 5204:
+    case variable::Shooter:
+    case variable::LastShooter:
+    case variable::OriginalShooter:
+    case variable::Bettor:
+    case variable::AutoBettor:
       return SeatFigure(number);
-    case 5300:
-      return Flag(Passed());
-    case 5301:
-      return Flag(Missed());
-    case 5500:
+    case variable::ShooterPasses:
+      return TruthNumber(Passed());
+    case variable::ShooterMisses:
+      return TruthNumber(Missed());
+    case variable::Point:
       return Table.Point;
-    case 5501:
+    case variable::LastPoint:
       return Table.LastPoint;
-    case 5502:
+    case variable::DecidedPoint:
       return DecidedPoint() ? Table.LastPoint : 0;
-    case 5510:
+    case variable::DiceTotal:
       return AfterRoll(Table.DiceTotal);
-    case 5511:
+    case variable::DicePair:
       return AfterRoll(10 * Table.Die1 + Table.Die2) / 10.0;
-    case 5512:
+    case variable::Die1:
       return AfterRoll(Table.Die1);
-    case 5513:
+    case variable::Die2:
       return AfterRoll(Table.Die2);
-    case 5693:
-    case 5696:
+    case variable::DateAndTime:
+    case variable::Timer:
       return static_cast<double>(TickMilliseconds());
-    case 5697:
+    case variable::Answer:
       return AutoBet.Answer;
-    case 5698:
+    case variable::Random:
       return FreshRandom();
-    case 5704:
-    case 5711:
-      return Flag(Table.Point == 0);
-    case 5705:
-    case 5710:
-      return Flag(Table.Point != 0);
-    case 5706:
-      return Flag(WasComeout());
-    case 5707:
-      return Flag(Rolled() && !WasComeout());
-    case 5708:
-      return Flag(SevenedOut());
-    case 5709:
-      return Flag(DecidedPoint());
+    case variable::NextIsComeout:
+    case variable::PointIsNotEstablished:
+      return TruthNumber(Table.Point == 0);
+    case variable::NextIsNoComeout:
+    case variable::PointIsEstablished:
+      return TruthNumber(Table.Point != 0);
+    case variable::LastWasComeout:
+      return TruthNumber(WasComeout());
+    case variable::LastWasNoComeout:
+      return TruthNumber(Rolled() && !WasComeout());
+    case variable::SevenOut:
+      return TruthNumber(SevenedOut());
+    case variable::PointIsDecided:
+      return TruthNumber(DecidedPoint());
     default:
       return SettingFigure(number);
   }
@@ -329,8 +322,8 @@ double TableVariable(int32_t number) {
 }  // namespace
 
 ScriptValue ReadVariable(const Reference& reference) {
-  if (reference.number < FirstStatistic) return PlayerVariable(reference);
-  if (reference.number < FirstTableVariable) return StatisticVariable(reference);
+  if (reference.number < variable::FirstStatistic) return PlayerVariable(reference);
+  if (reference.number < variable::FirstOfTable) return StatisticVariable(reference);
   return Number(TableVariable(reference.number));
 }
 

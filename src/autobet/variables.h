@@ -9,14 +9,14 @@
 
 namespace tessarel {
 
-// The value of a variable now. On a run-time error AutoBet.ScriptError is set and the value is 0.
+// The value of a variable now. On a run-time error AutoBet.Fault is set and the value is 0.
 ScriptValue ReadVariable(const Reference& reference);
 
-// Sets a variable, with the right to do so. On a run-time error AutoBet.ScriptError is set and
+// Sets a variable, with the right to do so. On a run-time error AutoBet.Fault is set and
 // nothing has changed. What the rules of the table refuse or cut is no error.
 void SetVariable(const Reference& reference, const ScriptValue& value);
 
-// A roll statistic (functions F025 to F034, F040 to F047, F137) for the rolls named by the
+// A roll statistic (IsRollStatistic of autobet/word_numbers.h) for the rolls named by the
 // arguments, under the qualifiers of `reference`.
 ScriptValue RollStatistic(int32_t function,
                           const Reference& reference,

@@ -22,11 +22,11 @@ namespace tessarel {
 namespace {
 
 // What a script cannot ask for is kept: the data of former sessions and the sessions logs.
-void StartSessionOfScript(bool keepStacks, bool keepRollFile) {
+void StartSessionOfScript(const KeptBySession& kept) {
   NewSession({.keepSessions = true,
-              .keepStacks = keepStacks,
+              .keepStacks = kept.Stacks,
               .keepLogs = true,
-              .rollFileAction = keepRollFile ? ContinueRollFile : CloseRollFileNow});
+              .rollFileAction = kept.RollFile ? ContinueRollFile : CloseRollFileNow});
 }
 
 void SetTableDefaults() {

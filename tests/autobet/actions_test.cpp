@@ -53,9 +53,9 @@ class Actions : public RulesTest {
   static int32_t Run(int32_t action,
                      const std::vector<ScriptValue>& arguments = {},
                      const std::vector<Reference>& targets = {}) {
-    AutoBet.ScriptError = 0;
+    AutoBet.Fault = ScriptFault::None;
     RunCommand({action, arguments, targets});
-    return AutoBet.ScriptError;
+    return static_cast<int32_t>(AutoBet.Fault);
   }
   static Reference Of(int place, int number) {
     return {number, static_cast<int8_t>(place), 0, ModWagered, ModCurrentAmount};
@@ -99,10 +99,9 @@ TEST_F(Actions, NeedTheirRights) {
 TEST_F(Actions, ChangeEachBetNamed) {
   // clang-format off
   const std::tuple<int, double, int, Money, Money> cases[] = {
-      {481, 18, 0, 18, 18}, {482, 2, 0, 24, 60}, {483, 3, 0, 4, 10}, {483, 0, 9999, 12, 30},
-      {484, 6, 0, 18, 36}, {485, 6, 0, 6, 24}, {485, 40, 0, 0, 0}, {487, 20, 0, 20, 40},
-      {488, 20, 0, 0, 20}, {489, 20, 0, 20, 40}, {487, 0, 9999, 12, 30},
-      {487, .00001, 9999, 12, 30}, {488, .1, 0, 12, 30},
+      {action::Divide, 0, 9999, 12, 30}, {action::Subtract, 40, 0, 0, 0},
+      {action::Round, 20, 0, 20, 40}, {action::RoundDown, 20, 0, 0, 20},
+      {action::Round, .00001, 9999, 12, 30}, {action::RoundDown, .1, 0, 12, 30},
   };
   // clang-format on
   for (const auto& [action, operand, error, place6, place8] : cases) {
@@ -125,16 +124,11 @@ TEST_F(Actions, ChangeEachBetNamed) {
 TEST_F(Actions, CallAndBuyBetsWithoutAMessage) {
   Table.Point = 8;
   PutDown(Ann, Place6, 12);
-  SetBetWorking(Ann, Place6, IsWorking);
   const Reference place6 = Of(Ann, Place6);
-  const auto working = [] { return Table.BetWorking[Ann][Place6]; };
-  EXPECT_EQ(Run(451, {}, {place6, Of(Ann, 150)}), 0);
-  EXPECT_EQ(working(), CalledOff);
-  EXPECT_EQ(Run(453, {}, {place6}), 0);
-  EXPECT_EQ(working(), IsWorking);
-  EXPECT_EQ(Run(452, {}, {place6, Of(Ann, PassLine)}), 0);
-  EXPECT_EQ(working(), CalledOn);
-  EXPECT_EQ(Run(450, {}, {place6, Of(Ann, Buy4)}), 12);
+  EXPECT_EQ(Run(action::CallOff, {}, {place6, Of(Ann, 150)}), 0);
+  EXPECT_EQ(Run(action::CallOn, {}, {place6, Of(Ann, PassLine)}), 0);
+  EXPECT_EQ(Table.BetWorking[Ann][Place6], CalledOn);
+  EXPECT_EQ(Run(action::BuyPlaceBet, {}, {place6, Of(Ann, Buy4)}), 12);
   EXPECT_EQ(Bet(Ann, Place6), 0);
   EXPECT_EQ(Bet(Ann, Buy4 + 2), 12);
   EXPECT_EQ(Said(), "");
@@ -164,8 +158,8 @@ TEST_F(Actions, SwapValuesOrLeaveBothAlone) {
 
 TEST_F(Actions, StartSessionsThatKeepWhatIsAsked) {
   static std::string started;
-  ScriptHost.StartSession = [](bool stacks, bool rolls) {
-    started += (stacks ? "S" : "s") + std::string(rolls ? "R" : "r");
+  ScriptHost.StartSession = [](const KeptBySession& kept) {
+    started += (kept.Stacks ? "S" : "s") + std::string(kept.RollFile ? "R" : "r");
     Table.Stop = StopCause::None;
   };
   Allow();
@@ -256,26 +250,18 @@ TEST_F(Actions, PlayBackRollFiles) {
   Allow();
   WriteFileAtomically(Folder.Path() + "three.rol", "\x24\x24\x24");
   WriteFileAtomically(Folder.Path() + "bad.rol", "abc");
-  const ScriptValue none = MakeText("");
-  EXPECT_EQ(Run(119), 1003);
-  EXPECT_EQ(Run(310, {none}), 1003);
-  EXPECT_EQ(Run(310, {MakeText("gone.rol")}), 1005);
+  constexpr int32_t PlayBack = action::PlayBackRollFile;
+  EXPECT_EQ(Run(PlayBack, {MakeText("gone.rol")}), 1005);
   EXPECT_FALSE(FileExists(Folder.Path() + "gone.rol"));
-  EXPECT_EQ(Run(310, {MakeText(" three.rol ")}), 0);
-  EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
-  EXPECT_EQ(Run(310, {MakeText("bad.rol")}), 1007);
-  EXPECT_EQ(RollFile.RollFileName, Folder.Path() + "three.rol");
-  EXPECT_EQ(Run(119), 0);
-  EXPECT_EQ(RollFile.RollFileMode, RollFileOff);
-  const std::pair<double, int32_t> starts[] = {{2, 2}, {0, 1}, {-1e300, 1}, {4, 4}, {1e300, 4}};
-  for (const auto& [from, next] : starts) {
-    EXPECT_EQ(Run(310, {none, FromRoll(), Number(from)}), 0);
-    EXPECT_EQ(RollFile.NextRoll, next) << from;
-    EXPECT_EQ(RollFile.RollFileMode, RollFilePlay);
-  }
-  EXPECT_EQ(Run(310, {MakeText("three.rol"), FromRoll(), Number(3)}), 0);
+  EXPECT_EQ(Run(PlayBack, {MakeText(" three.rol "), FromRoll(), Number(3)}), 0);
   EXPECT_EQ(RollFile.NextRoll, 3);
-  EXPECT_EQ(Run(310, {FromRoll()}), 9997);
+  EXPECT_EQ(Run(PlayBack, {MakeText("bad.rol")}), 1007);
+  EXPECT_EQ(RollFile.RollFileName, Folder.Path() + "three.rol");
+  EXPECT_EQ(Run(PlayBack, {FromRoll()}), 9997);
+  for (const auto& [from, next] : {std::pair{-1e300, 1}, std::pair{1e300, 4}}) {
+    EXPECT_EQ(Run(PlayBack, {MakeText(""), FromRoll(), Number(from)}), 0);
+    EXPECT_EQ(RollFile.NextRoll, next) << from;
+  }
 }
 
 TEST_F(Actions, SwitchTheProbabilityMatrix) {

@@ -123,25 +123,22 @@ TEST(OlderScripts, FileThatEndsEarlyGivesItsWholePieces) {
 }
 
 TEST_F(FilesOfScripts, OlderWordingBecomesTheCurrentOne) {
+  // clang-format off
   const std::pair<const char*, const char*> cases[] = {
-      {"When point is 6 AND WHEN die1 = 3 or while rnd > 1 then",
-       "if point is 6 and die1 = 3 or rnd > 1 then"},
+      {"When point is 6 AND WHEN die1 = 3 or while rnd > 1 then", "if point is 6 and die1 = 3 "
+       "or rnd > 1 then"},
       {"add 5 to stack #12", "add 5 to checkstack12"},
       {"add stack01 to Stack # 3", "add checkstack1 to checkstack3"},
       {"add 1 to chip stack 4", "add 1 to checkstack4"},
-      {"add 1 to checkstack4", "add 1 to checkstack4"},
-      {"clear chip stacks", "clear checkstacks"},
+      {"add 1 to checkstack4", "add 1 to checkstack4"}, {"clear chip stacks", "clear checkstacks"},
       {"bet 10 on Dont Pass", "bet 10 on dontpass"},
       {"bet 10 on pass-line odds", "bet 10 on passlineodds"},
       {"bet 10 on dont come 4 odds", "bet 10 on dontcomeodds4"},
       {"bet 10 on dont-come odds 10", "bet 10 on dontcomeodds10"},
       {"bet 12 on place 6 ; buy 10", "bet 12 on place6 ; buy10"},
-      {"bet 1 on hard way 8", "bet 1 on hard8"},
-      {"bet 1 on 4 rolls no 7", "bet 1 on 4rollsno7"},
-      {"bet 1 on 7 point 7", "bet 1 on 7point7"},
-      {"bet 1 on hop 1-3", "bet 1 on hop13"},
-      {"bet 1 on c and e", "bet 1 on cande"},
-      {"if game rolls > 5 then", "if # of rolls > 5 then"},
+      {"bet 1 on hard way 8", "bet 1 on hard8"}, {"bet 1 on 4 rolls no 7", "bet 1 on 4rollsno7"},
+      {"bet 1 on 7 point 7", "bet 1 on 7point7"}, {"bet 1 on hop 1-3", "bet 1 on hop13"},
+      {"bet 1 on c and e", "bet 1 on cande"}, {"if game rolls > 5 then", "if # of rolls > 5 then"},
       {"if passline has won more than 3 then", "if passline wins > 3 then"},
       {"if passline have lost less than 3 then", "if passline lose < 3 then"},
       {"auto-take full odds = true", "autotake full odds = true"},
@@ -149,13 +146,13 @@ TEST_F(FilesOfScripts, OlderWordingBecomesTheCurrentOne) {
       {"autohandle winnings = 1", "autohandle winning bets = 1"},
       {"if initializing autobet then", "if Initializing script then"},
       {"if last roll was a come-out roll then", "if last roll was a comeout roll then"},
-      {"show message \"when stack #5\" 'while come-out",
-       "show message \"when stack #5\" 'while come-out"},
+      {"show message \"when stack #5\" 'while come-out", "show message \"when stack #5\" 'while "
+       "come-out"},
       {"show message \"unclosed when", "show message \"unclosed when"},
       {"goto whenever2 : whileaway", "goto if2 : whileaway"},
-      {"\x01when\x01 \xff when \xc3\x89when", "\x01when\x01 \xff if \xc3\x89when"},
-      {"", ""},
+      {"\x01when\x01 \xff when \xc3\x89when", "\x01when\x01 \xff if \xc3\x89when"}, {"", ""},
   };
+  // clang-format on
   for (const auto& [older, current] : cases) {
     EXPECT_EQ(UpgradeWording(older), current) << older;
     EXPECT_EQ(UpgradeWording(current), current) << older;

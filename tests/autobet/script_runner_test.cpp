@@ -89,8 +89,8 @@ struct RunnerState {
 RunnerState Runner;
 
 void TakeStep(const ScriptStep& step) {
-  if (AutoBet.ScriptError != 0)
-    Runner.outcome[step.line] = "error " + std::to_string(AutoBet.ScriptError);
+  if (StatementFailed())
+    Runner.outcome[step.line] = "error " + std::to_string(static_cast<int32_t>(AutoBet.Fault));
   else if (step.text.starts_with("Condition is "))
     Runner.outcome[step.line] = step.text == "Condition is true." ? "true" : "false";
   else if (step.text == "Action taken.")

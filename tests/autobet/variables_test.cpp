@@ -3,10 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 
 #include "base/fault.h"
-#include "base/temporary_folder.h"
 #include "dice/probability.h"
 #include "engine/bet_handling.h"
 #include "play/players.h"
@@ -53,17 +51,21 @@ class VariablesTest : public RollTest {
     Throw({{4, 4}, {2, 5}});
   }
 
+  // The number of the error of the statement, which is cleared.
+  static int32_t TakeFault() {
+    return static_cast<int32_t>(std::exchange(AutoBet.Fault, ScriptFault::None));
+  }
   // The value, with the error that came with it; clears it.
   static double Read(const Reference& reference, int32_t error = None) {
     const ScriptValue value = ReadVariable(reference);
-    EXPECT_EQ(std::exchange(AutoBet.ScriptError, 0), error);
+    EXPECT_EQ(TakeFault(), error);
     EXPECT_EQ(value.code, NumberToken);
     return value.value;
   }
   static double Read(int32_t number) { return Read({number, 0, 0, 0, 0}); }
   static int32_t Write(const Reference& reference, const ScriptValue& value) {
     SetVariable(reference, value);
-    return std::exchange(AutoBet.ScriptError, 0);
+    return TakeFault();
   }
   static int32_t Write(int32_t number, double value) {
     return Write({number, Ann, Session, ModWagered, ModCurrentAmount}, Number(value));
@@ -76,7 +78,7 @@ class VariablesTest : public RollTest {
                           std::vector<ListItem> items,
                           int32_t error = None) {
     const ScriptValue value = RollStatistic(function, reference, items);
-    EXPECT_EQ(std::exchange(AutoBet.ScriptError, 0), error);
+    EXPECT_EQ(TakeFault(), error);
     return value.value;
   }
 
@@ -90,30 +92,22 @@ class VariablesTest : public RollTest {
   }
 };
 
-TEST_F(VariablesTest, WhatABetBrought) {
+// The scripts in tests/scripts tell what the figures of the running session are.
+TEST_F(VariablesTest, WhatABetBroughtInEachScope) {
   struct Case {
     int8_t first, second;
     double expected;
-    int8_t hand = Session;
+    int8_t hand;
     int32_t error = None;
   };
   PlayAHand();  // +10, +10, -10, -20 on rolls 1, 3, 4 and 6
   // clang-format off
   const Case cases[] = {
-      {ModWagered, ModTotalNumber, 4}, {ModResolved, ModTotalAmount, 50},
-      {ModLosses, ModHigh, 20}, {ModLosses, ModLow, 10}, {ModWagered, ModAverage, 12.5},
-      {ModWins, ModLastAmount, 10}, {ModWins, ModRollsSinceLast, 3},
-      {ModLosses, ModRollsSinceLast, 0}, {ModLosses, ModLastRollAmount, 20},
-      {ModWins, ModLastRollAmount, 0}, {ModLosses, ModLastRollNumber, 1},
-      {ModWagered, ModAmountPerHour, 1000}, {ModWins, ModNumberPerHour, 40},
-      {ModNet, ModTotalNumber, 0}, {ModNet, ModTotalAmount, -10}, {ModNet, ModHigh, 10},
-      {ModNet, ModLow, -20}, {ModNet, ModLastAmount, -20}, {ModNet, ModLastRollAmount, -20},
-      {ModNetPercent, ModTotalAmount, -20}, {ModNetPercent, ModLastRollAmount, -100},
-      {ModNet, ModExpectedValue, 50 * -0.014141}, {ModNetPercent, ModExpectedValue, -1.4141},
-      {ModTendered, ModLastRollAmount, 20}, {ModWagered, ModPriorAmount, 20},
-      {ModWagered, ModPriorNumber, 1}, {ModWagered, ModCurrentAmount, 0},
-      {ModWagered, ModCurrentNumber, 0}, {ModPassed, ModTotal, 2}, {ModPassed, ModPoints, 1},
-      {ModMissed, ModNaturals, 1}, {ModEstablished, ModTotal, 2},
+      {ModWagered, ModTotalNumber, 4, Session}, {ModNet, ModLastRollAmount, -20, Session},
+      {ModNetPercent, ModLastRollAmount, -100, Session},
+      {ModNet, ModExpectedValue, 50 * -0.014141, Session},
+      {ModNet, ModLastAmount, -20, Session}, {ModNet, ModTotalNumber, 0, Session},
+      {ModMissed, ModNaturals, 1, Session}, {ModPassed, ModPoints, 1, Session},
       {ModLosses, ModTotalNumber, 2, HandLast}, {ModLosses, ModLastRollAmount, 20, HandLast},
       {ModLosses, ModTotalNumber, 0, Hand}, {ModWins, ModRollsSinceLast, 3, HandAllSessions},
       {ModWagered, ModAverage, 0, Hand, 300}, {ModWins, ModAverage, 0, Hand, 301},
@@ -130,100 +124,45 @@ TEST_F(VariablesTest, WhatABetBrought) {
                {{bet::PassLine, Open, Session, ModWagered, ModAverage}, 0},
                {{bet::PassLine, 15, Session, ModWagered, ModCurrentAmount}, 0}});
   Throw(6, 3);
-  EXPECT_EQ(read({ModLosses, ModLastRollAmount, 0}), 0);
+  EXPECT_EQ(read({ModLosses, ModLastRollAmount, 0, Session}), 0);
   EXPECT_EQ(read({ModLosses, ModLastRollAmount, 0, HandLast}), 20);
   EXPECT_EQ(read({ModNetPercent, ModLastRollAmount, 0, Session, 300}), 0);
 }
 
-TEST_F(VariablesTest, HowABetStands) {
-  Write(bet::Place4, 20);
-  Write(bet::Lay4, 40);
-  SetBetWorking(Ann, bet::Lay4, CalledOff);
-  const auto of = [](int32_t number, int8_t second) {
-    return Reference{number, Ann, Session, ModWagered, second};
-  };
-  ExpectReads({{of(bet::Lay4, ModVig), 1},  // five percent of what it wins
-               {of(bet::Place4, ModWorking), TrueValue},
-               {of(bet::Lay4, ModWorking), FalseValue},
-               {of(bet::Lay4, ModCalledOff), TrueValue},
-               {of(bet::Lay4, ModCalledOn), FalseValue}});
-  Read(of(bet::Place4, ModVig), 1000);
-}
-
-TEST_F(VariablesTest, TheLastRollAsTheTableSawIt) {
-  struct Case {
-    int die1, die2;
-    // Passes, misses, seven out, decided, last was a come-out, point, decided point.
-    std::array<int, 7> expected;
-  };
-  constexpr std::array<int32_t, 7> Numbers = {5300, 5301, 5708, 5709, 5706, 5500, 5502};
-  // clang-format off
-  const Case cases[] = {
-      {5, 6, {-1, 0, 0, 0, -1, 0, 0}}, {6, 6, {0, -1, 0, 0, -1, 0, 0}},
-      {2, 2, {0, 0, 0, 0, -1, 4, 0}}, {5, 6, {0, 0, 0, 0, 0, 4, 0}},
-      {1, 3, {-1, 0, 0, -1, 0, 0, 4}}, {4, 5, {0, 0, 0, 0, -1, 9, 0}},
-      {4, 3, {0, -1, -1, -1, 0, 0, 9}},
-  };
-  // clang-format on
-  for (const int32_t number : {5300, 5301, 5706, 5707, 5708, 5510, 5511})
-    EXPECT_EQ(Read(number), 0) << number << " before the first roll";
-  for (const Case& row : cases) {
-    SCOPED_TRACE(Read(5501));
-    const bool newHand = Read(5002) == TrueValue;
-    EXPECT_EQ(newHand, RollsInHand() == 0);
-    Throw(row.die1, row.die2);
-    for (size_t k = 0; k < Numbers.size(); ++k)
-      EXPECT_EQ(Read(Numbers[k]), row.expected[k]) << Numbers[k];
-    EXPECT_NE(Read(5707), Read(5706));
-    EXPECT_NE(Read(5704), Read(5710));
-    EXPECT_EQ(Read(5511), row.die1 + row.die2 * 0.1);
-    EXPECT_EQ(Read(5510), Read(5512) + Read(5513));
-  }
-  EXPECT_EQ(Read(5002), TrueValue);
-}
-
 TEST_F(VariablesTest, WhoIsMeant) {
-  Throw(4, 4);
-  Table.Shooter = Bob;  // the dice are passed in the middle of Ann's hand
-  EXPECT_EQ(Read(5200), Bob);
-  EXPECT_EQ(Read(5202), Ann);
   SetBankrollSlots(Bob, 77);
-  EXPECT_EQ(Read({1301, PlayerShooter, Session, 0, 0}), 77);
-  EXPECT_EQ(Read({1301, PlayerOriginalShooter, Session, 0, 0}), 1000);
-  EXPECT_EQ(Read(5203), Ann);
+  EXPECT_EQ(Read(variable::Bettor), Ann);
   AutoBet.BettorOnView = Bob;
-  EXPECT_EQ(Read({1301, PlayerBettor, Session, 0, 0}), 77);
+  EXPECT_EQ(Read({variable::Bankroll, PlayerBettor, Session, 0, 0}), 77);
   // Without a shooter the word is nobody, and not the house.
   Table.Shooter = 0;
   EXPECT_EQ(ResolvePlayer(PlayerShooter), -1);
   EXPECT_EQ(Write({100, PlayerShooter, 0, 0, 0}, Number(1)), 851);
 }
 
-TEST_F(VariablesTest, HandsAndBankrolls) {
+TEST_F(VariablesTest, FiguresOfTheTableAndOfPartsOfTheSession) {
   PlayAHand();  // bankroll 1010, 1010, 1020, 1010, 1010, 990
   Throw(6, 6);
-  const auto own = [](int32_t number) { return Reference{number, Ann, Session, 0, 0}; };
-  constexpr Reference Hours = {1200, 0, Session, 0, 0}, Hands = {1500, 0, Session, 0, 0};
+  const auto of = [](int32_t number, int8_t player, int8_t hand = Session) {
+    return Reference{number, player, hand, 0, 0};
+  };
   constexpr double Comps = 50 * 0.014141 * 0.3;
   // clang-format off
   ExpectReads({
-      {own(1300), 1000}, {own(1301), 990}, {own(1302), 1020}, {own(1303), 990},
-      {own(1304), (1000 + 1010 * 4 + 1020 + 990 * 2) / 8.0}, {Hours, 7 / 120.0},
-      {Hands, 2}, {own(1500), 1}, {{1500, 0, HandLast, 0, 0}, 1}, {own(1501), 6},
-      {own(1502), 6}, {{1502, 0, Session, 0, 0}, 7}, {own(1503), 4}, {own(1506), 2},
-      {own(1507), 2}, {own(1100), Comps}, {{1100, 0, Session, 0, 0}, Comps},
-      {{1301, Open, Session, 0, 0}, 0},
+      {of(variable::AverageBankroll, Ann), (1000 + 1010 * 4 + 1020 + 990 * 2) / 8.0},
+      {of(variable::SimulatedHours, 0), 7 / 120.0}, {of(variable::Hands, 0), 2},
+      {of(variable::Hands, Ann), 1}, {of(variable::Hands, 0, HandLast), 1},
+      {of(variable::RollsPerHand, Ann), 6}, {of(variable::RollsPerHand, 0), 7},
+      {of(variable::Comps, Ann), Comps}, {of(variable::Comps, 0), Comps},
+      {of(variable::Bankroll, Open), 0},
   });
   // clang-format on
   EXPECT_EQ(AverageBankroll(Ann, 3), (1010 + 990 * 2) / 3.0);
   EXPECT_EQ(AverageBankroll(Ann, 525), (1010 * 4 + 1020 + 990 * 2) / 7.0);
   EXPECT_EQ(AverageBankroll(Open, 3), 0);
-  PutDown(Ann, bet::Field, 100);
-  EXPECT_EQ(Read(own(651)), 890);
-  EXPECT_EQ(Read(own(655)), 990);
 }
 
-TEST_F(VariablesTest, HowTheDiceFell) {
+TEST_F(VariablesTest, RollsAsTheyAreNamed) {
   struct Case {
     int32_t function;
     int8_t set;
@@ -233,18 +172,18 @@ TEST_F(VariablesTest, HowTheDiceFell) {
   };
   Throw({{3, 4}, {4, 3}, {2, 2}, {6, 1}});
   const ListItem seven = {0, Number(7)}, four = {0, Number(4)}, one = {0, Number(1)};
-  const ListItem below7 = {LogicLess, Number(7)}, above4 = {LogicGreater, Number(4)};
-  const ListItem from3 = {LogicGreaterOrEqual, Number(3)}, pair = {0, Number(4.3)};
+  const ListItem above4 = {LogicGreater, Number(4)}, pair = {0, Number(4.3)};
+  const ListItem lastPair = {0, ReadVariable({variable::DicePair, 0, 0, 0, 0})};
   // clang-format off
   const Case cases[] = {
-      {28, 0, {seven}, 3}, {27, 0, {seven, seven, one}, 75}, {28, 0, {below7}, 1},
-      {28, 0, {above4, seven, four}, 3}, {28, 0, {}, 4}, {29, 0, {four}, 1},
-      {29, 0, {four, seven}, 0}, {29, 0, {{0, Number(12)}}, 4}, {28, ModCombos21, {pair}, 2},
-      {28, ModCombos36, {pair}, 1}, {28, ModCombos36, {{0, ReadVariable({5511, 0, 0, 0, 0})}}, 1},
-      {28, ModDie2Faces, {from3}, 2}, {25, 0, {seven}, 100 / 6.0},
-      {26, ModCombos21, {pair}, 8 / 36.0}, {34, 0, {seven}, 49 / 6.0},
-      {34, 0, {}, 12.5}, {137, 0, {}, ChiSquareTail(12.5, 10)}, {28, 0, {seven}, 3, Ann},
-      {28, 0, {seven}, 0, Bob}, {28, 0, {seven}, 0, Open},
+      {function::RolledPercent, 0, {seven, seven, one}, 75},
+      {function::RolledCount, 0, {above4, seven, four}, 3},
+      {function::RollsSinceLast, 0, {four, seven}, 0},
+      {function::ProbableCount, ModCombos21, {pair}, 8 / 36.0},
+      {function::RolledCount, ModCombos36, {lastPair}, 1},
+      {function::ChiSquare, 0, {}, 12.5}, {function::PValue, 0, {}, ChiSquareTail(12.5, 10)},
+      {function::RolledCount, 0, {seven}, 3, Ann}, {function::RolledCount, 0, {seven}, 0, Bob},
+      {function::RolledCount, 0, {seven}, 0, Open},
   };
   // clang-format on
   for (const Case& row : cases) {
@@ -252,7 +191,6 @@ TEST_F(VariablesTest, HowTheDiceFell) {
                 row.expected, 1e-9)
         << row.function << " at " << &row - cases;
   }
-  EXPECT_NEAR(Read({4510, 0, Session, 0, 0}), 12.5, 1e-9);
 }
 
 TEST_F(VariablesTest, SetsOfRollsHaveTheirLimits) {
@@ -268,14 +206,14 @@ TEST_F(VariablesTest, SetsOfRollsHaveTheirLimits) {
         Case{ModDie1Faces, 1, 6, 1010, 6}, Case{ModDie2Faces, 1, 6, 1010, 6}}) {
     const Reference reference = {0, 0, Session, row.set, 0};
     for (const double number : {row.low, row.high})
-      Statistic(28, reference, {{0, Number(number)}});
+      Statistic(function::RolledCount, reference, {{0, Number(number)}});
     for (const double number : {row.low - 1, row.high + 1, 2.75, 1.7, 1e300})
-      Statistic(28, reference, {{0, Number(number)}}, row.error);
-    EXPECT_EQ(Read({4512, 0, Session, row.set, 0}), row.rolls - 1);
+      Statistic(function::RolledCount, reference, {{0, Number(number)}}, row.error);
+    EXPECT_EQ(Read({variable::DegreesOfFreedom, 0, Session, row.set, 0}), row.rolls - 1);
     EXPECT_NEAR(Read({4506, 0, Session, row.set, 0}), 100, 1e-9);
   }
-  Statistic(46, {0, 0, Session, ModPassed, 0}, {{0, Number(7)}}, 1002);
-  Statistic(40, {0, 0, Session, 0, 0}, {{0, Number(13)}}, 1001);
+  Statistic(function::PointCount, {0, 0, Session, ModPassed, 0}, {{0, Number(7)}}, 1002);
+  Statistic(function::ComeoutCount, {0, 0, Session, 0, 0}, {{0, Number(13)}}, 1001);
 }
 
 TEST_F(VariablesTest, SkewedDice) {
@@ -283,37 +221,27 @@ TEST_F(VariablesTest, SkewedDice) {
   Probability.ProbabilityMatrix.Shares[TotalColumn][6] = 50'000;  // the sevens
   const Reference table = {0, 0, Session, 0, 0};
   const std::vector<ListItem> seven = {{0, Number(7)}};
-  EXPECT_NEAR(Statistic(25, table, seven), 100 / 6.0, 1e-9);
-  EXPECT_EQ(Statistic(33, table, seven), 50);
+  EXPECT_NEAR(Statistic(function::ProbablePercent, table, seven), 100 / 6.0, 1e-9);
+  EXPECT_EQ(Statistic(function::SkewedPercent, table, seven), 50);
   Probability.ProbabilityMatrixActive = true;
-  EXPECT_EQ(Statistic(25, table, seven), 50);
-  EXPECT_EQ(Statistic(32, table, seven), 0.5);
-  EXPECT_NEAR(Statistic(31, table, seven), 1 / 6.0, 1e-9);
+  EXPECT_EQ(Statistic(function::ProbablePercent, table, seven), 50);
+  EXPECT_EQ(Statistic(function::SkewedCount, table, seven), 0.5);
+  EXPECT_NEAR(Statistic(function::TrueCount, table, seven), 1 / 6.0, 1e-9);
 }
 
-TEST_F(VariablesTest, ComeOutsPassesMissesAndPoints) {
+// Every miss of a point is the same seven, so it must not be taken for one of the point that is on.
+TEST_F(VariablesTest, PointsMissedWithoutTheOneThatIsOn) {
   // Come-outs 7, 6, 2, 8, 11, 6 and 9; 6 and 9 are made, 8 is missed and 6 is on at the end.
   Throw({{3, 4}, {2, 4}, {3, 3}, {1, 1}, {4, 4}, {5, 2}, {5, 6}, {4, 5}, {3, 6}, {1, 5}});
-  const auto table = [](int32_t number, int8_t first, int8_t second = ModTotal) {
-    return Reference{number, 0, Session, first, second};
+  const ListItem six = {0, Number(6)}, eight = {0, Number(8)}, below8 = {LogicLess, Number(8)};
+  const auto points = [](int32_t function, int8_t first, const std::vector<ListItem>& items) {
+    return Statistic(function, {0, 0, Session, first, 0}, items);
   };
-  // clang-format off
-  ExpectReads({
-      {table(2600, 0), 7}, {table(2601, 0), 70}, {table(2600, 0, ModNaturals), 3},
-      {table(2601, 0, ModPoints), 100 * 4 / 7.0}, {table(2602, 0), 4},
-      {table(2603, 0), 100 * 4 / 6.0}, {table(2602, 0, ModNaturals), 2}, {table(2604, 0), 2},
-      {table(2604, 0, ModPoints), 1}, {table(2605, 0), 100 * 2 / 6.0},
-      {table(4606, ModEstablished), 4}, {table(4606, ModPassed), 2}, {table(4606, ModMissed), 1},
-      {table(4607, ModPassed), 100 * 2 / 3.0},
-  });
-  // clang-format on
-  const ListItem six = {0, Number(6)}, eight = {0, Number(8)};
-  EXPECT_EQ(Statistic(40, table(0, 0), {six, {0, Number(11)}}), 3);
-  EXPECT_EQ(Statistic(46, table(0, ModEstablished), {six}), 2);
-  EXPECT_EQ(Statistic(47, table(0, ModEstablished), {six}), 50);
-  EXPECT_EQ(Statistic(46, table(0, ModMissed), {six}), 0);
-  EXPECT_EQ(Statistic(46, table(0, ModMissed), {six, eight}), 1);
-  EXPECT_EQ(Statistic(47, table(0, ModPassed), {{LogicLess, Number(8)}}), 100);
+  EXPECT_EQ(points(function::PointCount, ModMissed, {six}), 0);
+  EXPECT_EQ(points(function::PointCount, ModMissed, {six, eight}), 1);
+  EXPECT_EQ(points(function::PointPercent, ModEstablished, {six}), 50);
+  EXPECT_EQ(points(function::PointPercent, ModPassed, {below8}), 100);
+  EXPECT_NEAR(points(function::PointPercent, ModPassed, {}), 100 * 2 / 3.0, 1e-9);
 }
 
 TEST_F(VariablesTest, BetsAndStacksTakeWhatTheRulesLeave) {
@@ -345,7 +273,8 @@ TEST_F(VariablesTest, OthersNeedTheRight) {
     EXPECT_EQ(Write(bobs, Number(5)), right == 0 ? 852 : None);
     EXPECT_EQ(Read(bobs), right == 0 ? 0 : 5);
     EXPECT_EQ(Write(openPlaces, Number(5)), 851);
-    EXPECT_EQ(Write({5603, Bob, 0, 0, 0}, Number(90)), None);  // the table is everybody's
+    EXPECT_EQ(Write({variable::RollsPerHour, Bob, 0, 0, 0}, Number(90)),
+              None);  // the table is everybody's
   }
 }
 
@@ -388,21 +317,6 @@ TEST_F(VariablesTest, HandlingByWordsAndNumbers) {
   EXPECT_EQ(Write(670, 9), 860);
   EXPECT_EQ(Write(671, 0.4), 861);
   EXPECT_EQ(Table.HandleWinningBets[Ann], 7);
-}
-
-TEST_F(VariablesTest, SwitchesActAtOnce) {
-  PutDown(Ann, bet::PassLine, 10);
-  Throw(2, 2);
-  PutDown(Ann, bet::Place6, 12);
-  EXPECT_EQ(Write(700, 1), None);
-  EXPECT_EQ(Read({700, Ann, 0, 0, 0}), -1);
-  EXPECT_EQ(Bet(Ann, bet::PassLineOdds), Money(30));
-  EXPECT_EQ(Write(702, -1), None);
-  EXPECT_EQ(Bet(Ann, bet::Place6), Money());
-  EXPECT_EQ(Write(703, 5), None);
-  EXPECT_TRUE(Table.DeclinesDice[Ann]);
-  EXPECT_EQ(Write(700, 0.0), None);
-  EXPECT_EQ(Bet(Ann, bet::PassLineOdds), Money(30));
 }
 
 TEST_F(VariablesTest, TheBankrollIsSetBeforeTheFirstRoll) {
@@ -449,24 +363,9 @@ TEST_F(VariablesTest, RandomValuesLeaveTheDiceAlone) {
   Twister before = Dice.Twister1;
   std::array<int, 10> tenths{};
   for (int k = 0; k < 10'000; ++k)
-    ++tenths.at(static_cast<size_t>(Read(5698) * 10));
+    ++tenths.at(static_cast<size_t>(Read(variable::Random) * 10));
   EXPECT_GT(*std::ranges::min_element(tenths), 800);
   EXPECT_EQ(NextWord(Dice.Twister1), NextWord(before));
-}
-
-TEST_F(VariablesTest, PositionInTheRollFile) {
-  EXPECT_EQ(Write(5006, 1), 1003);
-  EXPECT_EQ(Read(5006), 0);
-  const TemporaryFolder folder;
-  const std::string name = folder.Path() + "three.rol";
-  std::ofstream(name, std::ios::binary) << std::string(3, static_cast<char>(RollByte({2, 5})));
-  OpenRollFile(name);
-  EXPECT_EQ(Read(5007), 3);
-  for (const auto& [asked, stands] : {std::pair{2.0, 2}, {-4.0, 1}, {1e300, 4}, {3.0, 3}}) {
-    EXPECT_EQ(Write(5006, asked), None);
-    EXPECT_EQ(Read(5006), stands);
-    EXPECT_EQ(Read(5005), stands == 4 ? TrueValue : FalseValue);
-  }
 }
 
 TEST(ValuesTest, LeadingNumbers) {

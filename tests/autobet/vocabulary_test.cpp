@@ -117,14 +117,6 @@ TEST(Vocabulary, HasAScriptForEveryRowThatTextCanReach) {
   }
 }
 
-TEST(Vocabulary, NamesEveryFunctionThatItCanMake) {
-  for (const Phrase& phrase : PhraseTable) {
-    const std::string to(phrase.To.View());
-    if (!to.starts_with(" F")) continue;
-    EXPECT_NE(FunctionName(std::stoi(to.substr(2))), "") << to;
-  }
-}
-
 TEST(Vocabulary, WordsMessagesWithNamesInQuotes) {
   EXPECT_EQ(FunctionName(44), "\"% misses\"");
   EXPECT_EQ(FunctionName(24), "");

@@ -306,7 +306,7 @@ TEST_F(Session, ScriptsStartSessionsThatKeepFormerOnes) {
     RollFile.RollFileMode = RollFileRecord;
     PlayToPoint();
     Stake(3, FirstStack + 4, 10);
-    ScriptHost.StartSession(keep, keep);
+    ScriptHost.StartSession({keep, keep});
     EXPECT_EQ(RollsInSession(), 0);
     EXPECT_EQ(Stats.RollCount[AllSessions][0], 2);
     EXPECT_EQ(Bet(3, FirstStack + 4), Money(keep ? 10 : 0));

@@ -51,7 +51,7 @@ struct SessionInPlay {
   int64_t stepsBefore = 0;  // steps of the sessions before this one
   const Recording* recording = nullptr;
   RunFacts* facts = nullptr;
-  void (*startForScript)(bool keepStacks, bool keepRollFile) = nullptr;
+  void (*startForScript)(const KeptBySession& kept) = nullptr;
   // What sessions before a script's new start have made; less what an earlier run had made already.
   int64_t rollsEarlier = 0, handsEarlier = 0;
   int64_t rollsBefore = 0;  // at the last look
@@ -205,11 +205,11 @@ void AddSession(RunFacts& facts) {
 }
 
 // A script that starts a new session goes on with the same counts, and the run with its recording.
-void StartSessionOfScript(bool keepStacks, bool keepRollFile) {
+void StartSessionOfScript(const KeptBySession& kept) {
   if (RollsInSession() > 0) AddSession(*Session.facts);
   Session.rollsEarlier = Session.Rolls();
   Session.handsEarlier = Session.Hands();
-  Session.startForScript(keepStacks, keepRollFile || Session.recording->Runs());
+  Session.startForScript({kept.Stacks, kept.RollFile || Session.recording->Runs()});
 }
 
 int64_t StepsToDo() {
