@@ -147,7 +147,7 @@ void WriteOwn(int place, int32_t number, const ScriptValue& value) {
 
 void WriteSetting(
     Money SettingsState::*setting, double value, Money low, Money high, ScriptFault fault) {
-  if (const auto amount = MoneyWithin(value, low, high, error)) Settings.*setting = *amount;
+  if (const auto amount = MoneyWithin(value, low, high, fault)) Settings.*setting = *amount;
 }
 
 void WriteNextRoll(double value) {
