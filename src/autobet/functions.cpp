@@ -19,7 +19,6 @@ namespace tessarel {
 
 namespace {
 
-
 // A whole number from -1000 to 1000 as it stands; 0 for any other number.
 int ExactWhole(double number) {
   return std::abs(number) <= 1000 && number == std::nearbyint(number) ? static_cast<int>(number)

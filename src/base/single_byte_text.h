@@ -9,8 +9,8 @@
 
 namespace tessarel {
 
-// One byte a character. The Turkish letters that the code page lacks become the plain ones; any other
-// character without a code, and each byte that is not UTF-8, becomes '?'.
+// One byte a character. The Turkish letters that the code page lacks become the plain ones; any
+// other character without a code, and each byte that is not UTF-8, becomes '?'.
 std::string ToSingleByte(std::string_view utf8);
 void AppendSingleByte(std::string& bytes, std::string_view utf8);
 

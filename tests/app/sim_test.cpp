@@ -549,7 +549,7 @@ TEST_F(Sim, CtrlCStopsAfterTheRollWithTheResultsSoFar) {
     EXPECT_EQ(outcome.status, 0) << mode;
     const Json result = Json::parse(outcome.out, nullptr, false);
     ASSERT_TRUE(result.is_object()) << mode;
-    EXPECT_EQ(result["stop_reason"], "");
+    EXPECT_EQ(result["stop_reason"], "interrupted");
     EXPECT_GT(result["rolls"], 0);
     EXPECT_EQ(result["rolls"], Read("run.rol").size());
   }

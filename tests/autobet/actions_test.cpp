@@ -126,6 +126,8 @@ TEST_F(Actions, CallAndBuyBetsWithoutAMessage) {
   PutDown(Ann, Place6, 12);
   const Reference place6 = Of(Ann, Place6);
   EXPECT_EQ(Run(action::CallOff, {}, {place6, Of(Ann, 150)}), 0);
+  EXPECT_EQ(Table.BetWorking[Ann][Place6], CalledOff);
+  EXPECT_EQ(Run(action::RemoveButton, {}, {place6}), 0);
   EXPECT_EQ(Run(action::CallOn, {}, {place6, Of(Ann, PassLine)}), 0);
   EXPECT_EQ(Table.BetWorking[Ann][Place6], CalledOn);
   EXPECT_EQ(Run(action::BuyPlaceBet, {}, {place6, Of(Ann, Buy4)}), 12);

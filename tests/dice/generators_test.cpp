@@ -156,13 +156,12 @@ TEST_F(Generators, SelectionTestsLimitsAndFiles) {
 }
 
 TEST_F(Generators, SeedsOutsideTheLimitsChangeNothing) {
-  const std::tuple<int32_t, int64_t, int32_t> cases[] = {
-      // what is applied; 0: refused
-      {3, 999'999, 999'999},
-      {3, 1'000'000, 0},
-      {1, 2'147'483'647, 2'147'483'647},
-      {1, 2'147'483'648, 0},
-      {1, -1, 0}};
+  const std::tuple<int32_t, int64_t, int32_t> cases[] = {// what is applied; 0: refused
+                                                         {3, 999'999, 999'999},
+                                                         {3, 1'000'000, 0},
+                                                         {1, 2'147'483'647, 2'147'483'647},
+                                                         {1, 2'147'483'648, 0},
+                                                         {1, -1, 0}};
   for (const auto& [generator, seed, applied] : cases) {
     Dice.LastSeed = 42;
     EXPECT_EQ(SeedWith(generator, seed), applied != 0) << seed;

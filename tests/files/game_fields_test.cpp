@@ -160,7 +160,8 @@ TEST_F(GameFields, EveryMemberHasASlotOfItsOwn) {
   EXPECT_EQ(MembersWithoutASlot(GameViews), 0);
   EXPECT_EQ(MembersWithoutASlot(BankrollGraph), 0);
   EXPECT_EQ(MembersWithoutASlot(ViewSelections), 0);
-  EXPECT_EQ(MembersWithoutASlot(Settings), 3) << "the rate of rolls, denomination 0, bet 0";
+  EXPECT_EQ(MembersWithoutASlot(Settings), 4)
+      << "the rate of rolls, the amount of the ATM (which each place keeps), denomination 0, bet 0";
 }
 
 void FillViews(int32_t number) {

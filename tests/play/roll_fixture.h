@@ -13,6 +13,7 @@
 #include "dice/generators.h"
 #include "dice/roll_file.h"
 #include "engine/bet_limits.h"
+#include "play/reset.h"
 #include "play/roll_driver.h"
 #include "state/books.h"
 #include "state/payoffs.h"
@@ -37,12 +38,7 @@ class RollTest : public ::testing::Test {
   }
 
   static void Reset() {
-    CloseRollFile();
-    Table = {};
-    Stats = {};
-    Settings = {};
-    Dice = {};
-    Message = {};
+    ResetAll();
     FrontEnd = {};
     FrontEnd.ShowMessage = [] { Shown.emplace_back(Message.MsgTitle, Message.MsgText); };
     DefaultPayoffs();
