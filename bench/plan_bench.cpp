@@ -7,7 +7,7 @@
 #include "engine/bets.h"
 #include "play/players.h"
 #include "play/roll_driver.h"
-#include "play/session.h"
+#include "play/start_up.h"
 #include "state/settings.h"
 #include "state/table.h"
 

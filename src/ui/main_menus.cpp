@@ -38,7 +38,8 @@ void GiveShortcutLetters(const QMenu& menu) {
     if (caption.isEmpty()) continue;
     QString plain = WithoutMark(caption);
     for (const int position : MarkPositions(caption)) {
-      const QChar letter = plain[position].toLower();
+      // As Qt reads a mark: a dotless i is the same key as one with a dot.
+      const QChar letter = plain[position].toUpper();
       if (used.contains(letter)) continue;
       used += letter;
       plain.insert(position, Mark);

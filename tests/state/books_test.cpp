@@ -43,7 +43,7 @@ using Hands = std::span<const PlayedHand>;
 void Enter(BetMeasures& m, Money amount, int roll) {
   m.Low = m.Count == 0 ? amount : std::min(m.Low, amount);
   m.High = std::max(m.High, amount);
-  m.Count += 1;
+  ++m.Count;
   m.Sum += amount;
   m.LastRoll = roll;
   m.Last = amount;

@@ -46,10 +46,11 @@ class FaultsInTheWindow : public WindowTest {
       auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr || !dialog->isVisible()) return;
       if (Message.MsgKind == MessageKind::Error) ++reports;
-      if (getenv("DBG")) printf("[%s] %s\n", Message.MsgTitle.c_str(), Message.MsgText.c_str());
       const bool asksText = (Message.MsgFlags & msg::Input) != 0;
       ASSERT_TRUE(!asksText || next < texts.size()) << Message.MsgText;
-      asksText ? Text(texts[next++])(*dialog) : Key(Qt::Key_Return)(*dialog);
+      const bool asksYesNo = (Message.MsgFlags & msg::YesNo) == msg::YesNo;
+      if (asksText) return Text(texts[next++])(*dialog);
+      Key(asksYesNo ? Qt::Key_Y : Qt::Key_Return)(*dialog);
     });
     watch.start(5);
     act();
