@@ -29,9 +29,11 @@ constexpr int NextShooterPlace(int place) {
   return place > 1 ? place - 1 : LastPlace;
 }
 
-void TellPassing(bool aloud, std::string text) {
+// `text` is worded only when it is told: the dice are passed after every hand.
+template <class MakeText>
+void TellPassing(bool aloud, MakeText&& text) {
   if (!aloud || Table.HyperDriveOn) return;
-  ShowMessage(std::move(text), Say(Text::PassTheDice), msg::OkAlert, help::Players);
+  ShowMessage(text(), Say(Text::PassTheDice), msg::OkAlert, help::Players);
 }
 
 // The first place after the shooter's that `qualifies` accepts; 0 when none does.
@@ -58,11 +60,11 @@ void GiveDice(int place) {
 
 void PassAmongNone(bool aloud) {
   Table.Shooter = Table.LastShooter = 0;
-  TellPassing(aloud, Say(Text::NoPlayers));
+  TellPassing(aloud, [] { return Say(Text::NoPlayers); });
 }
 
 void PassWithOnePlayer(PassReason reason, bool aloud) {
-  TellPassing(aloud, Say(Text::NoOtherPlayers));
+  TellPassing(aloud, [] { return Say(Text::NoOtherPlayers); });
   if (reason == PlayerLeft) GiveDice(std::countr_zero(Table.TakenPlaces));
 }
 
@@ -75,7 +77,7 @@ std::string NobodyShootsText(int blocked) {
 }
 
 void PassToNobody(PassReason reason, bool aloud, int blocked) {
-  TellPassing(aloud, NobodyShootsText(blocked));
+  TellPassing(aloud, [blocked] { return NobodyShootsText(blocked); });
   if (reason == PlayerLeft) {
     GiveDice(FindShooter([](int) { return true; }));
   }
@@ -85,7 +87,7 @@ void PassToNobody(PassReason reason, bool aloud, int blocked) {
 void TellOfPassedHand(bool aloud, int from, int to) {
   if (RollsInHand() == 0) return;
   const Text text = to == Table.LastShooter ? Text::PassingBack : Text::PassingOn;
-  TellPassing(aloud, SayChosen(text, NameOf(from), NameOf(to)));
+  TellPassing(aloud, [&] { return SayChosen(text, NameOf(from), NameOf(to)); });
   if (!Table.HyperDriveOn) FrontEnd.RefreshViews();
 }
 
