@@ -43,7 +43,7 @@ void StartSession(const ScriptCommand& command) {
   AutoBet.Initializing = false;
 }
 
-// In a roll the cycle goes on, and the roll driver ends the run behind it.
+// In a roll the cycle goes on, and the roll driver ends the run after it.
 void StopRolling(const ScriptCommand&) {
   Table.Stop = StopCause::ScriptCommand;
   if (Table.RollInProgress) return;

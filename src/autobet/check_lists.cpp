@@ -56,7 +56,7 @@ std::optional<ScriptError> EnterLabels(CompiledScript& script) {
   return {};
 }
 
-// Lists get their end behind the closing bracket.
+// Lists get their end after the closing bracket.
 std::optional<ScriptError> CloseLists(CompiledScript& script) {
   auto& stream = script.TokenStream;
   const TokenWalk walk(stream);

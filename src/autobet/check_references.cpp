@@ -172,7 +172,7 @@ class ReferenceWriter {
     written_.insert(written_.end(), behind.begin(), behind.end());
   }
 
-  // The qualifiers behind the player, and the argument of a statistic that had none yet.
+  // The qualifiers after the player, and the argument of a statistic that had none yet.
   std::vector<ScriptToken> BehindPlayer(const ScriptToken& head,
                                         const ReferenceGroup& group,
                                         const Qualifiers& qualifiers) const {

@@ -170,7 +170,7 @@ void WriteMembers(const OpenGroup& group, TokenStream& written) {
 std::optional<ScriptError> CheckThru(CompiledScript& script) {
   const TokenStream& stream = script.TokenStream;
   const TokenWalk walk(stream);
-  std::vector<size_t> headOfEnd(stream.size() + 1);  // by the element behind a reference
+  std::vector<size_t> headOfEnd(stream.size() + 1);  // by the element after a reference
   for (size_t k = 2; k < stream.size(); ++k) {
     const int32_t code = stream[k].code;
     if (code == VariableToken || code == FunctionToken) {

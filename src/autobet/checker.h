@@ -4,7 +4,7 @@
 //
 // In the normal form a variable is followed by its qualifiers in the order player, hand, first
 // modifier, second modifier, as many as QualifierCount says; likewise a function that names a bet,
-// stack or statistic, with its argument behind them. The player of a reference is a player token or
+// stack or statistic, with its argument after them. The player of a reference is a player token or
 // the player function with its operand. Group words are lists of their members; targets are marked;
 // control words carry the element they jump to.
 #pragma once

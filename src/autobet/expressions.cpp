@@ -291,7 +291,7 @@ void ExpressionCompiler::CountedArguments(const FunctionTraits& function) {
   }
 }
 
-// Any or All with its members behind a mark; returns the word.
+// Any or All with its members after a mark; returns the word.
 int32_t ExpressionCompiler::MarkedList() {
   Emit(Operation::Mark);
   const Nesting nesting(depth_);

@@ -25,7 +25,7 @@ struct StatementRefusal {
 enum class Found { Nothing, Value, List };
 
 // Walks over the tokens of one statement and appends what they mean to a program (its code and
-// references). Every routine that compiles begins at the token in hand and ends behind what it
+// references). Every routine that compiles begins at the token in hand and ends after what it
 // took.
 class ExpressionCompiler {
  public:
@@ -37,7 +37,7 @@ class ExpressionCompiler {
   void Condition();
 
  protected:
-  static constexpr int32_t End = -1000;  // behind the last token
+  static constexpr int32_t End = -1000;  // after the last token
 
   // The code of the token in hand, and the number that it carries.
   int32_t Code() const { return at_ < end_ ? tokens_[at_].code : End; }

@@ -31,7 +31,7 @@ struct Needle {
   size_t Length() const { return text.size(); }
   bool Empty() const { return text.empty(); }
 
-  // The first occurrence that begins at `from` (from 0) or behind.
+  // The first occurrence that begins at `from` (from 0) or after.
   size_t Next(std::string_view line, size_t from) const {
     return Searchable(line).find(text, from);
   }

@@ -41,11 +41,11 @@ std::optional<TextSpan> FindText(const ScriptLines& lines,
 
 struct Replacement {
   bool Replaced = false;
-  TextSpan Selection;  // the next occurrence; without one, a caret behind the new text
+  TextSpan Selection;  // the next occurrence; without one, a caret after the new text
 };
 
 // Replaces the selection if it is an occurrence, then finds the next one from there on, with what
-// was put in behind it. Says so when there is nothing to replace.
+// was put in after it. Says so when there is nothing to replace.
 Replacement ReplaceText(ScriptLines& lines, TextSpan selection);
 
 // Replaces every occurrence in the script, whatever the direction, and returns how many there were.

@@ -33,7 +33,7 @@ int HopBet(double number) {
   return faces > 99 ? 0 : HopOn(faces / 10, faces % 10);
 }
 
-// The bet of a family by the number behind its word; 0 where it has none.
+// The bet of a family by the number after its word; 0 where it has none.
 int BetOfFamily(int32_t function, double number) {
   if (function == function::Hop) return HopBet(number);
   const int total = ExactWhole(number);

@@ -67,7 +67,7 @@ void Cycle::ShowStep(std::string text) const {
   FrontEnd.ShowStep({place, Current().line, std::move(text), std::move(title)});
 }
 
-// `outcome` is the step that names the error behind it.
+// `outcome` is the step that names the error after it.
 void Cycle::ReportError(CheckedText<1> outcome) const {
   if (Table.HyperDriveOn) return;
   const std::string text = ScriptFaultText(AutoBet.Fault);
@@ -75,7 +75,7 @@ void Cycle::ReportError(CheckedText<1> outcome) const {
   if (AutoBet.ShowSteps) ShowStep(SayChosen(outcome, text));
 }
 
-// The condition and the then behind it, at which the pointer stands when it goes on or jumps.
+// The condition and the then after it, at which the pointer stands when it goes on or jumps.
 void Cycle::RunCondition() {
   conditionIsTrue_ = false;
   Evaluate(Current());

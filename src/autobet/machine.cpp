@@ -30,7 +30,7 @@ Reference Unpack(const ScriptValue& value) {
 // The program in force and the memory that its cycles work in.
 struct MachineState {
   ScriptProgram Program;
-  size_t LastingStrings = 1;  // those of the scripts; made ones stand behind them
+  size_t LastingStrings = 1;  // those of the scripts; made ones stand after them
 
   std::vector<ListItem> Stack;
   std::vector<size_t> Marks;        // sizes of the stack

@@ -37,7 +37,7 @@ void RemoveTrailingBlanks(std::string& text) {
   text.erase(text.find_last_not_of(' ') + 1);
 }
 
-// Blanks behind text go; those that indent a line stay.
+// Blanks after text go; those that indent a line stay.
 void RemoveBlanksBehindText(std::string& text) {
   if (text.find_last_not_of(' ') != std::string::npos) RemoveTrailingBlanks(text);
 }
@@ -97,13 +97,13 @@ class Spacing {
 
   std::string_view line_;
   std::string out_;
-  size_t at_ = 0;              // behind the character in hand
+  size_t at_ = 0;              // after the character in hand
   size_t numbersReadTo_ = 0;   // the end of the run of digits and commas that was looked at last
   size_t wholeNumberEnd_ = 0;  // the end of the last number with commas
   int depth_ = 0;
 };
 
-// Second pass: each numeric word in its plain form, a comma behind it kept.
+// Second pass: each numeric word in its plain form, a comma after it kept.
 std::string PlainNumbers(std::string_view line) {
   std::string out;
   for (size_t at = 0; at < line.size();) {
@@ -166,7 +166,7 @@ class Joining {
     if (!dropped) out_ += ' ';
   }
 
-  // A minus behind a sign of the same rank makes one sign of the two.
+  // A minus after a sign of the same rank makes one sign of the two.
   void PutMinus() {
     const size_t last = out_.find_last_not_of(' ');
     if (last != std::string::npos && IsOneOf(out_[last], "+-")) {
@@ -214,7 +214,7 @@ class Joining {
                        [&](std::string_view keyword) { return EqualIgnoringCase(word, keyword); });
   }
 
-  // The word that `out_` ends with, blanks behind it left out.
+  // The word that `out_` ends with, blanks after it left out.
   std::string_view LastWord() const {
     const std::string_view text = std::string_view(out_).substr(0, out_.find_last_not_of(' ') + 1);
     const auto end = std::find_if_not(text.rbegin(), text.rend(), IsWordCharacter);
@@ -233,7 +233,7 @@ class Joining {
 
   std::string_view line_;
   std::string out_;
-  size_t at_ = 0;            // behind the character in hand
+  size_t at_ = 0;            // after the character in hand
   bool unaryMinus_ = false;  // of the last minus put
 };
 

@@ -29,7 +29,7 @@ std::string_view TakeDigits(std::string_view& rest) {
   return digits;
 }
 
-// Digits, where commas stand all groups behind them have three. False when a comma is misplaced.
+// Digits, where commas stand all groups after them have three. False when a comma is misplaced.
 bool TakeWholePart(std::string_view& rest, std::string& digits) {
   const std::string_view first = TakeDigits(rest);
   digits += first;
@@ -79,7 +79,7 @@ std::string NumberText(double value) {
   if (!std::isfinite(value)) RaiseOverflow();
   if (value == 0) return "0";
   constexpr int Significant = 15;
-  // Room for the longest: 324 zeros behind the point and the digits.
+  // Room for the longest: 324 zeros after the point and the digits.
   std::array<char, 400> text{};
   char* const front = text.data();
   char* end = std::to_chars(front, front + text.size(), value, std::chars_format::scientific,

@@ -13,7 +13,7 @@ namespace tessarel {
 // The word, phrase or sign of the language that the name holds, without blanks around it.
 std::optional<std::string> ReservedWordIn(std::string_view name);
 
-// Why nobody can be called that, with two line ends behind it, ready for the question that follows;
+// Why nobody can be called that, with two line ends after it, ready for the question that follows;
 // nothing for a good name.
 std::optional<std::string> PlayerNameRefusal(std::string_view name);
 

@@ -89,7 +89,7 @@ class ScriptCompiler {
   int32_t shift_;
   int32_t line_ = 0;
   bool inCondition_ = false;          // between if and then
-  bool conditionFollows_ = false;     // right behind the if
+  bool conditionFollows_ = false;     // right after the if
   std::vector<int32_t> statementOf_;  // by element
 };
 

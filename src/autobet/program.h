@@ -16,7 +16,7 @@
 
 namespace tessarel {
 
-// What an instruction does with the stack of operands. Lists, arguments and targets lie behind a
+// What an instruction does with the stack of operands. Lists, arguments and targets lie after a
 // mark; the instruction that takes them takes all of them.
 enum class Operation : uint8_t {
   // clang-format off

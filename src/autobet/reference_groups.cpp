@@ -38,7 +38,7 @@ class GroupReader {
 
  private:
   struct Bracket {
-    size_t group = 0;       // goes on behind the bracket; 0 none does
+    size_t group = 0;       // goes on after the bracket; 0 none does
     bool argument = false;  // of the group's own function, not of one that stands for a player
   };
 
@@ -126,7 +126,7 @@ class GroupReader {
     return k + 1;
   }
 
-  // With a bracket or number behind it, it says which player; with a variable it is a value.
+  // With a bracket or number after it, it says which player; with a variable it is a value.
   size_t TakePlayerFunction(size_t k) {
     const int32_t operand = stream_[k + 1].code;
     if (operand == VariableToken) {

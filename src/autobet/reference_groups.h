@@ -1,5 +1,5 @@
 // Sorting the words of a script into the groups that make a reference: a variable or function and
-// the qualifiers before, behind and between. The first half of bringing references to their normal
+// the qualifiers before, after and between. The first half of bringing references to their normal
 // form; which qualifiers go together is not asked here.
 #pragma once
 

@@ -126,7 +126,7 @@ RollMask Passing(const RollSet& set, const ListItem& qualifier) {
   return mask;
 }
 
-// The rolls that arguments name: all of the set without any. A qualifier with no members behind it
+// The rolls that arguments name: all of the set without any. A qualifier with no members after it
 // has the whole set to choose from.
 RollMask Select(const RollSet& set, std::span<const ListItem> items) {
   if (items.empty()) return AllOf(set.count);

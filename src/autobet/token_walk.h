@@ -56,8 +56,8 @@ class TokenWalk {
   // Behind a player function that stands for a player at `element`, with its operand.
   size_t PlayerFunctionEnd(size_t element) const;
 
-  // For a variable or function in the normal form: behind the first qualifier, behind all of them,
-  // and behind the argument. Another element ends behind itself.
+  // For a variable or function in the normal form: after the first qualifier, after all of them,
+  // and after the argument. Another element ends after itself.
   size_t PlayerEnd(size_t head) const;
   size_t QualifiersEnd(size_t head) const;
   size_t End(size_t head) const;

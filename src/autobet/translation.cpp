@@ -23,7 +23,7 @@ struct PreparedLine {
   std::string working, shadow;
 };
 
-// A player's name and its token. Names stand behind all phrases: they match what those left.
+// A player's name and its token. Names stand after all phrases: they match what those left.
 struct NamePhrase {
   std::string from, to;
 };
@@ -48,7 +48,7 @@ void Blank(std::string& text, size_t at, size_t length) {
   std::fill_n(text.begin() + static_cast<std::ptrdiff_t>(at), length, ' ');
 }
 
-// Like find; lines are full of blanks, so it is the first letter behind one that is looked for.
+// Like find; lines are full of blanks, so it is the first letter after one that is looked for.
 size_t FindPhrase(std::string_view text, std::string_view phrase, size_t from = 0) {
   if (!phrase.starts_with(' ')) return text.find(phrase, from);
   const std::string_view body = phrase.substr(1);
@@ -196,7 +196,7 @@ std::optional<int32_t> ClassOf(char letter) {
   return {};
 }
 
-// The number behind the letter of a word, up to a point.
+// The number after the letter of a word, up to a point.
 int32_t NumberOf(std::string_view word) {
   int32_t number = 0;
   std::from_chars(word.data() + 1, word.data() + word.size(), number);
@@ -235,7 +235,7 @@ class StreamWriter {
     return {};
   }
 
-  // The marker behind the last line. The one in front of the first is not taken for it.
+  // The marker after the last line. The one in front of the first is not taken for it.
   void Close(int32_t lineBehind) {
     constexpr size_t ElementsOfNothing = 3;  // with the unused one in front
     line_ = lineBehind;

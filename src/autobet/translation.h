@@ -32,7 +32,7 @@ struct CompiledScript {
 };
 
 // Why a script cannot run and where: from a line and column to a line and column. Lines count from
-// 1, columns from 0 in the tidy form of the line; the end is behind the last character.
+// 1, columns from 0 in the tidy form of the line; the end is after the last character.
 struct ScriptError {
   int32_t line = 0, startColumn = 0;
   int32_t endLine = 0, endColumn = 0;

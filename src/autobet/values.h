@@ -66,14 +66,14 @@ struct Reference {
 };
 
 // An element of a list or an argument of a function: a member, or a qualifier that the members
-// behind it have to pass.
+// after it have to pass.
 struct ListItem {
   int32_t qualifier = 0;  // 0 a member, else LogicEqual to LogicGreaterOrEqual
   ScriptValue value;
 };
 
 struct AutoBetState {
-  // The strings of the compiled scripts, and behind them those made by the running statement;
+  // The strings of the compiled scripts, and after them those made by the running statement;
   // from 1.
   std::vector<ScriptString> Strings = std::vector<ScriptString>(1);
 

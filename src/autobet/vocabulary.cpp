@@ -15,7 +15,7 @@ struct BetFamily {
   int Groups;
   Family FirstBet;
   std::string_view Function;
-  std::string_view FlatBet = {};  // what the bare word is with no bracket behind it
+  std::string_view FlatBet = {};  // what the bare word is with no bracket after it
 };
 
 constexpr BetFamily BetFamilies[] = {

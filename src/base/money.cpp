@@ -56,7 +56,7 @@ std::optional<Money> ParseMoney(std::string_view text) {
 std::optional<Money> ParseTypedMoney(std::string_view text) {
   constexpr size_t GroupSize = 3;
   std::string plain;
-  size_t sinceComma = 0;  // digits behind the last comma, or from the start
+  size_t sinceComma = 0;  // digits after the last comma, or from the start
   bool grouped = false, fraction = false;
   for (const char c : TrimSpaces(text)) {
     const bool signOnly = plain.empty() || plain == "-" || plain == "+";

@@ -4,12 +4,12 @@
 // A pattern has up to three sections: positive; negative; zero. In a section
 //   0  is a digit that always stands, # one that stands only where the number has it,
 //   ,  between digit marks before the point groups the whole part in thousands,
-//   .  always stands, even with no digit behind it: "#.##" makes "2." of 2 and ".5" of 0.5,
+//   .  always stands, even with no digit after it: "#.##" makes "2." of 2 and ".5" of 0.5,
 //   %  multiplies by 100 and stands as itself; every other character stands as itself.
 // Digits that the marks have no room for stand in front of the first mark. A section that is
 // missing or empty gives way to the first one, with "-" in front of a negative number.
 //
-// Rounding is to the digit marks behind the point, ties away from zero. The section is chosen by
+// Rounding is to the digit marks after the point, ties away from zero. The section is chosen by
 // the sign; a number that then rounds to nothing is written as zero is, without a sign.
 #pragma once
 
@@ -44,7 +44,7 @@ std::string FormatMoney(Money amount);
 std::string FormatExact(Money amount);
 
 // The key that a money box lets through: `key` itself, or 0 for one it swallows. Digits pass, one
-// decimal point with at most `decimals` digits behind it, and control keys. `text` is what stands
+// decimal point with at most `decimals` digits after it, and control keys. `text` is what stands
 // in the box; the key would replace its `selected` characters from `caret` on.
 char32_t MoneyKeyFilter(
     char32_t key, int decimals, std::string_view text, size_t caret, size_t selected = 0);

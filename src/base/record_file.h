@@ -66,7 +66,7 @@ class RecordFile {
   // Record 1 to Count(); any other number raises the fault "Input past end of file".
   const Record& At(int number) const;
   Record& At(int number);
-  // Adds an empty record behind the last; good until the next one is added.
+  // Adds an empty record after the last; good until the next one is added.
   Record& Add() { return records_.emplace_back(); }
 
  private:

@@ -135,7 +135,7 @@ void UnlockShares();
 std::string_view PercentageDiceCaption();
 
 // The form in which values are shown, as the option group and the report name it; with `base`, the
-// number of rolls behind the forms that have one.
+// number of rolls after the forms that have one.
 std::string ProbabilityDisplayText(int32_t display, bool base);
 
 // A share in the form of optProbability, and back. Typed values become shares of at least 0. Index

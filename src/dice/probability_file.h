@@ -1,4 +1,4 @@
-// Probability files (".prb"): the matrix in fixed records behind a line of text that names the
+// Probability files (".prb"): the matrix in fixed records after a line of text that names the
 // format. A file is refused as a whole or taken as it stands.
 #pragma once
 

@@ -20,7 +20,7 @@ namespace tessarel {
 // The values of RollFileMode.
 enum RollFileUse : int32_t { RollFileOff = 0, RollFileRecord = 1, RollFilePlay = 2 };
 
-// The most rolls of a file that are played or recorded: NextRoll has to be able to stand behind the
+// The most rolls of a file that are played or recorded: NextRoll has to be able to stand after the
 // last one.
 inline constexpr int32_t MaxRollsInFile = std::numeric_limits<int32_t>::max() - 1;
 
@@ -75,7 +75,7 @@ bool PlaysNextRoll();
 std::optional<Faces> PlayBackRoll();
 
 // Writes a roll at NextRoll, over what is there or at the end. Faces outside 1 to 6 are never
-// written. Overflow fault behind MaxRollsInFile and file fault when the file may only be read; the
+// written. Overflow fault after MaxRollsInFile and file fault when the file may only be read; the
 // recorder is then off.
 void RecordToRollFile(Faces faces);
 

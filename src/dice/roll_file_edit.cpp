@@ -61,7 +61,7 @@ bool Edited(std::string_view place, Edit&& edit) {
   return done;
 }
 
-// In order and within the file; first is behind last when the file has no rolls.
+// In order and within the file; first is after last when the file has no rolls.
 RollRange Within(RollRange range) {
   const int32_t count = RollFile.RollCountInFile;
   if (range.first > range.last) std::swap(range.first, range.last);
@@ -100,7 +100,7 @@ void WriteRolls(RollRange range, const std::string& path) {
   });
 }
 
-// Puts rolls before NextRoll and moves it behind them.
+// Puts rolls before NextRoll and moves it after them.
 void InsertRolls(const std::function<void(const ByteSink&)>& rolls) {
   RollFile.NextRoll = std::clamp(RollFile.NextRoll, 1, RollFile.RollCountInFile + 1);
   const int32_t count = SpliceRolls(RollFile.NextRoll, 0, rolls);

@@ -45,7 +45,7 @@ bool EnterRandomRoll();
 bool SetRecorder(int32_t use);
 
 // The clipboard "rollcopyfile.rll" in the program's folder. What is pasted comes before NextRoll,
-// which then stands behind it.
+// which then stands after it.
 bool CopyRolls(RollRange selection);
 bool CutRolls(RollRange selection);
 bool DeleteRolls(RollRange selection);

@@ -49,7 +49,7 @@ bool FollowLatestRoll();
 // Switches KeepLatestRollOnTop; on, the latest roll is looked for and put at the top.
 void KeepLatestRollOnTop(bool on);
 
-// Find asks for the text and looks from the first line on; the other two look for it again behind
+// Find asks for the text and looks from the first line on; the other two look for it again after
 // and before the line at the top. Case does not count. The line found goes to the top; a miss is
 // said, and the view stays.
 bool FindEvent();

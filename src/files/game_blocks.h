@@ -25,7 +25,7 @@ struct FilesInUse {
   PerPlace<bool> ScriptActive{};
 };
 
-// How many entries of the lists behind the fixed records a game has.
+// How many entries of the lists after the fixed records a game has.
 struct GameCounts {
   int32_t Players = 0, Chips = 0;
 };

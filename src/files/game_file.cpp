@@ -36,7 +36,7 @@ std::string AutomaticGamePath() {
   return Folders.AppFolder + std::string(AutomaticGameFile);
 }
 
-// All records behind the header, in either direction.
+// All records after the header, in either direction.
 void GameBody(GameRecords& records, FilesInUse& files, GameCounts& counts) {
   GeneralRecords(records, files, counts);
   RuleRecords(records);

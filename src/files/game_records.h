@@ -78,12 +78,12 @@ class GameRecords {
  public:
   enum class Direction { Write, Read };
 
-  // Records are added behind the last one of the file, or taken from its first one on.
+  // Records are added after the last one of the file, or taken from its first one on.
   GameRecords(RecordFile& file, Direction direction) : file_(file), direction_(direction) {}
 
   bool Reading() const { return direction_ == Direction::Read; }
 
-  // Moves on to the next record. Reading behind the last one raises "Input past end of file".
+  // Moves on to the next record. Reading after the last one raises "Input past end of file".
   Record& Next();
 
   // The next record, and the slots of it that the fields name; the others stay 0.
@@ -120,7 +120,7 @@ class GameRecords {
   int number_ = 0;
 };
 
-// Values one behind the other over as many records as they need: a record is begun when the one
+// Values one after the other over as many records as they need: a record is begun when the one
 // before it holds its share.
 class SlotRun {
  public:

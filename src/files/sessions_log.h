@@ -1,4 +1,4 @@
-// Sessions logs (".slg"): one record for every finished session of a player, behind a header that
+// Sessions logs (".slg"): one record for every finished session of a player, after a header that
 // counts them. The table writes one when a session ends; the sessions view reads and edits them. A
 // log is opened, used and closed in one call. Whatever bytes a file holds, no more sessions are
 // taken from it than it has whole records, and a file that is no log is never changed or deleted.
@@ -45,7 +45,7 @@ bool EndsWithSession(const std::string& name, const Record& record);
 // The record of a place's session as it stands: its figures, then its first 20 check stacks.
 Record SessionRecord(int place);
 
-// A session of the place ends: its record goes behind the last one of the place's log, which is
+// A session of the place ends: its record goes after the last one of the place's log, which is
 // made if it is not there. Nothing is written for a session without a roll. The header is rewritten
 // last, so that a log whose writer was interrupted is the log as it was. Its cost does not grow
 // with the log. File faults, also when the file of that name is no sessions log.
@@ -59,7 +59,7 @@ void ClearSessionsLog(const std::string& name);
 // stands as it was.
 void DeleteSessions(const std::string& name, int32_t first, int32_t last);
 
-// Appends the sessions of `other`, a log, behind those of the log `name`, which is made if it is
+// Appends the sessions of `other`, a log, after those of the log `name`, which is made if it is
 // not there. On a file fault it stands as it was.
 void AppendSessions(const std::string& name, const std::string& other);
 

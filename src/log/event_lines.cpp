@@ -84,7 +84,7 @@ constexpr bool IsCalled(int32_t working) {
   return working == CalledOff || working == CalledOn;
 }
 
-// Calls of the player only: that bets go off and on with the point is no news.
+// Calls of the player only: bets that go off and on with the point are not logged.
 void LogBetWorking(int place, int number) {
   const int32_t before = Table.BetWorkingBefore[place][number];
   const int32_t now = Table.BetWorking[place][number];

@@ -22,7 +22,7 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::string_view RollStart = "Roll";
 constexpr int64_t PositionSize = 4;
-// Positions in the index are signed 32-bit numbers from 1, so no line may start behind this.
+// Positions in the index are signed 32-bit numbers from 1, so no line may start after this.
 constexpr int64_t LastPosition = std::numeric_limits<int32_t>::max();
 constexpr size_t BlockSize = 65536;
 

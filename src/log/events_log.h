@@ -66,7 +66,7 @@ std::string EventsIndexName();
 bool EventsLogExists();
 
 // Reads the log through once, writes its index anew and finds LatestRollLine. On a fault (no log, a
-// disk that is full, a line behind the last 32-bit position) the old index stays.
+// disk that is full, a line after the last 32-bit position) the old index stays.
 void RebuildEventsIndex();
 
 // Brings the index in line with the log in use: RebuildEventsIndex, or none without a log.

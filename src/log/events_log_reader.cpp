@@ -36,7 +36,7 @@ std::string_view FileWindow::Bytes(int64_t at, size_t most) {
   return offset < held_.size() ? std::string_view(held_).substr(offset, most) : std::string_view();
 }
 
-// A walk backward needs what lies before, a walk forward what lies behind; a small file is held as
+// A walk backward needs what lies before, a walk forward what lies after; a small file is held as
 // a whole.
 void FileWindow::MoveTo(int64_t at) {
   const bool backward = at < start_;

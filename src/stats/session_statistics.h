@@ -79,7 +79,7 @@ void RepairSessionsView();
 Session SessionSoFar(int place);
 
 // One line of the raw data. `Number` is the session's number in the log from 1; the one in progress
-// has the number behind the last.
+// has the number after the last.
 struct SessionRow {
   int32_t Number = 0;
   Money Value;

@@ -74,7 +74,7 @@ TEST_F(CheckerTest, WritesReferencesInTheNormalForm) {
       {"# of passes(player2)", "F42 P0 H3 Y0 L20 2 L21"},
       {"# of rolls last session", "V4504 P0 H4 X0 Y0"},
       {"avg bankroll(5) all sessions", "F22 P3 H5 L20 5 L21"},
-      // Functions with qualifiers in front, between and behind.
+      // Functions with qualifiers in front, between and after.
       {"player2 place 6", "F6 P2 H3 X1 Y34 6"},
       {"place player2 (6) wins", "F6 P2 H3 X2 Y29 L20 6 L21"},
       {"place(cs1 player4) player2", "F6 P2 H3 X1 Y34 L20 V101 P4 L21"},
@@ -170,7 +170,7 @@ TEST_F(CheckerTest, LeadsEveryJumpToItsElement) {
       {"if 1=1 then|elseif 2=2 then|else|endif", "L1 @1:2 1 L50 1 @1:9 L9>11 @2:0 L11>21 @2:6 2 "
        "L50 2 @2:13 L9>19 @3:0 L10>21 @4:0 L12"},
       {"do|if 1=1 then|endif|loop", "L16>15 @2:0 L1 @2:2 1 L50 1 @2:9 L9>13 @3:0 L12 @4:0 L17>3"},
-      // Members of groups move what is behind them.
+      // Members of groups move what is after them.
       {"10: clear big bets|gosub \" END\"|goto 10|\"end\":return", "label3 @1:4 A460 v50 P3 H3 "
        "X1 Y34 L75 v51 P3 H3 X1 Y34 @2:0 L15>24 S1 @3:0 L14>3 10 @4:0 label2 @4:7 L13"},
       {"if 1=1 then|goto 5|endif|5", "L1 @1:2 1 L50 1 @1:9 L9>14 @2:0 L14>16 5 @3:0 L12 @4:0 "

@@ -9,13 +9,13 @@
 //   '@ rolls NAME 3-4 6-6     a dice roll file in the folder of the program
 //   '@ dice 3-4 6-6           the rolls; the script runs once before them and after each
 //
-// and an expectation stands in a comment behind its statement: '= A | B | C for the cycle before
+// and an expectation stands in a comment after its statement: '= A | B | C for the cycle before
 // the first roll, the one after it and so on; the last one holds for all that follow, and "-" says
 // that the statement is not run. '=> A stands for the last cycle only. A condition comes to true or
 // false, an action to "done" or "error N"; a statement that sets csn0 comes to that name, which
 // takes any number or text.
 //
-// A file in tests/scripts/checker holds faulty scripts, each with its message behind it:
+// A file in tests/scripts/checker holds faulty scripts, each with its message after it:
 //
 //   '! LINE:COLUMN TEXT      lines and columns from 1 on, " / " between the lines of the text
 //

@@ -124,7 +124,7 @@ TEST_F(TranslationTest, MarksWhereStatementsBegin) {
       {{"5 : bet", "\"Start\":"}, "script 3 @1:0 5 @1:3 A481 @2:0 S1 @3:0"},
       {{"Go To 5 : End If"}, "script 3 @1:0 L14 5 @1:8 L12 @2:0"},
       {{"do if exitdo loop"}, "script 3 @1:0 L16 @1:2 L1 @1:5 L18 @1:12 L17 @2:0"},
-      // Keywords in strings do not count, and the second of a kind is found behind the first.
+      // Keywords in strings do not count, and the second of a kind is found after the first.
       {{"\"if then\" if field if"}, "script 3 @1:0 S1 @1:10 L1 @1:12 V49 @1:19 L1 @2:0"},
       {{"if(field)else:if[big6]"}, "script 3 @1:0 L1 @1:2 L20 V49 L21 @1:11 L10 @1:15 @1:17 L1 "
        "@1:20 L20 V50 L21 @2:0"},

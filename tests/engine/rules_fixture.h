@@ -44,7 +44,7 @@ class RulesTest : public ConfigurationTest {
   // What the last request changed.
   inline static Money Changed;
 
-  // All that was said, one message behind the other; clears it.
+  // All that was said, one message after the other; clears it.
   static std::string Said() {
     std::string text;
     for (const ShownMessage& message : Shown)

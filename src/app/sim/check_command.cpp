@@ -34,7 +34,7 @@ void SeatNamed(const PlayerArgument& player) {
 // The shortest digits that read back as the same number, without an exponent; minus zero is 0.
 std::string ExactText(double value) {
   // Room for the longest: a sign, 309 digits in front of the point or 324 zeros and 17 digits
-  // behind it.
+  // after it.
   std::array<char, 400> text{};
   const auto result =
       std::to_chars(text.data(), text.data() + text.size(), value + 0.0, std::chars_format::fixed);

@@ -37,7 +37,7 @@ SoundState& State() {
 void SayNext();
 
 // Looking for devices first connects to the sound server. One that is not there is reported on the
-// standard error output, which is no news to somebody whose machine is silent.
+// standard error output, which would not help somebody whose machine has no sound.
 void FindDevicesQuietly() {
   const QtMessageHandler before =
       qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
